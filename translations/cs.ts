@@ -1465,7 +1465,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Všechny projektory</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Zobrazit příkazy projektoru</translation>
     </message>
 </context>
@@ -1496,7 +1496,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>upuštěno</translation>
     </message>
     <message>
@@ -1535,7 +1535,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Průběh</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>Načíst &amp;znovu</translation>
     </message>
     <message>
@@ -2401,7 +2401,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>&amp;Model</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>&amp;Všechna pole modelu</translation>
     </message>
     <message>
@@ -2552,7 +2552,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>&amp;Barvy</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(stejné časy: bez doby klidu)</translation>
     </message>
 </context>
@@ -2694,7 +2694,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>&amp;Uložit</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
     </message>
     <message numerus="yes">
@@ -2732,7 +2732,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>&amp;Duplikovat…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>Od&amp;ebrat…</translation>
     </message>
     <message>
@@ -3838,7 +3838,7 @@ a minus in front takes a tag away:</source>
         <translation>V&amp;ypnout</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>&amp;Napájení</translation>
     </message>
     <message>

@@ -1444,7 +1444,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Alle Projektoren</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Befehle zeigen von</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>verlassen</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Erneut abfragen</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>&amp;Modell</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>Alle Fel&amp;der des Modells</translation>
     </message>
     <message>
@@ -2517,7 +2517,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>&amp;Farben</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(zweimal dieselbe Zeit: keine)</translation>
     </message>
 </context>
@@ -2658,7 +2658,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>S&amp;peichern</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
     </message>
     <message numerus="yes">
@@ -2695,7 +2695,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>&amp;Duplizieren …</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Entfernen …</translation>
     </message>
     <message>
@@ -3788,7 +3788,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Auss&amp;chalten</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>&amp;Ein/Aus</translation>
     </message>
     <message>

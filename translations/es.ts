@@ -1444,7 +1444,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Todos los proyectores</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Mostrar las órdenes de</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>abandonado</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Progreso</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Preguntar de nuevo</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>&amp;Modelo</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>T&amp;odos los campos del modelo</translation>
     </message>
     <message>
@@ -2517,7 +2517,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>&amp;Colores</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(dos veces la misma hora: ninguna)</translation>
     </message>
 </context>
@@ -2658,7 +2658,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>&amp;Guardar</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
     </message>
     <message numerus="yes">
@@ -2695,7 +2695,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Dup&amp;licar…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>Eli&amp;minar…</translation>
     </message>
     <message>
@@ -3788,7 +3788,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Apa&amp;gar</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>A&amp;limentación</translation>
     </message>
     <message>

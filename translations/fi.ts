@@ -1444,7 +1444,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Kaikki projektorit</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Näytä komennot:</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>keskeytetty</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Edistyminen</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Kysy uudelleen</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>&amp;Malli</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>M&amp;allin kaikki kentät</translation>
     </message>
     <message>
@@ -2517,7 +2517,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Vä&amp;rit</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(kahdesti sama aika: ei lainkaan)</translation>
     </message>
 </context>
@@ -2658,7 +2658,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>&amp;Tallenna</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
     </message>
     <message numerus="yes">
@@ -2695,7 +2695,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>M&amp;onista…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Poista…</translation>
     </message>
     <message>
@@ -3788,7 +3788,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>&amp;Sammuta</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>&amp;Virta</translation>
     </message>
     <message>

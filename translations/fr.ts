@@ -1007,11 +1007,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation>Affiche ce qui diffère d’un fichier (« - » est l’entrée standard), d’un préréglage de l’application, ou du fichier de chaque projecteur dans un dossier.</translation>
+        <translation>Affiche ce qui diffère d’un fichier («&#xa0;-&#xa0;» est l’entrée standard), d’un préréglage de l’application, ou du fichier de chaque projecteur dans un dossier.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lit les projecteurs, envoie ce qui diffère du fichier (« - » est l’entrée standard), d’un préréglage de l’application, ou du fichier de chaque projecteur dans un dossier, et le relit. Ce qui est remplacé est d’abord conservé, pour que « acctl undo » puisse le restaurer. Une exécution interrompue peut être répétée à tout moment.</translation>
+        <translation>Lit les projecteurs, envoie ce qui diffère du fichier («&#xa0;-&#xa0;» est l’entrée standard), d’un préréglage de l’application, ou du fichier de chaque projecteur dans un dossier, et le relit. Ce qui est remplacé est d’abord conservé, pour que «&#xa0;acctl undo&#xa0;» puisse le restaurer. Une exécution interrompue peut être répétée à tout moment.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
@@ -1444,7 +1444,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Tous les projecteurs</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Afficher les commandes de</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>abandonné</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Progression</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Interroger de nouveau</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>&amp;Modèle</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>Tous les &amp;champs du modèle</translation>
     </message>
     <message>
@@ -2517,8 +2517,8 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>C&amp;ouleurs</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
-        <translation>(deux fois la même heure : aucune)</translation>
+        <source>(equal times: no quiet hours)</source>
+        <translation>(deux fois la même heure&#xa0;: aucune)</translation>
     </message>
 </context>
 <context>
@@ -2658,8 +2658,8 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
-        <translation>Un préréglage ne peut pas s’appeler ainsi : pas de barre oblique, ni de point au début.</translation>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Un préréglage ne peut pas s’appeler ainsi&#xa0;: pas de barre oblique, ni de point au début.</translation>
     </message>
     <message numerus="yes">
         <source>%n settings are checked.</source>
@@ -2695,7 +2695,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>&amp;Dupliquer…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Supprimer…</translation>
     </message>
     <message>
@@ -2999,7 +2999,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>This could not be done; nothing was changed.</source>
-        <translation>Cela n’a pas été possible ; rien n’a été modifié.</translation>
+        <translation>Cela n’a pas été possible&#xa0;; rien n’a été modifié.</translation>
     </message>
 </context>
 <context>
@@ -3788,7 +3788,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>Étei&amp;ndre</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>A&amp;limentation</translation>
     </message>
     <message>
@@ -3806,8 +3806,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation>
-            <numerusform>Afficher un écran vide sur %n projecteur ?</numerusform>
-            <numerusform>Afficher un écran vide sur %n projecteurs ?</numerusform>
+            <numerusform>Afficher un écran vide sur %n projecteur&#xa0;?</numerusform>
+            <numerusform>Afficher un écran vide sur %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3817,8 +3817,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Show the picture of %n projectors?</source>
         <translation>
-            <numerusform>Afficher l’image de %n projecteur ?</numerusform>
-            <numerusform>Afficher l’image de %n projecteurs ?</numerusform>
+            <numerusform>Afficher l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Afficher l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3832,8 +3832,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Mute the sound of %n projectors?</source>
         <translation>
-            <numerusform>Couper le son de %n projecteur ?</numerusform>
-            <numerusform>Couper le son de %n projecteurs ?</numerusform>
+            <numerusform>Couper le son de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Couper le son de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3843,8 +3843,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Unmute the sound of %n projectors?</source>
         <translation>
-            <numerusform>Rétablir le son de %n projecteur ?</numerusform>
-            <numerusform>Rétablir le son de %n projecteurs ?</numerusform>
+            <numerusform>Rétablir le son de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Rétablir le son de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3858,8 +3858,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Freeze the picture of %n projectors?</source>
         <translation>
-            <numerusform>Arrêter l’image de %n projecteur ?</numerusform>
-            <numerusform>Arrêter l’image de %n projecteurs ?</numerusform>
+            <numerusform>Arrêter l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Arrêter l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3869,8 +3869,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Release the picture of %n projectors?</source>
         <translation>
-            <numerusform>Libérer l’image de %n projecteur ?</numerusform>
-            <numerusform>Libérer l’image de %n projecteurs ?</numerusform>
+            <numerusform>Libérer l’image de %n projecteur&#xa0;?</numerusform>
+            <numerusform>Libérer l’image de %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3884,15 +3884,15 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Switch on %n projectors?</source>
         <translation>
-            <numerusform>Allumer %n projecteur ?</numerusform>
-            <numerusform>Allumer %n projecteurs ?</numerusform>
+            <numerusform>Allumer %n projecteur&#xa0;?</numerusform>
+            <numerusform>Allumer %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Switch off %n projectors?</source>
         <translation>
-            <numerusform>Éteindre %n projecteur ?</numerusform>
-            <numerusform>Éteindre %n projecteurs ?</numerusform>
+            <numerusform>Éteindre %n projecteur&#xa0;?</numerusform>
+            <numerusform>Éteindre %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -3902,8 +3902,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message numerus="yes">
         <source>Choose the input %1 on %n projectors?</source>
         <translation>
-            <numerusform>Choisir l’entrée %1 sur %n projecteur ?</numerusform>
-            <numerusform>Choisir l’entrée %1 sur %n projecteurs ?</numerusform>
+            <numerusform>Choisir l’entrée %1 sur %n projecteur&#xa0;?</numerusform>
+            <numerusform>Choisir l’entrée %1 sur %n projecteurs&#xa0;?</numerusform>
         </translation>
     </message>
     <message>

@@ -1444,7 +1444,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>כל המקרנים</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>הצגת הפקודות של</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>מ״ש</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>ננטשה</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>התקדמות</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;תשאול חוזר</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>&amp;דגם</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>כ&amp;ל שדות הדגם</translation>
     </message>
     <message>
@@ -2517,7 +2517,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>&amp;צבעים</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(אותה שעה פעמיים: ללא)</translation>
     </message>
 </context>
@@ -2658,7 +2658,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>ש&amp;מירה</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
     </message>
     <message numerus="yes">
@@ -2695,7 +2695,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>&amp;שכפול…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>הסר&amp;ה…</translation>
     </message>
     <message>
@@ -3788,7 +3788,7 @@ a minus in front takes a tag away:</source>
         <translation>&amp;כיבוי</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>הפ&amp;עלה</translation>
     </message>
     <message>

@@ -1423,7 +1423,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>Minden projektor</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Projektor, amelynek a parancsai láthatók</translation>
     </message>
 </context>
@@ -1454,7 +1454,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>félbehagyva</translation>
     </message>
     <message>
@@ -1493,7 +1493,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>Folyamat</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Ismételt beolvasás</translation>
     </message>
     <message>
@@ -2331,7 +2331,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>&amp;Modell</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>A modell összes me&amp;zője</translation>
     </message>
     <message>
@@ -2482,7 +2482,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>S&amp;zínek</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(azonos időpontok: nincs)</translation>
     </message>
 </context>
@@ -2622,7 +2622,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>Menté&amp;s</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
     </message>
     <message numerus="yes">
@@ -2658,7 +2658,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>&amp;Kettőzés…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Eltávolítás…</translation>
     </message>
     <message>
@@ -3738,7 +3738,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>&amp;Kikapcsolás</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>&amp;Tápellátás</translation>
     </message>
     <message>

@@ -1444,7 +1444,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Tutti i proiettori</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Mostra i comandi di</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>abbandonato</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Avanzamento</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Interroga di nuovo</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>&amp;Modello</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>Tutti i c&amp;ampi del modello</translation>
     </message>
     <message>
@@ -2517,7 +2517,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>&amp;Colori</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(due orari uguali: nessuna)</translation>
     </message>
 </context>
@@ -2658,7 +2658,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>&amp;Salva</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
     </message>
     <message numerus="yes">
@@ -2695,7 +2695,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>&amp;Duplica…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Rimuovi…</translation>
     </message>
     <message>
@@ -3788,7 +3788,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>S&amp;pegni</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>A&amp;limentazione</translation>
     </message>
     <message>

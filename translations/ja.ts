@@ -1423,7 +1423,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>すべてのプロジェクター</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>コマンドを表示するプロジェクター</translation>
     </message>
 </context>
@@ -1454,7 +1454,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>中断</translation>
     </message>
     <message>
@@ -1493,7 +1493,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>進行状況</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>再読み取り(&amp;G)</translation>
     </message>
     <message>
@@ -2331,7 +2331,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>機種(&amp;M)</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>機種の全項目(&amp;L)</translation>
     </message>
     <message>
@@ -2482,7 +2482,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>配色(&amp;C)</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(同じ時刻にすると停止なし)</translation>
     </message>
 </context>
@@ -2622,7 +2622,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>保存(&amp;S)</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>この名前はプリセットに使用できません。スラッシュと先頭のピリオドを除いてください。</translation>
     </message>
     <message numerus="yes">
@@ -2658,7 +2658,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>複製(&amp;D)…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>削除(&amp;V)…</translation>
     </message>
     <message>
@@ -3738,7 +3738,7 @@ a minus in front takes a tag away:</source>
         <translation>電源を切る(&amp;F)</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>電源(&amp;W)</translation>
     </message>
     <message>

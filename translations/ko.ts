@@ -1423,7 +1423,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>모든 프로젝터</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>명령을 표시할 프로젝터</translation>
     </message>
 </context>
@@ -1454,7 +1454,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>중단됨</translation>
     </message>
     <message>
@@ -1493,7 +1493,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>진행 상황</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>다시 읽기(&amp;G)</translation>
     </message>
     <message>
@@ -2331,7 +2331,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>모델(&amp;M)</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>모델의 모든 항목(&amp;L)</translation>
     </message>
     <message>
@@ -2482,7 +2482,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>색상(&amp;C)</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(두 시각이 같으면 사용 안 함)</translation>
     </message>
 </context>
@@ -2622,7 +2622,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>저장(&amp;S)</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
     </message>
     <message numerus="yes">
@@ -2658,7 +2658,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>복제(&amp;D)…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>제거(&amp;V)…</translation>
     </message>
     <message>
@@ -3738,7 +3738,7 @@ a minus in front takes a tag away:</source>
         <translation>끄기(&amp;F)</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>전원(&amp;W)</translation>
     </message>
     <message>

@@ -1444,7 +1444,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Alle projectors</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Opdrachten tonen van</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>verlaten</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Voortgang</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Opnieuw opvragen</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>&amp;Model</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>Alle &amp;velden van het model</translation>
     </message>
     <message>
@@ -2517,7 +2517,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>&amp;Kleuren</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(twee gelijke tijden: geen)</translation>
     </message>
 </context>
@@ -2658,7 +2658,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Op&amp;slaan</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
     </message>
     <message numerus="yes">
@@ -2695,7 +2695,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>&amp;Dupliceren…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Verwijderen…</translation>
     </message>
     <message>
@@ -3788,7 +3788,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>&amp;Uitschakelen</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>Voe&amp;ding</translation>
     </message>
     <message>

@@ -1465,7 +1465,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Wszystkie projektory</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Pokaż polecenia</translation>
     </message>
 </context>
@@ -1496,7 +1496,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>porzucone</translation>
     </message>
     <message>
@@ -1535,7 +1535,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Postęp</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Odpytaj ponownie</translation>
     </message>
     <message>
@@ -2401,7 +2401,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>&amp;Model</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>&amp;Wszystkie pola modelu</translation>
     </message>
     <message>
@@ -2552,7 +2552,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>&amp;Kolory</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(dwie takie same godziny: brak)</translation>
     </message>
 </context>
@@ -2694,7 +2694,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>&amp;Zapisz</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
     </message>
     <message numerus="yes">
@@ -2732,7 +2732,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Powie&amp;l…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Usuń…</translation>
     </message>
     <message>
@@ -3838,7 +3838,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>W&amp;yłącz</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>Z&amp;asilanie</translation>
     </message>
     <message>

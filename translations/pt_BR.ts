@@ -1444,7 +1444,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Todos os projetores</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Mostrar os comandos de</translation>
     </message>
 </context>
@@ -1475,7 +1475,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>ms</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>abandonado</translation>
     </message>
     <message>
@@ -1514,7 +1514,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Progresso</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>Consultar &amp;novamente</translation>
     </message>
     <message>
@@ -2366,7 +2366,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>&amp;Modelo</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>Todos os campos do mode&amp;lo</translation>
     </message>
     <message>
@@ -2517,7 +2517,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Co&amp;res</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(dois horários iguais: nenhuma)</translation>
     </message>
 </context>
@@ -2658,7 +2658,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>&amp;Salvar</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Nome inválido para uma predefinição: não use barras nem comece com um ponto.</translation>
     </message>
     <message numerus="yes">
@@ -2695,7 +2695,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Dup&amp;licar…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>Re&amp;mover…</translation>
     </message>
     <message>
@@ -3788,7 +3788,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>&amp;Desligar</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>Alime&amp;ntação</translation>
     </message>
     <message>

@@ -1465,7 +1465,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Все проекторы</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>Показать команды</translation>
     </message>
 </context>
@@ -1496,7 +1496,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>мс</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>прервано</translation>
     </message>
     <message>
@@ -1535,7 +1535,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Ход выполнения</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>&amp;Опросить снова</translation>
     </message>
     <message>
@@ -2401,7 +2401,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>&amp;Модель</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>&amp;Все поля модели</translation>
     </message>
     <message>
@@ -2552,7 +2552,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>&amp;Цветовая схема</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>(если время одинаковое — выключено)</translation>
     </message>
 </context>
@@ -2694,7 +2694,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Со&amp;хранить</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
     </message>
     <message numerus="yes">
@@ -2732,7 +2732,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Ду&amp;блировать…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>&amp;Удалить…</translation>
     </message>
     <message>
@@ -3838,7 +3838,7 @@ a minus in front takes a tag away:</source>
         <translation>В&amp;ыключить</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>Питани&amp;е</translation>
     </message>
     <message>

@@ -1423,7 +1423,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>所有投影机</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>显示其命令</translation>
     </message>
 </context>
@@ -1466,7 +1466,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>无应答</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>已放弃</translation>
     </message>
     <message>
@@ -1493,7 +1493,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>进度</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>重新询问(&amp;A)</translation>
     </message>
     <message>
@@ -2331,7 +2331,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>型号(&amp;M)</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>显示机型的全部字段(&amp;F)</translation>
     </message>
     <message>
@@ -2482,7 +2482,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>颜色(&amp;C)</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>（两个时间相同：不设）</translation>
     </message>
 </context>
@@ -2622,7 +2622,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>保存(&amp;S)</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>不能使用此预设名称：请去掉斜杠和开头的点。</translation>
     </message>
     <message numerus="yes">
@@ -2674,7 +2674,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>复制(&amp;D)…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>移除(&amp;R)…</translation>
     </message>
     <message>
@@ -3738,7 +3738,7 @@ a minus in front takes a tag away:</source>
         <translation>关机(&amp;F)</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>电源(&amp;O)</translation>
     </message>
     <message>

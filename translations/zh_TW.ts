@@ -1002,14 +1002,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>the value before could not be read</source>
         <translation>無法讀取先前的值</translation>
     </message>
-    <message>
-        <source>Prints what differs from a file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder.</source>
-        <translation>顯示與檔案（「-」表示標準輸入）或資料夾中各投影機自己的檔案有何不同。</translation>
-    </message>
-    <message>
-        <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>讀取投影機，將與檔案（「-」表示標準輸入）或資料夾中各投影機自己的檔案不同的設定傳送出去，再讀回。被取代的值會先保留下來，以便用「acctl undo」還原。中斷的作業隨時可以重新執行。</translation>
-    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1431,12 +1423,8 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>所有投影機</translation>
     </message>
     <message>
-        <source>Show the commands of</source>
+        <source>Projector whose commands are shown</source>
         <translation>顯示下列投影機的命令</translation>
-    </message>
-    <message>
-        <source>Projector, command or result</source>
-        <translation>投影機、命令或結果</translation>
     </message>
 </context>
 <context>
@@ -1466,7 +1454,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>毫秒</translation>
     </message>
     <message>
-        <source>left</source>
+        <source>abandoned</source>
         <translation>已放棄</translation>
     </message>
     <message>
@@ -1505,7 +1493,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>進度</translation>
     </message>
     <message>
-        <source>&amp;Ask Again</source>
+        <source>Read A&amp;gain</source>
         <translation>重新詢問(&amp;R)</translation>
     </message>
     <message>
@@ -2343,7 +2331,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>機型(&amp;M)</translation>
     </message>
     <message>
-        <source>All &amp;fields of the model</source>
+        <source>All fie&amp;lds of the model</source>
         <translation>顯示機型的所有欄位(&amp;L)</translation>
     </message>
     <message>
@@ -2494,7 +2482,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>色彩(&amp;C)</translation>
     </message>
     <message>
-        <source>(the same time twice: none)</source>
+        <source>(equal times: no quiet hours)</source>
         <translation>（兩個時間相同表示不使用）</translation>
     </message>
 </context>
@@ -2582,20 +2570,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>Should be</source>
         <translation>應有值</translation>
     </message>
-    <message>
-        <source>Name of the preset:</source>
-        <translation>預設集的名稱：</translation>
-    </message>
-    <message numerus="yes">
-        <source>Put the preset %1 on %n projectors?</source>
-        <translation>
-            <numerusform>要將預設集 %1 套用到 %n 台投影機嗎？</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>比較</translation>
-    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2648,7 +2622,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>儲存(&amp;S)</translation>
     </message>
     <message>
-        <source>A preset cannot be called so: leave out slashes, and a dot in front.</source>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
         <translation>預設集不能使用這個名稱：請勿使用斜線，也不要以句點開頭。</translation>
     </message>
     <message numerus="yes">
@@ -2684,7 +2658,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>再製(&amp;D)…</translation>
     </message>
     <message>
-        <source>&amp;Remove…</source>
+        <source>Re&amp;move…</source>
         <translation>移除(&amp;R)…</translation>
     </message>
     <message>
@@ -3273,28 +3247,6 @@ a minus in front takes a tag away:</source>
         <source>The values before are kept in %1.</source>
         <translation>先前的值保留在 %1 中。</translation>
     </message>
-    <message>
-        <source>%1: no answer</source>
-        <translation>%1：沒有回應</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be read</source>
-        <translation>%1：無法讀取任何設定</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n settings cannot be read and are left out</source>
-        <translation>
-            <numerusform>%1：%n 項設定無法讀取，已略過</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已開啟對話方塊的投影機…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
 </context>
 <context>
     <name>SettingsFile</name>
@@ -3786,7 +3738,7 @@ a minus in front takes a tag away:</source>
         <translation>關機(&amp;F)</translation>
     </message>
     <message>
-        <source>P&amp;ower</source>
+        <source>Po&amp;wer</source>
         <translation>電源(&amp;O)</translation>
     </message>
     <message>
@@ -4016,184 +3968,6 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完成，%n 項設定無法讀取</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>RestoreDialog</name>
-    <message>
-        <source>Projector</source>
-        <translation>投影機</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Here</source>
-        <translation>目前的值</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>檔案中的值</translation>
-    </message>
-    <message>
-        <source>Result</source>
-        <translation>結果</translation>
-    </message>
-    <message>
-        <source>not read</source>
-        <translation>未讀取</translation>
-    </message>
-    <message>
-        <source>already so</source>
-        <translation>原已相符</translation>
-    </message>
-    <message>
-        <source>different</source>
-        <translation>不同</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>已變更</translation>
-    </message>
-    <message>
-        <source>refused</source>
-        <translation>遭拒絕</translation>
-    </message>
-    <message>
-        <source>accepted, not yet so</source>
-        <translation>已接受，尚未生效</translation>
-    </message>
-    <message>
-        <source>refused: the projector is busy or in standby</source>
-        <translation>遭拒絕：投影機忙碌中或處於待機狀態</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>未確認</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not have it</source>
-        <translation>已略過：此機型沒有這項設定</translation>
-    </message>
-    <message>
-        <source>skipped: this projector does not offer it</source>
-        <translation>已略過：此投影機不提供這項設定</translation>
-    </message>
-    <message>
-        <source>skipped: it is not one to put back</source>
-        <translation>已略過：這項設定不在還原範圍內</translation>
-    </message>
-    <message>
-        <source>skipped: this model does not take the value</source>
-        <translation>已略過：此機型不接受這個值</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n changed</source>
-        <extracomment>How many settings came to this, in a list such as &quot;12 changed, 3 refused&quot;.</extracomment>
-        <translation>
-            <numerusform>%n 項已變更</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n different</source>
-        <translation>
-            <numerusform>%n 項不同</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n already so</source>
-        <translation>
-            <numerusform>%n 項原已相符</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not yet so</source>
-        <translation>
-            <numerusform>%n 項尚未生效</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n refused</source>
-        <translation>
-            <numerusform>%n 項遭拒絕</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not confirmed</source>
-        <translation>
-            <numerusform>%n 項未確認</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n not read</source>
-        <translation>
-            <numerusform>%n 項未讀取</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n skipped</source>
-        <translation>
-            <numerusform>%n 項已略過</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Apply Settings</source>
-        <translation>套用設定</translation>
-    </message>
-    <message>
-        <source>Compare Settings</source>
-        <translation>比較設定</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>篩選</translation>
-    </message>
-    <message>
-        <source>&amp;Differences only</source>
-        <translation>只顯示差異(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>進度</translation>
-    </message>
-    <message>
-        <source>&amp;Compare Again</source>
-        <translation>重新比較(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>套用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Waiting for the projector of an open dialog…</source>
-        <translation>正在等待已開啟對話方塊的投影機…</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>關閉</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>Beforehand: other sources and modes</source>
-        <translation>先還原：其他來源與模式</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n settings</source>
-        <translation>
-            <numerusform>%n 項設定</numerusform>
         </translation>
     </message>
 </context>

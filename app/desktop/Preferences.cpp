@@ -102,7 +102,7 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   quiet->addWidget(new QLabel(QStringLiteral("–")));
   quiet->addWidget(quietTo_);
   quiet->addStretch();
-  auto* none = new QLabel(tr("(the same time twice: none)"));
+  auto* none = new QLabel(tr("(equal times: no quiet hours)"));
   quiet->addWidget(none);
   form->addRow(tr("Quiet hours"), quiet);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

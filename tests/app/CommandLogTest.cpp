@@ -51,7 +51,7 @@ TEST(CommandLog, ShowsSettingNamesAndOutcomes) {
       {kChange, {.result = 0}, "Set 0x2201\t4 (130)\trefused"},
       {{PjtOperation::SetBrightness, 0, 140}, {.result = 0}, "SetBrightness\t4 (140)\trefused"},
       {{PjtOperation::GetInputSrcVolume, 0, 3}, {}, "GetInputSrcVolume(3)\t\trefused"},
-      {kRead, {.answered = false, .abandoned = true}, "Get 0x2201\t\tleft"},
+      {kRead, {.answered = false, .abandoned = true}, "Get 0x2201\t\tabandoned"},
       {kRead, {.offered = false}, "Get 0x2201\t\tnot offered"},
       {kChange, {.busy = true}, "Set 0x2201\t4 (130)\tbusy"},
       {kChange, {.result = 1, .pending = true}, "Set 0x2201\t4 (130)\tnot yet so"},

@@ -66,7 +66,7 @@ CommandLog::CommandLog(QWidget* parent)
   auto* head = new QHBoxLayout;
   projectors_->addItem(tr("All projectors"));
   projectors_->Select(0);
-  projectors_->setAccessibleName(tr("Show the commands of"));
+  projectors_->setAccessibleName(tr("Projector whose commands are shown"));
   head->addWidget(filter_, 1);
   head->addWidget(projectors_);
   for (QAction* action : {changesOnly_, errorsOnly_, saveAs_, clear_})

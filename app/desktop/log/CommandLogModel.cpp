@@ -50,7 +50,7 @@ struct Outcome {
 
 Outcome OutcomeOf(const CommandLogModel::Entry& entry) {
   const PjtReply& reply = entry.reply;
-  if (reply.abandoned) return {QT_TRANSLATE_NOOP("CommandLogModel", "left"), false};
+  if (reply.abandoned) return {QT_TRANSLATE_NOOP("CommandLogModel", "abandoned"), false};
   if (!reply.answered) return {QT_TRANSLATE_NOOP("CommandLogModel", "no answer"), true};
   if (reply.busy) return {QT_TRANSLATE_NOOP("CommandLogModel", "busy"), true};
   if (!reply.offered) return {QT_TRANSLATE_NOOP("CommandLogModel", "not offered"), true};

@@ -121,7 +121,7 @@ void PresetDialog::Update() {
   const bool isTaken = PresetFolder::Names().contains(name);
   save_->setEnabled(PresetFolder::IsName(name) && count > 0);
   if (!name.isEmpty() && !PresetFolder::IsName(name)) {
-    remark_->setText(tr("A preset cannot be called so: leave out slashes, and a dot in front."));
+    remark_->setText(tr("This name is not allowed: no slashes, and no dot in front."));
   } else {
     const QString settings = tr("%n settings are checked.", nullptr, static_cast<int>(count));
     remark_->setText(isTaken ? settings + QLatin1Char(' ') +

@@ -18,7 +18,7 @@ ModelFields::ModelFields(const ProfileDocument& document, EntryForm& form)
       form_(form),
       family_(form.AddList(tr("&Family"), "like")),
       model_(form.AddField(tr("&Model"), "model")),
-      more_(new QCheckBox(tr("All &fields of the model"))),
+      more_(new QCheckBox(tr("All fie&lds of the model"))),
       models_(document.Models()) {
   form.AddWidget(more_);
   dialogType_ = form.AddField(tr("Dialog &type"), "dialogType");

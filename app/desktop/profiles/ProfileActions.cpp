@@ -39,7 +39,7 @@ ProfileActions::ProfileActions(ProfileDocument& document, ProfileHistory& histor
   add_ = make(tr("&Add…"), QKeySequence::New, &ProfileActions::AddProjector);
   edit_ = make(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector);
   duplicate_ = make(tr("&Duplicate…"), Qt::CTRL | Qt::Key_D, &ProfileActions::DuplicateProjector);
-  remove_ = make(tr("&Remove…"), QKeySequence::Delete, &ProfileActions::RemoveProjectors);
+  remove_ = make(tr("Re&move…"), QKeySequence::Delete, &ProfileActions::RemoveProjectors);
   tag_ = make(tr("Ta&g…"), Qt::CTRL | Qt::Key_T, &ProfileActions::TagProjectors);
   remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);  // only while the list has the focus
   Update();

@@ -62,7 +62,7 @@ void ComparisonDialog::MakeLayout() {
   progress_->setRange(0, static_cast<int>(comparison_.projectors.size()));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
   close_ = buttons->button(QDialogButtonBox::Close);
-  again_ = buttons->addButton(tr("&Ask Again"), QDialogButtonBox::ActionRole);
+  again_ = buttons->addButton(tr("Read A&gain"), QDialogButtonBox::ActionRole);
   apply_ = buttons->addButton(tr("&Apply"), QDialogButtonBox::ApplyRole);
   apply_->setVisible(comparison_.applies);
   resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));

@@ -20,7 +20,7 @@ UsualActions::UsualActions(std::function<Rows()> selected, WorkActions& work, Fl
       window_(window),
       on_(new QAction(tr("Switch O&n"), this)),
       off_(new QAction(tr("Switch O&ff"), this)),
-      power_(new QAction(tr("P&ower"), this)),
+      power_(new QAction(tr("Po&wer"), this)),
       input_(new QAction(tr("&Input"), this)),
       blank_(MakeSwitch(
           tr("&Blank"),

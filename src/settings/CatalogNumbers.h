@@ -9,8 +9,8 @@ namespace AdvancedControl {
 /// template names ("73;Brightness") needs no name here. The build fails if a number in these files
 /// or in a template has no text in English or Simplified Chinese.
 
-inline constexpr int kCaptionCategory = 4;   ///< Captions of controls, tabs and dialogs.
-inline constexpr int kListCategory = 5;      ///< Entries of lists, texts of states.
+inline constexpr int kCaptionCategory = 4;  ///< Captions of controls, tabs and dialogs.
+inline constexpr int kListCategory = 5;     ///< Entries of lists, texts of states.
 
 namespace Caption {
 // Titles of the dialog.

@@ -112,10 +112,9 @@ void FillPlain(QMainWindow& window) {
   }
 }
 
-/// The measured process: shows a window, and says how many seconds after its start that was painted
-/// and how much memory the process then had. The window is a bare one, a plain one, or ours with
-/// the profiles of a file.
-int PaintWindow(int argc, char** argv) {
+}  // namespace
+
+void PaintWindow(int argc, char** argv) {
   const auto start = Clock::now();
   const QApplication application(argc, argv);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

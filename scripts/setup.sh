@@ -15,7 +15,7 @@ packages=(
   gettext qt6-l10n-tools qt6-tools-dev qt6-translations-l10n
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi xvfb
   fonts-dejavu-core fonts-wqy-microhei
-  ansible-core fish groff-base python3-jsonschema systemd zsh
+  ansible-core fish groff-base python3-jsonschema python3-voluptuous systemd zsh
   desktop-file-utils appstream
   libmosquitto-dev mosquitto mosquitto-clients prometheus prometheus-alertmanager curl openssl
 )

@@ -125,10 +125,11 @@ std::string TakeOptions(const GivenWords& given, const CommandForm& form, Argume
   return {};
 }
 
-/// Whether the command prints values one by one.
-bool HasValues(Command command) {
-  return command == Command::Get || command == Command::Set || command == Command::Status ||
-         command == Command::Reset;
+bool HasFormat(Command command, Format format) {
+  if (command == Command::Export) return format == Format::Text;
+  const bool hasValues = command == Command::Get || command == Command::Set ||
+                         command == Command::Status || command == Command::Reset;
+  return hasValues || (format != Format::Tsv && format != Format::Value);
 }
 
 bool IsAssignment(const std::string& word) {
@@ -264,8 +265,7 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   }
   std::string error = TakeOptions(given, *form, arguments);
   if (!error.empty()) return wrong(std::move(error));
-  const bool isOfValues = arguments.format == Format::Tsv || arguments.format == Format::Value;
-  if (isOfValues && !HasValues(form->command)) {
+  if (!HasFormat(form->command, arguments.format)) {
     if (asked) return wrong(Message(Acctl::tr("%1 has no such --format"), form->name));
     arguments.format = Format::Text;
   }

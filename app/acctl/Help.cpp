@@ -125,8 +125,10 @@ std::string Entry(std::string left, std::string_view text) {
   return left + wrapped.substr(kColumn);
 }
 
-std::string SwitchOf(const OptionForm& option) {
-  std::string text = option.letter != 0 ? std::string("-") + option.letter + ", " : "";
+std::string SwitchOf(const OptionForm& option, std::optional<Command> topic) {
+  const bool isTaken = topic == Command::Save && option.name == "format";  // by the folder
+  std::string text =
+      option.letter != 0 && !isTaken ? std::string("-") + option.letter + ", " : std::string();
   text += "--" + std::string(option.name);
   return option.value.empty() ? text : text + ' ' + std::string(option.value);
 }
@@ -166,7 +168,7 @@ std::string RoffEntries(std::string_view title, std::span<const Named> entries) 
 std::string RoffOptions(std::optional<Command> topic) {
   std::string text = ".SH OPTIONS\n";
   for (const OptionForm* option : OptionsOf(topic)) {
-    text += RoffEntry(SwitchOf(*option), option->help);
+    text += RoffEntry(SwitchOf(*option, topic), option->help);
   }
   return text;
 }
@@ -217,7 +219,7 @@ std::string HelpText(std::optional<Command> topic) {
         Acctl::tr("Options of all commands; 'acctl help COMMAND' lists its own, with examples"));
   }
   for (const OptionForm* option : OptionsOf(topic)) {
-    text += Entry(SwitchOf(*option), Translated(option->help));
+    text += Entry(SwitchOf(*option, topic), Translated(option->help));
   }
   text += '\n' + Wrapped(Translated(kWords));
   if (topic) {

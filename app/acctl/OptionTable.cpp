@@ -74,7 +74,7 @@ bool TakeLanguage(const std::string& text, std::optional<std::uint32_t>& languag
   return language.has_value();
 }
 
-const std::vector<Command> kChanging{Command::Set, Command::Reset, Command::Apply, Command::Undo};
+const std::vector<Command> kRecorded{Command::Set, Command::Apply, Command::Undo};
 const std::vector<Command> kAsking{Command::Settings, Command::Get,  Command::Set,  Command::Reset,
                                    Command::Status,   Command::Save, Command::Diff, Command::Apply,
                                    Command::Undo,     Command::Watch};
@@ -200,14 +200,14 @@ std::vector<OptionForm> MakeOptions() {
        .value = "DIR",
        .help = QT_TRANSLATE_NOOP("Acctl", "the folder for undo files"),
        .take = [](A& a, Text text) { return TakeText(text, a.undoFolder); },
-       .of = kChanging,
+       .of = kRecorded,
        .isDefault = true},
       {.name = "undo-days",
        .value = "N",
        .help = QT_TRANSLATE_NOOP("Acctl",
                                  "remove undo files older than N days; 30 by default, 0 keeps all"),
        .take = [](A& a, Text text) { return TakeNumber(text, 0, 36500, a.undoDays); },
-       .of = kChanging,
+       .of = kRecorded,
        .isDefault = true},
       {.name = "jobs",
        .value = "N",

@@ -58,6 +58,17 @@ std::string TakeWordsFrom(Arguments& arguments) {
                                  : std::string();
 }
 
+/// For '-o jsonl'.
+std::string LinesOf(const QJsonArray& entries, const QJsonArray& errors) {
+  std::string lines;
+  const auto add = [&lines](const QJsonObject& line) {
+    lines += QJsonDocument(line).toJson(QJsonDocument::Compact).toStdString() + '\n';
+  };
+  for (const auto& entry : entries) add(entry.toObject());
+  for (const auto& error : errors) add({{"error", error}});
+  return lines;
+}
+
 /// One run of the program for a command that works with projectors.
 class ProgramRun {
  public:
@@ -172,7 +183,9 @@ int ProgramRun::ListRecordedRuns() const {
                             {"isUndone", run.isUndone}});
   }
   std::string text = table.Text();
-  if (arguments_.format != Format::Text) {
+  if (arguments_.format == Format::JsonLines) {
+    text = LinesOf(json, errors);
+  } else if (arguments_.format != Format::Text) {
     QJsonObject envelope = Envelope(arguments_.command);
     envelope["runs"] = json;
     if (!errors.isEmpty()) envelope["errors"] = errors;

@@ -95,10 +95,15 @@ class ProjectorWatch {
   /// Reads again and again until the projector is gone or there is nothing more to wait for.
   void Follow(ProjectorAccess& projector) {
     const Work& work = shared_.work;
-    Report ignored;
+    Report lacks;
     std::vector<std::string> words = work.arguments.words;
-    if (shared_.until) words.push_back(shared_.until->key);
-    const auto chosen = Chosen(TargetOf(projector), kRead, words, true, ignored);
+    const bool isWatched =
+        !shared_.until || std::ranges::find(words, shared_.until->key) != words.end();
+    if (!isWatched) words.push_back(shared_.until->key);
+    const auto chosen = Chosen(TargetOf(projector), kRead, words, work.isForSeveral, lacks);
+    if (!std::exchange(isBegun_, true)) TellLacks(lacks);
+    isFinished_ = isFinished_ || chosen.empty();
+    if (isFinished_) return;
     const Progress progress = ProgressOf(work, projector);
     while (!projector.Channel().IsGone() && shared_.GoesOn() && !isFinished_) {
       for (const auto& [setting, source] :
@@ -111,6 +116,15 @@ class ProjectorWatch {
       if (!isFinished_) Wait(work.arguments.interval);
     }
     if (projector.Channel().IsGone() && !std::exchange(isSilent_, true)) Add(NoAnswerOf(projector));
+  }
+
+  /// What this projector does not have is never reached.
+  void TellLacks(const Report& lacks) {
+    for (const Problem& problem : lacks.problems) {
+      Add(problem);
+      if (shared_.until && problem.key == shared_.until->key) isFinished_ = true;
+    }
+    shared_.Fail(lacks.code);
   }
 
   void Take(ProjectorAccess& projector, const ModelSetting& setting, std::optional<int> value) {
@@ -196,6 +210,7 @@ class ProjectorWatch {
   const bool isSimulated_;
   std::string prefix_;
   std::map<std::string, Seen> last_;
+  bool isBegun_ = false;
   bool isSilent_ = false;
   bool isFinished_ = false;
 };

@@ -1,9 +1,11 @@
 """What explains acctl and what is built on it: help, completion, the manual's commands, and integrations/."""
 
+import importlib.util
 import json
 import re
 import shutil
 import subprocess
+from pathlib import Path
 
 from script_support import PROGRAMS, SOURCES, Building
 
@@ -16,6 +18,7 @@ class LookingUp(Building):
                 (["explain", "power"], "values +Standby \\(standby\\), On \\(on\\)\n.*commands +get, set"),
                 (["models", "Model 5-*"], "^Model 5-30 +5 +30 +1 projector +\\d+ settings$"),
                 (["help", "set"], "Use: acctl set P KEY=VALUE(.*\n)+Examples\n  acctl set"),
+                (["help", "save"], "^  --format FORMAT(.*\n)+  -o, --folder DIR"),
                 (["set", "--help"], "  --wait TIME"), (["--help"], "^  explain  ")):
             self.check(words, 0, output)
         self.check(["explain", "smell"], 2, errors="no model has such a setting")
@@ -44,6 +47,7 @@ class LookingUp(Building):
     COMPLETED = (("acctl exp", ["explain", "export"]), ("acctl get @buil", ["@building-1", "@building-3"]),
                  ("acctl set Office contr", ["contrast"]), ("acctl list --for", ["--format"]),
                  ("acctl get Office power -o js", ["json", "jsonl"]), ("acctl save Office -o sav", ["saved"]),
+                 ("acctl set Office power=st", ["standby"]), ("acctl set Office input s", ["s-video"]),
                  ("acctl reset Office status.", ["status.filter-time", "status.lamp-time"]))
 
     def completed(self, shell, line):
@@ -64,7 +68,8 @@ class LookingUp(Building):
             for line, words in self.COMPLETED:
                 with self.subTest(shell=shell, line=line):
                     run = self.completed(shell, line)
-                    found = [word.split("\t")[0].rstrip("/") for word in run.stdout.splitlines()]
+                    # Bash replaces only what follows the equals sign.
+                    found = [word.split("\t")[0].rstrip("/").split("=")[-1] for word in run.stdout.splitlines()]
                     self.assertEqual(sorted(found), words, run.stderr)
 
 
@@ -135,6 +140,22 @@ class Integrations(Building):
         failed = self.module(settings={"contrast": 99})
         self.assertTrue(failed["failed"])
         self.assertIn("'99' is not one of", failed["msg"])
+
+    def test_the_module_has_only_the_fault_that_is_ignored(self):
+        # ansible-test would download what it needs for this into an environment of its own.
+        tools = Path(importlib.util.find_spec("ansible_test").origin).parent
+        validator = tools / "_util/controller/sanity/validate-modules"
+        collection = self.folder / "ansible_collections/advancedcontrol/projectors"
+        shutil.copytree(SOURCES / "integrations/ansible", collection)
+        module, fault = (collection / "tests/sanity/ignore-2.14.txt").read_text().split()
+        run = subprocess.run(
+            ["/usr/bin/python3", validator / "validate.py", "--arg-spec", "--collection-version", "1.0.0",
+             "--collection", collection.relative_to(self.folder), module], cwd=collection, text=True,
+            capture_output=True, check=False,
+            env={**self.environment, "LC_ALL": "C.UTF-8", "PYTHONPATH": str(validator),
+                 "ANSIBLE_COLLECTIONS_PATH": str(self.folder)})
+        self.assertRegex(run.stdout, f"^{module}:0:0: E{fault.split(':')[1]} .*\n$", run.stderr)
+        self.assertEqual(run.stderr, "")
 
     def test_a_playbook_changes_nothing_the_second_time(self):
         (self.folder / "library").mkdir()

@@ -1,12 +1,15 @@
 """acctl as scripts use it: on many projectors, with output for programs."""
 
+import itertools
 import json
+import os
 import re
 import shutil
+import time
 
 import jsonschema
 
-from script_support import ROOMS, SOURCES, Building, free_port
+from script_support import PROGRAMS, ROOMS, SOURCES, Building, free_port
 
 ALL = "@building-3"
 SCHEMA = json.loads((SOURCES / "app/acctl/acctl.schema.json").read_text())
@@ -62,6 +65,18 @@ class Choosing(Building):
         explained = self.acctl("explain", "input", ACCTL_PROFILES="pjlink.json").stdout
         self.assertRegex(explained, "(?m)^  values +those that the projector reports$")
 
+    def test_keys_with_one_meaning_have_one_short_name_on_all_models(self):
+        models = {}
+        for projector in self.json("settings", "*", ACCTL_PROFILES=str(PROGRAMS / "projectors.json"))["projectors"]:
+            for setting in projector["settings"]:
+                direction = re.search("-[hv]$|$", setting["key"])[0]  # some captions do not say it
+                meaning = models.setdefault((setting["caption"], direction, setting["kind"] == "action"), {})
+                meaning.setdefault((setting["key"], setting.get("alias")), set()).add(projector["name"])
+        for (caption, _, is_action), keys in models.items():
+            for (first, second) in itertools.combinations(keys, 2):
+                if not is_action and keys[first].isdisjoint(keys[second]):
+                    self.assertTrue(first[1] and first[1] == second[1], (caption, first, second))
+
     def test_a_key_that_one_lacks_stops_only_this_one(self):
         lacks = "Office: active-iris: this model has no such setting"
         self.check(["get", "*", "active-iris", "-o", "value"], 1, "^Off\nOff\n$", "Seminar 2.*\n.*" + lacks)
@@ -85,7 +100,8 @@ class Output(Building):
                 run = self.acctl("--json", *command)
                 VALIDATOR.validate(json.loads(run.stdout))
         lines = jsonschema.Draft202012Validator({"$ref": "#/$defs/line", "$defs": SCHEMA["$defs"]})
-        for command in (["get", "*", "active-iris"], ["diff", ALL, "saved"], ["watch", ALL, "power", "--wait", "0.1"]):
+        for command in (["get", "*", "active-iris"], ["diff", ALL, "saved"], ["watch", ALL, "power", "--wait", "0.1"],
+                        ["undo", "--list"], ["models"], ["explain", "power"]):
             for line in self.acctl("-o", "jsonl", *command).stdout.splitlines():
                 lines.validate(json.loads(line))
 
@@ -166,6 +182,7 @@ class Output(Building):
                 (["--fast", "list", "--json"], {}, 2, "wrong-use"),
                 (["list", "--jobs", "0"], {"ACCTL_FORMAT": "json"}, 2, "wrong-use"),
                 (["list", "--format=json"], {"ACCTL_TIMEOUT": "x"}, 2, "wrong-use"),
+                (["export", "-o", "json"], {}, 2, "wrong-use"),
                 (["watch", "Office", "power", "--until", "x", "-o", "json"], {}, 2, "wrong-use"),
                 (["diff", "Office", "office.json", "-o", "json"], {}, 2, "wrong-file"),
                 (["diff", "Office,Seminar 1", "saved", "-o", "json"], {}, 1, "file")):
@@ -235,6 +252,17 @@ class Runs(Building):
         undo = self.json("undo", "--list")["runs"][-1]
         self.check(["undo", undo["run"]], 0, "2 changed")
         self.assertEqual(self.value(ALL, "contrast"), ["2"] * 3)
+
+    def test_old_undo_files_are_removed(self):
+        undo = self.folder / "state/advanced-control/undo"
+        undo.mkdir(parents=True)
+        (undo / "notes.txt").write_text("not ours")
+        for days, left in ((30, 1), (2, 2), (0, 3), (1, 1)):  # 0 keeps all
+            self.acctl("set", "Office", "brightness+=1", ACCTL_UNDO_DAYS=str(days))
+            self.assertEqual(len(self.json("undo", "--list")["runs"]), left, days)
+            for file in undo.iterdir():
+                os.utime(file, (time.time() - 1.5 * 86400,) * 2)
+        self.assertTrue((undo / "notes.txt").exists())
 
     def test_a_run_that_cannot_be_read_is_never_passed_over(self):
         for brightness in ("5", "6"):
@@ -326,6 +354,11 @@ class Runs(Building):
         self.stop(self.simulator)
         self.check(["get", "*", "power", "--jobs", "1", "--fail-fast"], 3,
                    errors="Lecture hall: .*\n(.*not begun, as another projector failed\n){3}")
+        port = free_port(2)
+        get = self.start("--profiles", "rooms.json", "get", "Office", "contrast", "-o", "value", "--retries", "60",
+                         "--connect", f"tcp://127.0.0.1:{port}")
+        self.start_simulator("--projector", "Office", "--port", str(port))
+        self.assertEqual((get.wait(90), get.stdout.read()), (0, "0\n"))
 
     def test_defaults_come_from_file_and_environment(self):
         config = self.folder / "config/advanced-control"
@@ -378,6 +411,12 @@ class Watching(Building):
             self.assertEqual([line[kind]["code"] for line in told], [code] * 2)
             self.assertEqual({line["name"] for line in told}, {"Seminar 1", "Seminar 2"})
         self.assertEqual((change["name"], change["old"]["code"], change["new"]["code"]), ("Seminar 2", "0", "5"))
+
+    def test_who_lacks_a_key_is_told_and_not_waited_for(self):
+        lacks = "Office: active-iris: this model has no such setting"
+        self.check(["watch", "*", "active-iris", "contrast", "--wait", "0.3"], 1, "^Office .* Contrast", lacks)
+        self.check(["watch", "*", "contrast", "--until", "active-iris=off"], 1, "Active Iris  Off$", lacks)
+        self.check(["watch", "Office", "contrast", "--until", "active-iris=off"], 2, errors=lacks)
 
     def test_it_ends_when_a_value_is_reached(self):
         watch = self.start("watch", "*", "contrast", "--until", "contrast=4", "--interval", "0.05")

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Measures the bridge with many simulated projectors, Debian's message broker and one process of each, and prints
-a table. Usage: scripts/bridge-load.py FOLDER [PROJECTORS]
+"""Measures the bridge with many simulated projectors, Debian's message broker and metrics store, one process of each,
+and prints a table. Usage: scripts/bridge-load.py FOLDER [PROJECTORS]
 
 FOLDER holds the programs of an optimised build."""
 
@@ -84,6 +84,11 @@ try:
     configs = Subscriber("homeassistant/device/+/config")
     answers = Subscriber("projectors/+/answer")
     time.sleep(1)
+    with open(f"{folder}/prometheus.yml", "w") as file:
+        file.write("global: {scrape_interval: 15s}\nscrape_configs:\n  - job_name: projectors\n"
+                   f"    static_configs: [{{targets: ['127.0.0.1:{http}']}}]\n")
+    start("prometheus", f"--config.file={folder}/prometheus.yml", f"--storage.tsdb.path={folder}/store",
+          f"--web.listen-address=127.0.0.1:{free_port()}", stderr=subprocess.DEVNULL)
     begin = time.monotonic()
     bridge = start(f"{programs}/advanced-control-bridge", "--profiles", f"{folder}/profiles", "--broker",
                    f"127.0.0.1:{broker}", "--listen", f"127.0.0.1:{http}", "--allow-commands", "power",

@@ -13,6 +13,7 @@ constexpr std::chrono::seconds kFirstWriting{2};
 constexpr std::chrono::seconds kWriting{15};
 constexpr std::chrono::milliseconds kRendered{500};
 constexpr int kNotFound = 404;
+constexpr int kUnavailable = 503;
 
 }  // namespace
 
@@ -67,6 +68,8 @@ MetricsListener::Answer MetricsService::AnswerRequest(const HttpRequest& request
   const QByteArray target = request.Parameter("target");
   const auto projector = fleet_.Projectors().FindName(target.toStdString());
   if (!projector) return {kNotFound, "This share has no projector of that name.\n"};
+  // What it knew before is not true for long.
+  if (!count_().holdsShare) return {kUnavailable, "The bridge does not have its share.\n"};
   return {.body = Probe(*projector)};
 }
 

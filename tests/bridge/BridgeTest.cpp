@@ -1,6 +1,7 @@
 // The program between simulated projectors, Debian's message broker and clients that others wrote.
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <gmock/gmock.h>
 #include <map>
@@ -60,6 +61,13 @@ class Subscriber {
         return config->second.contains("/set/" + QByteArray(key) + '"');
       };
       if (std::ranges::all_of(settings, has)) return level;
+    }
+    return {};
+  }
+  /// The state of the projector of this name.
+  QJsonObject StateOf(const QByteArray& name) {
+    for (const auto& [topic, payload] : Last()) {
+      if (topic.endsWith("/state") && Json(topic)["name"] == QString(name)) return Json(topic);
     }
     return {};
   }
@@ -124,6 +132,18 @@ class BridgeProgram : public testing::Test {
     const auto at = text.indexOf('\n' + sample + ' ');
     return at < 0 ? -1 : text.mid(at + sample.size() + 2).split('\n').first().toDouble();
   }
+  static QByteArray NameOf(int number) {
+    return "Projector " + QByteArray::number(number).rightJustified(5, '0');
+  }
+  static QByteArray Probe(int number) {
+    return "/probe?target=" + NameOf(number).replace(' ', '+');
+  }
+  /// The number of a projector that is on.
+  static int OneThatIsOn(quint16 port) {
+    const QRegularExpression sample(
+        "_power_state\\{projector=\"Projector (\\d+)\",state=\"on\"\\} 1\n");
+    return sample.match(QString::fromUtf8(Get(port, "/metrics"))).captured(1).toInt();
+  }
   /// The changes that all projectors together have made.
   std::string Changes() {
     const QString counts = QString::fromStdString(Control("* count"));
@@ -140,7 +160,8 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   MosquittoBroker broker(folder_.path());
   const quint16 port = FreePort();
   const auto first = Bridge(At(broker) + QStringList{"--share", "1/2"}, port);
-  auto second = Bridge(At(broker) + QStringList{"--share", "2/2"});
+  const quint16 secondPort = FreePort();
+  auto second = Bridge(At(broker) + QStringList{"--share", "2/2"}, secondPort);
   auto subscriber =
       std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
   const auto isComplete = [&] {
@@ -158,26 +179,41 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   EXPECT_EQ(Get(port, "/metrics").count("\nprojector_up{"), projectors);
   EXPECT_EQ(Get(port, "/healthz"), "ok\n");
   EXPECT_THAT(Get(port, "/probe?target=Nobody").toStdString(), HasSubstr("no projector"));
+  const int on = OneThatIsOn(port);
+  const int another = OneThatIsOn(secondPort);
+  EXPECT_EQ(Get(port, Probe(on)).count("\nprojector_up{projector=\"" + NameOf(on) + "\"} 1\n"), 1);
+
+  // Nobody has allowed commands.
+  Publish(broker,
+          {"-t", "projectors/" + subscriber->Find("standby", {}) + "/set/power", "-m", "on"});
 
   // One with the same share stands back, and visits nobody.
-  const auto third = Bridge(At(broker) + QStringList{"--share", "2/2"});
+  const quint16 thirdPort = FreePort();
+  const auto third = Bridge(At(broker) + QStringList{"--share", "2/2"}, thirdPort);
   EXPECT_TRUE(third->Says("stands back"));
+  EXPECT_EQ(Get(thirdPort, Probe(another)), "The bridge does not have its share.\n");
   EXPECT_TRUE(second->Says("another bridge has the same share"));
 
-  // A broker that remembers gets nothing twice.
+  // A broker that remembers gets nothing twice, and what has changed meanwhile.
   ASSERT_TRUE(Soon([&] {
     return Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}") == projectors;
   }));
   const double sent = Metric(port, "projector_bridge_messages_total{kind=\"state\"}");
   broker.Stop();
   EXPECT_TRUE(Soon([&] { return Metric(port, "projector_bridge_broker_connected") == 0; }));
+  EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
+  EXPECT_TRUE(Soon([&] {
+    return Metric(port,
+                  "projector_power_state{projector=\"" + NameOf(on) + "\",state=\"standby\"}") == 1;
+  }));
   broker.Start();
   EXPECT_TRUE(Soon([&] { return Metric(port, "projector_bridge_broker_connected") == 1; }));
   subscriber =
       std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
   EXPECT_TRUE(
       Soon([&] { return isComplete() && subscriber->With("/availability", "online") == 2; }));
-  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"state\"}"), sent);
+  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"state\"}"), sent + 1);
+  EXPECT_EQ(subscriber->StateOf(NameOf(on))["power"], "standby");
   EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}"), projectors);
 
   // A bridge dies. The broker says so, and the one that stood back takes over.
@@ -192,6 +228,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   const QRegularExpression most("at-once (\\d+)");
   EXPECT_LE(most.match(QString::fromStdString(Control("* count"))).captured(1).toInt(), 1)
       << "never two connections to a projector";
+  EXPECT_EQ(Changes(), "0") << "without --allow-commands";
 }
 
 TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
@@ -265,7 +302,11 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_TRUE(bridge->Says("a signal switched commands on"));
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "accepted");
 
-  // The projector falls silent.
+  // The projector refuses, and falls silent.
+  EXPECT_TRUE(
+      Soon([&] { return subscriber.Json("projectors/" + id + "/state")["power"] == "on"; }));
+  EXPECT_EQ(Control("* refuse"), "ok");
+  EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "refused");
   EXPECT_EQ(Control("* silent"), "ok");
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "no-answer");
 
@@ -333,6 +374,25 @@ TEST_F(BridgeProgram, ProvesWhoItIs) {
   EXPECT_TRUE(Bridge(at("wrong", true))->Says("not connected to the broker: Connection Refused"));
   EXPECT_TRUE(Bridge(at("password", false))->Says("not connected to the broker"));
   EXPECT_TRUE(Bridge(at("password", true))->Says(": connected to the broker"));
+  EXPECT_TRUE(Bridge(at("password", true).replaceInStrings("localhost", "127.0.0.1"))
+                  ->Says("not connected to the broker"))
+      << "the broker's certificate has another name";
+}
+
+TEST_F(BridgeProgram, TriesAgainAfterGrowingPauses) {
+  StartProjectors(1);
+  QTcpServer server;
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  std::vector<std::chrono::steady_clock::time_point> tries;
+  QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
+    while (QTcpSocket* const client = server.nextPendingConnection()) {
+      tries.push_back(std::chrono::steady_clock::now());
+      client->abort();
+    }
+  });
+  const auto bridge = Bridge({"--broker", QString("127.0.0.1:%1").arg(server.serverPort())});
+  ASSERT_TRUE(Soon([&] { return tries.size() >= 4; }));
+  EXPECT_GE(tries[3] - tries[0], std::chrono::seconds(3)) << "half a second, one and two";
 }
 
 TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {

@@ -1,5 +1,6 @@
 #include "fleet/SearchProfiles.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
@@ -100,8 +101,13 @@ std::optional<std::size_t> Taker::Find(const FoundProjector& found,
   }
   const auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
   if (there == byAddress_.end()) return std::nullopt;
-  // Where two are told apart by what they are, the address says nothing.
-  const bool isOther = entries_[there->second].contains("identity") && !identities.isEmpty();
+  // Where two are told apart by what they are, the address says nothing. A serial number and a MAC
+  // number, or an identity that was made up, tell nothing apart.
+  const QString kind =
+      entries_[there->second]["identity"].toString().section(QLatin1Char(':'), 0, 0);
+  const bool isOther = std::ranges::any_of(identities, [&](const QString& identity) {
+    return identity.section(QLatin1Char(':'), 0, 0) == kind;
+  });
   return isOther ? std::nullopt : std::optional(there->second);
 }
 

@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <utility>
 
+#include <QUrl>
+
 namespace AdvancedControl {
 
 namespace {
@@ -19,10 +21,13 @@ void SocketNetwork::Connect(Peer peer, const std::string& host, std::uint16_t po
     connection.Begin({}, port);
     return Open(peer, *address);
   }
-  connection.Begin(host, port);
-  if (names_.IsKnown(host)) return ConnectByName(peer);
+  // As the channels look it up: a name may have letters of any language.
+  const std::string name = QUrl::toAce(QString::fromStdString(host)).toStdString();
+  connection.Begin(name, port);
+  if (name.empty()) return Fail(peer, Failure::Kind::NotConnected, ConnectionState::NameUnknown);
+  if (names_.IsKnown(name)) return ConnectByName(peer);
   connection.SetStage(Stage::LookingUp);
-  names_.LookUp(peer, host);
+  names_.LookUp(peer, name);
 }
 
 void SocketNetwork::OpenLine(Peer peer, const std::string& device, std::int32_t baud) {

@@ -34,11 +34,12 @@ class FleetTest : public testing::Test {
 TEST_F(FleetTest, WatchesRealProjectors) {
   served.device->Execute({PjtOperation::SetPowerOn});
   fleet.Set({"pjlink", served.PjLink("secret")});
-  fleet.Set({"wire", TcpAddress{.host = "localhost", .port = served.wirePort}});
+  fleet.Set({"wire", TcpAddress{.host = "\uFF4Cocalhost", .port = served.wirePort}});  // any "l"
   fleet.Set({"locked", served.PjLink("wrong")});
   fleet.Set({"other", TcpAddress{.host = "127.0.0.1",
                                  .port = static_cast<std::uint16_t>(served.pjLink.Port())}});
-  fleet.Set({"unnamed", TcpAddress{.host = "no-such-name.invalid"}});
+  // Nobody is asked about a name that is too long.
+  fleet.Set({"unnamed", TcpAddress{.host = std::string(64, 'a')}});
   fleet.Set({"closed", TcpAddress{.host = "127.0.0.1", .port = 1}});
   ASSERT_TRUE(Becomes([&] { return fleet.Tally().begun > 50; }));
   for (const char* const id : {"pjlink", "wire"}) {

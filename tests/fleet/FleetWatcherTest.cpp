@@ -1,11 +1,13 @@
 // A fleet and its projectors in a time of their own.
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
+#include "settings/PageTables.h"
 #include "tests/fleet/SteppedFleet.h"
 
 namespace {
@@ -129,6 +131,8 @@ TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
        {{Code::ErrorStatus, 77}, {Code::InputSource, 9}},
        "answers, on, 9 , 000002, 1200 h, filter 80 h, not blank, not mute, not freeze"},
   };
+  const auto isState = [](const PageRow& row) { return std::holds_alternative<StateRow>(row); };
+  EXPECT_EQ(std::ranges::count_if(kStatusRows.rows, isState), kStatusItems) << "all are read";
   const auto model = std::make_shared<ModelData>();
   model->MySourceList.count = 1;
   model->MySourceList.names[0] = MakeNameSlot("Video");

@@ -199,6 +199,11 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
   EXPECT_TRUE(taken.text.contains("\"x-mine\": true"));
 
   EXPECT_EQ(TakeFound(kFile, {At("192.0.2.1", "A", "1")}, "").text, kFile) << "nothing new";
+  // At an address whose identity was made up, and at one with another kind of identity.
+  const TakenProjectors again = TakeFound(
+      taken.text, {At("192.0.2.5", "", "5"), At("192.0.2.2", "A", "", "00:00:5e:00:53:01")}, "");
+  EXPECT_EQ(again.known, 2U);
+  EXPECT_EQ(again.text, taken.text);
 }
 
 // The simulator program answers, at loopback addresses alone.

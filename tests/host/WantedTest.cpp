@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "host/ProjectorStrip.h"
+#include "pages/common/StatusLine.h"
 #include "pages/rows/RowMarks.h"
 #include "snapshots/Snapshot.h"
 #include "tests/support/DialogDriver.h"
@@ -24,7 +25,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr int kPictureTab = 1, kOptionTab = 7, kOtherTab = 8;
-constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138;
+constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteReset = 20018;
+constexpr int kVolumeField = 20133;
 
 std::string StripText(CAdvanceDlg& dialog) {
   return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->toolTip().toStdString();
@@ -108,6 +110,18 @@ TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
   EXPECT_TRUE(Soon([&] { return !(sent = open.Projector().Take()).empty(); }));
   EXPECT_EQ(sent, reads);
   EXPECT_GT(timer.interval(), 1000) << "the next pause is whole";
+  const auto said = [&open] {
+    return open.Dialog().findChild<StatusLine*>()->findChild<QLabel*>()->text().toStdString();
+  };
+  open.Driver().Click(kExecuteReset);
+  for (int i = 0; i < 2; ++i) {
+    open.Projector().Take();
+    timer.start(1);
+    EXPECT_TRUE(Soon([&] { return !open.Projector().Take().empty(); }));
+    EXPECT_EQ(said(), "Lamp Time reset") << "does not vanish by itself";
+  }
+  open.Dialog().DispTabScreen();
+  EXPECT_EQ(said(), "") << "the user has read the page again";
   Choose(open.Page(), QStringLiteral("Keep up to date"));
   EXPECT_FALSE(timer.isActive());
 }
@@ -152,6 +166,32 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_THAT(Differing(), IsEmpty());
   EXPECT_EQ(Tab(), QStringLiteral("Picture"));
   EXPECT_FALSE(brightness.toolTip().contains(QStringLiteral("Wanted")));
+}
+
+TEST(WantedOfAnInputSource, AsksForTheSourceOnlyIfTheValueIsWanted) {
+  OpenDialog open(FullModel(1, 1), kOptionTab,
+                  [](RecordingChannel& projector) { projector.Answer("GetInputSource", 3); });
+  const auto reads = [&open] {
+    open.Projector().Take();
+    open.Dialog().DispTabScreen();
+    return open.Projector().Take();
+  };
+  auto expected = reads();
+  const int shown = std::stoi(open.Driver().Text(kVolumeField).toStdString());
+  WantedSettings wanted;
+  wanted.Add("picture1.gamma", {}, 1);
+  open.Dialog().SetWanted(wanted);
+  EXPECT_EQ(reads(), expected);
+  wanted.Add("option.volume", 3, shown + 1);
+  wanted.Add("option.volume", 4, shown);
+  open.Dialog().SetWanted(wanted);
+  expected.emplace_back("GetInputSource");
+  EXPECT_EQ(reads(), expected);
+  const auto marks = [&open] { return open.Dialog().findChild<RowMarks*>()->Shown().size(); };
+  EXPECT_EQ(marks(), 1U);
+  open.Projector().Answer("GetInputSource", 4);
+  reads();
+  EXPECT_EQ(marks(), 0U);
 }
 
 TEST_F(WantedTest, CountsPagesThatWereNotReadAsTheHostLastSawThem) {

@@ -7,6 +7,7 @@
 
 #include "i18n/LocalizeControlTexts.h"
 #include "pages/common/PageVeil.h"
+#include "pages/common/WantedSettings.h"
 #include "pages/rows/RowOutcomes.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/RowUse.h"
@@ -127,12 +128,14 @@ void PageReader::ReadAll() {
 // Some settings are kept for each input source although reading them names none. Only wanted values
 // need to know the source.
 void PageReader::FindSourceOfWanted() {
-  if (host_.Dialog().Context().Wanted() == nullptr) return;
+  const WantedSettings* wanted = host_.Dialog().Context().Wanted();
+  if (wanted == nullptr) return;
   Source source;
   bool isAsked = false;
   for (const auto& row : rows_) {
     const auto* value = std::get_if<ValueRow>(&row->Row());
     if (!row->memory.present || value == nullptr || !value->ofCurrentSourceOnly) continue;
+    if (!wanted->Names(value->key)) continue;
     if (!std::exchange(isAsked, true)) {
       source = AskSource(Projector(), OfSource::Current, host_.Dialog().Model().ModelCode);
     }

@@ -61,6 +61,8 @@ void StatusLine::ShowProgress(const QString& text) { Show(text, Tone::Quiet); }
 void StatusLine::ShowOutcome(const CPjtInterface& projector, const CPjtInterface::Tally& before) {
   const CPjtInterface::Tally sent = projector.Sent();
   const QString said = std::exchange(said_, QString());
+  const Tone tone = std::exchange(isRepeated_, false) ? Tone::Quiet : Tone::Alert;
+  shown_.clear();
   if (sent.unanswered > before.unanswered) {
     Show(ProblemText(projector.Connection()), Tone::Alert, true);
   } else if (sent.pending > before.pending) {
@@ -68,7 +70,8 @@ void StatusLine::ShowOutcome(const CPjtInterface& projector, const CPjtInterface
   } else if (sent.busy > before.busy) {
     Show(CatalogString(kListCategory, ListText::NotPossibleNow), Tone::Quiet);
   } else {
-    Show(said, Tone::Alert);
+    shown_ = said;
+    Show(said, tone);
   }
 }
 

@@ -29,8 +29,17 @@ class StatusLine final : public QWidget {
   void ShowProgress(const QString& text);
 
   /// Takes a text about the present work for the next `ShowOutcome`.
-  void Say(const QString& text) { said_ = text; }
+  void Say(const QString& text) {
+    said_ = text;
+    isRepeated_ = false;
+  }
   bool HasSomethingToSay() const { return !said_.isEmpty(); }
+  /// Takes the text that it shows about earlier work, if any, so that it stays. It is not announced
+  /// again.
+  void Repeat() {
+    said_ = shown_;
+    isRepeated_ = true;
+  }
 
   /// Shows the outcome of the commands since `before`: why one was not answered, that a change was
   /// accepted but is not in effect yet, that the projector was busy, or else what was said. Stays
@@ -49,6 +58,8 @@ class StatusLine final : public QWidget {
   QLabel* text_;
   QPushButton* retry_;
   QString said_;
+  QString shown_;  // what was said last; empty if the line shows something more important
+  bool isRepeated_ = false;
 };
 
 }  // namespace AdvancedControl

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <string>
@@ -19,6 +20,12 @@ class WantedSettings {
   }
 
   bool IsEmpty() const { return values_.empty(); }
+
+  /// Whether there is a value for any input source, or for none.
+  bool Names(std::string_view key) const {
+    return std::ranges::any_of(values_,
+                               [key](const auto& value) { return value.first.first == key; });
+  }
 
   /// Nothing if any value will do.
   std::optional<int> ValueOf(std::string_view key, std::optional<int> source) const {

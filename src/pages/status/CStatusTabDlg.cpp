@@ -4,6 +4,7 @@
 
 #include <QApplication>
 
+#include "pages/common/StatusLine.h"
 #include "resources/AdvancedControlResources.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
@@ -57,6 +58,8 @@ void CStatusTabDlg::ReadIfQuiet() {
   const bool isBusy = dialog == nullptr || dialog->IsBusy() || projector->IsWaiting();
   if (!isVisible() || isBusy || QApplication::activePopupWidget() != nullptr) return;
   next_.stop();
+  // What the line says about the user's last action must not vanish by itself.
+  if (auto* line = window()->findChild<StatusLine*>()) line->Repeat();
   ReadAgain();
   if (keepsUpToDate_.isChecked()) next_.start(kPause);
 }

@@ -91,10 +91,13 @@ file(CONFIGURE OUTPUT packaging/Symbols.cmake
      CONTENT "execute_process(COMMAND @gensymbols@ COMMAND_ERROR_IS_FATAL ANY)\n" @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/packaging/Symbols.cmake)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers ${symbols})
+catalog_languages(${PROJECT_SOURCE_DIR}/src/resources/catalog languages)
+list(LENGTH languages languageCount)
+math(EXPR languageCount "${languageCount} + 1")  # English
 set(CPACK_COMPONENT_LIBRARY_DESCRIPTION "live settings dialog for projectors
 A dialog with a tab per group of settings, every value read live from a
 projector and every change sent at once, for applications that manage
-projectors. With its texts in seventeen languages.")
+projectors. With its texts in ${languageCount} languages.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libadvancedcontrol-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)

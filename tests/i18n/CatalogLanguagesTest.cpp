@@ -1,7 +1,10 @@
-#include <array>
+#include <gmock/gmock.h>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include <QLocale>
+#include <QString>
 #include <gtest/gtest.h>
 
 #include "i18n/CatalogLanguages.h"
@@ -13,16 +16,29 @@ namespace {
 const std::vector<std::string> kFolders{TEST_CATALOG_DIR};
 
 TEST(CatalogLanguages, AreThoseOfBothModules) {
-  std::string all;
+  std::vector<std::string> all;
   for (const CatalogLanguage& language : CatalogLanguages(kFolders)) {
-    all += language.tag + ' ' + language.name + ' ' + language.englishName + '\n';
+    all.push_back(language.tag + ' ' + language.name + ' ' + language.englishName);
   }
-  EXPECT_EQ(all,
-            "cs Čeština Czech\nde Deutsch German\nen English English\nes Español Spanish\n"
-            "fi Suomi Finnish\nfr Français French\nhe עברית Hebrew\nhu magyar Hungarian\n"
-            "it Italiano Italian\nja 日本語 Japanese\nko 한국어 Korean\nnl Nederlands Dutch\n"
-            "pl polski Polish\npt Português Portuguese\nru Русский Russian\n"
-            "zh-CN 简体中文 Simplified Chinese\nzh-TW 繁體中文 Traditional Chinese\n");
+  EXPECT_EQ(all.size(), CATALOG_LANGUAGE_COUNT);
+  const std::vector<std::string> known{"cs Čeština Czech",
+                                       "de Deutsch German",
+                                       "en English English",
+                                       "es Español Spanish",
+                                       "fi Suomi Finnish",
+                                       "fr Français French",
+                                       "he עברית Hebrew",
+                                       "hu magyar Hungarian",
+                                       "it Italiano Italian",
+                                       "ja 日本語 Japanese",
+                                       "ko 한국어 Korean",
+                                       "nl Nederlands Dutch",
+                                       "pl polski Polish",
+                                       "pt Português Portuguese",
+                                       "ru Русский Russian",
+                                       "zh-CN 简体中文 Simplified Chinese",
+                                       "zh-TW 繁體中文 Traditional Chinese"};
+  EXPECT_THAT(all, testing::IsSupersetOf(known));
 }
 
 TEST(CatalogLanguages, AreFoundByWhatPeopleCallThem) {
@@ -42,9 +58,17 @@ TEST(CatalogLanguages, AreFoundByWhatPeopleCallThem) {
   for (const auto& [id, names] : kCases) {
     for (const char* name : names) EXPECT_EQ(FindLanguage(languages, name), id) << name;
   }
-  for (const char* name : {"", "sv", "1053", "C", "klingon", "0", "99999999999", "x\xFF"}) {
+  for (const char* name : {"", "smn", "9275", "C", "klingon", "0", "99999999999", "x\xFF"}) {
     EXPECT_FALSE(FindLanguage(languages, name)) << name;
   }
+}
+
+// The captions of a language; those that it lacks are empty.
+std::vector<std::optional<std::string>> Captions(const CatalogTexts& texts, std::uint32_t id) {
+  constexpr int kCount = 400;
+  std::vector<std::optional<std::string>> captions(kCount);
+  for (int i = 0; i < kCount; ++i) captions[i] = texts.Find(id, 4, i);
+  return captions;
 }
 
 // What --language chooses becomes the system language, and every region has its language's texts.
@@ -52,12 +76,14 @@ TEST(CatalogLanguages, EveryRegionIsALocaleWithTheTextsOfItsLanguage) {
   constexpr std::uint32_t kTraditionalSort = 1034;  // of Spanish, with the locale of the modern one
   const CatalogTexts texts(kFolders);
   const std::vector<CatalogLanguage> languages = CatalogLanguages(kFolders);
+  EXPECT_TRUE(texts.Find(1033, 4, 73));
   for (const CatalogLanguage& language : languages) {
-    const auto text = texts.Find(language.id, 4, 73);
-    ASSERT_TRUE(text) << language.tag;
+    const auto captions = Captions(texts, language.id);
+    const bool isMirrored =
+        QLocale(QString::fromStdString(language.tag)).textDirection() == Qt::RightToLeft;
     for (const std::uint32_t id : language.regions) {
-      EXPECT_EQ(texts.Find(id, 4, 73), text) << id;
-      EXPECT_EQ(IsRightToLeft(id), language.tag == "he") << id;
+      EXPECT_EQ(Captions(texts, id), captions) << id;
+      EXPECT_EQ(IsRightToLeft(id), isMirrored) << id;
       if (id == kTraditionalSort) continue;
       EXPECT_EQ(FindLanguage(languages, LocaleOf(id)), id) << LocaleOf(id);
     }

@@ -29,7 +29,6 @@ void ShareKeeper::Connected(Time now) {
   isSettled_ = hasClaimed_ = remembers_ = false;
   isOnline_ = true;
   beaten_.reset();
-  rival_.clear();
   // The holder needs time to connect again, too.
   heard_ = now;
 }
@@ -45,13 +44,8 @@ void ShareKeeper::TakeHolder(const Holder& holder, Time now) {
   }
   if (holder == gone_) return;
   if (role_ == Role::Holding && hasClaimed_) {
-    // One that claims the share at the same time hears of this one first, and says no more. One
-    // that goes on has taken over while this one hung; both then choose alike.
-    const bool goesOn = std::exchange(rival_, holder.instance) == holder.instance;
-    if (!goesOn || instance_ > holder.instance) {
-      beaten_.reset();  // so that the other one hears it
-      return;
-    }
+    beaten_.reset();  // so that the other one hears who was first
+    return;
   }
   StandBack(holder, now);
 }

@@ -28,9 +28,7 @@ std::optional<Holder> ParseHolder(const QByteArray& message);
 /// Whoever connects subscribes first, then says hello on a topic of the share: once the hello comes
 /// back, all retained messages have come. Of two bridges that claim the share at the same time the
 /// one whose message the broker took first keeps it, because the other one receives that message
-/// before its own. A holder that hung, and was replaced without losing its connection, hears the
-/// other one again and again: the one with the greater name keeps the share. It has no clock and no
-/// connection, so that tests can play any order.
+/// before its own. It has no clock and no connection, so that tests can play any order.
 class ShareKeeper {
  public:
   using Time = std::chrono::steady_clock::time_point;
@@ -79,7 +77,6 @@ class ShareKeeper {
   bool isOnline_ = true;     ///< What the broker says of the holder.
   std::uint64_t beat_ = 0;
   std::optional<Time> beaten_{};
-  std::string rival_{};             ///< Who claimed the share after this one had it.
   std::optional<Holder> holder_{};  ///< The last other one.
   Time heard_{};                    ///< From it.
   std::optional<Holder> gone_{};    ///< Whose share was taken over, and its last message.

@@ -7,6 +7,7 @@ import tempfile
 import unittest
 
 from bus import (SECONDS, Atspi, Keyboard, children, has, press, program_of, shown_in, until)
+from gi.repository import GLib
 
 PROGRAM = ""  # its path
 
@@ -56,8 +57,17 @@ class Window:
     def rows(self):
         """A list of texts for each row: name, state, power and so on."""
         table = self.table.get_table_iface()
-        return [[table.get_accessible_at(row, column).get_name()
+        return [[self.text_at(table, row, column)
                  for column in range(table.get_n_columns())] for row in range(table.get_n_rows())]
+
+    @staticmethod
+    def text_at(table, row, column):
+        """Empty for a row that has just gone."""
+        try:
+            cell = table.get_accessible_at(row, column)
+            return cell.get_name() if cell else ""
+        except GLib.Error:
+            return ""
 
     def names(self):
         return [row[0] for row in self.rows()]

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <csignal>
 #include <gmock/gmock.h>
-#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -16,77 +15,13 @@
 #include <gtest/gtest.h>
 
 #include "tests/bridge/Daemons.h"
+#include "tests/bridge/Subscriber.h"
 
 namespace {
 
 using testing::HasSubstr;
 
 constexpr int kCount = 500;
-
-/// mosquitto_sub, and the last message of each topic.
-class Subscriber {
- public:
-  Subscriber(quint16 port, const QStringList& topics) {
-    QStringList arguments{"-p", QString::number(port), "-q", "1", "-F", "%t %r %p"};
-    for (const QString& topic : topics) arguments << "-t" << topic;
-    daemon_ = std::make_unique<Daemon>("mosquitto_sub", arguments);
-  }
-
-  const std::map<QByteArray, QByteArray>& Last() {
-    const QByteArray& said = daemon_->Said();
-    for (auto end = said.indexOf('\n', read_); end >= 0; end = said.indexOf('\n', read_)) {
-      const QByteArray line = said.mid(read_, end - read_);
-      read_ = end + 1;
-      const auto topic = line.left(line.indexOf(' '));
-      last_[topic] = line.mid(topic.size() + 3);
-      ++counts_[topic];
-    }
-    return last_;
-  }
-  QJsonObject Json(const QByteArray& topic) {
-    const auto& last = Last();
-    const auto found = last.find(topic);
-    return found == last.end() ? QJsonObject() : QJsonDocument::fromJson(found->second).object();
-  }
-  /// The level of a projector in this power state whose discovery message has these settings; empty
-  /// until there is one.
-  QByteArray Find(const char* power, const std::vector<const char*>& settings) {
-    for (const auto& [topic, payload] : Last()) {
-      const QByteArray level = topic.split('/')[1];
-      const auto config = last_.find("homeassistant/device/" + level + "/config");
-      if (!topic.endsWith("/state") || config == last_.end() || Json(topic)["power"] != power) {
-        continue;
-      }
-      const auto has = [&](const char* key) {
-        return config->second.contains("/set/" + QByteArray(key) + '"');
-      };
-      if (std::ranges::all_of(settings, has)) return level;
-    }
-    return {};
-  }
-  /// The state of the projector of this name.
-  QJsonObject StateOf(const QByteArray& name) {
-    for (const auto& [topic, payload] : Last()) {
-      if (topic.endsWith("/state") && Json(topic)["name"] == QString(name)) return Json(topic);
-    }
-    return {};
-  }
-  bool Saw(const char* text) { return daemon_->Said().contains(text); }
-  int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
-  /// How many topics with this end have a message that contains a text.
-  int With(const char* end, const char* text = "") {
-    int count = 0;
-    for (const auto& [topic, payload] : Last())
-      count += topic.endsWith(end) && payload.contains(text);
-    return count;
-  }
-
- private:
-  std::unique_ptr<Daemon> daemon_;
-  qsizetype read_ = 0;
-  std::map<QByteArray, QByteArray> last_;
-  std::map<QByteArray, int> counts_;
-};
 
 class BridgeProgram : public testing::Test {
  protected:

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #include "Namespace.h"
@@ -15,7 +14,7 @@ namespace AdvancedControl {
 
 /// A channel of a work in a `JobLoop`: the others go on while it waits for the projector. Drives a
 /// session as the channels of the dialog do. Closes the connection at its end.
-class JobChannel : public ProjectorChannel {
+class JobChannel : public ProjectorChannel, protected JobLoop::Receiver {
  public:
   ~JobChannel() override;
   JobChannel(const JobChannel&) = delete;
@@ -23,13 +22,6 @@ class JobChannel : public ProjectorChannel {
 
   /// The inputs that a PJLink projector tells; none for any other.
   virtual std::vector<PjLinkInput> AskForInputs() { return {}; }
-
-  // Reports of the loop.
-
-  virtual void Connected() = 0;
-  virtual void NotConnected(ConnectionState problem, SessionTime now) = 0;
-  virtual void Received(std::string_view bytes, SessionTime now) = 0;
-  virtual void Closed(SessionTime now) = 0;
 
  protected:
   JobChannel(JobLoop& loop, JobLoop::Peer peer, const FleetTarget& target);

@@ -54,11 +54,3 @@ struct Arguments {
 
   std::string error;  ///< One line; empty if the arguments are correct.
 };
-
-/// Reads the arguments, without the program's name, after the user's configuration file and the
-/// environment, which give defaults.
-Arguments ParseArguments(const std::vector<std::string>& words);
-
-/// Adds "KEY=VALUE", "KEY+=N" or "KEY-=N" to the words of `set`, as a key and a value. False if it
-/// is none of these.
-bool AddAssignment(const std::string& word, std::vector<std::string>& words);

@@ -10,6 +10,7 @@
 #include "app/acctl/Listing.h"
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
+#include "app/acctl/ParseArguments.h"
 #include "app/acctl/Password.h"
 #include "app/acctl/ProfileTables.h"
 #include "app/acctl/ProjectorRuns.h"

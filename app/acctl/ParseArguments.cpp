@@ -1,4 +1,4 @@
-#include "app/acctl/Arguments.h"
+#include "app/acctl/ParseArguments.h"
 
 #include <algorithm>
 

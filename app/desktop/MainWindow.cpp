@@ -32,6 +32,7 @@
 #include "app/desktop/work/WorkActions.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
+#include "toolkit/Accessibility.h"
 #include "toolkit/Icons.h"
 
 namespace {
@@ -85,6 +86,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
                                             .drift = presets_->Drift(),
                                             .window = *this})),
       dialogs_(std::make_unique<DialogKeeper>(*this, settings)) {
+  InstallAccessibility();  // the panels have lists
   setCentralWidget(pane_);
   MakeDocks(*this, *alerts_, *faults_, *log_);
   MakeMenus(*this, {.pane = *pane_,

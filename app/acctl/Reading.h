@@ -15,7 +15,7 @@ std::optional<PowerState> AskPower(ProjectorAccess& projector);
 
 /// Whether a healthy projector cannot report or do something now, because it is in standby or
 /// changes its power state. False if it does not say.
-bool Rests(std::optional<PowerState> power);
+bool IsResting(std::optional<PowerState> power);
 /// The code of this problem.
 const char* RestCodeOf(PowerState power);
 

@@ -210,8 +210,8 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
   const bool isBusy = after.busy > before.busy;
   if (isBusy || (!accepted && !result.now)) {
     const auto power = AskPower(projector_);
-    if (Rests(power) || isBusy) {
-      return Fail(result, "busy", Rests(power) ? RestCodeOf(*power) : ProblemCode::Busy,
+    if (IsResting(power) || isBusy) {
+      return Fail(result, "busy", IsResting(power) ? RestCodeOf(*power) : ProblemCode::Busy,
                   BusyText(power), ExitCode::Refused);
     }
   }

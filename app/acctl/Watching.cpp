@@ -145,7 +145,7 @@ class ProjectorWatch {
   void AddUnread(ProjectorAccess& projector, const ModelSetting& setting) {
     Problem problem =
         FailureOf(projector, {ProblemCode::NotReadable, NotReadable(), std::string(setting.key)});
-    if (const auto power = AskPower(projector); Rests(power)) {
+    if (const auto power = AskPower(projector); IsResting(power)) {
       problem.text = RestingText(problem.text, *power);
     }
     Add(problem);

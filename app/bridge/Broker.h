@@ -69,7 +69,7 @@ class Broker {
   QString Configure(const BrokerAddress& address, const std::optional<BrokerMessage>& will);
   void SetCallbacks();
   void Run();
-  void Tell(std::function<void()> what);
+  void QueueCall(std::function<void()> what);
 
   const BrokerAddress address_;
   const Listener listener_;

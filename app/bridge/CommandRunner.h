@@ -18,11 +18,11 @@ class CommandRunner {
   static constexpr std::size_t kMostWaiting = 256;
   static constexpr std::size_t kAtOnce = FleetJob::kMostThreads;
 
-  using Told =
+  using OnResult =
       std::function<void(std::size_t projector, const Command& command, const WorkResult& result)>;
 
   /// `fleet` and `texts` must outlive it.
-  CommandRunner(Fleet& fleet, const SettingTexts& texts, Told told);
+  CommandRunner(Fleet& fleet, const SettingTexts& texts, OnResult onResult);
   /// Cancels what is under way, and waits for it.
   ~CommandRunner();
   CommandRunner(const CommandRunner&) = delete;
@@ -49,7 +49,7 @@ class CommandRunner {
 
   Fleet& fleet_;
   const SettingTexts& texts_;
-  const Told told_;
+  const OnResult onResult_;
   QObject context_;
   std::deque<Waiting> waiting_;
   std::map<std::size_t, Running> running_;  ///< By projector.

@@ -129,7 +129,7 @@ void MainWindow::Connect() {
   auto* status = new FleetSummary;
   statusBar()->addPermanentWidget(status);
   connect(pane_, &ListPane::Counted, status, &FleetSummary::Show);
-  connect(work_, &WorkActions::Told, this,
+  connect(work_, &WorkActions::Reported, this,
           [this](const QString& text) { statusBar()->showMessage(text, kToldFor); });
   connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
   connect(faults_, &FaultPanel::Changed, this,

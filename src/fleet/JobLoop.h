@@ -56,7 +56,7 @@ class JobLoop final : private FleetNetwork::Listener {
   void Closed(Peer peer) override;
   void Noticed(const FleetNetwork::Notice&) override {}
   /// Tells a work's receiver what happened.
-  void Tell(Peer peer, const auto& what);
+  void Notify(Peer peer, const auto& what);
   /// Continues each work that has waited long enough. The time at which the next one has.
   SessionTime Continue();
 

@@ -132,7 +132,7 @@ class Importer {
     entries_.push_back(entry);
   }
   std::optional<std::size_t> Find(const QString& identity, const QString& name) const;
-  JsonEdit::Members Told(const Cells& cells, bool isNew) const;
+  JsonEdit::Members MembersOf(const Cells& cells, bool isNew) const;
   void SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const;
   bool Take(const Cells& cells);
 
@@ -174,7 +174,7 @@ void Importer::SetModel(const Cells& cells, bool isNew, JsonEdit::Members& membe
   members.push_back({"modelCode", 0});
 }
 
-JsonEdit::Members Importer::Told(const Cells& cells, bool isNew) const {
+JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
   JsonEdit::Members members;
   const auto tell = [&members](const char* key, const QString& text) {
     if (!text.isEmpty()) members.push_back({key, text});
@@ -212,7 +212,7 @@ JsonEdit::Members Importer::Told(const Cells& cells, bool isNew) const {
 bool Importer::Take(const Cells& cells) {
   const QString name = One(cells, CsvColumn::Name);
   const auto known = Find(Identity(cells), name);
-  const JsonEdit::Members members = Told(cells, !known);
+  const JsonEdit::Members members = MembersOf(cells, !known);
   QJsonObject entry = known ? entries_[*known] : QJsonObject();
   for (const auto& [key, value] : members) {
     const auto before = entry[key].toObject()["network"].toObject();

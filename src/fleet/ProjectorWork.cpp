@@ -61,13 +61,13 @@ const Snapshot* SnapshotOf(const SnapshotsById& snapshots, const std::string& id
 ProjectorWork::ProjectorWork(const FleetTarget& target,
                              const std::shared_ptr<ProjectorChannel>& channel,
                              const SettingTexts& texts, const std::function<bool()>& goesOn,
-                             Told told)
+                             Observer observer)
     : id_(target.id),
       texts_(texts),
       goesOn_(goesOn),
       settings_(target.model ? *target.model : ModelData()),
       progress_{.goesOn = [this] { return goesOn_() && !IsGone(); }} {
-  connection_.SetChannel(std::make_shared<LearningChannel>(channel, std::move(told)));
+  connection_.SetChannel(std::make_shared<LearningChannel>(channel, std::move(observer)));
   auto* const asked = dynamic_cast<JobChannel*>(channel.get());
   const bool isPjLink = std::holds_alternative<PjLinkAddress>(target.address);
   if (asked == nullptr || !isPjLink || settings_.Model().MySourceList.Size() > 0) return;

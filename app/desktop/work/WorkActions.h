@@ -26,7 +26,7 @@ class WorkActions : public QObject {
 
  Q_SIGNALS:
   /// The result of the work on a single projector, for the status bar.
-  void Told(const QString& text);
+  void Reported(const QString& text);
 
  private:
   const WorkDialog::NameOf nameOf_;

@@ -102,7 +102,7 @@ void SetRun::Make() {
       MakeSteps(result);
     } else {
       ReadAgain(result);
-      // Others were changed already, so that this is no wrong use.
+      // Not wrong usage, because other settings were changed already.
       if (!result.aim) {
         result.aim = AimOf(*result.change, work_, TargetOf(projector_), result.before,
                            ExitCode::Refused, report_);
@@ -128,7 +128,7 @@ void SetRun::Make(Result& result) {
                                    {work_.texts.Shown().Value(setting, *result.aim), result.source,
                                     ProgressOf(work_, projector_).goesOn});
   const CPjtInterface::Tally after = connection.Sent();
-  // A setter without a result says nothing; reading the setting does.
+  // The setter has no result, so only reading the setting shows whether it succeeded.
   if (!projector_.Channel().IsGone() && setting.readable) {
     result.now = projector_.Settings().Read(connection, setting, result.source);
   }
@@ -303,7 +303,7 @@ QJsonObject SetRun::Describe(const Result& result) const {
   return json;
 }
 
-/// Says that nobody can tell what was there before, nor restore it.
+/// Reports that the earlier value is unknown and cannot be restored.
 void SetRun::AddUnknownBefore(const Result& result) {
   const ModelSetting& setting = *result.change->setting;
   const bool wasReached = std::string_view(result.outcome) != "notDone";

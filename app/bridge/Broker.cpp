@@ -131,7 +131,7 @@ void Broker::Run() {
     refusal_ = 0;
     int code = mosquitto_connect(client_.get(), host.constData(), address_.port, kKeepAlive);
     {
-      // What ends the connection did nothing if it came before it was made.
+      // Ending the connection had no effect if it was requested before the connection existed.
       const std::lock_guard lock(mutex_);
       if (isEnding_) return;
     }

@@ -11,8 +11,8 @@
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 
-/// Carries commands out, one after the other at each projector. Belongs to one thread, on which it
-/// tells the results.
+/// Carries commands out, one after the other for each projector. Belongs to one thread, on which it
+/// reports the results.
 class CommandRunner {
  public:
   static constexpr std::size_t kMostWaiting = 256;
@@ -30,7 +30,8 @@ class CommandRunner {
 
   /// False if too many wait.
   bool Add(std::size_t projector, FleetTarget target, Command command);
-  /// Stops all: those that wait are told as stopped at once, the others when they have ended.
+  /// Stops all commands. The results of waiting commands are reported at once, those of the others
+  /// when they have ended.
   void StopAll();
 
  private:

@@ -112,7 +112,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
   pane_->View().FocusTable();
 }
 
-// What uses the projectors ends before them.
+// Destroys the users of the projectors before the projectors.
 MainWindow::~MainWindow() {
   faults_->SetSession(nullptr);
   delete work_;
@@ -178,7 +178,7 @@ void MainWindow::ConnectAlerts() {
   });
 }
 
-// A simulation that nobody looks at needs no session.
+// A session is only made for a simulation that is shown.
 void MainWindow::TakeSelection() {
   const ProjectorRow* current = pane_->View().Current();
   const auto* dock = findChild<QDockWidget*>(QStringLiteral("simulation"));

@@ -71,7 +71,7 @@ void PresetActions::Take() {
                   .question = {},
                   .parts = {{.work = TakeSnapshots(), .targets = {target}}}},
                  [this, name, model = target.model](const WorkRun& run) {
-                   if (run.Taken().empty()) return;  // the work said why
+                   if (run.Taken().empty()) return;  // the work has shown the reason
                    Snapshot taken = *run.Taken().begin()->second;
                    taken.projector = name;
                    AskWhatToSave(std::move(taken), *model);

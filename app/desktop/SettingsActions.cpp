@@ -80,7 +80,7 @@ void SettingsActions::Write(Saving& saving, const WorkRun& run) {
   }
   if (!errors.isEmpty())
     return ShowError(parts_.window, tr("Save Settings"), errors.join(QLatin1Char('\n')));
-  if (saving.saved.size() == before) return;  // the work said why
+  if (saving.saved.size() == before) return;  // the work has shown the reason
   int unread = 0;
   for (const WorkLine& line : run.Lines()) unread += line.unread;
   const QString place = QDir::toNativeSeparators(saving.path);

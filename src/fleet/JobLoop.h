@@ -12,8 +12,8 @@
 
 namespace AdvancedControl {
 
-/// Works on several projectors at a time on one thread. Each work is a fiber, and waits for its
-/// projector in a `JobChannel`, while the others go on.
+/// Works on several projectors at the same time on one thread. Each of them has a fiber for its
+/// work, which waits for the projector in a `JobChannel` while the other fibers go on.
 class JobLoop final : private FleetNetwork::Listener {
  public:
   using Peer = FleetNetwork::Peer;
@@ -34,11 +34,11 @@ class JobLoop final : private FleetNetwork::Listener {
 
   // For channels, in a work:
 
-  /// The receiver gets the events of the work's connection; null for none.
+  /// Sets who gets the events of the work's connection; null for none.
   void SetReceiver(Peer peer, Receiver* receiver) { works_[peer].receiver = receiver; }
   FleetNetwork& Network() { return network_; }
-  /// Waits until something happens at the work's connection, or until then, at least for one look
-  /// at the network.
+  /// Waits for an event of the connection, or until the time `until`. Always checks the network at
+  /// least once.
   void Wait(Peer peer, SessionTime until);
 
  private:
@@ -46,7 +46,7 @@ class JobLoop final : private FleetNetwork::Listener {
     std::unique_ptr<Fiber> fiber;
     Receiver* receiver = nullptr;
     SessionTime until{};  ///< Waits until then.
-    bool goesOn = true;   ///< As something has happened.
+    bool goesOn = true;   ///< There was an event for it.
   };
 
   void Connected(Peer peer) override;
@@ -57,7 +57,7 @@ class JobLoop final : private FleetNetwork::Listener {
   void Noticed(const FleetNetwork::Notice&) override {}
   /// Tells a work's receiver what happened.
   void Notify(Peer peer, const auto& what);
-  /// Continues each work that has waited long enough. The time at which the next one has.
+  /// Resumes all work that has waited long enough. Returns when the next one is due.
   SessionTime Continue();
 
   SocketNetwork network_;

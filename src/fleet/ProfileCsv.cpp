@@ -168,7 +168,7 @@ void Importer::SetModel(const Cells& cells, bool isNew, JsonEdit::Members& membe
   const QJsonObject like = families_[family].toObject();
   if (!model.isEmpty() && like["model"].toString() != model) members.push_back({"model", model});
   if (!isNew || !family.isEmpty()) return;
-  // Of which no more is known than what the protocol tells.
+  // Nothing is known of it but what the protocol reports.
   if (model.isEmpty()) members.push_back({"model", "PJLink"});
   members.push_back({"dialogType", 0});
   members.push_back({"modelCode", 0});
@@ -217,7 +217,7 @@ bool Importer::Take(const Cells& cells) {
   for (const auto& [key, value] : members) {
     const auto before = entry[key].toObject()["network"].toObject();
     entry[key] = value;
-    // A table seldom tells the password, and one without it does not take it away.
+    // Tables seldom have passwords, so a table without one does not remove it.
     if (key != QLatin1String("connection") || !before.contains("secret")) continue;
     QJsonObject network = value.toObject()["network"].toObject();
     if (network.isEmpty() || network.contains("secret")) continue;

@@ -12,7 +12,7 @@ namespace AdvancedControl {
 
 namespace {
 
-/// The outcomes of a restoration that say that something was not done, the gravest first.
+/// The outcomes of a restoration in which something was not done, the most serious first.
 struct Failure {
   Outcome outcome;
   const char* reason;
@@ -140,7 +140,8 @@ WorkResult ProjectorWork::Do(const CompareSnapshots& compare) {
   restoration.Read(progress_);
   if (IsGone()) return Unanswered();
   if (!goesOn_()) return {.outcome = WorkOutcome::Stopped};
-  // One that reports nothing now, as in standby, is not known to be as it should be.
+  // A projector that reports nothing now, for example in standby, is not known to have the right
+  // values.
   const int differing = restoration.Count(Outcome::Differs);
   const bool isKnown = differing + restoration.Count(Outcome::AlreadySo) > 0;
   return {.outcome = WorkOutcome::Done,

@@ -100,7 +100,7 @@ std::optional<std::size_t> Taker::Find(const FoundProjector& found,
   }
   const auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
   if (there == byAddress_.end()) return std::nullopt;
-  // Where two are told apart by what they are, the address says nothing.
+  // A projector with another identity is a different one, even at the same address.
   const bool isOther = entries_[there->second].contains("identity") && !identities.isEmpty();
   return isOther ? std::nullopt : std::optional(there->second);
 }
@@ -171,7 +171,7 @@ void Taker::Add(const FoundProjector& found, const QStringList& identities) {
     inputs.append(QJsonObject{{"name", Text(std::string(NameText(sources.names[i])))},
                               {"value", sources.firstValues[i]}});
   }
-  // Where it told none, it is asked later.
+  // If it reported none, it is asked later.
   members.push_back({"mySources", inputs});
   edits_.Add(members);
   names_.insert(name);

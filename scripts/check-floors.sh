@@ -50,7 +50,7 @@ done
 for folder in desktop/*/; do
   folder=${folder%/}
   if grep -rnE --include='*.h' --include='*.cpp' '^#include "app/desktop/' "$folder" |
-    grep -vE "#include \"app/($folder|desktop/(projectors|presets))/|#include \"app/desktop/(MakeAction|Mnemonic|Modal)\.h\""; then
+    grep -vE "#include \"app/($folder|desktop/(projectors|presets))/|#include \"app/desktop/(Mnemonic|Modal)\.h\""; then
     echo "app/$folder includes another folder of the host application"
     wrong=1
   fi

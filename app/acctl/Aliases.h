@@ -9,13 +9,13 @@
 /// A short name of a setting, for keys that mean the same on different models.
 struct Alias {
   std::string_view name;
-  std::vector<std::string_view> keys;  ///< The first one that a model has is meant.
+  std::vector<std::string_view> keys;  ///< The first one that a model has is used.
 };
 
 std::span<const Alias> Aliases();
 
-/// The setting of a key or of a short name, or null. Of several keys of a short name, one for which
-/// `fits` is true comes first.
+/// The setting with this key or short name, or null. If several keys have the short name, one for
+/// which `fits` is true is preferred.
 const ModelSetting* FindSetting(
     const ModelSettings& model, std::string_view word,
     bool (*fits)(const ModelSetting&) = [](const ModelSetting&) { return true; });

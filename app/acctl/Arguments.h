@@ -10,13 +10,13 @@
 
 enum class Format { Text, Json, JsonLines, Tsv, Value };
 
-/// How projectors are reached.
+/// How to connect to projectors.
 struct ConnectingOptions {
-  std::string address{};       ///< Where the projector is, instead of its profile's address.
-  std::uint16_t port = 0;      ///< Of `Find`; 0 for that of PJLink.
-  std::string password{};      ///< Of PJLink projectors whose profile has none.
-  std::string passwordFile{};  ///< The file that has the password; empty for none.
-  std::chrono::milliseconds timeOut{2000};  ///< For one answer.
+  std::string address{};                    ///< Replaces the address in the profile.
+  std::uint16_t port = 0;                   ///< The port that `Find` asks; 0 for PJLink's.
+  std::string password{};                   ///< For PJLink projectors whose profile has none.
+  std::string passwordFile{};               ///< The file that has the password; empty for none.
+  std::chrono::milliseconds timeOut{2000};  ///< Limit for one answer.
   int retries = 0;                          ///< Further attempts to reach a silent projector.
   int jobs = 0;                             ///< Projectors at once; 0 for the command's default.
 };
@@ -25,40 +25,33 @@ struct ConnectingOptions {
 struct Arguments {
   Command command = Command::Help;
   std::optional<Command> topic;         ///< The command of which `Help` or `Man` shows the page.
-  std::vector<std::string> projectors;  ///< Selections, as they were typed.
+  std::vector<std::string> projectors;  ///< Which projectors to select, as typed.
   std::string where;                    ///< Conditions; empty for none.
   std::string file;                     ///< A file or folder; "-" is a standard stream.
-  /// What follows: keys, for `Set` each followed by its value; otherwise what the command takes.
+  /// The remaining words: keys, for `Set` each followed by its value; otherwise the command's own
+  /// arguments.
   std::vector<std::string> words;
 
   std::string profiles;  ///< Empty for the file that comes with the program.
   ConnectingOptions connecting;
-  std::vector<std::string> only;             ///< Patterns of keys; empty for all.
-  std::string folder;                        ///< Of `Save`: a file for each projector goes there.
-  std::string undoFolder;                    ///< Empty for the user's own.
-  int undoDays = 30;                         ///< Older undo files are removed.
-  std::optional<std::uint32_t> language;     ///< Of texts; without one, the system's.
-  std::chrono::milliseconds interval{1000};  ///< Of `Watch`.
+  std::vector<std::string> only;                  ///< Patterns of keys; empty for all.
+  std::string folder;                             ///< Where `Save` puts a file for each projector.
+  std::string undoFolder;                         ///< Empty for the user's default folder.
+  int undoDays = 30;                              ///< Older undo files are removed.
+  std::optional<std::uint32_t> language;          ///< Language of texts; the system's if not given.
+  std::chrono::milliseconds interval{1000};       ///< Between two readings of `Watch`.
   std::optional<std::chrono::milliseconds> wait;  ///< How long to wait for a state.
-  std::string until;                              ///< Of `Watch`: "KEY=VALUE"; empty for none.
-  std::string from;                               ///< Of `Set`: a file with the words.
-  Command usedBy = Command::Settings;  ///< Of `Settings`: only those that this command can use.
+  std::string until;  ///< The condition that ends `Watch`, "KEY=VALUE"; empty for none.
+  std::string from;   ///< File with further words for `Set`.
+  Command usedBy = Command::Settings;  ///< `Settings` lists only what this command can use.
   Format format = Format::Text;
   bool brief = false;
   bool dryRun = false;
   bool lenient = false;   ///< Skips what is wrong in `file`.
-  bool force = false;     ///< Does what is refused otherwise for safety.
-  bool failFast = false;  ///< Begins no other projector after the first error.
-  bool exitCode = false;  ///< Of `Diff`: differences end it with 1.
-  bool list = false;      ///< Of `Undo`: lists the runs.
+  bool force = false;     ///< Does what would otherwise be refused for safety.
+  bool failFast = false;  ///< Starts no further projector after the first error.
+  bool exitCode = false;  ///< `Diff` returns 1 if there are differences.
+  bool list = false;      ///< `Undo` lists the runs.
 
   std::string error;  ///< One line; empty if the arguments are correct.
 };
-
-/// Reads the arguments, without the program's name, after the user's configuration file and the
-/// environment, which give defaults.
-Arguments ParseArguments(const std::vector<std::string>& words);
-
-/// Adds "KEY=VALUE", "KEY+=N" or "KEY-=N" to the words of `set`, as a key and a value. False if it
-/// is none of these.
-bool AddAssignment(const std::string& word, std::vector<std::string>& words);

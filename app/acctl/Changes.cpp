@@ -10,8 +10,8 @@
 
 namespace {
 
-/// The change that a key and a value ask for. Nothing if it is wrong, which is a problem of the
-/// report, or if it depends on inputs that the projector has not reported yet.
+/// The change that a key and a value describe. Nothing if they are wrong, which is added to the
+/// report as a problem, or if it depends on inputs that the projector has not reported yet.
 std::optional<Change> ChangeOf(const Work& work, const Target& target, const std::string& key,
                                const std::string& word, Report& report) {
   const ModelSetting* const setting = FindSetting(target.settings, key, kSet.isPossible);

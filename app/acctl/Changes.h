@@ -17,19 +17,19 @@ struct Change {
   std::optional<int> source{};   ///< Its input source, if it has one.
 };
 
-/// Whether only the projector knows how far it can be stepped.
+/// Whether only the projector knows the limits for steps.
 bool IsUnbounded(const Target& target, const ModelSetting& setting);
 
-/// The value that a change results in, from the value `present`. Nothing, and a problem with
-/// `wrong` as exit code, if it cannot be reached.
+/// The new value if the present one is `present`. Nothing if that value is not allowed; the report
+/// then gets a problem with the exit code `wrong`.
 std::optional<int> AimOf(const Change& change, const Work& work, const Target& target,
                          std::optional<int> present, int wrong, Report& report);
 
-/// The changes, checked: problems that stop the command are in the report, see `StopsChanges`.
-/// Settings that the projector lacks are left out, with a problem that does not stop it.
+/// The checked changes. Problems that stop the command are added to the report, see `StopsChanges`.
+/// Settings that the projector lacks are left out and reported, but do not stop the command.
 std::vector<Change> CheckedChanges(const Work& work, ProjectorAccess& projector, Report& report);
 bool StopsChanges(const Report& report);
 
-/// Adds problems with the words of `set` that do not depend on the projector's answers to the
-/// report. Whether the projector must be asked before it is known that all words can be followed.
+/// Checks the words of `set` as far as that is possible without asking the projector, and adds
+/// problems to the report. Returns whether the projector must be asked to check the rest.
 bool NeedsAsking(const Work& work, const Target& target, Report& report);

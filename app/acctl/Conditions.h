@@ -12,7 +12,7 @@
 struct Condition {
   enum class Comparison { Equal, Unequal, Less, LessOrEqual, Greater, GreaterOrEqual };
 
-  std::string key;  ///< Or the short name.
+  std::string key;  ///< The key, or its short name.
   Comparison comparison = Comparison::Equal;
   std::string value;
 };
@@ -26,8 +26,8 @@ struct ConditionList {
 /// must be one that some model has.
 ConditionList ParseConditions(std::string_view text);
 
-/// Why a condition is about a value that none of the projectors' models has; empty if there is
-/// none. Numbers, states except the power, and choices that only a projector knows may have any
+/// The error for a condition with a value that none of the projectors' models has; empty if there
+/// is none. Numbers, states except the power, and choices that only a projector knows may have any
 /// value.
 std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
                             const Projectors& projectors, ModelCache& models);
@@ -36,7 +36,8 @@ std::string ImpossibleValue(const std::vector<Condition>& conditions, const Valu
 bool IsMet(const Condition& condition, const ValueTexts& texts, const ModelSetting& setting,
            int value, std::optional<PowerState> power);
 
-/// Reads what the conditions are about. Whether all are met; not if the model lacks a setting. A
-/// projector that does not answer is a problem of the report.
+/// Reads the settings that the conditions name, and returns whether all conditions are met. They
+/// are not if the model lacks a setting. A projector that does not answer is added to the report as
+/// a problem.
 bool MeetsAll(const std::vector<Condition>& conditions, const ValueTexts& texts,
               ProjectorAccess& projector, Report& report);

@@ -6,7 +6,7 @@
 
 #include "app/acctl/ValueCodes.h"
 
-/// What a setting is and what it takes, for programs.
+/// Describes a setting and its possible values in JSON.
 QJsonObject DescribeSetting(const ValueTexts& texts, const ModelSetting& setting);
 
 /// "number", "choice", "state" or "action".

@@ -59,7 +59,8 @@ std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   return values;
 }
 
-/// The model that the file was saved from, if a profile has it; one with the same name if possible.
+/// The model that the file was saved from, if a profile has that model; preferably a profile with
+/// the file's name.
 std::optional<ModelSettings> ModelOf(const Snapshot& file,
                                      const std::vector<FleetProfile>& profiles) {
   const FleetProfile* found = nullptr;
@@ -72,7 +73,7 @@ std::optional<ModelSettings> ModelOf(const Snapshot& file,
   return ModelSettings(found->model->data);
 }
 
-/// A setting of the file, and what the projector's model and the file's own model say of it.
+/// A setting of the file, as the projector's model and the file's own model define it.
 class Entry {
  public:
   Entry(const SettingTexts& texts, const SavedSetting& saved, const ModelSettings& model,

@@ -7,8 +7,8 @@
 #include "app/acctl/Work.h"
 #include "app/profiles/ProjectorAccess.h"
 
-/// Where the names of inputs come from. A projector's own may have changed since the file was
-/// saved.
+/// Where the names of inputs come from. Names that the projector itself reports may have changed
+/// since the file was saved.
 enum class InputNames { OfProfile, OfProjector };
 
 /// Mistakes in a file of settings for a projector of `model`, one line each with file, line and

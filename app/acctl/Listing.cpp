@@ -180,7 +180,7 @@ int Explain(const Work& work, ModelCache& models) {
         return IsLike(setting.key, {word}) || AliasOf(setting.key) == word;
       });
       if (!isMeant) continue;
-      // Models whose values differ are explained one by one.
+      // If the values differ between models, each model gets its own description.
       const QJsonObject json = DescribeSetting(work.texts, setting);
       auto same = std::ranges::find(found, json, &Explained::json);
       if (same == found.end()) {

@@ -7,8 +7,8 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// `Acctl::tr` gives the program's texts in the user's language; `tr(text, comment, n)` with the
-/// plural for n.
+/// `Acctl::tr` returns the program's texts in the user's language; `tr(text, comment, n)` chooses
+/// the plural form for n.
 struct Acctl {
   Q_DECLARE_TR_FUNCTIONS(Acctl)
 };

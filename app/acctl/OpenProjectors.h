@@ -28,7 +28,7 @@ class OpenProjectors {
   void Keep(int number, std::unique_ptr<OpenProjector> projector);
   /// The projector that was kept, or null.
   std::unique_ptr<OpenProjector> Take(int number);
-  /// Gives the projectors with these numbers the numbers from 0 on, and closes all others.
+  /// Renumbers the projectors with these numbers from 0 on, in this order, and closes all others.
   void Renumber(const std::vector<int>& numbers);
   void CloseAll();
 

@@ -10,9 +10,9 @@
 struct OptionForm {
   std::string_view name{};
   char letter = 0;           ///< The short form; 0 for none.
-  std::string_view value{};  ///< What it takes; empty for a switch.
+  std::string_view value{};  ///< Placeholder of its value; empty for a switch.
   std::string_view help{};
-  /// Stores the value; false if it is not possible.
+  /// Stores the value; returns false if it is invalid.
   std::function<bool(Arguments&, const std::string&)> take{};
   std::vector<Command> of{};  ///< The commands that have it; empty for all.
   bool isDefault = false;     ///< The environment and the configuration file may give it.

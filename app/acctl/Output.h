@@ -4,8 +4,8 @@
 
 #include "app/profiles/Table.h"
 
-/// Writes to standard output at once. False on failure, which is reported unless nobody reads the
-/// output any more.
+/// Writes to standard output without buffering. Returns false on failure, which is reported unless
+/// nobody reads the output any more.
 bool Print(std::string_view text);
 
 /// Whether somebody can still read standard output.

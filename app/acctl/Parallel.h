@@ -21,11 +21,12 @@ class Meter {
   int drawn_ = -1;
 };
 
-/// How many projectors a command works on at once. Reading takes little more than a connection
-/// each, so that hundreds of slow links are waited for together.
+/// How many projectors a command works on at once. Reading needs little more than a connection for
+/// each projector, so hundreds can be waited for at the same time.
 int JobsOf(const Arguments& arguments);
 
-/// Lets the process open as many files as so many jobs need, if the system allows it.
+/// Raises the process's limit of open files to what this number of jobs needs, if the system allows
+/// it.
 void AllowFilesFor(int jobs);
 
 /// Calls `run` for the numbers 0 to `count` − 1 on at most `jobs` threads. Passes each report to

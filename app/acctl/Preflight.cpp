@@ -10,7 +10,8 @@ namespace {
 
 bool HasFile(Command command) { return command == Command::Diff || command == Command::Apply; }
 
-/// Checks what is wrong for any projector like this. Whether nothing else can be wrong.
+/// Checks everything that is the same for all projectors of this kind. Returns whether that covers
+/// all there is to check.
 bool CheckWithoutAsking(const Work& work, const Target& target, Report& report) {
   const Arguments& arguments = work.arguments;
   switch (arguments.command) {
@@ -33,7 +34,7 @@ bool IsWrong(const std::optional<Report>& report) {
   return report && report->code == ExitCode::WrongUse;
 }
 
-/// Turns a lack that all projectors have in common into wrong use of the first one.
+/// If no projector has a setting, reports that as wrong usage of the first projector.
 void RejectCommonLacks(const std::vector<Report>& reports,
                        std::vector<std::optional<Report>>& results) {
   const auto lacks = [](const Report& report, const std::string& key) {

@@ -11,14 +11,14 @@
 
 using Projectors = std::vector<const FleetProfile*>;
 
-/// Mistakes in the files of `diff` or `apply`, unless these are to be skipped.
+/// Finds mistakes in the files of `diff` or `apply`, unless the user has asked to skip them.
 std::vector<std::string> FileMistakes(const Work& work, const Projectors& projectors,
                                       ModelCache& models);
 
-/// Checks the words of a command for all its projectors, before anything is sent to any. The result
-/// has a report for each projector for which nothing more is to be done: for all of them if a word
-/// is wrong for one, or if none of them has a setting. If the words depend on what a projector
-/// answers and there are several, it is asked with `ask` and its number; a single one is asked when
+/// Checks the words of a command for all its projectors, before anything is sent to any of them.
+/// The result has a report for each projector that needs no further work: for all of them if a word
+/// is wrong for one, or if none of them has a setting. Where the check needs answers of a
+/// projector, `ask` is called with its number; but if there is only one projector, it is asked when
 /// the command runs.
 std::vector<std::optional<Report>> CheckWords(const Work& work, const Projectors& projectors,
                                               ModelCache& models, Meter& meter,

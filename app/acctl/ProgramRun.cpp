@@ -10,6 +10,7 @@
 #include "app/acctl/Listing.h"
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
+#include "app/acctl/ParseArguments.h"
 #include "app/acctl/Password.h"
 #include "app/acctl/ProfileTables.h"
 #include "app/acctl/ProjectorRuns.h"
@@ -113,7 +114,7 @@ class ProgramRun {
 std::string ProgramRun::PrepareUndo() {
   std::string error = ChooseRun(arguments_, undone_);
   if (!error.empty()) return error;
-  // The file says where its projector was, and on what its values depend.
+  // The file contains the projector's address, and the options on which its values depend.
   if (arguments_.connecting.address.empty()) arguments_.connecting.address = undone_.address;
   TakeRun(undone_, profiles_, projectors_, files_, left_);
   arguments_.lenient = true;
@@ -195,7 +196,7 @@ int ProgramRun::ListRecordedRuns() const {
 }
 
 int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
-  // One condition may be for projectors of every kind, so this is no error.
+  // A condition may apply to projectors of many kinds, so this is no error.
   const std::string note = ImpossibleValue(conditions_, texts, projectors_, models_);
   if (!note.empty()) Complain("--where " + note);
   UndoRecorder undo(UndoFolderOf(arguments_), arguments_.undoDays, recorded_);

@@ -10,15 +10,15 @@
 class ProjectorLock {
  public:
   /// Waits until the lock is free, for at most `timeOut`. `isInterrupted` is called before each
-  /// pause, so not at all if the lock is free; if it returns true, the wait ends.
+  /// pause, that is, only if the lock is not free at once; if it returns true, the wait ends.
   ProjectorLock(const ProjectorAddress& address, std::chrono::milliseconds timeOut,
                 const std::function<bool()>& isInterrupted);
   ~ProjectorLock();
   ProjectorLock(const ProjectorLock&) = delete;
   ProjectorLock& operator=(const ProjectorLock&) = delete;
 
-  /// False if another run still has it. True also if locks are impossible, for example without a
-  /// writable folder: work goes on without them.
+  /// False if another run still holds it. Also true if locking is impossible, for example without a
+  /// writable folder: the work then goes on without a lock.
   bool IsHeld() const { return isHeld_; }
 
  private:

@@ -43,7 +43,8 @@ bool IsChanging(const Arguments& arguments) {
                                command == Command::Apply || command == Command::Undo);
 }
 
-/// Whether a projector is simulated by this program, so that nothing that it is told lasts.
+/// Whether this program itself simulates the projector, so that no change lasts longer than the
+/// run.
 bool IsSimulatedHere(const FleetProfile& profile, const Work& work) {
   return IsSimulated(profile, work.arguments) && !work.served.contains(profile.name);
 }

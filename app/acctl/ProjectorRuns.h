@@ -34,12 +34,12 @@ class ProjectorRuns {
 
  private:
   using Action = std::function<Report(const Work&, ProjectorAccess&)>;
-  /// An action, and whether the projector stays open for the next one.
+  /// An action, and whether to keep the projector open for the next one.
   struct Step {
     Action action;
     bool keepsOpen = false;
   };
-  /// What became of one attempt to reach a projector.
+  /// The result of one attempt to reach a projector.
   struct Attempt {
     Report report;
     bool lacksPassword = false;

@@ -66,7 +66,7 @@ std::optional<PowerState> AskPower(ProjectorAccess& projector) {
   return value ? std::optional(StateOf(*value, projector)) : std::nullopt;
 }
 
-bool Rests(std::optional<PowerState> power) { return power && *power != PowerState::On; }
+bool IsResting(std::optional<PowerState> power) { return power && *power != PowerState::On; }
 
 const char* RestCodeOf(PowerState power) {
   if (power == PowerState::Standby) return ProblemCode::Standby;
@@ -81,7 +81,7 @@ void ReportUnread(const std::vector<std::string>& keys, std::optional<PowerState
   QJsonArray unread;
   for (const std::string& key : keys) unread.append(Wide(key));
   report.json["unread"] = unread;
-  if (Rests(power)) {
+  if (IsResting(power)) {
     report.Add({.code = RestCodeOf(*power),
                 .text = LeftOutText(*power, Joined(keys)),
                 .exitCode = ExitCode::Done});

@@ -7,20 +7,20 @@
 #include "app/acctl/Values.h"
 #include "app/acctl/Work.h"
 
-/// Goes on until the work is interrupted or the projector is gone.
+/// True until the work is interrupted or the projector is gone.
 Progress ProgressOf(const Work& work, const ProjectorAccess& projector);
 
 /// Asks for the power state; nothing if the projector does not report it.
 std::optional<PowerState> AskPower(ProjectorAccess& projector);
 
-/// Whether a healthy projector cannot report or do something now, because it is in standby or
-/// changes its power state. False if it does not say.
-bool Rests(std::optional<PowerState> power);
+/// Whether the projector cannot report or do something only because it is in standby or changes its
+/// power state. False if it does not report that state.
+bool IsResting(std::optional<PowerState> power);
 /// The code of this problem.
 const char* RestCodeOf(PowerState power);
 
-/// Adds settings that could not be read although the projector has answered to the report. In
-/// standby that is one note and no error.
+/// Reports settings that could not be read although the projector answers. In standby they become a
+/// single note, which is no error.
 void ReportUnread(const std::vector<std::string>& keys, std::optional<PowerState> power,
                   const std::string& what, Report& report);
 

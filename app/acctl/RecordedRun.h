@@ -15,9 +15,9 @@ struct RecordedRun {
   std::string command{};  ///< As it was typed, without passwords.
   std::string address{};  ///< Of --connect; empty without.
   SnapshotsById undo{};
-  bool isUndo = false;    ///< It undid another run itself.
-  bool isUndone = false;  ///< All of it was undone.
-  bool isOfJob = false;   ///< The file is one of the host application.
+  bool isUndo = false;    ///< The run was itself an undo.
+  bool isUndone = false;  ///< The whole run was undone.
+  bool isOfJob = false;   ///< The host application wrote the file.
   QString error{};        ///< One line; empty if the file could be read.
 };
 

@@ -61,8 +61,8 @@ const OutcomeList& ListOf(Outcome outcome) {
 
 }  // namespace
 
-// Everything is reported, except what was so already beforehand, and what was changed beforehand
-// and is so for that reason, which would be reported twice.
+// Reports every setting, except those of `beforehand` that already had their value, and those that
+// have it because `beforehand` set it: these would be reported twice.
 RestoredOutcomes::RestoredOutcomes(const Work& work, const Target& target,
                                    const Restoration& restoration)
     : work_(work), target_(target), restoration_(restoration) {

@@ -20,12 +20,13 @@ struct ReportedSetting {
 /// The results of `diff` and `apply` for one projector.
 class RestoredOutcomes {
  public:
-  /// All must outlive this.
+  /// All arguments must outlive this object.
   RestoredOutcomes(const Work& work, const Target& target, const Restoration& restoration);
 
   /// Puts all lists and problems into the report.
   void PutInto(Report& report) const;
-  /// What differs, did before it was changed, or may differ: a line for each setting.
+  /// One line for each setting that differs, that differed before it was changed, or that may
+  /// differ.
   std::string Differences() const;
   /// "12 changed, 28 already so, 1 refused"
   std::string Summary() const;

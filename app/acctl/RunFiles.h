@@ -10,8 +10,8 @@
 // what is wrong, or an empty text.
 
 /// Reads the file or folder of `diff` or `apply`. With a folder, projectors without a file of their
-/// own are removed; `left` gets a line for each one that was named, and for each file without a
-/// projector.
+/// own are removed; `left` gets a line for each removed projector that the user named, and for each
+/// file without a projector.
 std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
                               const std::vector<FleetProfile>& profiles, SettingsFiles& files,
                               std::vector<Problem>& left);
@@ -21,12 +21,12 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
 std::string ChooseSavePaths(const Arguments& arguments, const Projectors& projectors,
                             std::map<std::string, std::string>& paths);
 
-/// The run that `undo` is to undo: the named one, or the last one that was not undone and is no
-/// undo itself.
+/// The run that `undo` undoes: the named one, or else the last one that was not undone and is not
+/// itself an undo.
 std::string ChooseRun(const Arguments& arguments, RecordedRun& run);
 
-/// Takes what a run replaced as the files of its projectors; `left` gets a line for each projector
-/// that is in no profile any more.
+/// Uses the values that a run replaced as the files of its projectors; `left` gets a line for each
+/// projector that no profile has any more.
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
              Projectors& projectors, SettingsFiles& files, std::vector<Problem>& left);
 

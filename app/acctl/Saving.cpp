@@ -22,7 +22,7 @@ bool AddUnread(const Work& work, ProjectorAccess& projector, std::vector<std::st
   const ModelSetting* const input = target.settings.Input();
   const bool isInputUnread = input != nullptr && target.LacksEntries(*input) && isMeant(input->key);
   const auto power = unread.empty() && !isInputUnread ? std::nullopt : AskPower(projector);
-  const bool rests = Rests(power);
+  const bool rests = IsResting(power);
   if (isInputUnread && rests) unread.emplace_back(input->key);
   ReportUnread(unread, power, Message(Acctl::tr("cannot be read now, and is left out")), report);
   if (isInputUnread && !rests) {

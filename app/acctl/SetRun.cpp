@@ -102,7 +102,7 @@ void SetRun::Make() {
       MakeSteps(result);
     } else {
       ReadAgain(result);
-      // Others were changed already, so that this is no wrong use.
+      // Not wrong usage, because other settings were changed already.
       if (!result.aim) {
         result.aim = AimOf(*result.change, work_, TargetOf(projector_), result.before,
                            ExitCode::Refused, report_);
@@ -128,7 +128,7 @@ void SetRun::Make(Result& result) {
                                    {work_.texts.Shown().Value(setting, *result.aim), result.source,
                                     ProgressOf(work_, projector_).goesOn});
   const CPjtInterface::Tally after = connection.Sent();
-  // A setter without a result says nothing; reading the setting does.
+  // The setter has no result, so only reading the setting shows whether it succeeded.
   if (!projector_.Channel().IsGone() && setting.readable) {
     result.now = projector_.Settings().Read(connection, setting, result.source);
   }
@@ -210,8 +210,8 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
   const bool isBusy = after.busy > before.busy;
   if (isBusy || (!accepted && !result.now)) {
     const auto power = AskPower(projector_);
-    if (Rests(power) || isBusy) {
-      return Fail(result, "busy", Rests(power) ? RestCodeOf(*power) : ProblemCode::Busy,
+    if (IsResting(power) || isBusy) {
+      return Fail(result, "busy", IsResting(power) ? RestCodeOf(*power) : ProblemCode::Busy,
                   BusyText(power), ExitCode::Refused);
     }
   }
@@ -303,7 +303,7 @@ QJsonObject SetRun::Describe(const Result& result) const {
   return json;
 }
 
-/// Says that nobody can tell what was there before, nor restore it.
+/// Reports that the earlier value is unknown and cannot be restored.
 void SetRun::AddUnknownBefore(const Result& result) {
   const ModelSetting& setting = *result.change->setting;
   const bool wasReached = std::string_view(result.outcome) != "notDone";

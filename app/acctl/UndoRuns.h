@@ -30,7 +30,8 @@ class UndoRecorder {
   UndoRecorder(const UndoRecorder&) = delete;
   UndoRecorder& operator=(const UndoRecorder&) = delete;
 
-  /// Whether the disk now has this for the projector with the identity `id`.
+  /// Keeps what a change of the projector with the identity `id` replaces. Returns whether it is on
+  /// the disk.
   bool Keep(const std::string& id, const Snapshot& undo);
 
   /// Empty while nothing is kept.

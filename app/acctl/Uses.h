@@ -79,13 +79,13 @@ inline constexpr Use kReset{
     QT_TRANSLATE_NOOP("Acctl", "this cannot be reset"), IsResetOverPjLink,
     [](const ModelSetting& setting) { return setting.kind != ModelSetting::Kind::State; }};
 
-/// What `get`, `set`, `reset` and `watch` can use; for any other command everything.
+/// Which settings `get`, `set`, `reset` and `watch` can use; other commands can use all.
 const Use& UseBy(Command command);
 
-/// Whether a problem is only that a projector lacks a setting that others have.
+/// Whether the problem is only that a projector lacks a setting that other projectors have.
 bool IsLack(const Problem& problem);
-/// A setting that the model does not have, or that PJLink does not have. This is wrong use if the
-/// command is for one projector, and an error of this one if it is for several.
+/// The problem with a setting that the model or PJLink does not have. It is wrong usage if the
+/// command is for one projector, and an error of this projector if it is for several.
 Problem LackOf(std::string_view word, bool isInModel, bool isForSeveral);
 
 /// The settings that the words name and that can be used in this way, in the model's order. A word

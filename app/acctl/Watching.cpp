@@ -31,7 +31,7 @@ struct Seen {
   }
 };
 
-/// Adds to a problem that the projector rests.
+/// Adds to a problem that the projector is in standby.
 std::string RestingText(const std::string& problem, PowerState power) {
   if (power == PowerState::Standby) {
     return Message(Acctl::tr("%1, the projector is in standby"), problem);
@@ -159,7 +159,7 @@ class ProjectorWatch {
   void AddUnread(ProjectorAccess& projector, const ModelSetting& setting) {
     Problem problem =
         FailureOf(projector, {ProblemCode::NotReadable, NotReadable(), std::string(setting.key)});
-    if (const auto power = AskPower(projector); Rests(power)) {
+    if (const auto power = AskPower(projector); IsResting(power)) {
       problem.text = RestingText(problem.text, *power);
     }
     Add(problem);
@@ -215,7 +215,7 @@ class ProjectorWatch {
   bool isFinished_ = false;
 };
 
-/// Reports words that are wrong for a projector. Whether there are any.
+/// Reports words that are wrong for a projector. Returns whether there are any.
 bool HasWrongWords(const Work& work, const Projectors& projectors, ModelCache& models) {
   Meter meter(false, 0);
   Printer printer(work.arguments, 0);

@@ -3,7 +3,7 @@
 #include "app/acctl/Preflight.h"
 #include "app/acctl/Work.h"
 
-/// Prints the settings of the projectors and every change of them, until it is interrupted, nobody
+/// Prints the settings of the projectors and then every change. Ends when it is interrupted, nobody
 /// reads the output any more, the time of --wait is over, or every projector has the value of
-/// --until. The exit code.
+/// --until. Returns the exit code.
 int Watch(const Work& work, const Projectors& projectors, ModelCache& models);

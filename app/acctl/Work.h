@@ -34,7 +34,7 @@ struct Work {
   const Arguments& arguments;
   const ValueTexts& texts;
   const std::vector<FleetProfile>& profiles;
-  bool isForSeveral = false;  ///< A setting that one projector lacks is then no wrong use.
+  bool isForSeveral = false;  ///< If so, it is not wrong usage if one of them lacks a setting.
   SettingsFiles files{};
   std::map<std::string, std::string> paths{};  ///< The file to save each projector in, by name.
   std::map<std::string, std::string> ids{};    ///< What tells a projector from others, by name.

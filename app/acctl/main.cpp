@@ -10,10 +10,10 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "app/acctl/Arguments.h"
 #include "app/acctl/Help.h"
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
+#include "app/acctl/ParseArguments.h"
 #include "app/acctl/Printer.h"
 #include "app/acctl/ProgramRun.h"
 #include "app/acctl/Signals.h"

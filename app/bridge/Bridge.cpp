@@ -116,7 +116,7 @@ BrokerMessage Bridge::MessageOf(Publisher::Kind kind, std::size_t projector) {
             discovery_.MessageOf(profile, id), true};
   }
   const LiveState state = fleet_.State(projector);
-  // The broker may have what another run of the bridge knew.
+  // The broker may still have messages of an earlier run of the bridge.
   if (state.reachability == Reachability::NeverAsked) return {};
   return {topics_.State(id), StateMessage(profile, state), true};
 }

@@ -17,16 +17,16 @@
 #include "app/bridge/OtherShares.h"
 #include "app/bridge/ShareProfiles.h"
 
-/// The whole bridge: what the fleet tells goes to the metrics and to the broker, and commands go to
-/// the fleet. Lives on the main thread.
+/// The whole bridge: passes the fleet's states to the metrics and the broker, and the broker's
+/// commands to the fleet. Lives on the main thread.
 class Bridge {
  public:
   /// `texts` must outlive it.
   Bridge(const Options& options, std::vector<FleetProfile> profiles, const SettingTexts& texts);
 
-  /// One line that says why it cannot work; empty when all is well.
+  /// Starts, and returns one line with the error; empty on success.
   QString Start();
-  /// The switch that a signal turns.
+  /// Switches commands on or off; called for a signal.
   void SwitchCommands(bool on);
 
  private:

@@ -11,8 +11,8 @@
 #include "app/bridge/ShareProfiles.h"
 #include "fleet/Fleet.h"
 
-/// The projectors of a share, watched. Belongs to the thread that makes it, on which it tells what
-/// has changed.
+/// Watches the projectors of a share. Belongs to the thread that makes it, on which it reports
+/// changes.
 class BridgeFleet {
  public:
   /// A projector may have changed.
@@ -29,8 +29,8 @@ class BridgeFleet {
   FleetTally Tally() const { return fleet_.Tally(); }
   const LatencyHistogram& Answers() const { return answers_; }
 
-  /// Looks for what is no event of its own: answers that took some time, and reasons for silence.
-  /// To be called more often than projectors are visited.
+  /// Looks for changes that the fleet does not report as events: the times that answers took, and
+  /// the reasons for silence. Must be called more often than projectors are visited.
   void Observe();
 
  private:

@@ -103,16 +103,16 @@ void Broker::SetCallbacks() {
       return;
     }
     self->isConnected_ = true;
-    self->Tell(self->listener_.connected);
+    self->QueueCall(self->listener_.connected);
   });
   mosquitto_subscribe_callback_set(
       client, [](mosquitto*, void* owner, int number, int, const int*) {
         auto* const self = static_cast<Broker*>(owner);
-        self->Tell([self, number] { self->listener_.subscribed(number); });
+        self->QueueCall([self, number] { self->listener_.subscribed(number); });
       });
   mosquitto_publish_callback_set(client, [](mosquitto*, void* owner, int number) {
     auto* const self = static_cast<Broker*>(owner);
-    self->Tell([self, number] { self->listener_.sent(number); });
+    self->QueueCall([self, number] { self->listener_.sent(number); });
   });
   mosquitto_message_callback_set(
       client, [](mosquitto*, void* owner, const mosquitto_message* message) {
@@ -121,7 +121,7 @@ void Broker::SetCallbacks() {
             .topic = message->topic,
             .payload = QByteArray(static_cast<const char*>(message->payload), message->payloadlen),
             .isRetained = message->retain};
-        self->Tell([self, taken = std::move(taken)] { self->listener_.received(taken); });
+        self->QueueCall([self, taken = std::move(taken)] { self->listener_.received(taken); });
       });
 }
 
@@ -131,7 +131,7 @@ void Broker::Run() {
     refusal_ = 0;
     int code = mosquitto_connect(client_.get(), host.constData(), address_.port, kKeepAlive);
     {
-      // What ends the connection did nothing if it came before it was made.
+      // Ending the connection had no effect if it was requested before the connection existed.
       const std::lock_guard lock(mutex_);
       if (isEnding_) return;
     }
@@ -140,12 +140,12 @@ void Broker::Run() {
     std::unique_lock lock(mutex_);
     if (isEnding_) return;
     const QString reason = refusal_ == 0 ? ErrorText(code) : RefusalText(refusal_);
-    Tell([this, reason] { listener_.disconnected(reason); });
+    QueueCall([this, reason] { listener_.disconnected(reason); });
     if (ends_.wait_for(lock, pause, [this] { return isEnding_; })) return;
   }
 }
 
-void Broker::Tell(std::function<void()> what) {
+void Broker::QueueCall(std::function<void()> what) {
   QMetaObject::invokeMethod(&context_, std::move(what), Qt::QueuedConnection);
 }
 

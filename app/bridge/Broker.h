@@ -59,17 +59,17 @@ class Broker {
 
   // Each returns a number that the listener gets; nothing if it cannot be sent at all.
 
-  /// Exactly once, as far as the sender's part goes.
+  /// Sent exactly once, as far as this depends on the sender.
   std::optional<int> Subscribe(const QByteArray& topic);
-  /// At least once. What was handed over while the connection breaks is sent after it is made
-  /// again.
+  /// Sent at least once. A message passed while the connection is broken is sent when it is
+  /// restored.
   std::optional<int> Publish(const BrokerMessage& message);
 
  private:
   QString Configure(const BrokerAddress& address, const std::optional<BrokerMessage>& will);
   void SetCallbacks();
   void Run();
-  void Tell(std::function<void()> what);
+  void QueueCall(std::function<void()> what);
 
   const BrokerAddress address_;
   const Listener listener_;

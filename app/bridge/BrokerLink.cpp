@@ -70,7 +70,7 @@ void BrokerLink::Take(const BrokerMessage& message) {
   } else if (message.topic == topics_.Availability()) {
     const bool isOnline = message.payload == "online";
     keeper_.TakeAvailability(isOnline);
-    // The will of a connection that had this share before came late.
+    // This is the late last will of an earlier connection with this share.
     if (!isOnline && isSettled_) session_->SayOnline();
   } else {
     services_.received(message);

@@ -13,9 +13,9 @@
 #include "app/bridge/ShareKeeper.h"
 #include "app/bridge/Topics.h"
 
-/// Keeps the connection to the broker as the share demands: one that only looks while another
-/// bridge has the share; and one with a last will, with commands and with all messages, while this
-/// bridge has it.
+/// Keeps the right kind of connection to the broker. While another bridge has the share, the
+/// connection only watches that; while this bridge has it, the connection has a last will and
+/// carries commands and all messages.
 class BrokerLink {
  public:
   struct Services {
@@ -24,7 +24,7 @@ class BrokerLink {
     std::function<void(const BrokerMessage& message)> received;
     /// The connection is new; nothing has been received over it.
     std::function<void()> renewed;
-    QJsonObject share;  ///< For other bridges.
+    QJsonObject share;  ///< Describes the share for other bridges.
   };
 
   BrokerLink(const BrokerAddress& address, const Topics& topics, std::chrono::milliseconds takeover,
@@ -34,7 +34,7 @@ class BrokerLink {
   BrokerLink(const BrokerLink&) = delete;
   BrokerLink& operator=(const BrokerLink&) = delete;
 
-  /// Begins. One line that says why that is impossible; empty when all is well.
+  /// Starts, and returns one line with the error; empty on success.
   QString Start();
   /// To be called several times a second.
   void Tick();
@@ -60,7 +60,7 @@ class BrokerLink {
   ShareKeeper keeper_;
   Publisher publisher_;
   bool holds_ = false;      ///< What the present connection is for.
-  bool isSettled_ = false;  ///< What follows from being settled was done.
+  bool isSettled_ = false;  ///< Whether the work that follows once it is settled was done.
   bool stoodBack_ = false;
   bool isClosing_ = false;
   std::unique_ptr<BrokerSession> session_;

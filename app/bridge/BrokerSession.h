@@ -33,7 +33,7 @@ class BrokerSession {
   void Subscribe(const QByteArray& topic) { broker_->Subscribe(topic); }
   std::optional<int> Publish(const BrokerMessage& message) { return broker_->Publish(message); }
   void SayOnline();
-  /// Waits until the broker has it, for up to two seconds.
+  /// Waits until the broker has confirmed the message, for up to two seconds.
   void SayOffline();
 
  private:

@@ -10,11 +10,11 @@
 #include "fleet/FleetWork.h"
 #include "snapshots/SettingTexts.h"
 
-/// A change that somebody asks for.
+/// A change that the sender of a command asks for.
 struct Command {
   std::string key{};
   std::string value{};  ///< As a person types it; see `SettingTexts::Parse`.
-  QJsonValue tag{};     ///< What the sender calls the command; comes back with the answer.
+  QJsonValue tag{};     ///< The sender's name for the command, which the answer repeats.
 };
 
 struct ParsedCommand {
@@ -33,9 +33,9 @@ ParsedCommand ParseCommand(const QByteArray& key, const QByteArray& payload);
 QString CheckCommand(const Command& command, const ModelSettings& settings,
                      const SettingTexts& texts, const KeyRules& rules);
 
-/// What a job does for a command without an error.
+/// The work of a job for a command without an error.
 FleetWork WorkOf(const Command& command);
 
-/// What became of a command, and why: JSON.
+/// The answer to a command in JSON: its outcome and the reason.
 QByteArray AnswerMessage(const Command& command, const std::string& outcome,
                          const std::string& reason);

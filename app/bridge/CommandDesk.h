@@ -13,8 +13,8 @@
 #include "app/bridge/Topics.h"
 #include "fleet/FleetProfile.h"
 
-/// Takes the commands that come from the broker, and says at once what is wrong with them. Only
-/// what is right and allowed goes on. Without network and clock.
+/// Checks the commands that come from the broker, and answers wrong ones at once. Only commands
+/// that are correct and allowed are carried out. Has no network and no clock.
 class CommandDesk {
  public:
   using Time = std::chrono::steady_clock::time_point;
@@ -43,9 +43,10 @@ class CommandDesk {
   void Finish(const QByteArray& id, const Command& command, const WorkResult& result,
               bool isAsleep);
 
-  /// Both switches must be on for a command to be taken.
+  /// Commands are only accepted while both switches are on.
   void SetSwitchedOn(bool bySignal) { onBySignal_ = bySignal; }
-  /// The payload of the switch's topic. Anything but nothing and "on" switches off.
+  /// Takes the payload of the switch's topic: empty or "on" switches commands on, anything else
+  /// off.
   void TakeSwitch(const QByteArray& payload);
   bool TakesCommands() const { return !rules_.keys.IsEmpty() && onBySignal_ && onByTopic_; }
 

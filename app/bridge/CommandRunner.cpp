@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-CommandRunner::CommandRunner(Fleet& fleet, const SettingTexts& texts, Told told)
-    : fleet_(fleet), texts_(texts), told_(std::move(told)) {}
+CommandRunner::CommandRunner(Fleet& fleet, const SettingTexts& texts, OnResult onResult)
+    : fleet_(fleet), texts_(texts), onResult_(std::move(onResult)) {}
 
 CommandRunner::~CommandRunner() {
   for (auto& [projector, running] : running_) running.job->Cancel();
@@ -19,7 +19,7 @@ bool CommandRunner::Add(std::size_t projector, FleetTarget target, Command comma
 
 void CommandRunner::StopAll() {
   for (const Waiting& waiting : std::exchange(waiting_, {})) {
-    told_(waiting.projector, waiting.command, {.outcome = WorkOutcome::Stopped});
+    onResult_(waiting.projector, waiting.command, {.outcome = WorkOutcome::Stopped});
   }
   for (auto& [projector, running] : running_) running.job->Cancel();
 }
@@ -48,6 +48,6 @@ void CommandRunner::Begin() {
 void CommandRunner::Finish(std::size_t projector) {
   const auto finished = running_.extract(projector);
   const Running& running = finished.mapped();
-  told_(projector, running.command, running.job->Results().front());
+  onResult_(projector, running.command, running.job->Results().front());
   Begin();
 }

@@ -11,18 +11,18 @@
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 
-/// Carries commands out, one after the other at each projector. Belongs to one thread, on which it
-/// tells the results.
+/// Carries commands out, one after the other for each projector. Belongs to one thread, on which it
+/// reports the results.
 class CommandRunner {
  public:
   static constexpr std::size_t kMostWaiting = 256;
   static constexpr std::size_t kAtOnce = FleetJob::kMostThreads;
 
-  using Told =
+  using OnResult =
       std::function<void(std::size_t projector, const Command& command, const WorkResult& result)>;
 
   /// `fleet` and `texts` must outlive it.
-  CommandRunner(Fleet& fleet, const SettingTexts& texts, Told told);
+  CommandRunner(Fleet& fleet, const SettingTexts& texts, OnResult onResult);
   /// Cancels what is under way, and waits for it.
   ~CommandRunner();
   CommandRunner(const CommandRunner&) = delete;
@@ -30,7 +30,8 @@ class CommandRunner {
 
   /// False if too many wait.
   bool Add(std::size_t projector, FleetTarget target, Command command);
-  /// Stops all: those that wait are told as stopped at once, the others when they have ended.
+  /// Stops all commands. The results of waiting commands are reported at once, those of the others
+  /// when they have ended.
   void StopAll();
 
  private:
@@ -49,7 +50,7 @@ class CommandRunner {
 
   Fleet& fleet_;
   const SettingTexts& texts_;
-  const Told told_;
+  const OnResult onResult_;
   QObject context_;
   std::deque<Waiting> waiting_;
   std::map<std::size_t, Running> running_;  ///< By projector.

@@ -98,7 +98,7 @@ QByteArray Discovery::MessageOf(const FleetProfile& profile, const QByteArray& i
     QJsonObject entity = component->toObject();
     entity["unique_id"] = QString::fromLatin1(id) + '_' + component.key();
     if (entity.contains(kTemplate)) entity["state_topic"] = state;
-    // This one tells that the projector is silent.
+    // This entity shows that the projector is silent.
     if (component.key() == "reachable") entity["availability"] = QJsonArray{ofBridge};
     *component = entity;
   }

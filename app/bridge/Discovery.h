@@ -9,9 +9,9 @@
 #include "fleet/FleetProfile.h"
 #include "snapshots/SettingTexts.h"
 
-/// Makes the messages from which home automation learns what a projector has: one device message
-/// each. Sensors come from the rows of the status page; numbers, selects, switches and buttons from
-/// the kinds of the rows that may be commanded.
+/// Makes the messages by which home automation discovers what a projector has: one device message
+/// for each projector. Sensors come from the rows of the status page; numbers, selects, switches
+/// and buttons from the kinds of the rows that commands may change.
 class Discovery {
  public:
   /// The arguments must outlive it.

@@ -11,15 +11,15 @@
 #include "fleet/FleetJob.h"
 #include "snapshots/SettingTexts.h"
 
-/// Finds out once a day how many settings of each projector differ from its snapshot, a few
-/// projectors at a time. The fleet learns the numbers. Lives on the main thread.
+/// Checks once a day how many settings of each projector differ from its snapshot, a few projectors
+/// at a time, and tells the fleet. Lives on the main thread.
 class DriftCheck {
  public:
   /// The snapshot that a profile names "good" is `folder`/good.json. `fleet` and `texts` must
   /// outlive it.
   DriftCheck(BridgeFleet& fleet, const SettingTexts& texts, QString folder);
 
-  /// Begins, the first time after `first`. Does nothing while `mayAsk` is false.
+  /// Starts; the first check is made after `first`. Nothing is checked while `mayAsk` is false.
   void Start(std::function<bool()> mayAsk,
              std::chrono::milliseconds first = std::chrono::minutes(1));
 

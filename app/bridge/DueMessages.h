@@ -7,26 +7,26 @@
 
 #include <QByteArray>
 
-/// The messages of one kind, one of each projector: which may be others now, in the order in which
-/// that became so, and what the broker has.
+/// Keeps which projectors' messages of one kind may have changed, in the order of the changes, and
+/// which messages the broker has.
 class DueMessages {
  public:
   explicit DueMessages(std::size_t projectors) : isDue_(projectors), sent_(projectors) {}
 
   std::size_t Count() const { return isDue_.size(); }
-  /// Whether the projector's message was not due already.
+  /// Makes the projector's message due. Returns whether it was not due before.
   bool Renew(std::size_t projector);
   /// The broker has lost what was sent.
   void Forget();
 
   bool IsEmpty() const { return due_.empty(); }
-  /// The projector whose turn it is.
+  /// The projector whose message is next.
   std::size_t First() const { return due_.front(); }
-  /// Whether the broker has this already for it.
+  /// Whether the broker already has this message of that projector.
   bool IsSent(const QByteArray& payload) const;
-  /// Nothing more is to be done for it.
+  /// Its message is no longer due.
   void Pop();
-  /// The same, and the broker has this now.
+  /// The same; the broker now has this message.
   void Pop(const QByteArray& payload);
 
  private:

@@ -13,14 +13,14 @@ inline constexpr std::string_view kPowerKey = "power";
 class KeyRules {
  public:
   KeyRules() = default;
-  /// Patterns as of file names: "picture.*".
+  /// Patterns like those for file names: "picture.*".
   explicit KeyRules(std::vector<std::string> patterns);
 
   bool IsEmpty() const { return patterns_.empty(); }
-  /// False for service settings, whatever the patterns say. Resets, that of the lamp's hours among
-  /// them, are no settings and have no key.
+  /// False for service settings, whatever the patterns are. Resets, also of the lamp's hours, have
+  /// no key and are never allowed.
   bool Allows(std::string_view key) const;
-  /// Whether it can be commanded at all, and may be.
+  /// Whether commands can change the setting and are allowed to.
   bool Allows(const ModelSetting& setting) const;
 
  private:

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Counts times by their length, as a metrics store wants them.
+/// Counts times by their length, in the form that metrics stores expect.
 class LatencyHistogram {
  public:
   /// Seconds; a last bucket has everything beyond.

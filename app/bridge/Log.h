@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// A line on standard error, which a service manager keeps with its time.
+/// Writes a line to standard error, where a service manager adds the time.
 inline void Log(const QString& line) {
   std::fprintf(stderr, "advanced-control-bridge: %s\n", qUtf8Printable(line));
 }

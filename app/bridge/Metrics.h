@@ -20,7 +20,7 @@ struct MeasuredProjector {
   LiveState state{};
 };
 
-/// What a bridge tells of itself.
+/// What a bridge reports about itself.
 struct BridgeCounts {
   std::string version{};
   std::string share{};
@@ -42,5 +42,5 @@ struct BridgeCounts {
 void AddProjectors(MetricsText& text, std::span<const MeasuredProjector> projectors);
 void AddBridge(MetricsText& text, const BridgeCounts& counts);
 
-/// Fills in what the system says of this process.
+/// Fills in the system's figures for this process.
 void MeasureProcess(BridgeCounts& counts);

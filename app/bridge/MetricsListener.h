@@ -13,7 +13,7 @@
 /// Lives on the main thread.
 class MetricsListener {
  public:
-  static constexpr int kMostClients = 8;  ///< Others are turned away.
+  static constexpr int kMostClients = 8;  ///< Further clients are refused.
 
   struct Answer {
     int status = 200;
@@ -25,7 +25,7 @@ class MetricsListener {
   explicit MetricsListener(Answering answering,
                            std::chrono::milliseconds longest = std::chrono::seconds(10));
 
-  /// The port, or an error. Port 0 takes any free one.
+  /// Listens, and returns the port or an error. Port 0 chooses a free one.
   struct Listening {
     quint16 port = 0;
     QString error{};

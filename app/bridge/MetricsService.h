@@ -17,10 +17,10 @@ class MetricsService {
  public:
   using Counting = std::function<BridgeCounts()>;
 
-  /// `fleet` must outlive it; `count` returns what the bridge tells of itself now.
+  /// `fleet` must outlive it; `count` returns what the bridge reports about itself now.
   MetricsService(const BridgeFleet& fleet, Counting count);
 
-  // Each begins, and returns one line that says why that is impossible; empty when all is well.
+  // Each starts, and returns one line with the error; empty on success.
 
   QString Listen(const QHostAddress& address, quint16 port);
   /// Replaces the file every 15 seconds.
@@ -34,7 +34,7 @@ class MetricsService {
 
   const BridgeFleet& fleet_;
   const Counting count_;
-  QByteArray rendered_;  ///< The last metrics, for clients that come together.
+  QByteArray rendered_;  ///< The last metrics, for clients that ask at about the same time.
   std::chrono::steady_clock::time_point renderedAt_{};
   MetricsListener listener_;
   QString file_;

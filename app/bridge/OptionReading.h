@@ -8,7 +8,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-// What the readers of options share.
+// Helpers for reading options.
 
 /// `BridgeOptions::tr` gives the texts about options in the user's language.
 struct BridgeOptions {

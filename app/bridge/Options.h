@@ -17,7 +17,7 @@ struct Options {
   QString profiles{};
   Share share{};
   std::chrono::milliseconds interval{60'000};
-  QString snapshots{};     ///< Folder of those to compare with; empty for no comparison.
+  QString snapshots{};     ///< Folder of the snapshots to compare with; empty for none.
   QHostAddress notices{};  ///< Where to listen for status notices; null for nowhere.
 
   bool listens = true;
@@ -33,7 +33,7 @@ struct Options {
   CommandDesk::Rules commands{};
   std::uint32_t language = 0x0409;  ///< Of names in discovery messages.
 
-  QString help{};   ///< To be printed instead of anything else.
+  QString help{};   ///< Printed instead of starting; empty otherwise.
   QString error{};  ///< One line; empty when all is well.
 };
 

@@ -9,8 +9,8 @@
 #include "app/bridge/Broker.h"
 #include "app/bridge/ShareProfiles.h"
 
-/// The bridges with other shares at the same broker, and how many of this bridge's projectors they
-/// have too. Without network and clock.
+/// The bridges with other shares on the same broker, and how many of this bridge's projectors they
+/// also have. Has no network and no clock.
 class OtherShares {
  public:
   using Time = std::chrono::steady_clock::time_point;
@@ -19,15 +19,15 @@ class OtherShares {
   OtherShares(const ShareProfiles& projectors, std::chrono::milliseconds longest)
       : projectors_(projectors), longest_(longest) {}
 
-  /// Takes the message of a holder of another share. One line if that has projectors of this bridge
-  /// and was not there before; else empty.
+  /// Takes the message of a bridge with another share. Returns a warning of one line if that bridge
+  /// is new and has projectors of this one; else an empty text.
   QString Take(const BrokerMessage& message, Time now);
-  /// The projectors that bridges have that are there now, counted for each bridge.
+  /// How many of this bridge's projectors the present other bridges have, added up.
   std::size_t Common(Time now) const;
 
  private:
   struct Other {
-    QByteArray share{};  ///< As its message has it.
+    QByteArray share{};  ///< As in its message.
     std::size_t common = 0;
     Time heard{};
   };

@@ -12,14 +12,14 @@
 #include "app/bridge/Broker.h"
 #include "app/bridge/DueMessages.h"
 
-/// Decides what is sent to the broker, and when. States and discovery messages of projectors are
-/// made when their turn comes, so that only the latest is sent, and nothing that the broker has
-/// already. Answers go first, then states. While there is no connection everything waits. Few
+/// Decides what is sent to the broker, and when. Messages with states and discovery messages are
+/// made just before they are sent, so only the latest is sent, and only if the broker does not have
+/// it yet. Answers go first, then states. Without a connection everything waits. Only a few
 /// messages are under way at a time, so that a slow broker does not fill the memory.
 class Publisher {
  public:
   static constexpr std::size_t kUnderWay = 200;
-  static constexpr std::size_t kMostAnswers = 1000;  ///< That wait; then the oldest is dropped.
+  static constexpr std::size_t kMostAnswers = 1000;  ///< Then the oldest one is dropped.
 
   enum class Kind : std::uint8_t { State, Discovery };
   static constexpr std::size_t kKinds = 2;
@@ -31,17 +31,17 @@ class Publisher {
 
   Publisher(std::size_t projectors, Make make, Send send);
 
-  /// A projector's message may be another now.
+  /// A projector's message may have changed.
   void Renew(Kind kind, std::size_t projector);
   void RenewAll(Kind kind);
-  /// The broker, or who listens there, has lost what was sent.
+  /// The broker, or a subscriber, has lost what was sent.
   void Forget(Kind kind);
   void Answer(BrokerMessage message);
 
-  /// Begins to send, with the message that came last; until then everything waits.
+  /// Starts to send; until then everything waits.
   void Start();
   void Stop() { isOpen_ = false; }
-  /// Another client sends from now on: what is under way is not known to arrive.
+  /// Another connection sends from the next `Start` on; messages under way may not have arrived.
   void Restart();
   /// The broker has a message.
   void Sent(int number);

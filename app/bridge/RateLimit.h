@@ -13,7 +13,7 @@ class RateLimit {
 
   RateLimit(double perMinute, double burst) : perMinute_(perMinute), burst_(burst) {}
 
-  /// Whether it may happen to the thing now. Then it counts.
+  /// Whether it may happen to the thing now. If so, it is counted.
   bool Take(std::size_t thing, Time now) {
     auto& [left, since] = things_.try_emplace(thing, Left{burst_, now}).first->second;
     const auto minutes = std::chrono::duration<double, std::ratio<60>>(now - since).count();

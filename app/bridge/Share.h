@@ -15,8 +15,8 @@ struct Share {
   int count = 1;
   std::vector<std::string> tags{};  ///< A projector needs one of them; empty for any projector.
 
-  /// Whether the projector belongs to it. Each identity belongs to one of `count` shares, and with
-  /// a share more only those projectors change that go to the new one.
+  /// Whether the projector belongs to the share. Each identity belongs to one of `count` shares. If
+  /// `count` grows by one, only the projectors that move to the new share change.
   bool Has(const FleetProfile& profile) const;
   /// "2-of-5", or "2-of-5-Building_3-5a1be27f" with a tag.
   QByteArray Name() const;
@@ -27,7 +27,7 @@ struct Share {
 /// Parses "2/5". Nothing for any other text, or for more than 1000 shares.
 std::optional<Share> ParseShare(const std::string& text);
 
-/// How bridges tell each other what their shares are.
+/// The description of a share in the messages between bridges.
 QJsonObject JsonOf(const Share& share);
 /// Nothing for an invalid one.
 std::optional<Share> ShareOf(const QJsonObject& json);

@@ -17,7 +17,7 @@ class ShareProfiles {
  public:
   ShareProfiles(std::vector<FleetProfile> profiles, const Share& share);
 
-  /// Two projectors whose identities would have the same topic; empty when all is well.
+  /// An error about two projectors whose identities have the same topic; empty if there is none.
   const QString& Error() const { return error_; }
   std::size_t Count() const { return profiles_.size(); }
   const std::vector<FleetProfile>& All() const { return profiles_; }

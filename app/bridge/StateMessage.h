@@ -8,12 +8,12 @@
 #include "fleet/FleetProfile.h"
 #include "fleet/LiveState.h"
 
-// The message that tells a projector's state: JSON, retained. Its members are described in
-// docs/bridge.md. What is not known is null.
+// The message with a projector's state: JSON, retained. docs/bridge.md describes its members. What
+// is not known is null.
 
 QByteArray StateMessage(const FleetProfile& profile, const LiveState& state);
 
-/// The member that tells what the status page's setting of this key shows; empty if there is none.
+/// The member with the status page's setting of this key; empty if there is none.
 std::string_view StateMemberOf(std::string_view statusKey);
 
 // Names in messages and metrics. Any thread.

@@ -39,7 +39,7 @@ void DriftCheck::CheckAfter(const WorkRun& run) {
   Check(ids);
 }
 
-// A preset that cannot be read counts as none; who uses it is told why.
+// A preset that cannot be read counts as none. The reason is shown when it is used.
 void DriftCheck::Check(const std::set<std::string>& ids) {
   std::map<std::string, std::shared_ptr<const Snapshot>> presets;
   CompareSnapshots compare;
@@ -48,7 +48,7 @@ void DriftCheck::Check(const std::set<std::string>& ids) {
     const std::string id = FleetIdOf(profile);
     if (profile.snapshot.empty() || !ids.contains(id)) continue;
     const auto state = watch_.Projectors().State(id);
-    if (state && state->power == PowerState::Standby) continue;  // it has nothing to say now
+    if (state && state->power == PowerState::Standby) continue;  // it cannot report them now
     const auto [preset, isNew] = presets.try_emplace(profile.snapshot);
     if (isNew)
       preset->second = PresetFolder::Read(QString::fromStdString(profile.snapshot)).snapshot;

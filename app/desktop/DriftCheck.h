@@ -13,18 +13,19 @@ class ProfileDocument;
 class QWidget;
 class WorkRun;
 
-/// Finds out how many settings of projectors differ from the presets that they should be like, and
-/// tells the fleet: of all a minute after the start and then every hour, and of some on request.
+/// Checks how many settings of the projectors differ from the presets that they should have, and
+/// tells the fleet: for all projectors a minute after the start and then every hour, and for some
+/// on request.
 class DriftCheck : public QObject {
  public:
-  /// All must outlive it. What runs belongs to `window`.
+  /// All arguments must outlive it. Checks under way belong to `window`.
   DriftCheck(const ProfileDocument& document, FleetWatch& watch, const SettingTexts& texts,
              QWidget& window);
 
-  /// Asks these projectors at once, as far as they have such a preset and are not in standby.
+  /// Checks those of these projectors now that have such a preset and are not in standby.
   void Check(const std::set<std::string>& ids);
   void CheckAll();
-  /// Asks those that the work changed.
+  /// Checks the projectors that the work has changed.
   void CheckAfter(const WorkRun& run);
 
  private:

@@ -27,7 +27,7 @@ class ListPane : public QWidget {
   void AddDetails(const QList<QAction*>& actions);
 
   void SetProfiles(const std::vector<FleetProfile>& profiles);
-  /// Shows what the fleet knows of these now.
+  /// Shows the present states of these projectors.
   void Refresh(const std::vector<std::string>& ids);
   /// Marks the projectors that have alerts, and only these.
   void MarkAlerts(const std::vector<Alert>& alerts);

@@ -18,7 +18,7 @@ LiveProjectors::LiveProjectors(const FleetPolicy& policy, Observer observer, QOb
           });
 }
 
-// A session may outlive this object, as the one of a dialog that is being closed.
+// A session may outlive this object, for example that of a dialog that is being closed.
 LoggingChannel::Observer LiveProjectors::MakeObserver(const std::string& id,
                                                       const FleetProfile& profile) {
   return [self = QPointer(this), id, profile](const PjtCommand& command, const PjtReply& reply,

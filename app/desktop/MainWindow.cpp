@@ -32,6 +32,7 @@
 #include "app/desktop/work/WorkActions.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
+#include "toolkit/Accessibility.h"
 #include "toolkit/Icons.h"
 
 namespace {
@@ -85,6 +86,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
                                             .drift = presets_->Drift(),
                                             .window = *this})),
       dialogs_(std::make_unique<DialogKeeper>(*this, settings)) {
+  InstallAccessibility();  // the panels have lists
   setCentralWidget(pane_);
   MakeDocks(*this, *alerts_, *faults_, *log_);
   MakeMenus(*this, {.pane = *pane_,
@@ -110,7 +112,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
   pane_->View().FocusTable();
 }
 
-// What uses the projectors ends before them.
+// Destroys the users of the projectors before the projectors.
 MainWindow::~MainWindow() {
   faults_->SetSession(nullptr);
   delete work_;
@@ -127,7 +129,7 @@ void MainWindow::Connect() {
   auto* status = new FleetSummary;
   statusBar()->addPermanentWidget(status);
   connect(pane_, &ListPane::Counted, status, &FleetSummary::Show);
-  connect(work_, &WorkActions::Told, this,
+  connect(work_, &WorkActions::Reported, this,
           [this](const QString& text) { statusBar()->showMessage(text, kToldFor); });
   connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
   connect(faults_, &FaultPanel::Changed, this,
@@ -176,7 +178,7 @@ void MainWindow::ConnectAlerts() {
   });
 }
 
-// A simulation that nobody looks at needs no session.
+// A session is only made for a simulation that is shown.
 void MainWindow::TakeSelection() {
   const ProjectorRow* current = pane_->View().Current();
   const auto* dock = findChild<QDockWidget*>(QStringLiteral("simulation"));

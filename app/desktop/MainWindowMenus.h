@@ -21,7 +21,7 @@ struct MenuParts {
   const PresetActions& presets;
   const SettingsActions& settings;
   std::function<void()> open;         ///< Opens the dialogs of the selected projectors.
-  std::function<void()> refresh;      ///< Asks the selected projectors how they are.
+  std::function<void()> refresh;      ///< Asks the selected projectors for their state.
   std::function<void()> preferences;  ///< Opens the preferences; null if there are none.
 };
 

@@ -4,6 +4,6 @@
 
 class QMainWindow;
 
-/// Shows texts as a notification of the desktop, where it has any; a click brings the window to the
-/// front.
+/// Shows texts as a desktop notification, if the desktop supports them; a click brings the window
+/// to the front.
 void Notify(QMainWindow& window, const QStringList& texts);

@@ -66,12 +66,12 @@ void PresetActions::Take() {
   if (rows.size() != 1) return;
   const std::string name = rows.front()->profile.name;
   const FleetTarget target = parts_.watch.TargetOf(rows.front()->profile);
-  Q_EMIT parts_.work.Told(tr("Reading the settings of %1…").arg(QString::fromStdString(name)));
+  Q_EMIT parts_.work.Reported(tr("Reading the settings of %1…").arg(QString::fromStdString(name)));
   parts_.work.Do({.title = tr("Save as Preset"),
                   .question = {},
                   .parts = {{.work = TakeSnapshots(), .targets = {target}}}},
                  [this, name, model = target.model](const WorkRun& run) {
-                   if (run.Taken().empty()) return;  // the work said why
+                   if (run.Taken().empty()) return;  // the work has shown the reason
                    Snapshot taken = *run.Taken().begin()->second;
                    taken.projector = name;
                    AskWhatToSave(std::move(taken), *model);
@@ -85,7 +85,7 @@ void PresetActions::AskWhatToSave(Snapshot taken, const ModelData& model) {
   connect(dialog, &QDialog::accepted, this, [this, dialog] {
     const QString error = PresetFolder::Write(dialog->Name(), dialog->Chosen());
     if (!error.isEmpty()) return ShowError(parts_.window, tr("Save as Preset"), error);
-    Q_EMIT parts_.work.Told(tr("Saved as the preset %1").arg(dialog->Name()));
+    Q_EMIT parts_.work.Reported(tr("Saved as the preset %1").arg(dialog->Name()));
   });
   dialog->open();
 }

@@ -15,8 +15,8 @@ class QAction;
 class QMenu;
 class WorkActions;
 
-/// Menu actions for presets: making one from a projector's present settings, putting one on the
-/// selected projectors, and saying which one projectors should be like.
+/// Menu actions for presets: making one from a projector's present settings, applying one to the
+/// selected projectors, and choosing the one that projectors should have.
 class PresetActions : public QObject {
   Q_OBJECT
 
@@ -48,8 +48,8 @@ class PresetActions : public QObject {
   void Apply(const QString& name);
   void Preview(Comparison comparison);
   void SetWanted(const QString& name);
-  /// The selected projectors that have a preset that they should be like. If there are none, says
-  /// so, and returns none.
+  /// Those of the selected projectors that have a preset that they should match. If there are none,
+  /// tells the user and returns none.
   Comparison WithWanted();
   void CompareWithWanted();
   void PutBack();

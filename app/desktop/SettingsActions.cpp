@@ -52,7 +52,7 @@ void SettingsActions::SaveTo(const QString& path) {
     part.targets.push_back(parts_.watch.TargetOf(row->profile));
     saving->names[row->id] = row->profile.name;
   }
-  Q_EMIT parts_.work.Told(tr("Reading settings…"));
+  Q_EMIT parts_.work.Reported(tr("Reading settings…"));
   // Called again when those that failed are tried again.
   parts_.work.Do({.title = tr("Save Settings"), .question = {}, .parts = {std::move(part)}},
                  [this, saving](const WorkRun& run) { Write(*saving, run); });
@@ -80,7 +80,7 @@ void SettingsActions::Write(Saving& saving, const WorkRun& run) {
   }
   if (!errors.isEmpty())
     return ShowError(parts_.window, tr("Save Settings"), errors.join(QLatin1Char('\n')));
-  if (saving.saved.size() == before) return;  // the work said why
+  if (saving.saved.size() == before) return;  // the work has shown the reason
   int unread = 0;
   for (const WorkLine& line : run.Lines()) unread += line.unread;
   const QString place = QDir::toNativeSeparators(saving.path);
@@ -89,7 +89,7 @@ void SettingsActions::Write(Saving& saving, const WorkRun& run) {
                             static_cast<int>(saving.saved.size()))
                              .arg(place);
   if (unread > 0) text += QLatin1Char(' ') + tr("%n settings could not be read.", nullptr, unread);
-  Q_EMIT parts_.work.Told(text);
+  Q_EMIT parts_.work.Reported(text);
 }
 
 void SettingsActions::AskForSettings(bool applies) {
@@ -132,6 +132,6 @@ void SettingsActions::KeepUndo(const QString& path, const WorkRun& run) {
       info.dir().filePath(QStringLiteral("%1.undo.%2.json").arg(info.completeBaseName(), time)),
       WriteFleetUndo(run.Undo()));
   if (!made.error.isEmpty()) return ShowError(parts_.window, tr("Apply Settings"), made.error);
-  Q_EMIT parts_.work.Told(
+  Q_EMIT parts_.work.Reported(
       tr("The values before are kept in %1.").arg(QFileInfo(made.path).fileName()));
 }

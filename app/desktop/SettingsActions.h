@@ -17,9 +17,9 @@ class QWidget;
 class WorkActions;
 class WorkRun;
 
-/// Menu actions that save the settings of projectors in files, compare them with a file, and
-/// restore them from a file: several projectors at once, as the other work on the selection. Asks
-/// for files, and reports errors.
+/// Menu actions that save the settings of the selected projectors in files, compare them with a
+/// file, and restore them from a file, several projectors at once. Asks for files, and reports
+/// errors.
 class SettingsActions : public QObject {
   Q_OBJECT
 
@@ -52,7 +52,7 @@ class SettingsActions : public QObject {
   void OpenFile(const QString& path, bool applies);
 
  private:
-  /// What is being saved where.
+  /// The saving under way, and its files.
   struct Saving {
     QString path;
     std::map<std::string, std::string> names{};  ///< Of the projectors by identity.

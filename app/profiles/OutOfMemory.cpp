@@ -22,13 +22,13 @@ struct sigaction otherFaults {};
 
 iovec Bytes(const char* text) { return {const_cast<char*>(text), std::strlen(text)}; }
 
-// Qt uses some of its memory before it looks whether it got any.
+// In some places Qt uses memory before it checks whether it was allocated.
 void OnFault(int signal, siginfo_t* fault, void*) {
   constexpr std::uintptr_t kNearNull = 65536;
   const bool isNearNull =
       fault->si_code == SEGV_MAPERR && reinterpret_cast<std::uintptr_t>(fault->si_addr) < kNearNull;
   if (isNearNull && errno == ENOMEM) EndOutOfMemory();
-  sigaction(signal, &otherFaults, nullptr);  // the fault is repeated for whoever was there before
+  sigaction(signal, &otherFaults, nullptr);  // the earlier handler gets the fault again
 }
 
 // The locale library would take a failed allocation for an unknown language.

@@ -18,8 +18,8 @@ QStringList Names();
 bool IsName(const QString& name);
 /// The file of a preset, whether or not it exists.
 QString FileOf(const QString& name);
-/// The path that a person means by `text`, which may be "-": that of the preset of this name, if
-/// there is one and no file or folder of that name; else `text` itself.
+/// The path of the snapshot that the user names with `text`: a preset of this name, if there is one
+/// and no file or folder of that name; else `text` itself, which may be "-".
 QString FileMeantBy(const QString& text);
 
 struct Contents {

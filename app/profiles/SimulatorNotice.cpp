@@ -77,7 +77,7 @@ ServedAddresses FindServed(const QString& profiles) {
   const int file =
       path.isEmpty() ? -1 : open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return {};
-  // Only looks, since a lock of its own would keep a simulator out that begins now.
+  // Only tests for a lock: holding one would keep out a simulator that starts now.
   auto lock = Lock();
   const bool isHeld = fcntl(file, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
   close(file);

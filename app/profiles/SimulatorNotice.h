@@ -8,9 +8,10 @@
 /// Where the projectors of a profile file are served, by their names: "tcp://127.0.0.1:4400".
 using ServedAddresses = std::map<std::string, std::string>;
 
-/// Tells the other programs of the user where a simulator serves the projectors of a profile file,
-/// while it exists. They are told in a file below XDG_RUNTIME_DIR that is locked meanwhile; without
-/// that variable nobody is told. Of several simulators for one profile file the first one tells.
+/// Publishes, while it exists, where a simulator serves the projectors of a profile file, for the
+/// other programs of the same user. Uses a locked file below XDG_RUNTIME_DIR; without that variable
+/// nothing is published. If several simulators serve the same profile file, only the first one
+/// publishes.
 class SimulatorNotice {
  public:
   /// `profiles` is the path of the profile file.
@@ -24,5 +25,5 @@ class SimulatorNotice {
   int file_ = -1;
 };
 
-/// What a running simulator tells about a profile file; empty if none does.
+/// The addresses that a running simulator has published for a profile file; empty without one.
 ServedAddresses FindServed(const QString& profiles);

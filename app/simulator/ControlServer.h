@@ -15,8 +15,8 @@ class ControlledProjectors {
   virtual ~ControlledProjectors() = default;
   virtual std::size_t Count() const = 0;
   virtual void SetFault(std::size_t projector, const ServiceFault& fault) = 0;
-  /// Executes a command that sets no fault, for one projector or, if none is given, for all.
-  /// Returns the answer; nothing if the command is unknown.
+  /// Executes a command that sets no fault: for one projector, or for all if none is given. Returns
+  /// the answer; nothing if the command is unknown.
   virtual std::optional<QString> Obey(std::optional<std::size_t> projector, const QString& line) {
     static_cast<void>(projector);
     static_cast<void>(line);

@@ -83,7 +83,7 @@ bool ServedProjectors::Serve(const FleetProfile& profile) {
   return true;
 }
 
-/// As a part of an address.
+/// In the form that an address needs.
 std::string ServedProjectors::Host() const {
   QString host = options_.address.toString();
   if (host.contains(QLatin1Char(':'))) host = QLatin1Char('[') + host + QLatin1Char(']');

@@ -8,8 +8,8 @@
 
 namespace AdvancedControl {
 
-/// A mutex that a loop takes again and again, and others now and then. The others go first; one of
-/// them may be a user interface.
+/// A mutex for a loop that locks it all the time and for callers that need it now and then, such as
+/// a user interface. Callers take precedence.
 class CallersFirst {
  public:
   /// Runs `use` under the mutex, and returns its result.

@@ -20,7 +20,7 @@ struct Csv {
   Q_DECLARE_TR_FUNCTIONS(Csv)
 };
 
-// What Windows' Western code page has where Latin-1 has control characters.
+// The characters of Windows' Western code page in the range where Latin-1 has control characters.
 constexpr std::array<char16_t, 32> kWindows{
     0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -34,7 +34,8 @@ QString FromWindows(const QByteArray& bytes) {
   return text;
 }
 
-// Text in UTF-16 without a mark: among the first characters, most have a byte that is 0.
+// Whether the text is UTF-16 without a byte order mark: among the first characters, most have a
+// byte that is 0.
 bool HasZeros(const QByteArray& bytes, qsizetype first) {
   constexpr qsizetype kLooked = 200;
   const qsizetype end = std::min(bytes.size(), kLooked);
@@ -43,7 +44,8 @@ bool HasZeros(const QByteArray& bytes, qsizetype first) {
   return end >= 4 && 4 * zeros > end;
 }
 
-// Whether a spreadsheet would take it for a formula, or it is one that an apostrophe marks as none.
+// Whether a spreadsheet would take it for a formula, or whether it already has the apostrophe that
+// prevents this.
 bool LooksLikeFormula(QStringView cell) {
   while (cell.startsWith(u'\'')) cell = cell.sliced(1);
   return !cell.isEmpty() && QStringView(u"=+-@\t\r").contains(cell.front());

@@ -7,8 +7,8 @@
 
 namespace AdvancedControl {
 
-/// A function with a stack of its own, which can be left in the middle and continued later. So code
-/// that waits for answers can run for many projectors on one thread. Use it on one thread only.
+/// A function with a stack of its own, which can be suspended and resumed. Code that waits for
+/// answers can thus run for many projectors on one thread. Use it on one thread only.
 class Fiber {
  public:
   /// `run` begins with the first `Resume`. It must not throw.

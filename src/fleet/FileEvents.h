@@ -20,16 +20,17 @@ class FileEvents {
   FileEvents(const FileEvents&) = delete;
   FileEvents& operator=(const FileEvents&) = delete;
 
-  /// Watches an open file until it is closed. `name` is the data of its events, and anything but
+  /// Watches an open file until it is closed. `name` identifies its events and must not be
   /// `UINT64_MAX`; `events` are those of epoll.
   void Watch(int file, std::uint64_t name, std::uint32_t events = EPOLLIN);
-  /// Waits until something happens, or until then, or for `Wake`.
+  /// Waits for an event, for `Wake`, or until the time `until`.
   void Wait(SessionTime until);
   /// Ends the wait under way or the next one.
   void Wake() const;
-  /// Does the same when somebody writes to it.
+  /// A file that does the same when it is written to.
   int WakeFile() const { return wakes_; }
-  /// The events of the last wait, once; valid until the next one. Some may be nobody's.
+  /// The events of the last wait, each once; valid until the next wait. Some may have names that
+  /// are no longer in use.
   std::span<const epoll_event> Take();
 
  private:

@@ -41,9 +41,9 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   void Set(FleetTarget target);
   void Remove(const std::string& id);
 
-  /// Ends all visits and begins none until asking is switched on again, as it is at first.
+  /// Switches the visits on or off; they are on at first. Switching off also ends those under way.
   void SetAsking(bool asks);
-  /// Replaces `FleetPolicy::interval`, for the pauses under way, too.
+  /// Replaces `FleetPolicy::interval`; also applies to the pauses under way.
   void SetInterval(std::chrono::milliseconds interval);
 
   class Pause;
@@ -56,8 +56,9 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   void LearnDrift(const std::string& id, std::optional<int> drift);
   /// Visits the projector as early as the policy allows.
   void AskSoon(const std::string& id);
-  /// Takes the status notices of PJLink projectors with a numeric address. `address` is one of this
-  /// machine's, numeric; port 0 is any free one. The port, or 0 when it cannot be had.
+  /// Receives the status notices of PJLink projectors with a numeric address. `address` is a
+  /// numeric address of this machine; port 0 chooses a free port. Returns the port, or 0 if it
+  /// cannot be opened.
   std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port = 4352);
 
   /// Nothing for a projector that is not in the fleet.
@@ -65,8 +66,8 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   std::vector<std::pair<std::string, LiveState>> States() const;
   /// The last changes of a projector, the oldest first.
   std::vector<StateChange> History(const std::string& id) const;
-  /// The oldest changes that were not taken yet, up to a thousand, so that an event loop is not
-  /// busy for long. If there are more, `onChanges` is called again.
+  /// The oldest changes that were not taken yet: at most a thousand, so that an event loop is not
+  /// blocked for long. If there are more, `onChanges` is called again.
   FleetChanges TakeChanges();
   FleetTally Tally() const;
 

@@ -56,16 +56,16 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
   FleetJob(const FleetJob&) = delete;
   FleetJob& operator=(const FleetJob&) = delete;
 
-  /// Stops all that have not begun. On the others nothing is sent after the present command, which
-  /// takes up to a time-out.
+  /// Cancels the projectors that have not begun. To the others, nothing is sent after the present
+  /// command, which may take up to a time-out.
   void Cancel();
   Progress HowFar() const;
-  /// Until all are finished.
+  /// Waits until all projectors are finished.
   void Wait();
 
   /// In the order of the targets.
   std::vector<WorkResult> Results() const;
-  /// All that undoes what the job has changed so far, by the projectors' identities; see
+  /// Snapshots that undo everything the job has changed so far, by the projectors' identities; see
   /// `WriteFleetUndo`.
   SnapshotsById Undo() const;
 

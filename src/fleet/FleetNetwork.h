@@ -16,7 +16,7 @@ class FleetNetwork {
  public:
   using Peer = std::uint32_t;
 
-  /// A status notice of PJLink, which says how its sender is now.
+  /// A status notice of PJLink, which reports a state of its sender.
   struct Notice {
     std::string address;  ///< Of the sender, as `TextOf` writes it.
     std::string command;  ///< Four letters, in any case.

@@ -31,9 +31,8 @@ struct ProfileModel {
 struct ProfileConnection {
   bool isNetwork = true;
   std::string address{};  ///< The host's name or IP address, or the path of the serial port.
-  std::int32_t port =
-      0;  ///< Of the host; of a serial line its number from 0, where it has no path.
-  std::int32_t baud = 0;  ///< Of a serial line; 0 for the usual speed.
+  std::int32_t port = 0;  ///< Of the host; or the number of a serial port without a path, from 0.
+  std::int32_t baud = 0;  ///< Of a serial port, in bits per second; 0 for the usual speed.
   std::string secret{};   ///< The password, empty for none.
 
   bool operator==(const ProfileConnection&) const = default;

@@ -17,11 +17,11 @@ namespace AdvancedControl {
 
 struct WatchedProjector {
   FleetTarget target;
-  /// Where it is connected to. Each way to write an IP address leads to the same address.
+  /// The address to connect to. All ways to write an IP address give the same one.
   VisitQueue::Address address;
   ProjectorMemory memory{};
   int pauses = 0;
-  bool asksAgain = false;  ///< Soon after the visit under way, which may have asked too early.
+  bool asksAgain = false;  ///< Another visit follows soon: this one may have asked too early.
 };
 
 /// The projectors of a fleet. Each has a number, its peer, as long as it stays.

@@ -21,7 +21,7 @@ class FleetSchedule {
   FleetSchedule(const FleetPolicy& policy, const FleetClock& clock)
       : policy_(policy), clock_(clock), random_(policy.seed) {}
 
-  /// Forgets what was: the projector is due at once. Its timer does not run.
+  /// Resets the projector: it is due at once. Its timer does not run.
   void Reset(Peer peer);
   void Start(Peer peer) { timers_.Set(peer, plans_[peer].Next()); }
   void Stop(Peer peer) { timers_.Clear(peer); }

@@ -24,7 +24,7 @@ namespace AdvancedControl {
 /// from any thread, and never wait for the network.
 class FleetStates {
  public:
-  /// Changes that are handed out at once, so that who takes them is not busy for long.
+  /// Most changes that one call returns, so that its caller is not blocked for long.
   static constexpr std::size_t kMostTaken = 1000;
   /// Changes that are kept until somebody takes them.
   static constexpr std::size_t kMostKept = 100'000;
@@ -32,14 +32,14 @@ class FleetStates {
   /// Keeps the last `history` changes of each projector. `clock` outlives it.
   FleetStates(const FleetClock& clock, std::size_t history) : clock_(clock), history_(history) {}
 
-  /// Adds a projector of which nothing is known, or gives a known one another model, which may be
+  /// Adds a projector without a known state, or changes the model of a known one. The model may be
   /// null.
   void Add(const std::string& id, std::shared_ptr<const ModelData> model);
   void Remove(const std::string& id);
 
   // The functions below do nothing, and return nothing, for any other projector.
 
-  /// Calls `change` with the state, and keeps what differs then as changes.
+  /// Calls `change` with the state, and records what it has changed.
   void Change(const std::string& id, const std::function<void(LiveState&)>& change);
   /// See `Fleet::Learn`.
   void Learn(const std::string& id, const PjtCommand& command, const PjtReply& reply,
@@ -51,7 +51,7 @@ class FleetStates {
 
   /// The oldest changes that were not taken yet, up to `kMostTaken`.
   FleetChanges TakeChanges();
-  /// Whether somebody must be told that there are changes: once after each `TakeChanges`.
+  /// Whether the owner must be told that there are changes; true once after each `TakeChanges`.
   bool MustTell();
 
  private:

@@ -137,11 +137,11 @@ void FleetWatcher::Finished(Peer peer, const Visit& visit) {
   } else {
     ++tally_.unanswered;
     schedule_.Unanswered(peer);
-    watched.memory = {};  // it may be another one when it is back
+    watched.memory = {};  // it may be a different projector when it is back
   }
   states_.Change(watched.target.id, [&](LiveState& state) {
     LiveState told = visit.State();
-    // Which no visit tells.
+    // Visits do not report it.
     told.drift = state.drift;
     told.since = state.since;
     state = std::move(told);
@@ -161,7 +161,7 @@ void FleetWatcher::FoundInUse(Peer peer) {
   StartTimer(peer);
 }
 
-/// Takes what the notice tells. The projector is asked where that is not all that has changed.
+/// Takes over what the notice reports. If more may have changed, asks the projector.
 void FleetWatcher::Noticed(const FleetNetwork::Notice& notice) {
   const PjLinkStatus::Question* const question = PjLinkStatus::FindQuestion(notice.command);
   for (const Peer peer : roster_.AtHost(notice.address)) {

@@ -19,9 +19,8 @@ namespace AdvancedControl {
 
 /// Visits the projectors of a fleet. It has no threads and no sockets: its owner calls `Tick`,
 /// waits for network events until the time that `Tick` returns, and passes the events on. Use from
-/// one thread at a time; `Fleet` adds the locking.
-///
-/// A projector that is due waits in a queue for a visit. What visits tell goes to the states.
+/// one thread at a time; `Fleet` adds the locking.  A projector that is due waits in a queue for
+/// its visit. The results of visits go to the states.
 class FleetWatcher final : private VisitsUnderWay::Owner {
  public:
   using Peer = FleetNetwork::Peer;
@@ -36,17 +35,18 @@ class FleetWatcher final : private VisitsUnderWay::Owner {
   void SetAsking(bool asks);
   void SetInterval(std::chrono::milliseconds interval);
 
-  // Of a projector that is not in the fleet these do nothing.
+  // These do nothing for a projector that is not in the fleet.
 
-  /// Ends a visit under way at the projector's address and begins none there, whichever entry it
-  /// is of, until `Resume` was called as often.
+  /// Ends the visit under way at the projector's address, even if it is another projector's, and
+  /// begins none there until `Resume` has been called as often as `Pause`.
   void Pause(const std::string& id);
   void Resume(const std::string& id);
   void AskSoon(const std::string& id);
 
   const FleetTally& Tally() const { return tally_; }
 
-  /// Does what is due, and returns when something will be, unless the network tells of it before.
+  /// Does what is due, and returns the time of the next call; network events may require an earlier
+  /// one.
   SessionTime Tick();
   /// Takes the events of the network.
   FleetNetwork::Listener& Events() { return visits_; }

@@ -39,7 +39,7 @@ struct ApplySnapshots {
 /// Finds out which settings differ from each projector's snapshot, and changes nothing.
 struct CompareSnapshots {
   SnapshotsById snapshots{};
-  /// The snapshots say how the projectors should be: the fleet learns how many settings differ.
+  /// The snapshots are what the projectors should have: the fleet is told how many settings differ.
   bool areWanted = true;
 };
 
@@ -50,13 +50,13 @@ enum class WorkOutcome : std::uint8_t {
   Waiting,  ///< For its turn.
   Working,
   Done,
-  Pending,   ///< Accepted, and not yet so.
+  Pending,   ///< Accepted, but not in effect yet.
   Refused,   ///< At least a part of it, for the given reason.
   NoAnswer,  ///< What was sent may have been carried out.
   Stopped,   ///< The job was cancelled; what was sent before stays.
 };
 
-/// A setting of a snapshot that is not known to be so on a projector.
+/// A setting for which a projector does not have the snapshot's value, or may not have it.
 struct SettingDifference {
   enum class Kind : std::uint8_t {
     Differs,
@@ -69,15 +69,15 @@ struct SettingDifference {
   std::optional<int> here{};  ///< The present device value, if it is known.
 };
 
-/// What became of a job on one projector.
+/// The result of a job for one projector.
 struct WorkResult {
   WorkOutcome outcome = WorkOutcome::Waiting;
-  std::string reason{};                ///< A few English words; empty where all is well.
+  std::string reason{};                ///< A few English words; empty without a problem.
   std::string setting{};               ///< Name of the setting that the reason is about, if any.
-  std::optional<Snapshot> snapshot{};  ///< That was taken.
-  std::optional<Snapshot> undo{};      ///< What was replaced so far; nothing while that is none.
-  int unread = 0;                      ///< Settings that are missing in `snapshot`: not readable.
-  std::optional<int> differing{};      ///< Settings that differ from the snapshot.
+  std::optional<Snapshot> snapshot{};  ///< The snapshot that was taken.
+  std::optional<Snapshot> undo{};      ///< What was replaced so far; nothing if nothing was.
+  int unread = 0;  ///< Settings missing from `snapshot` because they could not be read.
+  std::optional<int> differing{};  ///< Settings that differ from the snapshot.
   /// Of a comparison; shared, because a job hands out copies of its results. Null for other work.
   std::shared_ptr<const std::vector<SettingDifference>> differences{};
 };

@@ -15,13 +15,13 @@ namespace AdvancedControl {
 /// The addresses of host names. Each name is looked up at most once in ten minutes.
 class HostNames {
  public:
-  /// `wakes` as for `NameResolver`: `Take` has something then.
+  /// `wakes` as for `NameResolver`; it becomes readable when `Take` has an answer.
   explicit HostNames(int wakes) : resolver_(wakes) {}
 
   bool IsKnown(const std::string& name) const;
   /// The address to connect to, for a known name; nothing where no host has the name.
   std::optional<SocketAddress> AddressOf(const std::string& name, std::uint16_t port) const;
-  /// The address could not be connected to. `AddressOf` returns the next one from now on.
+  /// Reports that the address could not be connected to. `AddressOf` then returns the next one.
   void TakeFailure(const std::string& name);
 
   /// Looks a name up for somebody.

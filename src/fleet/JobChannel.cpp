@@ -79,12 +79,12 @@ class WireJobChannel final : public JobChannel {
 
 JobChannel::JobChannel(JobLoop& loop, JobLoop::Peer peer, const FleetTarget& target)
     : loop_(loop), peer_(peer), target_(target) {
-  loop_.SetChannel(peer, this);
+  loop_.SetReceiver(peer, this);
 }
 
 JobChannel::~JobChannel() {
   loop_.Network().Close(peer_);
-  loop_.SetChannel(peer_, nullptr);
+  loop_.SetReceiver(peer_, nullptr);
 }
 
 void JobChannel::Run(const auto& begin) {

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #include "Namespace.h"
@@ -13,29 +12,22 @@
 
 namespace AdvancedControl {
 
-/// A channel of a work in a `JobLoop`: the others go on while it waits for the projector. Drives a
-/// session as the channels of the dialog do. Closes the connection at its end.
-class JobChannel : public ProjectorChannel {
+/// A channel for work in a `JobLoop`: other work goes on while it waits for the projector. Drives a
+/// session like the channels of the dialog do. Closes the connection when it is destroyed.
+class JobChannel : public ProjectorChannel, protected JobLoop::Receiver {
  public:
   ~JobChannel() override;
   JobChannel(const JobChannel&) = delete;
   JobChannel& operator=(const JobChannel&) = delete;
 
-  /// The inputs that a PJLink projector tells; none for any other.
+  /// Asks a PJLink projector for its inputs; none for any other projector.
   virtual std::vector<PjLinkInput> AskForInputs() { return {}; }
-
-  // Reports of the loop.
-
-  virtual void Connected() = 0;
-  virtual void NotConnected(ConnectionState problem, SessionTime now) = 0;
-  virtual void Received(std::string_view bytes, SessionTime now) = 0;
-  virtual void Closed(SessionTime now) = 0;
 
  protected:
   JobChannel(JobLoop& loop, JobLoop::Peer peer, const FleetTarget& target);
 
   static SessionTime Now() { return std::chrono::steady_clock::now(); }
-  /// Has the session begin something, and drives it until it has finished.
+  /// Calls `begin` to start a request of the session, and drives the session until it has finished.
   void Run(const auto& begin);
   virtual SessionStep Next(SessionTime now) = 0;
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "fleet/JobChannel.h"
-
 namespace AdvancedControl {
 
 namespace {
@@ -45,22 +43,22 @@ void JobLoop::Wait(Peer peer, SessionTime until) {
   works_[peer].fiber->Suspend();
 }
 
-void JobLoop::Tell(Peer peer, const auto& what) {
-  if (JobChannel* const channel = works_[peer].channel) what(*channel);
+void JobLoop::Notify(Peer peer, const auto& what) {
+  if (Receiver* const receiver = works_[peer].receiver) what(*receiver);
   works_[peer].goesOn = true;
 }
 
 void JobLoop::Connected(Peer peer) {
-  Tell(peer, [](JobChannel& channel) { channel.Connected(); });
+  Notify(peer, [](Receiver& receiver) { receiver.Connected(); });
 }
 void JobLoop::NotConnected(Peer peer, ConnectionState problem) {
-  Tell(peer, [&](JobChannel& channel) { channel.NotConnected(problem, Now()); });
+  Notify(peer, [&](Receiver& receiver) { receiver.NotConnected(problem, Now()); });
 }
 void JobLoop::Received(Peer peer, std::string_view bytes) {
-  Tell(peer, [&](JobChannel& channel) { channel.Received(bytes, Now()); });
+  Notify(peer, [&](Receiver& receiver) { receiver.Received(bytes, Now()); });
 }
 void JobLoop::Closed(Peer peer) {
-  Tell(peer, [](JobChannel& channel) { channel.Closed(Now()); });
+  Notify(peer, [](Receiver& receiver) { receiver.Closed(Now()); });
 }
 
 }  // namespace AdvancedControl

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "Namespace.h"
@@ -11,13 +12,21 @@
 
 namespace AdvancedControl {
 
-class JobChannel;
-
-/// Works on several projectors at a time on one thread. Each work is a fiber, and waits for its
-/// projector in a `JobChannel`, while the others go on.
+/// Works on several projectors at the same time on one thread. Each of them has a fiber for its
+/// work, which waits for the projector in a `JobChannel` while the other fibers go on.
 class JobLoop final : private FleetNetwork::Listener {
  public:
   using Peer = FleetNetwork::Peer;
+
+  /// Receives the events of a work's connection.
+  class Receiver {
+   public:
+    virtual ~Receiver() = default;
+    virtual void Connected() = 0;
+    virtual void NotConnected(ConnectionState problem, SessionTime now) = 0;
+    virtual void Received(std::string_view bytes, SessionTime now) = 0;
+    virtual void Closed(SessionTime now) = 0;
+  };
 
   /// Calls `work` with the numbers from 0 up to `count`, all at the same time, and returns when all
   /// have returned. `work` must not throw.
@@ -25,19 +34,19 @@ class JobLoop final : private FleetNetwork::Listener {
 
   // For channels, in a work:
 
-  /// The channel whose events these are; null for none.
-  void SetChannel(Peer peer, JobChannel* channel) { works_[peer].channel = channel; }
+  /// Sets who gets the events of the work's connection; null for none.
+  void SetReceiver(Peer peer, Receiver* receiver) { works_[peer].receiver = receiver; }
   FleetNetwork& Network() { return network_; }
-  /// Waits until something happens at the work's connection, or until then, at least for one look
-  /// at the network.
+  /// Waits for an event of the connection, or until the time `until`. Always checks the network at
+  /// least once.
   void Wait(Peer peer, SessionTime until);
 
  private:
   struct Work {
     std::unique_ptr<Fiber> fiber;
-    JobChannel* channel = nullptr;
+    Receiver* receiver = nullptr;
     SessionTime until{};  ///< Waits until then.
-    bool goesOn = true;   ///< As something has happened.
+    bool goesOn = true;   ///< There was an event for it.
   };
 
   void Connected(Peer peer) override;
@@ -46,9 +55,9 @@ class JobLoop final : private FleetNetwork::Listener {
   void Received(Peer peer, std::string_view bytes) override;
   void Closed(Peer peer) override;
   void Noticed(const FleetNetwork::Notice&) override {}
-  /// Tells a work's channel what happened.
-  void Tell(Peer peer, const auto& what);
-  /// Continues each work that has waited long enough. The time at which the next one has.
+  /// Tells a work's receiver what happened.
+  void Notify(Peer peer, const auto& what);
+  /// Resumes all work that has waited long enough. Returns when the next one is due.
   SessionTime Continue();
 
   SocketNetwork network_;

@@ -23,7 +23,8 @@ int EscapedUnit(QByteArrayView text, qsizetype at) {
   return isNumber ? unit : -1;
 }
 
-// What is wrong within the string that begins at an offset, which is moved behind it.
+// Finds what is wrong in the string that begins at an offset, and moves the offset behind the
+// string.
 std::optional<JsonLines::Fault> StringFault(const QByteArray& text, qsizetype& at) {
   const qsizetype begin = at++;
   const auto control = [&at] {
@@ -89,9 +90,9 @@ std::optional<JsonLines::Fault> JsonLines::FaultOf(const QByteArray& text, const
   return {};
 }
 
-/// Walks through a text once and tells the visitor of each value (its path, its line, its key if it
-/// has one) until it answers false; `OpenObject` and `CloseObject` stand around an object's
-/// members.
+/// Walks through a text once and calls the visitor for each value with its path, its line, and its
+/// key if it has one, until the visitor returns false. Calls `OpenObject` and `CloseObject` before
+/// and after an object's members.
 template <typename Visitor>
 class JsonLines::Walk {
  public:

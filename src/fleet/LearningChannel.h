@@ -9,23 +9,24 @@
 
 namespace AdvancedControl {
 
-/// Reports each command of another channel and its reply, for example to a fleet. `told` is called
-/// on the thread of the command.
+/// Reports each command of another channel and its reply, for example to a fleet. `observer` is
+/// called on the thread of the command.
 class LearningChannel final : public ForwardingChannel {
  public:
-  using Told = std::function<void(const PjtCommand&, const PjtReply&, std::optional<PowerState>)>;
+  using Observer =
+      std::function<void(const PjtCommand&, const PjtReply&, std::optional<PowerState>)>;
 
-  LearningChannel(std::shared_ptr<ProjectorChannel> inner, Told told)
-      : ForwardingChannel(std::move(inner)), told_(std::move(told)) {}
+  LearningChannel(std::shared_ptr<ProjectorChannel> inner, Observer observer)
+      : ForwardingChannel(std::move(inner)), observer_(std::move(observer)) {}
 
   PjtReply Execute(const PjtCommand& command) override {
     const PjtReply reply = Inner().Execute(command);
-    told_(command, reply, Power());
+    observer_(command, reply, Power());
     return reply;
   }
 
  private:
-  const Told told_;
+  const Observer observer_;
 };
 
 }  // namespace AdvancedControl

@@ -20,7 +20,7 @@ enum class Reachability : std::uint8_t {
   Answers,
   Silent,         ///< It did not answer; `LiveState::connection` says why.
   WrongPassword,  ///< It wants a password, and none or a wrong one is known.
-  NotUnderstood,  ///< What answers there is no projector of this protocol.
+  NotUnderstood,  ///< Something answers that does not speak the protocol.
 };
 
 using ProjectorPart = PjLink::Part;
@@ -30,19 +30,19 @@ using LampState = PjLink::Lamp;
 
 struct PlayingSource {
   int number = 0;      ///< The device value.
-  std::string name{};  ///< UTF-8; empty where neither model nor projector name it.
+  std::string name{};  ///< UTF-8; empty if neither the model nor the projector has a name for it.
 
   friend bool operator==(const PlayingSource&, const PlayingSource&) = default;
 };
 
-/// What is known of a projector now. What it has not told, or no longer tells, is nothing: one that
-/// does not answer has no power state, and one in standby no source.
+/// What is known of a projector now. A member without a value is unknown, or no longer known: a
+/// projector that does not answer has no power state, and one in standby has no source.
 struct LiveState {
   Reachability reachability = Reachability::NeverAsked;
   WallTime since{};                                      ///< When `reachability` became so.
   ConnectionState connection = ConnectionState::Unused;  ///< After the last visit.
-  std::optional<WallTime> answered{};                    ///< When it answered last.
-  std::chrono::microseconds answerTime{};                ///< How long the first answer then took.
+  std::optional<WallTime> answered{};                    ///< Time of its last answer.
+  std::chrono::microseconds answerTime{};  ///< Time until the first answer of that visit.
 
   std::optional<PowerState> power{};
   std::optional<PlayingSource> source{};
@@ -50,14 +50,14 @@ struct LiveState {
   std::optional<int> error{};  ///< The device value of the status page's error row.
   std::optional<bool> blank{}, mute{}, freeze{};
 
-  // These hold until they are told anew.
+  // These remain valid until the projector reports new values.
   std::vector<LampState> lamps{};
   std::optional<int> filterHours{};
   std::optional<int> drift{};  ///< Settings that differ from what they should be.
 
-  /// Forgets what only a running projector tells.
+  /// Forgets what only a running projector reports.
   void ForgetPicture() { source = {}, blank = {}, mute = {}, freeze = {}; }
-  /// Forgets all that may be otherwise by now.
+  /// Forgets everything that may have changed since the last answer.
   void ForgetMomentary() { ForgetPicture(), power = {}, problems = {}, error = {}; }
 };
 

@@ -18,8 +18,8 @@ class NoticeSocket {
   NoticeSocket(const NoticeSocket&) = delete;
   NoticeSocket& operator=(const NoticeSocket&) = delete;
 
-  /// `address` is numeric, port 0 any free one. The port, or 0 when it cannot be had. Closes the
-  /// socket before.
+  /// Opens the socket, and closes an earlier one. `address` is numeric; port 0 chooses a free port.
+  /// Returns the port, or 0 if it cannot be opened.
   std::uint16_t Open(const std::string& address, std::uint16_t port);
   /// Becomes readable with each notice; −1 when it is not open.
   int File() const { return socket_; }

@@ -10,7 +10,7 @@ namespace PjLinkStatus {
 
 namespace {
 
-/// What the answer tells beyond a device value.
+/// What the answer contains besides a device value.
 void TakeMore(LiveState& state, StatusItem item, std::string_view answer,
               std::span<const PjLinkInput> inputs) {
   switch (item) {

@@ -12,10 +12,10 @@
 
 namespace AdvancedControl {
 
-/// What PJLink tells of a projector's status.
+/// The status of a projector as PJLink reports it.
 namespace PjLinkStatus {
 
-/// A question, and the items that its answer tells.
+/// A question, and the items that its answer contains.
 struct Question {
   const PjLinkMapping* mapping = nullptr;
   std::vector<StatusItem> items{};

@@ -132,7 +132,7 @@ class Importer {
     entries_.push_back(entry);
   }
   std::optional<std::size_t> Find(const QString& identity, const QString& name) const;
-  JsonEdit::Members Told(const Cells& cells, bool isNew) const;
+  JsonEdit::Members MembersOf(const Cells& cells, bool isNew) const;
   void SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const;
   bool Take(const Cells& cells);
 
@@ -168,13 +168,13 @@ void Importer::SetModel(const Cells& cells, bool isNew, JsonEdit::Members& membe
   const QJsonObject like = families_[family].toObject();
   if (!model.isEmpty() && like["model"].toString() != model) members.push_back({"model", model});
   if (!isNew || !family.isEmpty()) return;
-  // Of which no more is known than what the protocol tells.
+  // Nothing is known of it but what the protocol reports.
   if (model.isEmpty()) members.push_back({"model", "PJLink"});
   members.push_back({"dialogType", 0});
   members.push_back({"modelCode", 0});
 }
 
-JsonEdit::Members Importer::Told(const Cells& cells, bool isNew) const {
+JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
   JsonEdit::Members members;
   const auto tell = [&members](const char* key, const QString& text) {
     if (!text.isEmpty()) members.push_back({key, text});
@@ -212,12 +212,12 @@ JsonEdit::Members Importer::Told(const Cells& cells, bool isNew) const {
 bool Importer::Take(const Cells& cells) {
   const QString name = One(cells, CsvColumn::Name);
   const auto known = Find(Identity(cells), name);
-  const JsonEdit::Members members = Told(cells, !known);
+  const JsonEdit::Members members = MembersOf(cells, !known);
   QJsonObject entry = known ? entries_[*known] : QJsonObject();
   for (const auto& [key, value] : members) {
     const auto before = entry[key].toObject()["network"].toObject();
     entry[key] = value;
-    // A table seldom tells the password, and one without it does not take it away.
+    // Tables seldom have passwords, so a table without one does not remove it.
     if (key != QLatin1String("connection") || !before.contains("secret")) continue;
     QJsonObject network = value.toObject()["network"].toObject();
     if (network.isEmpty() || network.contains("secret")) continue;

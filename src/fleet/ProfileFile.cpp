@@ -31,7 +31,7 @@ constexpr int kMaximumLikes = 16;  // families that are like one another in a ro
 /// A model under construction, with the keys that it has been given.
 struct Draft {
   ProfileModel model;
-  FleetProfile profile;  ///< What families say beside the model.
+  FleetProfile profile;  ///< What families contain besides the model.
   QStringList keys;
   int likes = 0;  ///< Families below it.
 };
@@ -47,7 +47,8 @@ class FamilyTree {
     for (const QString& name : families.keys()) Resolve(name, QString(), 0);
   }
 
-  /// What `settings` are like, under what they say themselves.
+  /// The draft of a family or an entry with these settings, which take precedence over inherited
+  /// ones.
   Draft Derive(const QJsonObject& settings, const QString& path, int above = 0) {
     Draft draft;
     if (settings.contains("like")) {

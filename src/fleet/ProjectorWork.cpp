@@ -12,7 +12,7 @@ namespace AdvancedControl {
 
 namespace {
 
-/// The outcomes of a restoration that say that something was not done, the gravest first.
+/// The outcomes of a restoration in which something was not done, the most serious first.
 struct Failure {
   Outcome outcome;
   const char* reason;
@@ -61,13 +61,13 @@ const Snapshot* SnapshotOf(const SnapshotsById& snapshots, const std::string& id
 ProjectorWork::ProjectorWork(const FleetTarget& target,
                              const std::shared_ptr<ProjectorChannel>& channel,
                              const SettingTexts& texts, const std::function<bool()>& goesOn,
-                             Told told)
+                             Observer observer)
     : id_(target.id),
       texts_(texts),
       goesOn_(goesOn),
       settings_(target.model ? *target.model : ModelData()),
       progress_{.goesOn = [this] { return goesOn_() && !IsGone(); }} {
-  connection_.SetChannel(std::make_shared<LearningChannel>(channel, std::move(told)));
+  connection_.SetChannel(std::make_shared<LearningChannel>(channel, std::move(observer)));
   auto* const asked = dynamic_cast<JobChannel*>(channel.get());
   const bool isPjLink = std::holds_alternative<PjLinkAddress>(target.address);
   if (asked == nullptr || !isPjLink || settings_.Model().MySourceList.Size() > 0) return;
@@ -140,7 +140,8 @@ WorkResult ProjectorWork::Do(const CompareSnapshots& compare) {
   restoration.Read(progress_);
   if (IsGone()) return Unanswered();
   if (!goesOn_()) return {.outcome = WorkOutcome::Stopped};
-  // One that reports nothing now, as in standby, is not known to be as it should be.
+  // A projector that reports nothing now, for example in standby, is not known to have the right
+  // values.
   const int differing = restoration.Count(Outcome::Differs);
   const bool isKnown = differing + restoration.Count(Outcome::AlreadySo) > 0;
   return {.outcome = WorkOutcome::Done,

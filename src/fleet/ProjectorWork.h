@@ -18,12 +18,13 @@ namespace AdvancedControl {
 /// answer nothing more is sent.
 class ProjectorWork {
  public:
-  /// `told` is called with each command and its reply; see `LearningChannel`.
-  using Told = std::function<void(const PjtCommand&, const PjtReply&, std::optional<PowerState>)>;
+  /// `observer` is called with each command and its reply; see `LearningChannel`.
+  using Observer =
+      std::function<void(const PjtCommand&, const PjtReply&, std::optional<PowerState>)>;
 
   /// `texts` and `goesOn`, which is asked before each command, must outlive it.
   ProjectorWork(const FleetTarget& target, const std::shared_ptr<ProjectorChannel>& channel,
-                const SettingTexts& texts, const std::function<bool()>& goesOn, Told told);
+                const SettingTexts& texts, const std::function<bool()>& goesOn, Observer observer);
 
   /// `keepUndo` is called whenever the undo has grown, before the change is sent.
   WorkResult Do(const FleetWork& work, const std::function<void(const Snapshot&)>& keepUndo);

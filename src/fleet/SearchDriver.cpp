@@ -184,7 +184,7 @@ void SearchDriver::Enqueue(const QHostAddress& address, const std::string& mac) 
     waiting_.push_back({.address = text, .port = options_.port, .mac = mac});
     return;
   }
-  // A range may have it too.
+  // The same address may also be in a range.
   const auto waiting = std::ranges::find(waiting_, text, &FoundProjector::address);
   if (waiting != waiting_.end() && waiting->mac.empty()) waiting->mac = mac;
 }
@@ -211,7 +211,7 @@ void SearchDriver::BeginVisits() {
 
 void SearchDriver::End(Visit* visit) {
   const auto ended = std::ranges::find(visits_, visit, &std::unique_ptr<Visit>::get);
-  // Whoever calls may still be at work in it.
+  // The caller may still be using it.
   std::shared_ptr<Visit> kept(std::move(*ended));
   visits_.erase(ended);
   ++done_;

@@ -101,8 +101,8 @@ std::optional<std::size_t> Taker::Find(const FoundProjector& found,
   }
   const auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
   if (there == byAddress_.end()) return std::nullopt;
-  // Where two are told apart by what they are, the address says nothing. A serial number and a MAC
-  // number, or an identity that was made up, tell nothing apart.
+  // A projector with another identity of the same kind is a different one, even at the same
+  // address. Identities of different kinds (a serial number, a MAC, a made-up one) tell nothing.
   const QString kind =
       entries_[there->second]["identity"].toString().section(QLatin1Char(':'), 0, 0);
   const bool isOther = std::ranges::any_of(identities, [&](const QString& identity) {
@@ -177,7 +177,7 @@ void Taker::Add(const FoundProjector& found, const QStringList& identities) {
     inputs.append(QJsonObject{{"name", Text(std::string(NameText(sources.names[i])))},
                               {"value", sources.firstValues[i]}});
   }
-  // Where it told none, it is asked later.
+  // If it reported none, it is asked later.
   members.push_back({"mySources", inputs});
   edits_.Add(members);
   names_.insert(name);

@@ -83,8 +83,8 @@ QHostAddress HostAddressOf(const Address& address) {
   return made;
 }
 
-// A network without its own address and, of IPv4, its broadcast address; of one or two addresses,
-// all.
+// A network, without its own address and, for IPv4, its broadcast address. A network of one or two
+// addresses is used as a whole.
 std::optional<Bounds> Network(const QString& text) {
   const auto address = ParseAny(text.section(QLatin1Char('/'), 0, 0));
   if (!address) return std::nullopt;

@@ -20,7 +20,7 @@ enum class Problem : std::uint8_t {
 /// An open file, or −1 and the problem. `baud` is in bits per second.
 int Open(const std::string& device, std::int32_t baud, Problem& problem);
 
-/// Drops what was not sent, and lets others open the port.
+/// Closes the port, which other programs can then open. Drops what was not sent.
 void Close(int file);
 
 }  // namespace SerialLine

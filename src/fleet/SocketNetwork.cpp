@@ -45,7 +45,7 @@ void SocketNetwork::OpenLine(Peer peer, const std::string& device, std::int32_t 
 
 void SocketNetwork::Send(Peer peer, std::string_view bytes) {
   const SocketConnection& connection = At(peer);
-  // The little that is ever sent always has room, as an answer comes before there is more.
+  // There is always room, because little is sent before an answer comes.
   if (connection.GetStage() == Stage::Open && !connection.Send(bytes)) {
     Fail(peer, Failure::Kind::Closed);
   }
@@ -84,7 +84,7 @@ void SocketNetwork::Open(Peer peer, const SocketAddress& address) {
 
 void SocketNetwork::Watch(Peer peer) {
   const SocketConnection& connection = At(peer);
-  // Edges are told once, so that nothing has to be asked for anew with each state.
+  // Edge-triggered, so that the events need not be changed with each state.
   events_.Watch(connection.File(), std::uint64_t{connection.Attempt()} << 32 | peer,
                 EPOLLIN | EPOLLOUT | EPOLLRDHUP | EPOLLET);
 }

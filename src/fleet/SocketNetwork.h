@@ -26,7 +26,7 @@ class SocketNetwork final : public FleetNetwork {
   /// Listens for status notices; see `NoticeSocket::Open`.
   std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port);
 
-  /// Waits until something happens, or until then, or for `Wake`. Touches no connection.
+  /// Waits for an event, for `Wake`, or until the time `until`. Does not touch the connections.
   void Wait(SessionTime until) { events_.Wait(until); }
   /// Ends the wait under way or the next one.
   void Wake() const { events_.Wake(); }

@@ -15,11 +15,11 @@
 
 namespace AdvancedControl {
 
-/// What visits have learned and need not ask for again while the projector answers.
+/// What earlier visits have learned, so that it is not asked for again while the projector answers.
 struct ProjectorMemory {
   std::optional<char> protocolClass{};
-  std::vector<PjLinkInput> inputs{};  ///< Those that have been the present input.
-  std::bitset<kStatusItems> lacks{};  ///< What it does not have.
+  std::vector<PjLinkInput> inputs{};  ///< The inputs that have been selected.
+  std::bitset<kStatusItems> lacks{};  ///< What the projector does not have.
 };
 
 /// One visit to a projector: asks for its power state, and for the rest of its status unless it is

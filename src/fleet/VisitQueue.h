@@ -15,8 +15,8 @@
 
 namespace AdvancedControl {
 
-/// Those that wait for their turn to connect. The first to come is the first to go, but each
-/// address is used by one at a time, and by none while somebody else holds it.
+/// The peers that wait to connect, in the order of their coming. Only one peer uses an address at a
+/// time, and none uses it while it is held.
 class VisitQueue {
  public:
   using Peer = FleetNetwork::Peer;
@@ -33,8 +33,8 @@ class VisitQueue {
   /// Ends the turn of a peer, or its waiting.
   void Leave(Peer peer);
 
-  /// Keeps an address from all peers until `Release` was called as often. Returns the peer whose
-  /// turn it is there, which must leave.
+  /// Reserves an address, so that no peer gets a turn there until `Release` has been called as
+  /// often as `Hold`. Returns the peer that has its turn there; it must leave.
   std::optional<Peer> Hold(const Address& address);
   void Release(const Address& address);
 

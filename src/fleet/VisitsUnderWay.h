@@ -19,7 +19,7 @@ class VisitsUnderWay final : public FleetNetwork::Listener {
  public:
   using Peer = FleetNetwork::Peer;
 
-  /// Learns what becomes of visits, some of it from inside `Begin` and `Continue`.
+  /// Receives the results of visits; may be called from inside `Begin` and `Continue`.
   class Owner {
    public:
     virtual ~Owner() = default;
@@ -43,7 +43,7 @@ class VisitsUnderWay final : public FleetNetwork::Listener {
 
   /// Continues visits that have waited long enough.
   void Continue();
-  /// When the next one will have; the end of time if none waits.
+  /// When to call `Continue` next; the end of time if no visit waits.
   SessionTime NextStep() const { return timers_.First(); }
 
   void Connected(Peer peer) override;

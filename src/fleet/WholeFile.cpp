@@ -214,7 +214,7 @@ FileBytes ReadToEnd(const QString& path, qsizetype most) {
     if (got > 0) {
       bytes.append(piece.data(), got);
     } else if (errno == EAGAIN) {
-      // Whoever shares the descriptor does not want to wait; we do.
+      // Another process that shares the descriptor has made it non-blocking; this one waits.
       pollfd readable{.fd = file.Number(), .events = POLLIN, .revents = 0};
       poll(&readable, 1, -1);
     } else if (errno != EINTR) {

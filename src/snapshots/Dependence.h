@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "Namespace.h"
-#include "snapshots/Restoration.h"
+#include "snapshots/RestoredSetting.h"
 
 // Which settings of a projector depend on which others. Any thread.
 

@@ -8,7 +8,6 @@
 #include <QStyleOption>
 #include <QWheelEvent>
 
-#include "toolkit/Accessibility.h"
 #include "toolkit/IsolatedText.h"
 
 namespace {
@@ -18,7 +17,6 @@ constexpr int kLongest = 44;  // characters of average width
 }  // namespace
 
 CComboBox::CComboBox(QWidget* parent) : QComboBox(parent) {
-  InstallAccessibility();
   setFocusPolicy(Qt::StrongFocus);
   setContextMenuPolicy(Qt::NoContextMenu);  // the dialog shows a context menu instead
   setMaxVisibleItems(20);

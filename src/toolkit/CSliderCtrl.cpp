@@ -12,8 +12,7 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 
-#include "toolkit/DragBubble.h"
-#include "toolkit/FocusRing.h"
+#include "toolkit/FocusPen.h"
 
 namespace {
 
@@ -32,7 +31,6 @@ constexpr double kCatch = 3;  // pixels from 0
 
 CSliderCtrl::CSliderCtrl(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
   setFocusPolicy(Qt::StrongFocus);
-  AttachDragBubble(*this);
 }
 
 QRect CSliderCtrl::HandleRect() const {
@@ -134,8 +132,8 @@ void CSliderCtrl::paintEvent(QPaintEvent*) {
     option.state |= QStyle::State_Sunken;
   }
   painter.drawComplexControl(QStyle::CC_Slider, option);
-  if (!FocusRing::IsShownFor(*this)) return;
-  painter.setPen(FocusRing::PenFor(*this));
+  if (!ShowsFocus(*this)) return;
+  painter.setPen(FocusPen(*this));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(handle).adjusted(-1, -1, 1, 1), kFocusRadius, kFocusRadius);
 }

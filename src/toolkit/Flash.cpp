@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "toolkit/FocusRing.h"
+#include "toolkit/FocusPen.h"
 
 namespace AdvancedControl {
 
@@ -32,7 +32,7 @@ class FlashFrame final : public QWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QPen pen = FocusRing::PenFor(*this);
+    const QPen pen = FocusPen(*this);
     QColor fill = pen.color();
     fill.setAlphaF(kOpacity);
     painter.setPen(pen);

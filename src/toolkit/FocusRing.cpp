@@ -3,20 +3,17 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPainter>
-#include <QPen>
 #include <QTabBar>
 
 #include "toolkit/CSliderCtrl.h"
-#include "toolkit/Contrast.h"
+#include "toolkit/FocusPen.h"
 
 namespace AdvancedControl {
 
 namespace {
 
-constexpr int kWidth = 2;
 constexpr int kGap = 1;  // between the control and the ring
 constexpr double kRadius = 4;
-constexpr double kVisible = 3;  // contrast
 
 }  // namespace
 
@@ -27,20 +24,10 @@ FocusRing::FocusRing(QWidget& window) : QWidget(&window), window_(window) {
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { Follow(now); });
 }
 
-QPen FocusRing::PenFor(const QWidget& control) {
-  const QPalette& palette = control.palette();
-  return {ReadableOn(palette.color(QPalette::Window), palette.color(QPalette::Highlight), kVisible),
-          kWidth};
-}
-
-bool FocusRing::IsShownFor(const QWidget& control) {
-  return control.hasFocus() && control.window()->testAttribute(Qt::WA_KeyboardFocusChange);
-}
-
 void FocusRing::Follow(QWidget* control) {
   if (control_ != nullptr) control_->removeEventFilter(this);
   const bool wanted = control != nullptr && control->window() == &window_ && control != &window_ &&
-                      (control->focusPolicy() & Qt::TabFocus) != 0 && IsShownFor(*control) &&
+                      (control->focusPolicy() & Qt::TabFocus) != 0 && ShowsFocus(*control) &&
                       qobject_cast<CSliderCtrl*>(control) == nullptr;
   control_ = wanted ? control : nullptr;
   if (!wanted) return hide();
@@ -58,12 +45,12 @@ void FocusRing::Place() {
   if (control_ == nullptr) return;
   QRect around = control_->geometry();
   if (const auto* tabs = qobject_cast<const QTabBar*>(control_.data())) {
-    const int inside = 2 * (kWidth + kGap);
+    const int inside = 2 * (kFocusWidth + kGap);
     around = tabs->tabRect(tabs->currentIndex())
                  .translated(around.topLeft())
                  .adjusted(inside, inside, -inside, -inside);
   }
-  const int margin = kWidth + kGap;
+  const int margin = kFocusWidth + kGap;
   setGeometry(around.adjusted(-margin, -margin, margin, margin));
 }
 
@@ -87,8 +74,8 @@ bool FocusRing::eventFilter(QObject* control, QEvent* event) {
 void FocusRing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(PenFor(*this));
-  const double half = kWidth / 2.0;
+  painter.setPen(FocusPen(*this));
+  const double half = kFocusWidth / 2.0;
   painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), kRadius, kRadius);
 }
 

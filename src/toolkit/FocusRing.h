@@ -16,11 +16,6 @@ class FocusRing final : public QWidget {
   /// The ring is a child of the focused control's parent and dies with it.
   explicit FocusRing(QWidget& window);
 
-  /// The ring's colour and width, for controls that draw their own.
-  static QPen PenFor(const QWidget& control);
-  /// Whether the focus of `control` should be shown.
-  static bool IsShownFor(const QWidget& control);
-
   bool eventFilter(QObject* control, QEvent* event) override;
 
  protected:

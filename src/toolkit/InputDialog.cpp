@@ -12,7 +12,8 @@ namespace AdvancedControl {
 InputDialog::Busy::Busy(const QWidget* dialog)
     : top_(dialog != nullptr ? qobject_cast<InputDialog*>(dialog->window()) : nullptr) {
   if (top_ == nullptr || ++top_->busy_ > 1) return;
-  InputGate::Close(*top_);
+  InputGate::Close(*top_,
+                   [top = top_](const QWidget& target) { Q_EMIT top->InputDropped(&target); });
   top_->Watch().OnBusy();
 }
 

@@ -1,11 +1,11 @@
 #include "toolkit/InputGate.h"
 
-#include <algorithm>
+#include <utility>
 
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "toolkit/InputDialog.h"
+#include "toolkit/TemplateDialog.h"
 
 namespace AdvancedControl {
 
@@ -45,12 +45,12 @@ bool IsModifier(const QEvent& event) {
 }
 
 // Also finds the dialog of a list that is dropped down.
-InputDialog* DialogOf(const QWidget& widget) {
+TemplateDialog* DialogOf(const QWidget& widget) {
   QWidget* window = widget.window();
   while (window->windowType() == Qt::Popup && window->parentWidget() != nullptr) {
     window = window->parentWidget()->window();
   }
-  return qobject_cast<InputDialog*>(window);
+  return qobject_cast<TemplateDialog*>(window);
 }
 
 }  // namespace
@@ -60,26 +60,25 @@ InputGate& InputGate::Instance() {
   return gate;
 }
 
-void InputGate::Close(const InputDialog& dialog) {
+void InputGate::Close(const TemplateDialog& dialog, Dropped dropped) {
   auto& closed = Instance().closed_;
-  closed.push_back(&dialog);
+  closed.emplace(&dialog, std::move(dropped));
   if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Instance());
 }
 
-void InputGate::Open(const InputDialog& dialog) {
+void InputGate::Open(const TemplateDialog& dialog) {
   auto& closed = Instance().closed_;
-  std::erase(closed, &dialog);
+  closed.erase(&dialog);
   if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Instance());
 }
 
 bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   if (!IsInput(*event) || !watched->isWidgetType()) return false;
   const auto& target = static_cast<const QWidget&>(*watched);
-  InputDialog* dialog = DialogOf(target);
-  if (std::ranges::count(closed_, dialog) == 0 || dialog->AcceptsInputWhileBusy(target)) {
-    return false;
-  }
-  if (!IsModifier(*event)) Q_EMIT dialog->InputDropped(&target);
+  const auto closed = closed_.find(DialogOf(target));
+  if (closed == closed_.end() || closed->first->AcceptsInputWhileBusy(target)) return false;
+  // A copy, because the gate may be opened meanwhile.
+  if (const Dropped dropped = closed->second; !IsModifier(*event)) dropped(target);
   return true;
 }
 

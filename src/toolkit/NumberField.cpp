@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QStyleOptionFrame>
 
+namespace AdvancedControl {
+
 namespace {
 
 // In pixels.
@@ -46,3 +48,5 @@ void NumberField::paintEvent(QPaintEvent* event) {
   painter.setPen(palette().color(QPalette::Text));
   painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight, unit_);
 }
+
+}  // namespace AdvancedControl

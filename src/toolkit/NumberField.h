@@ -2,6 +2,10 @@
 
 #include <QLineEdit>
 
+#include "Namespace.h"
+
+namespace AdvancedControl {
+
 /// A read-only field for a number, which may have a unit behind it. The unit is drawn inside the
 /// field and is no part of its text. User-interface thread only.
 class NumberField final : public QLineEdit {
@@ -20,3 +24,5 @@ class NumberField final : public QLineEdit {
  private:
   QString unit_;
 };
+
+}  // namespace AdvancedControl

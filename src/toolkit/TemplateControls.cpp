@@ -11,6 +11,7 @@
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CTabCtrl.h"
+#include "toolkit/DragBubble.h"
 #include "toolkit/LineLabel.h"
 #include "toolkit/NumberField.h"
 #include "toolkit/StateLabel.h"
@@ -107,6 +108,7 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
     case ControlKind::Slider: {
       auto* slider = new CSliderCtrl(parent);
       slider->setMinimumWidth(kSliderMinimumWidth);
+      AttachDragBubble(*slider);
       return slider;
     }
     case ControlKind::Field:

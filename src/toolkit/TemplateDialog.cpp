@@ -65,6 +65,7 @@ bool TemplateDialog::BuildControls() {
 
   template_ = ResourceChain::FindDialog(templateNumber_);
   if (template_ == nullptr) return false;
+  rows_->Use(*template_);
   setWindowTitle(QString::fromUtf8(template_->caption));
   for (const RowTemplate& row : template_->rows) {
     std::vector<QWidget*> controls;

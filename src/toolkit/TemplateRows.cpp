@@ -9,9 +9,9 @@
 #include <QHBoxLayout>
 
 #include "toolkit/CComboBox.h"
+#include "toolkit/DialogTemplate.h"
 #include "toolkit/FittedScroll.h"
 #include "toolkit/TemplateControls.h"
-#include "toolkit/TemplateDialog.h"
 
 namespace AdvancedControl {
 
@@ -43,7 +43,7 @@ void TemplateRows::Clear() {
 }
 
 void TemplateRows::Add(std::vector<QWidget*> controls) {
-  rows_.push_back({.controls = std::move(controls)});
+  rows_.push_back({.line = &template_->rows[rows_.size()], .controls = std::move(controls)});
 }
 
 void TemplateRows::Arrange() {
@@ -64,16 +64,15 @@ void TemplateRows::Arrange() {
   int leftRow = 0;
   int rightRow = 0;
   bool stretched = false;
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const RowTemplate& line = dialog_.Template()->rows[i];
-    if (line.place == RowPlace::Bottom && !stretched) {
+  for (Row& row : rows_) {
+    const RowPlace place = row.line->place;
+    if (place == RowPlace::Bottom && !stretched) {
       left->setRowStretch(leftRow++, 1);
       stretched = true;
     }
-    Row& row = rows_[i];
-    row.grid = line.place == RowPlace::Right && right != nullptr ? right : left;
+    row.grid = place == RowPlace::Right && right != nullptr ? right : left;
     row.gridRow = row.grid == left ? leftRow++ : rightRow++;
-    PlaceRow(line, row.controls, row.grid, row.gridRow);
+    PlaceRow(*row.line, row.controls, row.grid, row.gridRow);
   }
   if (!stretched) left->setRowStretch(leftRow++, 1);
   if (right != nullptr) {
@@ -81,14 +80,14 @@ void TemplateRows::Arrange() {
   } else {
     // Absent rows reduce a window's height, but its width stays at least that of the template.
     const QMargins margins = columns->contentsMargins();
-    const int width = FromDialogUnits(dialog_, dialog_.Template()->width, 0).width();
+    const int width = FromDialogUnits(dialog_, template_->width, 0).width();
     left->addItem(new QSpacerItem(width - margins.left() - margins.right(), 0), leftRow, 0, 1,
                   RowColumn::Count);
   }
 }
 
 void TemplateRows::Update() {
-  pitch_ = FromDialogUnits(dialog_, 0, dialog_.Template()->rulerHeight).height();
+  pitch_ = FromDialogUnits(dialog_, 0, template_->rulerHeight).height();
   for (const Row& row : rows_) {
     if (!row.present) continue;
     for (const QWidget* control : row.controls) {
@@ -105,10 +104,11 @@ void TemplateRows::Update() {
 void TemplateRows::ShareButtonWidths() const {
   int width = 0;
   std::vector<QWidget*> buttons;
-  for (const RowTemplate& row : dialog_.Template()->rows) {
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind != ControlKind::Button && control.kind != ControlKind::Close) continue;
-      buttons.push_back(dialog_.GetDlgItem(control.id));
+  for (const Row& row : rows_) {
+    for (std::size_t i = 0; i < row.controls.size(); ++i) {
+      const ControlKind kind = row.line->controls[i].kind;
+      if (kind != ControlKind::Button && kind != ControlKind::Close) continue;
+      buttons.push_back(row.controls[i]);
       width = std::max(width, buttons.back()->sizeHint().width());
     }
   }
@@ -158,16 +158,16 @@ bool TemplateRows::Show(const QWidget* control, bool present) {
 
 void TemplateRows::PlaceNotice(QWidget& notice) const {
   notice.setMinimumHeight(
-      FromDialogUnits(dialog_, 0, dialog_.Template()->rulerHeight).height());  // as high as a row
+      FromDialogUnits(dialog_, 0, template_->rulerHeight).height());  // as high as a row
   auto* left = static_cast<QGridLayout*>(dialog_.layout()->itemAt(0)->layout());
   left->addWidget(&notice, 0, 0, 1, RowColumn::Count, Qt::AlignTop | Qt::AlignLeft);
 }
 
 void TemplateRows::PlaceBesideClose(QWidget& widget) const {
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    if (dialog_.Template()->rows[i].controls.front().kind != ControlKind::Close) continue;
-    rows_[i].grid->addWidget(&widget, rows_[i].gridRow, RowColumn::Label, 1, RowColumn::Count,
-                             Qt::AlignVCenter | Qt::AlignLeft);
+  for (const Row& row : rows_) {
+    if (row.line->controls.front().kind != ControlKind::Close) continue;
+    row.grid->addWidget(&widget, row.gridRow, RowColumn::Label, 1, RowColumn::Count,
+                        Qt::AlignVCenter | Qt::AlignLeft);
   }
 }
 
@@ -176,12 +176,10 @@ void TemplateRows::ShareCaptionWidths(std::span<const TemplateRows* const> dialo
     int width = 0;
     std::vector<QGridLayout*> columns;
     for (const TemplateRows* dialog : dialogs) {
-      for (std::size_t i = 0; i < dialog->rows_.size(); ++i) {
-        const Row& row = dialog->rows_[i];
-        const RowTemplate& line = dialog->dialog_.Template()->rows[i];
-        if (!row.present || row.grid == nullptr || (line.place == RowPlace::Right) != right)
+      for (const Row& row : dialog->rows_) {
+        if (!row.present || row.grid == nullptr || (row.line->place == RowPlace::Right) != right)
           continue;
-        if (line.controls.front().kind != ControlKind::Label) continue;
+        if (row.line->controls.front().kind != ControlKind::Label) continue;
         width = std::max(width, row.controls.front()->sizeHint().width());
         if (columns.empty() || columns.back() != row.grid) columns.push_back(row.grid);
       }
@@ -198,12 +196,11 @@ void TemplateRows::FitToScreen() {
   rows->setLayout(dialog_.layout());  // also moves the controls
   auto* frame = new QVBoxLayout(&dialog_);
   frame->addWidget(scroll_ = new FittedScroll(rows, &dialog_));
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const ControlTemplate& close = dialog_.Template()->rows[i].controls.front();
-    if (close.kind != ControlKind::Close) continue;
-    rows_[i].grid->setRowMinimumHeight(rows_[i].gridRow, 0);
-    rows_[i].grid = nullptr;
-    frame->addWidget(dialog_.GetDlgItem(close.id), 0, Qt::AlignRight);
+  for (Row& row : rows_) {
+    if (row.line->controls.front().kind != ControlKind::Close) continue;
+    row.grid->setRowMinimumHeight(row.gridRow, 0);
+    row.grid = nullptr;
+    frame->addWidget(row.controls.front(), 0, Qt::AlignRight);
   }
   frame->activate();
   const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();

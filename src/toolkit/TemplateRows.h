@@ -15,7 +15,8 @@ class QWidget;
 
 namespace AdvancedControl {
 
-class TemplateDialog;
+struct DialogTemplate;
+struct RowTemplate;
 
 /// Dialog units to device-independent pixels, in the font of `widget`.
 QSize FromDialogUnits(const QWidget& widget, int width, int height);
@@ -25,10 +26,12 @@ QSize FromDialogUnits(const QWidget& widget, int width, int height);
 class TemplateRows {
  public:
   /// `dialog` must outlive the rows.
-  explicit TemplateRows(TemplateDialog& dialog) : dialog_(dialog) {}
+  explicit TemplateRows(QWidget& dialog) : dialog_(dialog) {}
 
   /// Forgets the rows and deletes their layout.
   void Clear();
+  /// Sets the template of the rows, which must outlive them.
+  void Use(const DialogTemplate& rows) { template_ = &rows; }
   /// Adds the controls of the template's next row.
   void Add(std::vector<QWidget*> controls);
   /// Places all rows of the template.
@@ -56,6 +59,7 @@ class TemplateRows {
 
  private:
   struct Row {
+    const RowTemplate* line = nullptr;
     std::vector<QWidget*> controls{};
     QGridLayout* grid = nullptr;
     int gridRow = 0;
@@ -66,7 +70,8 @@ class TemplateRows {
   void ShareButtonWidths() const;
   void ShareListWidths() const;
 
-  TemplateDialog& dialog_;
+  QWidget& dialog_;
+  const DialogTemplate* template_ = nullptr;
   std::vector<Row> rows_;     // in the template's order
   int pitch_ = 0;             // height of the present rows, in pixels
   QPointer<QWidget> scroll_;  // scrolls the rows of a window that is too large for the screen

@@ -34,6 +34,7 @@
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
 #include "tests/app/Windows.h"
+#include "toolkit/Accessibility.h"
 #include "toolkit/FittedScroll.h"
 #include "toolkit/StateLabel.h"
 
@@ -135,6 +136,7 @@ TEST(MainWindow, SaysWhyThereIsNoCatalog) {
 }
 
 TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
+  InstallAccessibility();  // as the window of the panel does
   ProjectorSession first(Profile("A"), nullptr);
   ProjectorSession second(Profile("B"), nullptr);
   FaultPanel panel;

@@ -10,6 +10,7 @@
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/Contrast.h"
+#include "toolkit/FocusPen.h"
 #include "toolkit/FocusRing.h"
 #include "toolkit/ResourceModule.h"
 
@@ -273,7 +274,7 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
       EXPECT_GE(ContrastOf(disabled, palette.color(QPalette::Disabled, background)), 3);
       EXPECT_NE(disabled, palette.color(QPalette::Active, text)) << "still looks disabled";
     }
-    const QColor ring = FocusRing::PenFor(dialog).color();
+    const QColor ring = FocusPen(dialog).color();
     EXPECT_GE(ContrastOf(ring, dialog.palette().color(QPalette::Window)), 3);
   }
   QApplication::setPalette(before);

@@ -11,8 +11,8 @@
 class QPushButton;
 class QTreeWidget;
 
-/// The alerts that are there now, with buttons to acknowledge them. An acknowledged alert stays in
-/// the list until its cause is gone; if the cause comes again, so does the alert.
+/// The present alerts, with buttons to acknowledge them. An acknowledged alert stays in the list
+/// until its cause is gone; if the cause comes back, so does the alert.
 class AlertList : public QWidget {
   Q_OBJECT
 
@@ -26,7 +26,7 @@ class AlertList : public QWidget {
   std::vector<Alert> Open() const;
 
  Q_SIGNALS:
-  /// There are others than before, or some were acknowledged.
+  /// The alerts have changed, or some were acknowledged.
   void Changed();
   /// New alerts, a line of text each, for a notification.
   void Raised(const QStringList& texts);
@@ -37,7 +37,7 @@ class AlertList : public QWidget {
     QString since;
     QString text{};
     int number = 0;     ///< In the text.
-    unsigned seen = 0;  ///< When the alert was found last, as `looks_`.
+    unsigned seen = 0;  ///< The value of `looks_` when the alert was last found.
     bool isAcknowledged = false;
   };
 

@@ -16,7 +16,7 @@ struct AlertRules {
   bool problems = true;            ///< Of fan, lamp, temperature, cover, filter and others.
   bool drift = true;               ///< Settings that differ from what they should be.
   bool notifies = true;            ///< On the desktop, too.
-  QTime quietFrom{}, quietTo{};    ///< No notifications then; the same for no such time.
+  QTime quietFrom{}, quietTo{};    ///< Quiet hours, without notifications; equal for none.
 
   bool IsQuiet(QTime now) const;
   /// `settings` may be null.
@@ -35,5 +35,5 @@ struct Alert {
   friend auto operator<=>(const Alert&, const Alert&) = default;
 };
 
-/// What the rules find in a projector at a time.
+/// The alerts that the rules find in a projector at the given time.
 std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, WallTime now);

@@ -52,7 +52,8 @@ QString TimeOf(WallTime time) {
                  : QLocale().toString(moment, QLocale::ShortFormat);
 }
 
-/// Whether a change belongs to the first reading after the start, which shows only how things are.
+/// Whether a change belongs to the first reading after the start, which only shows the present
+/// state.
 bool IsOfFirstReading(const StateChange& change, const std::vector<StateChange>& history) {
   const StateChange& first = history.front();
   return first.field == StateField::Reachability &&
@@ -60,7 +61,7 @@ bool IsOfFirstReading(const StateChange& change, const std::vector<StateChange>&
          change.time == first.time;
 }
 
-/// Whether a change is more than that something became known, or unknown, by being asked.
+/// Whether a value really changed, and did not only become known or unknown.
 bool IsEvent(const StateChange& change) {
   const bool isAlways =
       change.field == StateField::Reachability || change.field == StateField::Power;
@@ -197,7 +198,7 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
     facts_[i]->setText(texts[i].isEmpty() ? kNothing : texts[i]);
 }
 
-// The newest on top.
+// The newest at the top.
 void DetailsPanel::ShowHistory(const std::vector<StateChange>& history) {
   QStringList texts;
   for (auto change = history.rbegin(); change != history.rend(); ++change)

@@ -99,7 +99,7 @@ void ConnectionFields::TakeFamily() {
   if (!chosen_.contains(connection_)) ChooseFittingConnection();
 }
 
-// The protocol's own, unless another one was typed.
+// The protocol's default port, unless the user has typed another one.
 void ConnectionFields::FillPort() {
   const QString usual[] = {QString::number(PjLinkAddress::kDefaultPort),
                            QString::number(Wire::kDefaultPort), QString()};

@@ -64,8 +64,8 @@ void ConnectionTest::Look() {
   AskWho();
 }
 
-// Many projectors take one connection at a time, so this comes after the state. Over our own
-// protocol, and at an address that has a name, nobody is asked.
+// Many projectors accept only one connection at a time, so this follows the question for the state.
+// With our own protocol, or at an address that is a host name, nothing is asked.
 void ConnectionTest::AskWho() {
   const auto* pjLink = std::get_if<PjLinkAddress>(&asked_);
   const QHostAddress address(pjLink == nullptr ? QString() : QString::fromStdString(pjLink->host));

@@ -16,7 +16,8 @@ class SearchDriver;
 class QLabel;
 class QPushButton;
 
-/// A button that asks the projector at an address who and how it is, and says what answers there.
+/// A button that asks the projector at an address for its identity and its state, and shows the
+/// answer.
 class ConnectionTest : public QWidget {
   Q_OBJECT
 
@@ -38,8 +39,8 @@ class ConnectionTest : public QWidget {
   QPushButton* button_;
   QLabel* result_;
   QTimer looking_;
-  std::unique_ptr<Fleet> fleet_;           // null while none is asked how it is
-  std::unique_ptr<SearchDriver> inquiry_;  // null while none is asked who it is
+  std::unique_ptr<Fleet> fleet_;           // null while no state is asked for
+  std::unique_ptr<SearchDriver> inquiry_;  // null while no identity is asked for
   ProjectorAddress asked_;
   LiveState state_;  // of what answered
 };

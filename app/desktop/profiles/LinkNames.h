@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// How a profile file calls connections and links.
+// The names of connections and links in a profile file.
 inline const QString kSimulated = QStringLiteral("simulated");
 inline const QString kNetwork = QStringLiteral("network");
 inline const QString kPjLink = QStringLiteral("pjlink");

@@ -47,7 +47,7 @@ void ModelFields::OfferModels() {
   model_->setCompleter(names);
 }
 
-// A model that the file knows brings its numbers.
+// The numbers of a known model come from the file.
 void ModelFields::TakeModel() {
   const auto model = models_.constFind(model_->text().trimmed());
   if (model == models_.constEnd()) return;

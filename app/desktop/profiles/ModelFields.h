@@ -14,8 +14,8 @@ class ProfileDocument;
 class QCheckBox;
 class QLineEdit;
 
-/// The rows that say which model a projector is: chosen by its name, or with the family and numbers
-/// that the file knows nothing of.
+/// The rows that choose the model of a projector: by its name, or, for a model that the file does
+/// not know, by family and numbers.
 class ModelFields : public QObject {
   Q_OBJECT
 
@@ -50,5 +50,5 @@ class ModelFields : public QObject {
   QLineEdit* dialogType_;
   QLineEdit* modelCode_;
   const QMap<QString, QJsonObject> models_;
-  QJsonObject modelMembers_;  // of the model that was chosen, without those that have a field
+  QJsonObject modelMembers_;  // members of the chosen model that have no field
 };

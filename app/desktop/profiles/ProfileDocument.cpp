@@ -101,7 +101,7 @@ QString ProfileDocument::Insert(std::size_t after, const JsonEdit::Members& memb
 }
 
 QString ProfileDocument::Duplicate(std::size_t projector, const JsonEdit::Members& members) {
-  // The identity is that of one projector alone.
+  // A copy must not have the identity of the original.
   QByteArray copy = JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
                                         {QStringLiteral("identity"), QJsonValue::Undefined});
   for (const JsonEdit::Member& member : members) copy = JsonEdit::SetMember(copy, {}, member);

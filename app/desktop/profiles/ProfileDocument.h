@@ -21,7 +21,7 @@ class ProfileDocument {
 
  public:
   ProfileDocument() = default;
-  /// For projectors that are in no file; they cannot be changed.
+  /// Without a file, for projectors that cannot be changed.
   explicit ProfileDocument(std::vector<FleetProfile> projectors)
       : projectors_(std::move(projectors)) {}
 

@@ -11,8 +11,8 @@ class ProfileHistory;
 class QAction;
 class QWidget;
 
-/// Menu actions that bring many projectors into the profile file or out of it: found on the
-/// network, or as a table of comma-separated values.
+/// Menu actions that add many projectors to the profile file, or export them: found on the network,
+/// or as a table of comma-separated values.
 class TransferActions : public QObject {
   Q_OBJECT
 
@@ -27,7 +27,7 @@ class TransferActions : public QObject {
 
   void Update();
 
-  /// Takes the rows of a table into the file, and tells what came of them.
+  /// Imports the rows of a table, and shows the result.
   void ImportFile(const QString& path);
 
  private:

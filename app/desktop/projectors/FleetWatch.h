@@ -37,10 +37,10 @@ class FleetWatch : public QObject {
   void SetServed(const std::string& id, const Served& served);
   bool IsWatched(const std::string& id) const { return watched_.contains(id); }
 
-  /// Between two visits to a projector, from now on.
+  /// Sets the time between two visits to a projector.
   void SetInterval(std::chrono::seconds interval) { fleet_->SetInterval(interval); }
 
-  /// For a job. The address of one that cannot be reached is an error.
+  /// The target of a job. Its address is an error if the projector cannot be reached.
   FleetTarget TargetOf(const FleetProfile& profile) const;
 
   /// The projector's dialog opens. It has the connection until half a minute after a command.
@@ -75,7 +75,7 @@ class FleetWatch : public QObject {
   std::unordered_map<std::string, FleetTarget> watched_;
   std::map<std::string, Served> served_;
   std::unique_ptr<Fleet> fleet_;
-  std::map<std::string, Use> uses_;  // by others; end before the fleet
-  std::set<std::string> open_;       // have a dialog
+  std::map<std::string, Use> uses_;  // connections in use by others; end before the fleet
+  std::set<std::string> open_;       // projectors with an open dialog
   QTimer tending_;
 };

@@ -18,7 +18,7 @@ struct ProjectorRow {
   bool isWatched = false;  ///< The fleet asks it; serial lines are not asked.
 };
 
-/// How a projector is, in the order of urgency.
+/// The condition of a projector, in the order of rising urgency.
 enum class Health : std::uint8_t { NotAsked, Good, Warning, Error, Unreachable };
 
 Health HealthOf(const ProjectorRow& row);

@@ -69,5 +69,5 @@ class ProjectorTableModel : public QAbstractTableModel {
   std::vector<int> shown_;   // positions, by row
   std::vector<int> rowsOf_;  // rows, by position; −1 for one that is not shown
   RowArrangement arrangement_;
-  bool isOutOfDate_ = false;  // filter or order may be
+  bool isOutOfDate_ = false;  // whether filter or order may be affected
 };

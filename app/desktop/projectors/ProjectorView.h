@@ -47,7 +47,7 @@ class ProjectorView : public QWidget {
   /// The user asked for the dialogs of the selected projectors.
   void Activated();
   void SelectionChanged();
-  /// A projector had to be shown that was in none of the chosen group.
+  /// A projector was shown that is not in the chosen group.
   void GroupLeft();
 
  protected:

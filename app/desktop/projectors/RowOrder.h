@@ -6,8 +6,8 @@
 #include <QString>
 #include <Qt>
 
-// Each key is worked out once, so that ten thousand rows are sorted in a few milliseconds. Equal
-// ones keep their order.
+// Sorting of rows. Each key is computed once, so that ten thousand rows are sorted in a few
+// milliseconds. Rows with equal keys keep their order.
 
 /// Sorts positions by numbers, which are in the order of the positions.
 void SortByNumbers(std::vector<int>& positions, Qt::SortOrder order,

@@ -13,11 +13,11 @@ class RowSearch {
 
   /// The positions of those found, in ascending order.
   std::vector<int> Matching(const std::vector<ProjectorRow>& rows, const ProjectorGroup& group);
-  /// Moves one that is called like the whole text to the beginning.
+  /// Moves a projector whose name is the whole text to the beginning.
   void PutExactFirst(const std::vector<ProjectorRow>& rows, std::vector<int>& positions) const;
 
  private:
   SearchTexts texts_;
-  std::vector<QString> searched_;  // what is looked at of each projector
+  std::vector<QString> searched_;  // the texts of each projector that are searched
   QString text_;
 };

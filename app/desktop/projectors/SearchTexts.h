@@ -11,7 +11,7 @@
 /// The captions of a model's tabs, in tab order, in the catalog's language.
 QStringList TabNames(const CModelInfo2& model);
 
-/// What the search finds in a projector, in lower case.
+/// The texts of a projector that the search looks through, in lower case.
 class SearchTexts {
  public:
   /// Name, model, tags, address and notes.

@@ -11,7 +11,7 @@ constexpr std::chrono::seconds kCoolDown{30};
 constexpr int kTemperature = 4;
 constexpr int kFilter = 8;
 
-// Numbers without a pattern that anybody sees.
+// Numbers without a visible pattern.
 std::size_t Mixed(std::size_t place, std::size_t below) {
   constexpr std::size_t kFactor = 2'654'435'761;
   std::size_t mixed = (place + 1) * kFactor;

@@ -4,7 +4,7 @@
 
 #include "app/desktop/projectors/ProjectorSession.h"
 
-/// Brings simulated projectors into different states, so that the list has something of everything:
-/// most are on, some are off, one warms up, one has a hot lamp, one does not answer. The states
-/// depend on the positions alone.
+/// Gives simulated projectors different states for a demonstration: most are on, some are off, one
+/// is warming up, one has a lamp that is too hot, one does not answer. The states depend only on
+/// the positions.
 void ShowDemonstration(const std::vector<std::shared_ptr<ProjectorSession>>& sessions);

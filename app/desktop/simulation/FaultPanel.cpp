@@ -162,7 +162,7 @@ FaultPanel::FaultPanel(QWidget* parent)
   SetSession(nullptr);
 }
 
-// The wheel must not change a number that has no focus.
+// The wheel must not change a number without the focus.
 bool FaultPanel::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
     event->ignore();

@@ -10,7 +10,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-/// Projectors that are compared with snapshots, and how a person calls that.
+/// Projectors to be compared with snapshots, and the texts that describe the comparison.
 struct Comparison {
   QString title;           ///< "Preset Lecture"
   QString column;          ///< Title of the snapshots' values: "Preset".
@@ -23,8 +23,8 @@ struct Comparison {
            std::shared_ptr<const Snapshot> wanted);
 };
 
-/// Reads projectors, several at once, and shows what differs. The user may choose what of it is
-/// sent.
+/// Reads projectors, several at once, and shows what differs. The user may choose which differences
+/// to send.
 class ComparisonDialog : public QDialog {
   Q_OBJECT
 

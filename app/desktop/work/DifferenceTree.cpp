@@ -13,7 +13,7 @@ namespace {
 enum Column { kSetting, kNow, kWanted, kColumnCount };
 
 constexpr int kPlaceRole = Qt::UserRole;  // of the projector, or among its differences
-constexpr int kBeforehand = -1;           // the place of the line for all of these
+constexpr int kBeforehand = -1;           // the position of the line for all of `beforehand`
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 

@@ -33,7 +33,7 @@ class DifferenceTree : public QTreeWidget {
   /// their snapshots are left out. `lines` are the results, in the projectors' order.
   void Show(const std::vector<ComparedProjector>& projectors, const std::vector<WorkLine>& lines);
 
-  /// Of each projector, the part of its snapshot that is checked; none where nothing is.
+  /// The checked part of each projector's snapshot; none for a projector without checked lines.
   SnapshotsById Checked(const std::vector<ComparedProjector>& projectors,
                         const std::vector<WorkLine>& lines) const;
   bool HasChecked() const;

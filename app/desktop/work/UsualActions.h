@@ -15,8 +15,8 @@ class QMenu;
 class QWidget;
 class WorkActions;
 
-/// Menu actions for what people change every day on the selected projectors, one or many: power,
-/// input, blank, mute and freeze.
+/// Menu actions for everyday changes of the selected projectors: power, input, blank, mute and
+/// freeze.
 class UsualActions : public QObject {
   Q_OBJECT
 

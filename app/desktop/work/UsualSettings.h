@@ -8,7 +8,7 @@
 #include "fleet/FleetTarget.h"
 #include "settings/ModelSettings.h"
 
-/// The settings of models that people change every day.
+/// The settings of models for everyday changes.
 class UsualSettings {
  public:
   /// If nobody knows the model of a projector on PJLink, its usual settings are those of any model:
@@ -24,5 +24,5 @@ class UsualSettings {
   using Model = std::shared_ptr<const ModelData>;
 
   std::map<Model, ModelSettings> models_;
-  std::map<Model, Model> usual_;  // what takes the place of an unknown model
+  std::map<Model, Model> usual_;  // used instead of an unknown model
 };

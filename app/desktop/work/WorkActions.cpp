@@ -31,7 +31,7 @@ void WorkActions::Do(WorkPlan plan, const Then& then) {
   }
   connect(&dialog->Run(), &WorkRun::Finished, dialog, [this, dialog] {
     const WorkLine& line = dialog->Run().Lines().front();
-    Q_EMIT Told(
+    Q_EMIT Reported(
         tr("%1, %2: %3").arg(nameOf_(line.id), dialog->Run().Plan().title, WorkRun::TextOf(line)));
     if (line.HasFailed()) {
       dialog->open();

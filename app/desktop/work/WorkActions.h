@@ -18,15 +18,16 @@ class WorkActions : public QObject {
 
   using Then = std::function<void(const WorkRun&)>;
 
-  /// Asks, and carries out a plan. A plan without a question begins at once, and so does one for a
-  /// single projector, whose window opens only if that fails. `then` is called when it is done.
+  /// Carries out a plan, after asking the user. A plan without a question begins at once. So does
+  /// one for a single projector, whose window opens only if the work fails. `then` is called at the
+  /// end.
   void Do(WorkPlan plan, const Then& then = {});
 
   const SettingTexts& Texts() const { return texts_; }
 
  Q_SIGNALS:
   /// The result of the work on a single projector, for the status bar.
-  void Told(const QString& text);
+  void Reported(const QString& text);
 
  private:
   const WorkDialog::NameOf nameOf_;

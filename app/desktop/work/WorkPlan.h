@@ -19,5 +19,5 @@ struct WorkPlan {
   QString title;     ///< "Switch Off"
   QString question;  ///< "Switch off 12 projectors?"; empty if it begins without one.
   std::vector<WorkPart> parts;
-  std::vector<std::string> missing{};  ///< Identities of those that cannot do it.
+  std::vector<std::string> missing{};  ///< Identities of the projectors that cannot do the work.
 };

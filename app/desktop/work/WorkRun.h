@@ -51,10 +51,10 @@ class WorkRun : public QObject {
   QString Summary() const;
   /// The snapshots that were taken.
   const SnapshotsById& Taken() const { return taken_; }
-  /// What the projectors had before their settings were changed.
+  /// The settings that the projectors had before they were changed.
   const SnapshotsById& Undo() const { return undo_; }
 
-  /// The plan that undoes all that was done; nothing if nothing was.
+  /// The plan that undoes everything that was done; nothing if nothing was.
   std::optional<WorkPlan> UndoPlan() const;
 
   static QString TextOf(const WorkLine& line);

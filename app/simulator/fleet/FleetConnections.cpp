@@ -83,7 +83,7 @@ FleetConnection* FleetConnections::At(int socket) {
 
 void FleetConnections::Read(int socket) {
   FleetConnection* const connection = At(socket);
-  if (!connection) return;  // an earlier event ended it
+  if (!connection) return;  // an earlier event ended the connection
   std::array<char, 4096> piece{};
   const ssize_t size = recv(socket, piece.data(), piece.size(), 0);
   if (size < 0 && (errno == EAGAIN || errno == EINTR)) return;

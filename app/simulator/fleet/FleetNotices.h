@@ -30,15 +30,15 @@ class FleetNotices {
   void AnswerSearches();
   /// Announces every projector, as `Announce` does.
   void AnnounceAll();
-  /// Sends that the projector is on the network, and its state.
+  /// Announces that the projector is on the network, and sends its state.
   void Announce(std::size_t projector);
-  /// Sends what has changed of the projector's state since the last notices, and what still changes
-  /// while it is switching.
+  /// Sends what has changed in the projector's state since the last notices. While it is switching,
+  /// further changes are sent when they happen.
   void SendChanges(std::size_t projector);
 
  private:
-  /// Runs the action for each projector, for a few at a time: whoever receives a datagram from each
-  /// could not take all of them at once.
+  /// Runs the action for each projector, a few at a time, because no receiver could take datagrams
+  /// from all of them at once.
   void ForEachInTurn(const std::function<void(std::size_t)>& action);
   void AnswerSearch(std::size_t projector, FleetSockets::Endpoint asker);
   bool SendsNotices(std::size_t projector) const;

@@ -35,7 +35,7 @@ struct RequestCounts {
 /// One of many simulated projectors. Takes a few kilobytes.
 struct FleetProjector {
   std::string name;
-  std::uint32_t address = 0;  ///< IPv4; 0 while it is off the network.
+  std::uint32_t address = 0;  ///< IPv4 address; 0 while it is off the network.
   std::size_t model = 0;      ///< Index of its profile.
   int protocolClass = 2;
   std::string errors;              ///< The six digits of PJLink's error status.
@@ -61,7 +61,8 @@ class FleetProjectors {
     std::chrono::milliseconds coolDown{30'000};
   };
 
-  /// Each projector is made from the next profile; after the last profile comes the first again.
+  /// The projectors use the profiles in turn; after the last profile, they start again with the
+  /// first.
   FleetProjectors(std::vector<FleetProfile> profiles, const Options& options);
 
   std::size_t Count() const { return projectors_.size(); }
@@ -80,7 +81,7 @@ class FleetProjectors {
   bool Move(std::size_t projector, std::uint32_t address);
   void SetFault(std::size_t projector, const ServiceFault& fault);
   void SetErrors(std::size_t projector, const std::string& digits);
-  /// Changes something at one projector, and returns which. Both depend only on `chance`.
+  /// Changes something at one projector, and returns the projector. Both depend only on `chance`.
   std::size_t ChangeOne(std::uint64_t chance);
 
   /// What the projector reports over PJLink.

@@ -6,11 +6,12 @@
 #include "settings/Rows.h"
 
 class CSliderCtrl;
-class NumberField;
 class QAbstractButton;
 class QWidget;
 
 namespace AdvancedControl {
+
+class NumberField;
 
 class SettingsDialog;
 

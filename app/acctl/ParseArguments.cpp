@@ -1,4 +1,4 @@
-#include "app/acctl/Arguments.h"
+#include "app/acctl/ParseArguments.h"
 
 #include <algorithm>
 
@@ -22,7 +22,8 @@ struct GivenWords {
   std::string error;
 };
 
-/// Whether the words ask for a format, for errors before the options are taken.
+/// Whether the words ask for JSON or another format: used for errors that occur before the options
+/// are read.
 bool NamesFormat(const std::vector<std::string>& words, const std::string& format) {
   for (std::size_t i = 0; i < words.size(); ++i) {
     const bool isFormat = i > 0 && (words[i - 1] == "-o" || words[i - 1] == "--format");
@@ -35,7 +36,8 @@ bool WantsJson(const std::vector<std::string>& words) {
   return NamesFormat(words, "json") || std::ranges::find(words, "--json") != words.end();
 }
 
-/// Texts for people are in their language; those in JSON are English. `arguments` has the defaults.
+/// The usual texts are in the user's language; those in JSON are in English. `arguments` has the
+/// defaults.
 void ChooseLanguage(const std::vector<std::string>& words, const Arguments& arguments) {
   const bool isJson = WantsJson(words) || NamesFormat(words, "jsonl") ||
                       arguments.format == Format::Json || arguments.format == Format::JsonLines;
@@ -45,9 +47,9 @@ void ChooseLanguage(const std::vector<std::string>& words, const Arguments& argu
   InstallTranslations(named ? *named : arguments.language.value_or(SystemLanguageId()));
 }
 
-// "--name", "--name value", "--name=value", "-o value". Words after "--" are never options, and
-// any other single minus begins a value. After an error it goes on, as the form of the output may
-// follow.
+// "--name", "--name value", "--name=value", "-o value". Words after "--" are never options, and any
+// other word that begins with one "-" is a value. Goes on after an error, because the output format
+// may still follow.
 GivenWords Separate(const std::vector<std::string>& words) {
   GivenWords given;
   const auto fail = [&given](std::string error) {
@@ -97,7 +99,8 @@ bool IsFolder(const GivenOption& option, Command command) {
   return option.isShort && option.form->name == "format" && command == Command::Save;
 }
 
-/// The form of the output that is asked for, whatever else is wrong; nothing without one.
+/// The output format that the words ask for, even if other words are wrong; nothing if they ask for
+/// none.
 std::optional<Format> AskedFormat(const GivenWords& given, Command command) {
   std::optional<Format> asked;
   for (const GivenOption& option : given.options) {
@@ -138,7 +141,7 @@ bool IsAssignment(const std::string& word) {
   return word[end] == '=' || (word[end] == '+' && word.compare(end, 2, "+=") == 0);
 }
 
-/// Puts keys and values in turn. Whether every key has a value.
+/// Splits the words into keys and values, in turn. Returns whether every key has a value.
 bool PairWords(std::vector<std::string>& words) {
   std::vector<std::string> pairs;
   for (std::size_t i = 0; i < words.size(); ++i) {
@@ -177,7 +180,8 @@ void Distribute(std::vector<std::string> words, Words order, Arguments& argument
   }
 }
 
-/// What the table of commands does not say. The usage is wrong if this returns false.
+/// Distributes the words as the table of commands cannot describe. Returns false if the usage is
+/// wrong.
 bool TakeSpecialWords(Arguments& arguments) {
   auto& words = arguments.words;
   switch (arguments.command) {

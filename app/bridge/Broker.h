@@ -1,19 +1,12 @@
 #pragma once
 
-#include <atomic>
-#include <chrono>
-#include <condition_variable>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <thread>
 
 #include <QByteArray>
-#include <QObject>
 #include <QString>
-
-struct mosquitto;
 
 /// How to reach a message broker.
 struct BrokerAddress {
@@ -49,7 +42,7 @@ class Broker {
 
   /// Begins to connect. The broker sends `will` when the connection breaks.
   Broker(const BrokerAddress& address, const std::optional<BrokerMessage>& will, Listener listener);
-  /// Says good-bye, so that the will is not sent.
+  /// Says good-bye, so that the will is not sent. Does not wait for a broker that does not answer.
   ~Broker();
   Broker(const Broker&) = delete;
   Broker& operator=(const Broker&) = delete;
@@ -66,20 +59,9 @@ class Broker {
   std::optional<int> Publish(const BrokerMessage& message);
 
  private:
-  QString Configure(const BrokerAddress& address, const std::optional<BrokerMessage>& will);
-  void SetCallbacks();
-  void Run();
-  void QueueCall(std::function<void()> what);
+  class Connection;
 
-  const BrokerAddress address_;
-  const Listener listener_;
-  std::unique_ptr<mosquitto, void (*)(mosquitto*)> client_;
-  QString error_;
-  QObject context_;  ///< What is told ends with it.
-  std::mutex mutex_;
-  std::condition_variable ends_;
-  bool isEnding_ = false;  ///< Under the mutex.
-  std::atomic<bool> isConnected_ = false;
-  std::atomic<int> refusal_ = 0;  ///< What the broker said instead of connecting.
+  const std::shared_ptr<Connection> connection_;
+  const QString error_;
   std::thread thread_;
 };

@@ -22,6 +22,7 @@ BrokerLink::~BrokerLink() {
   isClosing_ = true;
   if (!session_ || !session_->IsConnected() || !keeper_.IsSettled()) return;
   publisher_.Stop();
+  if (const auto claim = keeper_.GiveUp()) Publish(*claim);
   session_->SayOffline();
 }
 
@@ -47,7 +48,7 @@ void BrokerLink::Connect() {
 
 void BrokerLink::TakeConnected() {
   isSettled_ = false;
-  keeper_.Connected(Now());
+  keeper_.Connected();
   services_.renewed();
 }
 
@@ -60,22 +61,27 @@ void BrokerLink::TakeDisconnected() {
 void BrokerLink::Take(const BrokerMessage& message) {
   if (isClosing_) return;
   if (message.topic == topics_.Hello()) {
-    if (message.payload == instance_) {
-      keeper_.TakeHello(Now());
-    } else if (keeper_.IsSettled()) {
-      Log(QStringLiteral("another bridge has the same share, and should stand back"));
-    }
+    TakeHello(message.payload);
   } else if (message.topic == topics_.Holder()) {
-    if (const auto holder = ParseHolder(message.payload)) keeper_.TakeHolder(*holder, Now());
+    if (const auto claim = ParseClaim(message.payload)) keeper_.TakeClaim(*claim);
   } else if (message.topic == topics_.Availability()) {
     const bool isOnline = message.payload == "online";
     keeper_.TakeAvailability(isOnline);
     // This is the late last will of an earlier connection with this share.
-    if (!isOnline && isSettled_) session_->SayOnline();
-  } else {
+    if (!isOnline && keeper_.IsSettled()) session_->SayOnline();
+  } else if (keeper_.IsSettled()) {
     services_.received(message);
   }
-  FollowRole();
+  Tick();
+}
+
+void BrokerLink::TakeHello(const QByteArray& instance) {
+  if (instance == instance_) return keeper_.TakeHello();
+  if (!keeper_.IsSettled()) return;
+  Log(QStringLiteral("another bridge has the same share, and should stand back"));
+  if (!keeper_.TakeOtherHello(instance.toStdString())) return;
+  // Its states are those of the time before it hung.
+  publisher_.Forget(Publisher::Kind::State);
 }
 
 void BrokerLink::FollowRole() {
@@ -111,9 +117,11 @@ void BrokerLink::Settle() {
 void BrokerLink::Tick() {
   keeper_.Tick(Now());
   if (isSettled_) {
-    if (const auto beat = keeper_.TakeBeat(Now())) {
-      session_->Publish({topics_.Holder(), HolderMessage(*beat, services_.share), true});
-    }
+    if (const auto claim = keeper_.TakeBeat(Now())) Publish(*claim);
   }
   FollowRole();
+}
+
+void BrokerLink::Publish(const Claim& claim) {
+  session_->Publish({topics_.Holder(), ClaimMessage(claim, services_.share), true});
 }

@@ -50,8 +50,10 @@ class BrokerLink {
   void TakeConnected();
   void TakeDisconnected();
   void Take(const BrokerMessage& message);
+  void TakeHello(const QByteArray& instance);
   void FollowRole();
   void Settle();
+  void Publish(const Claim& claim);
 
   const BrokerAddress address_;
   const Topics topics_;

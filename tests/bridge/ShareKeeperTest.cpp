@@ -1,0 +1,315 @@
+// Who has a share, without a network: bridges at a broker, in every order of what may happen.
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <random>
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "app/bridge/ShareKeeper.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+using Role = ShareKeeper::Role;
+
+constexpr std::chrono::milliseconds kTakeover = 3s;
+
+/// Bridges with the same share at one broker. A bridge takes one message at a time.
+class Bridges {
+ public:
+  enum class Event : std::uint8_t {
+    Take,    ///< It takes its next message.
+    Repeat,  ///< The same, and the message comes again.
+    Tick,
+    Break,  ///< Its connection, and what is under way is lost.
+    Hang,   ///< For longer than a takeover takes.
+    Lapse,  ///< It hangs until its last will is sent.
+    Crash,
+    End,
+  };
+  static constexpr std::size_t kEvents = 8;
+
+  explicit Bridges(std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+      One& one = all_.emplace_back();
+      one.name = static_cast<char>('a' + i);
+      StartAgain(one);
+    }
+  }
+
+  void Do(Event event, std::size_t which = 0) {
+    One& one = all_[which];
+    switch (event) {
+      case Event::Take:
+        return Take(one, false);
+      case Event::Repeat:
+        return Take(one, true);
+      case Event::Tick:
+        return Tick(one);
+      case Event::Break:
+        return Break(one);
+      case Event::Hang:
+        return Hang(one);
+      case Event::Lapse:
+        return Hang(one), Lapse(one);
+      case Event::Crash:
+        return Break(one), StartAgain(one);
+      case Event::End:
+        return End(one);
+    }
+  }
+  void Pass(std::chrono::milliseconds time) {
+    for (const auto end = now_ + time; now_ < end;) {
+      now_ += 250ms;
+      for (One& one : all_) Work(one);
+    }
+  }
+  /// Takes what has come, and does what is due.
+  void Work(std::size_t which) { Work(all_[which]); }
+  void RestartBroker(bool remembers) {
+    for (One& one : all_) Lose(one);
+    if (!remembers) claim_.reset(), isOnline_.reset();
+  }
+  void Stall(std::chrono::milliseconds time) { now_ += time; }
+
+  std::string Holders() const {
+    std::string names;
+    for (const One& one : all_) {
+      if (one.keeper->IsSettled()) names += one.name.front();
+    }
+    return names;
+  }
+  /// How often a bridge has changed its role.
+  int Changes() const { return changes_; }
+  const ShareKeeper& Keeper(std::size_t which) const { return *all_[which].keeper; }
+  ShareKeeper::Time Now() const { return now_; }
+
+ private:
+  struct One {
+    std::string name{};
+    std::unique_ptr<ShareKeeper> keeper{};
+    bool isUp = false;   ///< As the broker sees it.
+    bool holds = false;  ///< What its connection is for.
+    std::deque<std::function<void()>> inbox{};
+  };
+
+  /// As a new run, with a name that decides as before.
+  void StartAgain(One& one) {
+    one.name += '\'';
+    one.keeper = std::make_unique<ShareKeeper>(one.name, kTakeover, now_);
+    one.holds = one.isUp = false;
+    one.inbox.clear();
+  }
+  void Connect(One& one) {
+    one.isUp = true;
+    one.inbox.clear();
+    one.keeper->Connected();
+    if (claim_) Tell(one, *claim_);
+    if (isOnline_) Tell(one, *isOnline_);
+    one.inbox.emplace_back([&one] { one.keeper->TakeHello(); });
+  }
+  static void Tell(One& one, const Claim& claim) {
+    one.inbox.emplace_back([&one, claim] { one.keeper->TakeClaim(claim); });
+  }
+  static void Tell(One& one, bool isOnline) {
+    one.inbox.emplace_back([&one, isOnline] { one.keeper->TakeAvailability(isOnline); });
+  }
+  template <typename T>
+  void TellAll(const T& what) {
+    for (One& one : all_) {
+      if (one.isUp) Tell(one, what);
+    }
+  }
+  void SetOnline(bool isOnline) {
+    isOnline_ = isOnline;
+    TellAll(isOnline);
+  }
+  void Claimed(const Claim& claim) {
+    claim_ = claim;
+    TellAll(claim);
+  }
+  void Take(One& one, bool again) {
+    if (one.inbox.empty()) return;
+    const auto take = one.inbox.front();
+    if (!again) one.inbox.pop_front();
+    take();
+  }
+  void Tick(One& one) {
+    one.keeper->Tick(now_);
+    const bool holds = one.keeper->GetRole() == Role::Holding;
+    if (one.holds != holds) ++changes_;
+    if (std::exchange(one.holds, holds) != holds || !one.isUp) {
+      one.keeper->Disconnected();
+      Connect(one);
+    } else if (const auto claim = one.keeper->TakeBeat(now_)) {
+      SetOnline(true);
+      Claimed(*claim);
+    }
+  }
+  void Work(One& one) {
+    while (!one.inbox.empty()) Take(one, false);
+    Tick(one);
+  }
+  static void Lose(One& one) {
+    one.isUp = false;
+    one.inbox.clear();
+    one.keeper->Disconnected();
+  }
+  /// Its connection breaks, what is under way is lost, and the broker sends the last will.
+  void Break(One& one) {
+    const bool hasWill = one.isUp && one.holds;
+    Lose(one);
+    if (hasWill) SetOnline(false);
+  }
+  /// It does nothing, and the others work on. Then it first does what was due.
+  void Hang(One& one) {
+    for (const auto end = now_ + 2 * kTakeover; now_ < end;) {
+      now_ += 250ms;
+      for (One& other : all_) {
+        if (&other != &one) Work(other);
+      }
+    }
+    if (one.isUp) Tick(one);
+  }
+  /// The broker has given the connection up. What has come before is still taken.
+  void Lapse(One& one) {
+    const auto came = std::move(one.inbox);
+    Break(one);
+    for (const auto& take : came) take();
+  }
+  void End(One& one) {
+    if (const auto claim = one.keeper->GiveUp()) {
+      Claimed(*claim);
+      SetOnline(false);
+    }
+    StartAgain(one);
+  }
+
+  ShareKeeper::Time now_{1h};
+  std::deque<One> all_;
+  std::optional<Claim> claim_;
+  std::optional<bool> isOnline_;
+  int changes_ = 0;
+};
+
+/// Who holds after a while, from when on nothing changes; a text in brackets if it does.
+std::string Fate(Bridges& bridges) {
+  bridges.Pass(3 * kTakeover);
+  const std::string holders = bridges.Holders();
+  const int changes = bridges.Changes();
+  bridges.Pass(3 * kTakeover);
+  return bridges.Changes() == changes && bridges.Holders() == holders ? holders : "(unsteady)";
+}
+
+TEST(ShareKeeper, TwoBridgesAgreeAfterEveryShortHistory) {
+  constexpr int kSteps = 3;
+  constexpr std::size_t kChoices = 2 * Bridges::kEvents;
+  std::size_t count = 1;
+  for (int i = 0; i < kSteps; ++i) count *= kChoices;
+  for (const bool hasHolder : {false, true}) {
+    for (std::size_t history = 0; history < count; ++history) {
+      Bridges bridges(2);
+      if (hasHolder) bridges.Pass(kTakeover);
+      std::string told;
+      for (std::size_t i = 0, rest = history; i < kSteps; ++i, rest /= kChoices) {
+        const auto event = rest % kChoices;
+        bridges.Do(static_cast<Bridges::Event>(event / 2), event % 2);
+        told += ' ' + std::to_string(event / 2) + (event % 2 == 0 ? 'a' : 'b');
+      }
+      const std::string fate = Fate(bridges);
+      ASSERT_EQ(fate.size(), 1U) << fate << " after" << told << ", " << hasHolder;
+    }
+  }
+}
+
+TEST(ShareKeeper, ThreeBridgesAgreeAfterLongHistories) {
+  for (unsigned seed = 1; seed <= 2000; ++seed) {
+    std::minstd_rand random(seed);
+    Bridges bridges(3);
+    for (int i = 0; i < 100; ++i) {
+      constexpr unsigned kRare = 50;
+      const auto chance = static_cast<unsigned>(random() % kRare);
+      const auto event = chance < Bridges::kEvents ? static_cast<Bridges::Event>(chance)
+                         : chance % 2 == 0         ? Bridges::Event::Take
+                                                   : Bridges::Event::Tick;
+      bridges.Do(event, random() % 3);
+      bridges.Stall(std::chrono::milliseconds(random() % 300));
+    }
+    const std::string fate = Fate(bridges);
+    ASSERT_EQ(fate.size(), 1U) << fate << ' ' << seed;
+  }
+}
+
+TEST(ShareKeeper, BridgesThatAreOnlySlowKeepTheirRoles) {
+  std::minstd_rand random(1);
+  Bridges bridges(3);
+  bridges.Pass(kTakeover);
+  const std::string holder = bridges.Holders();
+  const int changes = bridges.Changes();
+  for (int i = 0; i < 2000; ++i) {
+    // The holder is late by less than the takeover; the others hang for any time.
+    bridges.Stall(std::chrono::milliseconds(random() % 1500));
+    bridges.Work(static_cast<std::size_t>(holder.front() - 'a'));
+    if (random() % 4 == 0) bridges.Work(random() % 3);
+  }
+  EXPECT_EQ(bridges.Holders(), holder);
+  EXPECT_EQ(bridges.Changes(), changes);
+}
+
+TEST(ShareKeeper, AnotherTakesOverWhenTheHolderIsGone) {
+  using Event = Bridges::Event;
+  for (const auto& [event, delay] :
+       {std::pair(Event::End, 250ms), std::pair(Event::Crash, 750ms)}) {
+    Bridges bridges(2);
+    for (int i = 0; i < 4; ++i) bridges.Work(0);
+    bridges.Pass(5 * kTakeover);
+    ASSERT_EQ(bridges.Holders(), "a");
+    EXPECT_FALSE(bridges.Keeper(1).MayAsk(ShareKeeper::Time::max()));
+    bridges.Do(event, 0);
+    bridges.Pass(delay);
+    EXPECT_TRUE(bridges.Keeper(1).MayAsk(bridges.Now())) << "long before the silence";
+  }
+}
+
+TEST(ShareKeeper, ABrokerThatRestartsKeepsTheHolder) {
+  for (const bool remembers : {true, false}) {
+    Bridges bridges(2);
+    bridges.Pass(kTakeover);
+    const std::string holder = bridges.Holders();
+    bridges.RestartBroker(remembers);
+    EXPECT_EQ(Fate(bridges), holder) << remembers;
+    EXPECT_EQ(bridges.Keeper(holder == "a" ? 0 : 1).BrokerRemembers(), remembers);
+  }
+}
+
+TEST(ShareKeeper, KnowsWhoClaimedTheShareBefore) {
+  ShareKeeper keeper("b", kTakeover, {});
+  keeper.TakeClaim({.term = 1, .instance = "a", .beat = 1});
+  EXPECT_FALSE(keeper.TakeOtherHello("c"));
+  EXPECT_TRUE(keeper.TakeOtherHello("a"));
+  EXPECT_FALSE(keeper.TakeOtherHello("a")) << "once";
+}
+
+TEST(ShareKeeper, AsksWithoutABrokerAfterAWhile) {
+  const ShareKeeper::Time begin{1h};
+  ShareKeeper keeper("a", 30s, begin);
+  EXPECT_FALSE(keeper.MayAsk(begin + 29s));
+  EXPECT_TRUE(keeper.MayAsk(begin + 30s));
+  for (const char* wrong :
+       {"", "{}", "[]", R"({"instance":"a"})", R"({"instance":"","term":1,"beat":1})",
+        R"({"instance":"a","beat":1})", R"({"instance":"a","term":1,"beat":-1})",
+        R"({"instance":1,"term":1,"beat":1})"}) {
+    EXPECT_FALSE(ParseClaim(wrong)) << wrong;
+  }
+  for (const Claim& claim : {Claim{3, "a", 7, false}, Claim{3, "a", 8, true}}) {
+    EXPECT_EQ(ParseClaim(ClaimMessage(claim)), claim);
+  }
+}
+
+}  // namespace

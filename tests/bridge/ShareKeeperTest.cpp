@@ -76,6 +76,8 @@ class Bridges {
     for (One& one : all_) Lose(one);
     if (!remembers) claim_.reset(), isOnline_.reset();
   }
+  /// The last will of a connection that nobody has any more.
+  void SendLateWill() { SetOnline(false); }
   void Stall(std::chrono::milliseconds time) { now_ += time; }
 
   std::string Holders() const {
@@ -288,9 +290,26 @@ TEST(ShareKeeper, ABrokerThatRestartsKeepsTheHolder) {
   }
 }
 
-TEST(ShareKeeper, KnowsWhoClaimedTheShareBefore) {
-  ShareKeeper keeper("b", kTakeover, {});
-  keeper.TakeClaim({.term = 1, .instance = "a", .beat = 1});
+TEST(ShareKeeper, ALateLastWillChangesNothing) {
+  Bridges bridges(3);
+  bridges.Pass(kTakeover);
+  const int changes = bridges.Changes();
+  bridges.SendLateWill();
+  bridges.Pass(3 * kTakeover);
+  EXPECT_EQ(bridges.Changes(), changes);
+}
+
+TEST(ShareKeeper, TellsWhoClaimedTheShareBeforeAtOnce) {
+  const ShareKeeper::Time now{1h};
+  ShareKeeper keeper("b", kTakeover, now);
+  keeper.Connected();
+  keeper.TakeClaim({.term = 1, .instance = "a", .beat = 1, .isGivenUp = true});
+  keeper.TakeHello();
+  keeper.TakeHello();
+  EXPECT_EQ(keeper.TakeBeat(now), (Claim{.term = 2, .instance = "b", .beat = 1}));
+  EXPECT_FALSE(keeper.TakeBeat(now)) << "not yet";
+  keeper.TakeClaim({.term = 1, .instance = "a", .beat = 2});
+  EXPECT_EQ(keeper.TakeBeat(now), (Claim{.term = 2, .instance = "b", .beat = 2}));
   EXPECT_FALSE(keeper.TakeOtherHello("c"));
   EXPECT_TRUE(keeper.TakeOtherHello("a"));
   EXPECT_FALSE(keeper.TakeOtherHello("a")) << "once";

@@ -95,6 +95,63 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   EXPECT_EQ(Changes(), "0") << "without --allow-commands";
 }
 
+TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
+  StartProjectors(20);
+  MosquittoBroker broker(folder_.path());
+  const quint16 ports[] = {FreePort(), FreePort()};
+  const QStringList options = At(broker) + QStringList{"--takeover", "3"};
+  const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};
+  Subscriber subscriber(broker.port, {"projectors/#"});
+  const auto holds = [&](int which) {
+    return Metric(ports[which], "projector_bridge_holds_share") == 1;
+  };
+  for (const bool isCutOff : {false, true}) {
+    int holder = 0;
+    ASSERT_TRUE(Soon([&] {
+      holder = holds(0) ? 0 : 1;
+      return holds(holder) && !holds(1 - holder) && subscriber.With("/state", "\"answers\"") == 20;
+    }));
+    int on = 1;
+    while (on < 20 && subscriber.StateOf(NameOf(on))["power"] != "on") ++on;
+    const auto id = static_cast<pid_t>(bridges[holder]->Id());
+    kill(id, SIGSTOP);
+    EXPECT_TRUE(Soon([&] { return holds(1 - holder); })) << bridges[1 - holder]->Said().data();
+    EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
+    const auto isTold = [&] { return subscriber.StateOf(NameOf(on))["power"] == "standby"; };
+    EXPECT_TRUE(Soon(isTold));
+    if (isCutOff) {
+      broker.Stop();
+      broker.Start();
+    }
+    kill(id, SIGCONT);
+    EXPECT_TRUE(Soon([&] { return holds(0) != holds(1); })) << bridges[holder]->Said().data();
+    EXPECT_TRUE(holds(1 - holder));
+    EXPECT_TRUE(isTold()) << "not what the one that hung knew";
+  }
+}
+
+TEST_F(BridgeProgram, EndsWhileTheBrokersHostAnswersNothing) {
+  StartProjectors(1);
+  QTcpServer server;
+  server.setListenBacklogSize(0);
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  server.pauseAccepting();
+  const auto connecting = [end = QByteArray::number(server.serverPort(), 16).toUpper() + " 02 "] {
+    return Contents("/proc/net/tcp").count(end);
+  };
+  std::vector<std::unique_ptr<QTcpSocket>> others;
+  while (connecting() == 0) {
+    others.push_back(std::make_unique<QTcpSocket>());
+    others.back()->connectToHost(QHostAddress::LocalHost, server.serverPort());
+    QCoreApplication::processEvents();
+  }
+  const auto before = connecting();
+  Daemon bridge(BRIDGE_PROGRAM, {"--profiles", profiles_, "--listen", "none", "--broker",
+                                 QString("127.0.0.1:%1").arg(server.serverPort())});
+  EXPECT_TRUE(Soon([&] { return connecting() > before; }));
+  bridge.Stop();  // the system would try for two minutes
+}
+
 TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
   StartProjectors(20);
   MosquittoBroker broker(folder_.path(), false);

@@ -15,7 +15,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds kFirstPause{500};
 constexpr milliseconds kLongestPause{30'000};
 constexpr int kKeepAlive = 20;  // seconds
 constexpr int kWait = 1000;     // milliseconds
@@ -53,7 +52,7 @@ class Broker::Connection {
         client_(MakeClient(this), mosquitto_destroy) {}
 
   QString Configure(const std::optional<BrokerMessage>& will);
-  /// Connects again and again until the end. Runs on a thread of its own.
+  /// Connects, and stays connected as long as possible. Runs on a thread of its own.
   void Run();
   /// Tells the listener nothing more, and disconnects. Returns false if the thread is connecting:
   /// it then ends by itself some time.
@@ -198,9 +197,9 @@ void Broker::Connection::Run() {
     lock.unlock();
     int code = Connect();
     while (code == MOSQ_ERR_SUCCESS) code = mosquitto_loop(client_.get(), kWait, 1);
-    if (isConnected_.exchange(false)) pause = kFirstPause;
     const QString reason = refusal_ == 0 ? ErrorText(code) : RefusalText(refusal_);
     QueueCall([this, reason] { listener_.disconnected(reason); });
+    if (isConnected_) return;
     lock.lock();
     ends_.wait_for(lock, pause, [this] { return !context_; });
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -27,13 +28,19 @@ struct BrokerMessage {
   bool isRetained = false;
 };
 
-/// A connection to a message broker that is made again whenever it breaks, after pauses from half a
-/// second to half a minute. Belongs to the thread that makes it, on which all functions of the
-/// listener are called; the network has a thread of its own.
+/// A connection to a message broker. It is tried again until it is made, after pauses from half a
+/// second to half a minute. Once it breaks it is over, with the messages under way. Belongs to the
+/// thread that makes it, on which all functions of the listener are called; the network has a
+/// thread of its own.
 class Broker {
  public:
+  /// The pause after the first try. Also how long to wait before a connection that broke is
+  /// replaced.
+  static constexpr std::chrono::milliseconds kFirstPause{500};
+
   struct Listener {
     std::function<void()> connected;
+    /// Also after each try that failed.
     std::function<void(const QString& reason)> disconnected;
     std::function<void(int number)> subscribed;
     std::function<void(const BrokerMessage& message)> received;
@@ -54,8 +61,7 @@ class Broker {
 
   /// Sent exactly once, as far as this depends on the sender.
   std::optional<int> Subscribe(const QByteArray& topic);
-  /// Sent at least once. A message passed while the connection is broken is sent when it is
-  /// restored.
+  /// Sent at least once.
   std::optional<int> Publish(const BrokerMessage& message);
 
  private:

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <QTimer>
 #include <QUuid>
 
 #include "app/bridge/Log.h"
@@ -16,7 +15,12 @@ BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
       instance_(QUuid::createUuid().toByteArray(QUuid::WithoutBraces)),
       keeper_(instance_.toStdString(), takeover, Now()),
       publisher_(projectors, std::move(make),
-                 [this](const BrokerMessage& message) { return session_->Publish(message); }) {}
+                 [this](const BrokerMessage& message) { return session_->Publish(message); }) {
+  connecting_.setSingleShot(true);
+  QObject::connect(&connecting_, &QTimer::timeout, &connecting_, [this] {
+    if (!isClosing_) Connect();
+  });
+}
 
 BrokerLink::~BrokerLink() {
   isClosing_ = true;
@@ -41,7 +45,7 @@ void BrokerLink::Connect() {
   session_ = std::make_unique<BrokerSession>(
       address_, topics_, instance_, holds_,
       BrokerSession::Listener{.connected = [this] { TakeConnected(); },
-                              .disconnected = [this] { TakeDisconnected(); },
+                              .lost = [this] { TakeLost(); },
                               .received = [this](const BrokerMessage& message) { Take(message); },
                               .sent = [this](int number) { publisher_.Sent(number); }});
 }
@@ -52,10 +56,11 @@ void BrokerLink::TakeConnected() {
   services_.renewed();
 }
 
-void BrokerLink::TakeDisconnected() {
+void BrokerLink::TakeLost() {
   isSettled_ = false;
   keeper_.Disconnected();
   publisher_.Stop();
+  connecting_.start(Broker::kFirstPause);
 }
 
 void BrokerLink::Take(const BrokerMessage& message) {
@@ -94,9 +99,7 @@ void BrokerLink::FollowRole() {
   if (std::exchange(holds_, holds) != holds) {
     publisher_.Stop();
     // Not while the connection is telling something.
-    QTimer::singleShot(0, &context_, [this] {
-      if (!isClosing_) Connect();
-    });
+    connecting_.start(0);
   } else if (keeper_.IsSettled() && !std::exchange(isSettled_, true)) {
     Settle();
   }

@@ -6,7 +6,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
-#include <QObject>
+#include <QTimer>
 
 #include "app/bridge/BrokerSession.h"
 #include "app/bridge/Publisher.h"
@@ -48,7 +48,7 @@ class BrokerLink {
   static ShareKeeper::Time Now() { return std::chrono::steady_clock::now(); }
   void Connect();
   void TakeConnected();
-  void TakeDisconnected();
+  void TakeLost();
   void Take(const BrokerMessage& message);
   void TakeHello(const QByteArray& instance);
   void FollowRole();
@@ -66,5 +66,5 @@ class BrokerLink {
   bool stoodBack_ = false;
   bool isClosing_ = false;
   std::unique_ptr<BrokerSession> session_;
-  QObject context_;  ///< Ends first, with the connection that is to be made.
+  QTimer connecting_;  ///< Makes the next connection.
 };

@@ -49,8 +49,9 @@ void ShareKeeper::Connected() {
 
 void ShareKeeper::TakeClaim(const Claim& claim) {
   if (claim.instance == instance_) {
-    // The last one may not have reached the broker before the connection broke.
-    if (!isSettled_) remembers_ = claim.beat + 1 >= beat_;
+    // Later ones may not have reached the broker before the connection broke.
+    if (isSettled_) returned_ = claim.beat;
+    if (!isSettled_) remembers_ = claim.beat >= returned_;
     return;
   }
   if (!claim.isGivenUp) claimants_.insert(claim.instance);

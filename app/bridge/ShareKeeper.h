@@ -87,6 +87,7 @@ class ShareKeeper {
   bool hasClaimed_ = false;  ///< In this term.
   std::uint64_t term_ = 0;
   std::uint64_t beat_ = 0;
+  std::uint64_t returned_ = 0;  ///< The last beat that the broker told back.
   std::optional<Time> beaten_{};
   Claim other_{};                      ///< The greatest one of any other bridge.
   std::set<std::string> claimants_{};  ///< The others that have claimed the share.

@@ -59,8 +59,18 @@ TEST_F(Publishing, SendsTheLatestOnceAndAnswersFirst) {
   }
   publisher_.Start();
   EXPECT_EQ(Sent(), "2=4 ");
+  AcknowledgeAll();
   publisher_.Forget(Kind::State);
-  EXPECT_EQ(Sent(), "0=0 1=1 2=4 ");
+  publisher_.Answer({"a", "!"});
+  publisher_.Answer({"b", "!"});
+  EXPECT_EQ(Sent(), "0=0 1=1 2=4 a=! b=! ");
+  publisher_.Sent(++acknowledged_);
+  publisher_.Restart();  // the connection broke
+  EXPECT_EQ(Sent(), "");
+  publisher_.Start();
+  EXPECT_EQ(Sent(), "a=! b=! 2=4 1=1 ") << "what the broker did not confirm";
+  acknowledged_ = number_ - 4;
+  AcknowledgeAll();
   EXPECT_EQ(publisher_.Counts().at("state"), 7U);
 }
 

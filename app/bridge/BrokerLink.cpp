@@ -13,9 +13,12 @@ BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
       topics_(topics),
       services_(std::move(services)),
       instance_(QUuid::createUuid().toByteArray(QUuid::WithoutBraces)),
-      keeper_(instance_.toStdString(), takeover, Now()),
-      publisher_(projectors, std::move(make),
-                 [this](const BrokerMessage& message) { return session_->Publish(message); }) {
+      takeover_(takeover),
+      ticked_(Now()),
+      keeper_(instance_.toStdString(), takeover, ticked_),
+      publisher_(projectors, std::move(make), [this](const BrokerMessage& message) {
+        return HasHung() ? std::nullopt : session_->Publish(message);
+      }) {
   connecting_.setSingleShot(true);
   QObject::connect(&connecting_, &QTimer::timeout, &connecting_, [this] {
     if (!isClosing_) Connect();
@@ -45,7 +48,7 @@ void BrokerLink::Connect() {
   session_ = std::make_unique<BrokerSession>(
       address_, topics_, instance_, holds_,
       BrokerSession::Listener{.connected = [this] { TakeConnected(); },
-                              .lost = [this] { TakeLost(); },
+                              .lost = [this] { ConnectAgain(Broker::kFirstPause); },
                               .received = [this](const BrokerMessage& message) { Take(message); },
                               .sent = [this](int number) { publisher_.Sent(number); }});
 }
@@ -56,15 +59,17 @@ void BrokerLink::TakeConnected() {
   services_.renewed();
 }
 
-void BrokerLink::TakeLost() {
+/// Before the next connection is settled, nothing is sent and no command is taken.
+void BrokerLink::ConnectAgain(std::chrono::milliseconds pause) {
   isSettled_ = false;
   keeper_.Disconnected();
   publisher_.Stop();
-  connecting_.start(Broker::kFirstPause);
+  connecting_.start(pause);
 }
 
 void BrokerLink::Take(const BrokerMessage& message) {
   if (isClosing_) return;
+  if (HasHung()) Tick();
   if (message.topic == topics_.Hello()) {
     TakeHello(message.payload);
   } else if (message.topic == topics_.Holder()) {
@@ -118,9 +123,12 @@ void BrokerLink::Settle() {
 }
 
 void BrokerLink::Tick() {
-  keeper_.Tick(Now());
+  // Another bridge may have the share by now, and commands that came meanwhile are old.
+  if (HasHung() && isSettled_) ConnectAgain({});
+  ticked_ = Now();
+  keeper_.Tick(ticked_);
   if (isSettled_) {
-    if (const auto claim = keeper_.TakeBeat(Now())) Publish(*claim);
+    if (const auto claim = keeper_.TakeBeat(ticked_)) Publish(*claim);
   }
   FollowRole();
 }

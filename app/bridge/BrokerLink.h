@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -46,9 +47,11 @@ class BrokerLink {
 
  private:
   static ShareKeeper::Time Now() { return std::chrono::steady_clock::now(); }
+  /// Whether this process has done nothing for so long that another one may have taken over.
+  bool HasHung() const { return Now() - ticked_ >= takeover_; }
   void Connect();
   void TakeConnected();
-  void TakeLost();
+  void ConnectAgain(std::chrono::milliseconds pause);
   void Take(const BrokerMessage& message);
   void TakeHello(const QByteArray& instance);
   void FollowRole();
@@ -59,6 +62,8 @@ class BrokerLink {
   const Topics topics_;
   const Services services_;
   const QByteArray instance_;
+  const std::chrono::milliseconds takeover_;
+  ShareKeeper::Time ticked_;
   ShareKeeper keeper_;
   Publisher publisher_;
   bool holds_ = false;      ///< What the present connection is for.

@@ -100,9 +100,10 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
   StartProjectors(20);
   MosquittoBroker broker(folder_.path());
   const quint16 ports[] = {FreePort(), FreePort()};
-  const QStringList options = At(broker) + QStringList{"--takeover", "3"};
+  const QStringList options =
+      At(broker) + QStringList{"--takeover", "3", "--allow-commands", "power"};
   const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};
-  Subscriber subscriber(broker.port, {"projectors/#"});
+  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
   const auto holds = [&](int which) {
     return Metric(ports[which], "projector_bridge_holds_share") == 1;
   };
@@ -116,6 +117,8 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
     while (on < 20 && subscriber.StateOf(NameOf(on))["power"] != "on") ++on;
     const auto id = static_cast<pid_t>(bridges[holder]->Id());
     kill(id, SIGSTOP);
+    const std::string changes = Changes();
+    Publish(broker, {"-t", "projectors/" + subscriber.Find("on", {}) + "/set/power", "-m", "off"});
     EXPECT_TRUE(Soon([&] { return holds(1 - holder); })) << bridges[1 - holder]->Said().data();
     EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
     const auto isTold = [&] { return subscriber.StateOf(NameOf(on))["power"] == "standby"; };
@@ -128,6 +131,7 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
     EXPECT_TRUE(Soon([&] { return holds(0) != holds(1); })) << bridges[holder]->Said().data();
     EXPECT_TRUE(holds(1 - holder));
     EXPECT_TRUE(isTold()) << "not what the one that hung knew";
+    EXPECT_EQ(Changes(), changes) << "the command that came meanwhile is old";
   }
 }
 

@@ -4,7 +4,6 @@
 #include <deque>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <random>
 #include <string>
 #include <utility>
@@ -23,17 +22,14 @@ constexpr std::chrono::milliseconds kTakeover = 3s;
 /// Bridges with the same share at one broker. A bridge takes one message at a time.
 class Bridges {
  public:
-  enum class Event : std::uint8_t {
-    Take,    ///< It takes its next message.
-    Repeat,  ///< The same, and the message comes again.
-    Tick,
-    Break,  ///< Its connection, and what is under way is lost.
-    Hang,   ///< For longer than a takeover takes.
-    Lapse,  ///< It hangs until its last will is sent.
-    Crash,
-    End,
+  using Message = std::function<void(ShareKeeper&)>;
+  struct One {
+    std::string name{};
+    std::unique_ptr<ShareKeeper> keeper{};
+    bool isUp = false;   ///< As the broker sees it.
+    bool holds = false;  ///< What its connection is for.
+    std::deque<Message> inbox{};
   };
-  static constexpr std::size_t kEvents = 8;
 
   explicit Bridges(std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
@@ -43,27 +39,61 @@ class Bridges {
     }
   }
 
-  void Do(Event event, std::size_t which = 0) {
-    One& one = all_[which];
-    switch (event) {
-      case Event::Take:
-        return Take(one, false);
-      case Event::Repeat:
-        return Take(one, true);
-      case Event::Tick:
-        return Tick(one);
-      case Event::Break:
-        return Break(one);
-      case Event::Hang:
-        return Hang(one);
-      case Event::Lapse:
-        return Hang(one), Lapse(one);
-      case Event::Crash:
-        return Break(one), StartAgain(one);
-      case Event::End:
-        return End(one);
+  /// What may happen to a bridge.
+  using Event = void (Bridges::*)(One& one);
+  void Do(Event event, std::size_t which) { (this->*event)(all_[which]); }
+
+  void Take(One& one) {
+    if (one.inbox.empty()) return;
+    const auto take = one.inbox.front();
+    one.inbox.pop_front();
+    take(*one.keeper);
+  }
+  /// It takes a message that comes again.
+  void Repeat(One& one) {
+    if (!one.inbox.empty()) one.inbox.front()(*one.keeper);
+  }
+  void Tick(One& one) {
+    one.keeper->Tick(now_);
+    const bool holds = one.keeper->GetRole() == Role::Holding;
+    if (one.holds != holds) ++changes_;
+    if (std::exchange(one.holds, holds) != holds || !one.isUp) {
+      one.keeper->Disconnected();
+      Connect(one);
+    } else if (const auto claim = one.keeper->TakeBeat(now_)) {
+      SetOnline(true);
+      Publish(*claim);
     }
   }
+  /// Its connection breaks, what is under way is lost, and the broker sends the last will.
+  void Break(One& one) {
+    const bool hasWill = one.isUp && one.holds;
+    Lose(one);
+    if (hasWill) SetOnline(false);
+  }
+  /// It does nothing while the others take over. Then it first does what was due.
+  void Hang(One& one) {
+    for (const auto end = now_ + 2 * kTakeover; now_ < end;) {
+      now_ += 250ms;
+      for (One& other : all_) {
+        if (&other != &one) Work(other);
+      }
+    }
+    if (one.isUp) Tick(one);
+  }
+  /// It hangs until the broker gives its connection up. What has come before is still taken.
+  void Lapse(One& one) {
+    Hang(one);
+    const auto came = std::move(one.inbox);
+    Break(one);
+    for (const auto& take : came) take(*one.keeper);
+  }
+  void Crash(One& one) { Break(one), StartAgain(one); }
+  void End(One& one) {
+    if (const auto claim = one.keeper->GiveUp()) Publish(*claim), SetOnline(false);
+    StartAgain(one);
+  }
+
   void Pass(std::chrono::milliseconds time) {
     for (const auto end = now_ + time; now_ < end;) {
       now_ += 250ms;
@@ -74,7 +104,7 @@ class Bridges {
   void Work(std::size_t which) { Work(all_[which]); }
   void RestartBroker(bool remembers) {
     for (One& one : all_) Lose(one);
-    if (!remembers) claim_.reset(), isOnline_.reset();
+    if (!remembers) claim_ = isOnline_ = nullptr;
   }
   /// The last will of a connection that nobody has any more.
   void SendLateWill() { SetOnline(false); }
@@ -93,14 +123,6 @@ class Bridges {
   ShareKeeper::Time Now() const { return now_; }
 
  private:
-  struct One {
-    std::string name{};
-    std::unique_ptr<ShareKeeper> keeper{};
-    bool isUp = false;   ///< As the broker sees it.
-    bool holds = false;  ///< What its connection is for.
-    std::deque<std::function<void()>> inbox{};
-  };
-
   /// As a new run, with a name that decides as before.
   void StartAgain(One& one) {
     one.name += '\'';
@@ -112,50 +134,24 @@ class Bridges {
     one.isUp = true;
     one.inbox.clear();
     one.keeper->Connected();
-    if (claim_) Tell(one, *claim_);
-    if (isOnline_) Tell(one, *isOnline_);
-    one.inbox.emplace_back([&one] { one.keeper->TakeHello(); });
+    for (const auto& retained : {claim_, isOnline_}) {
+      if (retained) one.inbox.push_back(retained);
+    }
+    one.inbox.emplace_back([](ShareKeeper& keeper) { keeper.TakeHello(); });
   }
-  static void Tell(One& one, const Claim& claim) {
-    one.inbox.emplace_back([&one, claim] { one.keeper->TakeClaim(claim); });
-  }
-  static void Tell(One& one, bool isOnline) {
-    one.inbox.emplace_back([&one, isOnline] { one.keeper->TakeAvailability(isOnline); });
-  }
-  template <typename T>
-  void TellAll(const T& what) {
+  void TellAll(const Message& message) {
     for (One& one : all_) {
-      if (one.isUp) Tell(one, what);
+      if (one.isUp) one.inbox.push_back(message);
     }
   }
   void SetOnline(bool isOnline) {
-    isOnline_ = isOnline;
-    TellAll(isOnline);
+    TellAll(isOnline_ = [isOnline](ShareKeeper& keeper) { keeper.TakeAvailability(isOnline); });
   }
-  void Claimed(const Claim& claim) {
-    claim_ = claim;
-    TellAll(claim);
-  }
-  void Take(One& one, bool again) {
-    if (one.inbox.empty()) return;
-    const auto take = one.inbox.front();
-    if (!again) one.inbox.pop_front();
-    take();
-  }
-  void Tick(One& one) {
-    one.keeper->Tick(now_);
-    const bool holds = one.keeper->GetRole() == Role::Holding;
-    if (one.holds != holds) ++changes_;
-    if (std::exchange(one.holds, holds) != holds || !one.isUp) {
-      one.keeper->Disconnected();
-      Connect(one);
-    } else if (const auto claim = one.keeper->TakeBeat(now_)) {
-      SetOnline(true);
-      Claimed(*claim);
-    }
+  void Publish(const Claim& claim) {
+    TellAll(claim_ = [claim](ShareKeeper& keeper) { keeper.TakeClaim(claim); });
   }
   void Work(One& one) {
-    while (!one.inbox.empty()) Take(one, false);
+    while (!one.inbox.empty()) Take(one);
     Tick(one);
   }
   static void Lose(One& one) {
@@ -163,42 +159,16 @@ class Bridges {
     one.inbox.clear();
     one.keeper->Disconnected();
   }
-  /// Its connection breaks, what is under way is lost, and the broker sends the last will.
-  void Break(One& one) {
-    const bool hasWill = one.isUp && one.holds;
-    Lose(one);
-    if (hasWill) SetOnline(false);
-  }
-  /// It does nothing, and the others work on. Then it first does what was due.
-  void Hang(One& one) {
-    for (const auto end = now_ + 2 * kTakeover; now_ < end;) {
-      now_ += 250ms;
-      for (One& other : all_) {
-        if (&other != &one) Work(other);
-      }
-    }
-    if (one.isUp) Tick(one);
-  }
-  /// The broker has given the connection up. What has come before is still taken.
-  void Lapse(One& one) {
-    const auto came = std::move(one.inbox);
-    Break(one);
-    for (const auto& take : came) take();
-  }
-  void End(One& one) {
-    if (const auto claim = one.keeper->GiveUp()) {
-      Claimed(*claim);
-      SetOnline(false);
-    }
-    StartAgain(one);
-  }
-
   ShareKeeper::Time now_{1h};
   std::deque<One> all_;
-  std::optional<Claim> claim_;
-  std::optional<bool> isOnline_;
+  Message claim_;     ///< The retained one, or null.
+  Message isOnline_;  ///< The same.
   int changes_ = 0;
 };
+
+constexpr Bridges::Event kEvents[] = {&Bridges::Take,  &Bridges::Repeat, &Bridges::Tick,
+                                      &Bridges::Break, &Bridges::Hang,   &Bridges::Lapse,
+                                      &Bridges::Crash, &Bridges::End};
 
 /// Who holds after a while, from when on nothing changes; a text in brackets if it does.
 std::string Fate(Bridges& bridges) {
@@ -211,7 +181,7 @@ std::string Fate(Bridges& bridges) {
 
 TEST(ShareKeeper, TwoBridgesAgreeAfterEveryShortHistory) {
   constexpr int kSteps = 3;
-  constexpr std::size_t kChoices = 2 * Bridges::kEvents;
+  constexpr std::size_t kChoices = 2 * std::size(kEvents);
   std::size_t count = 1;
   for (int i = 0; i < kSteps; ++i) count *= kChoices;
   for (const bool hasHolder : {false, true}) {
@@ -221,7 +191,7 @@ TEST(ShareKeeper, TwoBridgesAgreeAfterEveryShortHistory) {
       std::string told;
       for (std::size_t i = 0, rest = history; i < kSteps; ++i, rest /= kChoices) {
         const auto event = rest % kChoices;
-        bridges.Do(static_cast<Bridges::Event>(event / 2), event % 2);
+        bridges.Do(kEvents[event / 2], event % 2);
         told += ' ' + std::to_string(event / 2) + (event % 2 == 0 ? 'a' : 'b');
       }
       const std::string fate = Fate(bridges);
@@ -237,9 +207,9 @@ TEST(ShareKeeper, ThreeBridgesAgreeAfterLongHistories) {
     for (int i = 0; i < 100; ++i) {
       constexpr unsigned kRare = 50;
       const auto chance = static_cast<unsigned>(random() % kRare);
-      const auto event = chance < Bridges::kEvents ? static_cast<Bridges::Event>(chance)
-                         : chance % 2 == 0         ? Bridges::Event::Take
-                                                   : Bridges::Event::Tick;
+      const auto event = chance < std::size(kEvents) ? kEvents[chance]
+                         : chance % 2 == 0           ? &Bridges::Take
+                                                     : &Bridges::Tick;
       bridges.Do(event, random() % 3);
       bridges.Stall(std::chrono::milliseconds(random() % 300));
     }
@@ -265,9 +235,8 @@ TEST(ShareKeeper, BridgesThatAreOnlySlowKeepTheirRoles) {
 }
 
 TEST(ShareKeeper, AnotherTakesOverWhenTheHolderIsGone) {
-  using Event = Bridges::Event;
   for (const auto& [event, delay] :
-       {std::pair(Event::End, 250ms), std::pair(Event::Crash, 750ms)}) {
+       {std::pair(&Bridges::End, 250ms), std::pair(&Bridges::Crash, 750ms)}) {
     Bridges bridges(2);
     for (int i = 0; i < 4; ++i) bridges.Work(0);
     bridges.Pass(5 * kTakeover);

@@ -151,7 +151,9 @@ TEST(Shipped, ThePackageEnablesItsServiceOnlyIfThereAreProjectors) {
       mkdir -p root/var/lib/dpkg/updates root/var/lib/dpkg/info root/etc/advanced-control
       touch root/var/lib/dpkg/status
     }
-    package() { dpkg --root="$made/root" --force-script-chrootless --force-not-root --force-unsafe-io "$@"; }
+    package() {
+      dpkg --root="$made/root" --force-script-chrootless,not-root,unsafe-io "$@"
+    }
     service() { systemctl --root="$made/root" "$1" advanced-control-bridge.service; }
     is_disabled() { ! service is-enabled; }
     is_purged() { ! ls root/etc/systemd/system/*.wants/*; }

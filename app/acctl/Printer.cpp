@@ -130,7 +130,10 @@ void Printer::AddValues(const QJsonObject& entry) {
 }
 
 void Printer::Add(const std::string& name, bool isSimulated, const Report& report) {
-  for (const Problem& problem : report.problems) Complain(name + ": " + problem.Line());
+  const std::string shown = ShownName(name, isSimulated);
+  for (const Problem& problem : report.problems) Complain(shown + ": " + problem.Line());
+  // This format has only the texts of the values.
+  if (isSimulated && arguments_.format == Format::Value) Complain(shown);
   const bool isFile = arguments_.command == Command::Save && arguments_.file == "-";
   if (isFile) {
     Write(report.text);
@@ -143,6 +146,10 @@ void Printer::Add(const std::string& name, bool isSimulated, const Report& repor
   } else {
     AddValues(EntryOf(name, isSimulated, report));
   }
+}
+
+void Printer::AddTable(std::string_view text) {
+  if (arguments_.format == Format::Text) Write(text);
 }
 
 void Printer::Add(const Problem& problem) {

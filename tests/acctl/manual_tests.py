@@ -49,7 +49,8 @@ class LookingUp(Building):
     COMPLETED = (("acctl exp", ["explain", "export"]), ("acctl get @buil", ["@building-1", "@building-3"]),
                  ("acctl set Office contr", ["contrast"]), ("acctl list --for", ["--format"]),
                  ("acctl get Office power -o js", ["json", "jsonl"]), ("acctl save Office -o sav", ["saved"]),
-                 ("acctl set Office power=st", ["standby"]), ("acctl set Office input s", ["s-video"]),
+                 ("acctl undo last Off", ["Office"]), ("acctl set Office power=st", ["standby"]),
+                 ("acctl set Office input s", ["s-video"]),
                  ("acctl reset Office status.", ["status.filter-time", "status.lamp-time"]))
 
     def completed(self, shell, line):

@@ -28,6 +28,8 @@ class LookingUp(Building):
         self.assertIn("Lecture hall", csv)
         (self.folder / "new.csv").write_text("name,address,tags\nA,192.0.2.7,x\nB,nonsense:nonsense:1,y\n")
         self.check(["--profiles", "new.json", "import", "new.csv"], 1, "^1 added, 0 known, 1 wrong", "new.csv:3: ")
+        faults = self.json("--profiles", "new.json", "import", "new.csv", code=1)["errors"]
+        self.assertEqual([(fault["code"], fault["text"][:9]) for fault in faults], [("wrong-file", "new.csv:3")])
         self.check(["--profiles", "new.json", "list", "@x", "--brief"], 0, "^A\n$")
         run = self.acctl("import", "new.csv", ACCTL_PROFILES="")
         self.assertEqual((run.returncode, run.stderr), (2, "acctl: name the profile file with --profiles\n"))

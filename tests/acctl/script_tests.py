@@ -178,8 +178,8 @@ class Runs(Building):
         job.write_text(' {"undoOfJob": [{"id": "a\\nb", "snapshot": {}}]}')
         self.assertEqual(self.acctl("undo", "job.undo").stderr.count("\n"), 1)
         # What is undone and cannot be recorded is reported with an exit code of its own.
-        pipe = self.acctl("undo", "/dev/stdin", text=run.read_text())
-        self.assertEqual(pipe.returncode, 1)
+        pipe = self.acctl("undo", "/dev/stdin", "-o", "json", text=run.read_text())
+        self.assertEqual((pipe.returncode, json.loads(pipe.stdout)["errors"][0]["code"]), (1, "file"))
         self.assertIn("cannot record in /dev/stdin that it is undone", pipe.stderr)
 
     def test_what_was_set_for_a_new_input_is_undone_for_it(self):

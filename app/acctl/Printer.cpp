@@ -84,7 +84,8 @@ void Printer::Write(std::string_view text) {
 
 void Printer::AddText(const std::string& name, bool isSimulated, const std::string& text) {
   std::string prefix = ShownName(name, isSimulated);
-  prefix.append(static_cast<std::size_t>(std::max(0, nameWidth_ - DisplayWidth(prefix)) + 2), ' ');
+  const int gap = std::max(0, nameWidth_ - DisplayWidth(prefix)) + 2;
+  prefix.append(static_cast<std::size_t>(gap), ' ');
   std::string lines;
   for (std::size_t begin = 0; begin < text.size();) {
     const std::size_t end = std::min(text.find('\n', begin), text.size() - 1) + 1;

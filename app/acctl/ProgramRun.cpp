@@ -247,6 +247,7 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
   if (arguments_.command == Command::Diff || arguments_.command == Command::Apply) {
     const auto mistakes = FileMistakes(work, projectors_, models_);
     std::vector<Problem> problems;
+    problems.reserve(mistakes.size());
     for (const std::string& mistake : mistakes) {
       problems.push_back(
           {.code = ProblemCode::WrongFile, .text = mistake, .exitCode = ExitCode::WrongUse});

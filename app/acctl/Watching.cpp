@@ -71,7 +71,8 @@ class ProjectorWatch {
         profile_(profile),
         isSimulated_(IsSimulated(profile, shared.work.arguments)),
         prefix_(ShownName(profile.name, isSimulated_)) {
-    prefix_.append(static_cast<std::size_t>(nameWidth - DisplayWidth(prefix_) + 2), ' ');
+    const int gap = nameWidth - DisplayWidth(prefix_) + 2;
+    prefix_.append(static_cast<std::size_t>(gap), ' ');
   }
 
   void Run() {

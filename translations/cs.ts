@@ -130,10 +130,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>vrátit nastavení na výchozí hodnoty projektoru</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Vrátí nastavení na výchozí hodnoty projektoru a vypíše, jaké jsou potom. Počitadla hodin se vynulují jen po zadání přesného klíče, protože to nelze vrátit zpět.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>vypsat napájení, vstup, chyby a hodiny</translation>
     </message>
@@ -156,14 +152,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>restore saved settings</source>
         <translation>obnovit uložené nastavení</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>vrátit zpět poslední běh set nebo apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Obnoví na všech projektorech to, co nahradil poslední běh „set“ nebo „apply“, nebo to, co nahradil běh RUN: název, který vypíše „acctl undo --list“, nebo soubor. I vrácení lze vrátit zpět zadáním jeho názvu.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1039,6 +1027,31 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>the value before could not be read</source>
         <translation>předchozí hodnotu se nepodařilo načíst</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>toto nelze vrátit zpět</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Vrátí nastavení na výchozí hodnoty projektoru a vypíše, jaké jsou potom. „acctl undo“ obnoví předchozí stav. Počitadla hodin se vynulují jen po zadání přesného klíče, protože to nelze vrátit zpět.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>vrátit zpět poslední běh, který změnil nastavení</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>tento běh nezměnil žádný z těchto projektorů</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Obnoví to, co nahradil běh „set“, „reset“ nebo „apply“. RUN je název, který vypíše „acctl undo --list“, soubor, nebo „last“; bez něj se vrátí zpět poslední běh. S P nebo --where se obnoví jen tyto projektory a zbytek běhu lze vrátit zpět později. I vrácení lze vrátit zpět zadáním jeho názvu.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>přerušeno</translation>
     </message>
 </context>
 <context>

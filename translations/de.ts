@@ -128,10 +128,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Einstellungen auf den Standard des Projektors zurücksetzen</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>Ein/Aus, Eingang, Fehler und Stunden ausgeben</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>restore saved settings</source>
         <translation>gespeicherte Einstellungen wiederherstellen</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>den letzten Lauf von set oder apply rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Stellt auf allen beteiligten Projektoren wieder her, was der letzte Lauf von „set“ oder „apply“ ersetzt hat, oder was RUN ersetzt hat: ein Name aus „acctl undo --list“ oder eine Datei. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1020,6 +1008,31 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>the value before could not be read</source>
         <translation>der vorherige Wert konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>das kann nicht rückgängig gemacht werden</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. „acctl undo“ stellt den vorherigen Zustand wieder her. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>den letzten Lauf rückgängig machen, der Einstellungen geändert hat</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>der Lauf hat keinen dieser Projektoren geändert</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Stellt wieder her, was ein Lauf von „set“, „reset“ oder „apply“ ersetzt hat. RUN ist ein Name aus „acctl undo --list“, eine Datei oder „last“; ohne RUN wird der letzte Lauf rückgängig gemacht. Mit P oder --where werden nur diese Projektoren wiederhergestellt, und der Rest des Laufs kann später rückgängig gemacht werden. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>unterbrochen</translation>
     </message>
 </context>
 <context>

@@ -128,10 +128,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>palauta asetukset projektorin oletusarvoihin</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>tulosta virran tila, tulo, virheet ja käyttötunnit</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>restore saved settings</source>
         <translation>palauta tallennetut asetukset</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>kumoa viimeisin set- tai apply-ajo</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Palauttaa arvot, jotka viimeisin &apos;set&apos; tai &apos;apply&apos; korvasi kaikissa projektoreissaan, tai arvot, jotka RUN korvasi. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tai tiedosto. Myös kumoamisen voi kumota sen nimellä.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1020,6 +1008,31 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>the value before could not be read</source>
         <translation>aiempaa arvoa ei voitu lukea</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>tätä ei voi kumota</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. &apos;acctl undo&apos; palauttaa aiemman tilan. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>kumoa viimeisin ajo, joka muutti asetuksia</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>ajo ei muuttanut yhtäkään näistä projektoreista</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Palauttaa arvot, jotka &apos;set&apos;, &apos;reset&apos; tai &apos;apply&apos; korvasi ajossa. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tiedosto tai &apos;last&apos;; ilman sitä kumotaan viimeisin ajo. Jos P tai --where annetaan, palautetaan vain nämä projektorit, ja ajon loppuosan voi kumota myöhemmin. Myös kumoamisen voi kumota sen nimellä.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>keskeytetty</translation>
     </message>
 </context>
 <context>

@@ -128,10 +128,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>איפוס הגדרות לברירת המחדל של המקרן</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>הצגת הפעלה, קלט, שגיאות ושעות</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>restore saved settings</source>
         <translation>שחזור הגדרות שמורות</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>ביטול ההרצה האחרונה של set או apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>הפקודה משחזרת את מה שההרצה האחרונה של &apos;set&apos; או &apos;apply&apos; החליפה, בכל המקרנים שלה, או את מה ש־RUN החליפה: שם ש־&apos;acctl undo --list&apos; מדפיסה, או קובץ. גם ביטול אפשר לבטל לפי שמו.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1020,6 +1008,31 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>the value before could not be read</source>
         <translation>לא ניתן היה לקרוא את הערך הקודם</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>אי אפשר לבטל את זה</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. &apos;acctl undo&apos; משחזרת את מה שהיה קודם. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>ביטול ההרצה האחרונה ששינתה הגדרות</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>ההרצה לא שינתה אף אחד מהמקרנים האלה</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>הפקודה משחזרת את מה שהרצה של &apos;set&apos;, &apos;reset&apos; או &apos;apply&apos; החליפה. RUN הוא שם ש־&apos;acctl undo --list&apos; מדפיסה, קובץ או &apos;last&apos;; בלעדיו מבוטלת ההרצה האחרונה. עם P או --where משוחזרים רק המקרנים האלה, ואת שאר ההרצה אפשר לבטל מאוחר יותר. גם ביטול אפשר לבטל לפי שמו.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>הופסק</translation>
     </message>
 </context>
 <context>

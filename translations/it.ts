@@ -128,10 +128,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>riporta impostazioni allo standard del proiettore</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>mostra alimentazione, ingresso, errori e ore</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>restore saved settings</source>
         <translation>ripristina impostazioni salvate</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>annulla l’ultima esecuzione di set o apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Ripristina ciò che l’ultima esecuzione di “set” o “apply” ha sostituito, su tutti i suoi proiettori, o ciò che RUN ha sostituito: un nome mostrato da “acctl undo --list”, o un file. Anche un annullamento può essere annullato con il suo nome.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1020,6 +1008,31 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>the value before could not be read</source>
         <translation>non è stato possibile leggere il valore precedente</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>questo non può essere annullato</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. “acctl undo” ripristina ciò che c’era prima. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>annulla l’ultima esecuzione che ha modificato impostazioni</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>l’esecuzione non ha modificato nessuno di questi proiettori</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Ripristina ciò che un’esecuzione di “set”, “reset” o “apply” ha sostituito. RUN è un nome mostrato da “acctl undo --list”, un file o “last”; senza RUN viene annullata l’ultima esecuzione. Con P o --where vengono ripristinati solo questi proiettori, e il resto dell’esecuzione può essere annullato in seguito. Anche un annullamento può essere annullato con il suo nome.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrotto</translation>
     </message>
 </context>
 <context>

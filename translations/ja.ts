@@ -126,10 +126,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>設定をプロジェクターの標準値にリセット</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>設定をプロジェクター自身の標準値にリセットし、リセット後の値を表示します。使用時間のカウンターは元に戻せないため、キーを正確に指定した場合にのみリセットされます。</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>電源、入力、エラー、使用時間を表示</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>restore saved settings</source>
         <translation>保存した設定を復元</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>最後の set または apply を元に戻す</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>最後に実行した「set」または「apply」が置き換えた値を、その対象の全プロジェクターで復元します。RUN を指定すると、その実行が置き換えた値を復元します。RUN は「acctl undo --list」で表示される名前、またはファイルです。元に戻す操作自体も、名前を指定して元に戻せます。</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1001,6 +989,31 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>the value before could not be read</source>
         <translation>変更前の値を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>元に戻せません</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>設定をプロジェクター自身の標準値にリセットし、リセット後の値を表示します。「acctl undo」でリセット前の値に戻せます。使用時間のカウンターは元に戻せないため、キーを正確に指定した場合にのみリセットされます。</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>設定を変更した最後の実行を元に戻す</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>この実行ではこれらのプロジェクターは変更されていません</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>「set」、「reset」または「apply」の実行が置き換えた値を復元します。RUN は「acctl undo --list」で表示される名前、ファイル、または「last」です。省略すると最後の実行を元に戻します。P または --where を指定すると、そのプロジェクターだけを復元し、残りは後で元に戻せます。元に戻す操作自体も、名前を指定して元に戻せます。</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>中断しました</translation>
     </message>
 </context>
 <context>

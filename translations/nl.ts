@@ -128,10 +128,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>instellingen terugzetten op de standaard van de projector</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Zet instellingen terug op de eigen standaard van de projector en toont wat ze daarna zijn. Urentellers worden alleen met hun exacte sleutel op nul gezet, omdat dit niet ongedaan gemaakt kan worden.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>voeding, ingang, fouten en uren tonen</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>restore saved settings</source>
         <translation>opgeslagen instellingen herstellen</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>de laatste uitvoering van set of apply ongedaan maken</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Herstelt wat de laatste uitvoering van ‘set’ of ‘apply’ heeft vervangen, op alle betrokken projectors, of wat RUN heeft vervangen: een naam die ‘acctl undo --list’ toont, of een bestand. Ook dit kan met zijn naam weer ongedaan gemaakt worden.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1020,6 +1008,31 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>the value before could not be read</source>
         <translation>de vorige waarde kon niet gelezen worden</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>dit kan niet ongedaan gemaakt worden</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Zet instellingen terug op de eigen standaard van de projector en toont wat ze daarna zijn. ‘acctl undo’ herstelt wat er eerst was. Urentellers worden alleen met hun exacte sleutel op nul gezet, omdat dit niet ongedaan gemaakt kan worden.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>de laatste uitvoering die instellingen heeft gewijzigd ongedaan maken</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>de uitvoering heeft geen van deze projectors gewijzigd</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Herstelt wat een uitvoering van ‘set’, ‘reset’ of ‘apply’ heeft vervangen. RUN is een naam die ‘acctl undo --list’ toont, een bestand of ‘last’; zonder RUN wordt de laatste uitvoering ongedaan gemaakt. Met P of --where worden alleen deze projectors hersteld, en de rest van de uitvoering kan later ongedaan gemaakt worden. Ook dit kan met zijn naam weer ongedaan gemaakt worden.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>afgebroken</translation>
     </message>
 </context>
 <context>

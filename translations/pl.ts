@@ -130,10 +130,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>resetuje ustawienia do standardowych wartości projektora</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Resetuje ustawienia do własnych standardowych wartości projektora i wypisuje nowe wartości. Liczniki godzin są resetowane tylko po podaniu dokładnych kluczy, ponieważ nie da się tego cofnąć.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>wypisuje zasilanie, wejście, błędy i godziny</translation>
     </message>
@@ -156,14 +152,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>restore saved settings</source>
         <translation>przywraca zapisane ustawienia</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>cofa ostatnie wykonanie set lub apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Przywraca to, co zastąpiło ostatnie wykonanie „set” lub „apply” na wszystkich jego projektorach, albo to, co zastąpiło RUN: nazwa wypisana przez „acctl undo --list” lub plik. Samo cofnięcie też można cofnąć, podając jego nazwę.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1039,6 +1027,31 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>the value before could not be read</source>
         <translation>poprzedniej wartości nie udało się odczytać</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>tego nie da się cofnąć</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Resetuje ustawienia do własnych standardowych wartości projektora i wypisuje nowe wartości. „acctl undo” przywraca poprzedni stan. Liczniki godzin są resetowane tylko po podaniu dokładnych kluczy, ponieważ nie da się tego cofnąć.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>cofa ostatnie wykonanie, które zmieniło ustawienia</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>to wykonanie nie zmieniło żadnego z tych projektorów</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Przywraca to, co zastąpiło wykonanie „set”, „reset” lub „apply”. RUN to nazwa wypisana przez „acctl undo --list”, plik lub „last”; bez RUN cofane jest ostatnie wykonanie. Z P lub --where przywracane są tylko te projektory, a resztę wykonania można cofnąć później. Samo cofnięcie też można cofnąć, podając jego nazwę.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>przerwano</translation>
     </message>
 </context>
 <context>

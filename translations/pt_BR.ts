@@ -128,10 +128,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>redefinir ajustes para o padrão do projetor</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Redefine ajustes para o padrão do próprio projetor e mostra os novos valores. Contadores de horas só são zerados com sua chave exata, pois isso não pode ser desfeito.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>mostrar alimentação, entrada, erros e horas</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>restore saved settings</source>
         <translation>restaurar ajustes salvos</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>desfazer a última execução de set ou apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaura o que a última execução de “set” ou “apply” substituiu, em todos os seus projetores, ou o que RUN substituiu: um nome que “acctl undo --list” mostra, ou um arquivo. O próprio desfazer pode ser desfeito por seu nome.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1020,6 +1008,31 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>the value before could not be read</source>
         <translation>não foi possível ler o valor anterior</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>isto não pode ser desfeito</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Redefine ajustes para o padrão do próprio projetor e mostra os novos valores. “acctl undo” restaura o que havia antes. Contadores de horas só são zerados com sua chave exata, pois isso não pode ser desfeito.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>desfazer a última execução que alterou ajustes</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>a execução não alterou nenhum destes projetores</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Restaura o que uma execução de “set”, “reset” ou “apply” substituiu. RUN é um nome que “acctl undo --list” mostra, um arquivo ou “last”; sem ele, a última execução é desfeita. Com P ou --where, só esses projetores são restaurados, e o resto da execução pode ser desfeito mais tarde. O próprio desfazer pode ser desfeito por seu nome.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrompido</translation>
     </message>
 </context>
 <context>

@@ -905,10 +905,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>odmítnuto</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>přijato, ale %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nedosaženo včas, hodnota je %1</translation>
     </message>
@@ -1039,6 +1035,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>the value before could not be read</source>
         <translation>předchozí hodnotu se nepodařilo načíst</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>přijato, ale nepotvrzeno: %1</translation>
     </message>
 </context>
 <context>
@@ -2021,10 +2021,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Všechny příkazy</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (libovolný kód)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Vyberte nebo zadejte část názvu či kódu</translation>
     </message>
@@ -2036,6 +2032,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (libovolný kód)</translation>
     </message>
 </context>
 <context>
@@ -2480,10 +2480,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nikdy</translation>
     </message>
@@ -2554,6 +2550,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(stejné časy: bez doby klidu)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation> %</translation>
     </message>
 </context>
 <context>
@@ -3182,6 +3183,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Použití: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[přepínače]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Přepínače:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Zobrazí informace o verzi.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Neznámý přepínač „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Neznámé přepínače: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Za „%1“ chybí hodnota.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Neočekávaná hodnota za „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3791,10 +3827,6 @@ a minus in front takes a tag away:</source>
         <translation>Řádek %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Sloupce, které zde nemají význam: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exportovat tabulku</translation>
     </message>
@@ -3825,6 +3857,10 @@ a minus in front takes a tag away:</source>
             <numerusform>%n nepřevzaté řádky</numerusform>
             <numerusform>%n nepřevzatých řádků</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Neznámé sloupce: %1</translation>
     </message>
 </context>
 <context>
@@ -4038,24 +4074,6 @@ a minus in front takes a tag away:</source>
             <numerusform>hotovo %1 z %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, z toho %n ještě probíhá</numerusform>
-            <numerusform>, z toho %n ještě probíhají</numerusform>
-            <numerusform>, z toho %n ještě probíhá</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n selhal</numerusform>
-            <numerusform>, %n selhaly</numerusform>
-            <numerusform>, %n selhalo</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Vrátit zpět: %1</translation>
@@ -4094,6 +4112,24 @@ a minus in front takes a tag away:</source>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ještě probíhá</numerusform>
+            <numerusform>%n ještě probíhají</numerusform>
+            <numerusform>%n ještě probíhá</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n selhal</numerusform>
+            <numerusform>%n selhaly</numerusform>
+            <numerusform>%n selhalo</numerusform>
         </translation>
     </message>
 </context>

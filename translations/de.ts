@@ -886,10 +886,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>abgelehnt</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>angenommen, aber %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nicht rechtzeitig erreicht, der Wert ist %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>the value before could not be read</source>
         <translation>der vorherige Wert konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>angenommen, aber nicht bestätigt: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Alle Befehle</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (beliebiger Code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Auswählen oder einen Teil von Name oder Code eingeben</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (beliebiger Code)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nie</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(zweimal dieselbe Zeit: keine)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation> %</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Nach „%1“ fehlt der Wert.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Unerwarteter Wert nach „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Zeile %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Spalten ohne Bedeutung hier: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Tabelle exportieren</translation>
     </message>
@@ -3775,6 +3807,10 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>%n Zeile nicht übernommen</numerusform>
             <numerusform>%n Zeilen nicht übernommen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Unbekannte Spalten: %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>%1 von %n erledigt</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, davon %n noch unterwegs</numerusform>
-            <numerusform>, davon %n noch unterwegs</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n fehlgeschlagen</numerusform>
-            <numerusform>, %n fehlgeschlagen</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Rückgängig: %1</translation>
@@ -4031,6 +4051,22 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>
             <numerusform>erledigt, %n Einstellung konnte nicht gelesen werden</numerusform>
             <numerusform>erledigt, %n Einstellungen konnten nicht gelesen werden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n noch unterwegs</numerusform>
+            <numerusform>%n noch unterwegs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n fehlgeschlagen</numerusform>
+            <numerusform>%n fehlgeschlagen</numerusform>
         </translation>
     </message>
 </context>

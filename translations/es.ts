@@ -886,10 +886,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>rechazado</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>aceptado, pero %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>no alcanzado a tiempo, el valor es %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>the value before could not be read</source>
         <translation>el valor anterior no se pudo leer</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>aceptado, pero sin confirmar: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Todas las órdenes</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (cualquier código)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Elija, o escriba parte de un nombre o código</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (cualquier código)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nunca</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dos veces la misma hora: ninguna)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation> %</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opciones]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opción desconocida «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opciones desconocidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta el valor después de «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado después de «%1».</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Línea %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Columnas sin significado aquí: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exportar tabla</translation>
     </message>
@@ -3775,6 +3807,10 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>%n fila no aceptada</numerusform>
             <numerusform>%n filas no aceptadas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Columnas desconocidas: %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>%1 de %n hechos</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, de ellos %n aún en curso</numerusform>
-            <numerusform>, de ellos %n aún en curso</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n fallido</numerusform>
-            <numerusform>, %n fallidos</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Deshacer: %1</translation>
@@ -4031,6 +4051,22 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>
             <numerusform>hecho, no se pudo leer %n ajuste</numerusform>
             <numerusform>hecho, no se pudieron leer %n ajustes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n aún en curso</numerusform>
+            <numerusform>%n aún en curso</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n fallido</numerusform>
+            <numerusform>%n fallidos</numerusform>
         </translation>
     </message>
 </context>

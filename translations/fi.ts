@@ -886,10 +886,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>hylätty</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>hyväksytty, mutta %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>ei toteutunut ajoissa, arvo on %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>the value before could not be read</source>
         <translation>aiempaa arvoa ei voitu lukea</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>hyväksytty, mutta ei vahvistettu: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Kaikki komennot</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (mikä tahansa koodi)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Valitse tai kirjoita osa nimestä tai koodista</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (mikä tahansa koodi)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>ei koskaan</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(kahdesti sama aika: ei lainkaan)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation> %</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ miinus edessä poistaa tunnisteen:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Käyttö: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[valitsimet]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Valitsimet:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Näytä versiotiedot.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Tuntematon valitsin ”%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Tuntemattomat valitsimet: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valitsin ”%1” vaatii arvon.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Odottamaton arvo valitsimen ”%1” jälkeen.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>Rivi %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Sarakkeet, joilla ei ole tässä merkitystä: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Vie taulukko</translation>
     </message>
@@ -3775,6 +3807,10 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>%n rivi jätettiin pois</numerusform>
             <numerusform>%n riviä jätettiin pois</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Tuntemattomat sarakkeet: %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>%1/%n valmis</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, joista %n vielä kesken</numerusform>
-            <numerusform>, joista %n vielä kesken</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n epäonnistui</numerusform>
-            <numerusform>, %n epäonnistui</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Kumoa: %1</translation>
@@ -4031,6 +4051,22 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>
             <numerusform>valmis, %n asetusta ei voitu lukea</numerusform>
             <numerusform>valmis, %n asetusta ei voitu lukea</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n vielä kesken</numerusform>
+            <numerusform>%n vielä kesken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n epäonnistui</numerusform>
+            <numerusform>%n epäonnistui</numerusform>
         </translation>
     </message>
 </context>

@@ -886,10 +886,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>refusé</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>accepté, mais %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>pas atteint à temps, la valeur est %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>the value before could not be read</source>
         <translation>la valeur précédente n’a pas pu être lue</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>accepté, mais non confirmé : %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Toutes les commandes</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (tout code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Choisissez, ou saisissez une partie d’un nom ou d’un code</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1&#xa0;: %2, %3&#xa0;ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (tout code)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>jamais</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(deux fois la même heure&#xa0;: aucune)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation> %</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Usage : %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Option inconnue « %1 ».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Options inconnues : %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valeur manquante après « %1 ».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valeur inattendue après « %1 ».</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colonnes sans signification ici&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exporter un tableau</translation>
     </message>
@@ -3775,6 +3807,10 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>%n ligne non prise en compte</numerusform>
             <numerusform>%n lignes non prises en compte</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colonnes inconnues : %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>%1 sur %n terminés</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, dont %n encore en cours</numerusform>
-            <numerusform>, dont %n encore en cours</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n échec</numerusform>
-            <numerusform>, %n échecs</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Annulation&#xa0;: %1</translation>
@@ -4031,6 +4051,22 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>
             <numerusform>terminé, %n réglage n’a pas pu être lu</numerusform>
             <numerusform>terminé, %n réglages n’ont pas pu être lus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n encore en cours</numerusform>
+            <numerusform>%n encore en cours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n échec</numerusform>
+            <numerusform>%n échecs</numerusform>
         </translation>
     </message>
 </context>

@@ -886,10 +886,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>נדחתה</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>התקבלה, אבל %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>לא נכנסה לתוקף בזמן, הערך הוא %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>the value before could not be read</source>
         <translation>לא ניתן היה לקרוא את הערך הקודם</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>התקבלה, אך לא אושרה: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>כל הפקודות</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (כל קוד)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>יש לבחור או להקליד חלק משם או מקוד</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 מ״ש</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (כל קוד)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation> שנ׳</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>אף פעם</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(אותה שעה פעמיים: ללא)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>שימוש: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[אפשרויות]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>אפשרויות:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>הצגת פרטי הגרסה.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>האפשרות &quot;%1&quot; אינה מוכרת.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>אפשרויות לא מוכרות: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>חסר ערך אחרי &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>ערך לא צפוי אחרי &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ a minus in front takes a tag away:</source>
         <translation>שורה %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>עמודות שאין להן משמעות כאן: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>ייצוא טבלה</translation>
     </message>
@@ -3775,6 +3807,10 @@ a minus in front takes a tag away:</source>
             <numerusform>שורה אחת לא נקלטה</numerusform>
             <numerusform>%n שורות לא נקלטו</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>עמודות לא מוכרות: %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ a minus in front takes a tag away:</source>
             <numerusform>הסתיימו %1 מתוך %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, מהם אחד עדיין בתהליך</numerusform>
-            <numerusform>, מהם %n עדיין בתהליך</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, אחד נכשל</numerusform>
-            <numerusform>, %n נכשלו</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>ביטול: %1</translation>
@@ -4031,6 +4051,22 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>בוצע, לא ניתן היה לקרוא הגדרה אחת</numerusform>
             <numerusform>בוצע, לא ניתן היה לקרוא %n הגדרות</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>אחד עדיין בתהליך</numerusform>
+            <numerusform>%n עדיין בתהליך</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>אחד נכשל</numerusform>
+            <numerusform>%n נכשלו</numerusform>
         </translation>
     </message>
 </context>

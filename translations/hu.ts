@@ -867,10 +867,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>elutasítva</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>elfogadva, de %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nem érte el időben, értéke %1</translation>
     </message>
@@ -1001,6 +997,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>the value before could not be read</source>
         <translation>a korábbi érték nem volt beolvasható</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>elfogadva, de nincs megerősítve: %1</translation>
     </message>
 </context>
 <context>
@@ -1965,10 +1965,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>Minden parancs</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (bármely kód)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Válasszon, vagy írja be egy név vagy kód részletét</translation>
     </message>
@@ -1980,6 +1976,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (bármely kód)</translation>
     </message>
 </context>
 <context>
@@ -2410,10 +2410,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation> mp</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>soha</translation>
     </message>
@@ -2484,6 +2480,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(azonos időpontok: nincs)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3098,6 +3099,41 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Használat: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[kapcsolók]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Kapcsolók:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>A verzió.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Ismeretlen kapcsoló: „%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Ismeretlen kapcsolók: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Hiányzó érték ez után: „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Váratlan érték ez után: „%1”.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3697,10 +3733,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>%1. sor: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Itt nem értelmezett oszlopok: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Táblázat exportálása</translation>
     </message>
@@ -3725,6 +3757,10 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>
             <numerusform>%n sor nem lett átvéve</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Ismeretlen oszlopok: %1</translation>
     </message>
 </context>
 <context>
@@ -3918,20 +3954,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
             <numerusform>kész: %1 / %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, ebből %n még folyamatban</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n sikertelen</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Visszavonás: %1</translation>
@@ -3968,6 +3990,20 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>kész, %n beállítás nem volt beolvasható</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n még folyamatban</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n sikertelen</numerusform>
         </translation>
     </message>
 </context>

@@ -886,10 +886,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>rifiutata</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>accettata, ma %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>non raggiunto in tempo, il valore è %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>the value before could not be read</source>
         <translation>non è stato possibile leggere il valore precedente</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>accettata, ma non confermata: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Tutti i comandi</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (qualsiasi codice)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Scegliere o digitare parte di un nome o di un codice</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (qualsiasi codice)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>mai</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(due orari uguali: nessuna)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opzioni]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostra le informazioni sulla versione.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opzione sconosciuta “%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opzioni sconosciute: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Manca il valore dopo “%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valore inatteso dopo “%1”.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>Riga %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colonne qui senza significato: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Esporta tabella</translation>
     </message>
@@ -3775,6 +3807,10 @@ un segno meno davanti toglie un’etichetta:</numerusform>
             <numerusform>%n riga non importata</numerusform>
             <numerusform>%n righe non importate</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colonne sconosciute: %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
             <numerusform>%1 di %n completati</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, di cui %n ancora in corso</numerusform>
-            <numerusform>, di cui %n ancora in corso</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n non riuscito</numerusform>
-            <numerusform>, %n non riusciti</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Annullamento: %1</translation>
@@ -4031,6 +4051,22 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>
             <numerusform>completato, non è stato possibile leggere %n impostazione</numerusform>
             <numerusform>completato, non è stato possibile leggere %n impostazioni</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ancora in corso</numerusform>
+            <numerusform>%n ancora in corso</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n non riuscito</numerusform>
+            <numerusform>%n non riusciti</numerusform>
         </translation>
     </message>
 </context>

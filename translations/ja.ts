@@ -867,10 +867,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>拒否されました</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>受け付けられましたが、%1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>時間内に反映されませんでした (現在の値: %1)</translation>
     </message>
@@ -1001,6 +997,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>the value before could not be read</source>
         <translation>変更前の値を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>受け付けられましたが、確認できません: %1</translation>
     </message>
 </context>
 <context>
@@ -1965,10 +1965,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>すべてのコマンド</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (すべてのコード)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>選択するか、名前またはコードの一部を入力</translation>
     </message>
@@ -1980,6 +1976,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2、%3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (すべてのコード)</translation>
     </message>
 </context>
 <context>
@@ -2410,10 +2410,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation> 秒</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>通知しない</translation>
     </message>
@@ -2484,6 +2480,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(同じ時刻にすると停止なし)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3098,6 +3099,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>使い方: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[オプション]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>オプション:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>バージョン情報を表示します。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>不明なオプション「%1」です。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>不明なオプション: %1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>「%1」の後に値がありません。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>「%1」の後の値は不要です。</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3697,10 +3733,6 @@ a minus in front takes a tag away:</source>
         <translation>%1 行目: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>使用されない列: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>表のエクスポート</translation>
     </message>
@@ -3725,6 +3757,10 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>取り込めない行 %n 行</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>不明な列: %1</translation>
     </message>
 </context>
 <context>
@@ -3918,20 +3954,6 @@ a minus in front takes a tag away:</source>
             <numerusform>%n 台中 %1 台が完了</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>、うち %n 台は反映待ち</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>、%n 台が失敗</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>元に戻す: %1</translation>
@@ -3968,6 +3990,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完了、%n 件の設定は読み取れませんでした</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台は反映待ち</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台が失敗</numerusform>
         </translation>
     </message>
 </context>

@@ -867,10 +867,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>거부됨</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>승인되었지만 %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>제시간에 적용되지 않음, 현재 값: %1</translation>
     </message>
@@ -1001,6 +997,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>the value before could not be read</source>
         <translation>이전 값을 읽을 수 없었음</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>승인되었지만 확인되지 않음: %1</translation>
     </message>
 </context>
 <context>
@@ -1965,10 +1965,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>모든 명령</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (모든 코드)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>선택하거나 이름 또는 코드의 일부 입력</translation>
     </message>
@@ -1980,6 +1976,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (모든 코드)</translation>
     </message>
 </context>
 <context>
@@ -2410,10 +2410,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation> 초</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>사용 안 함</translation>
     </message>
@@ -2484,6 +2480,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(두 시각이 같으면 사용 안 함)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3098,6 +3099,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>사용법: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[옵션]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>옵션:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>버전 정보를 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>알 수 없는 옵션 ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>알 수 없는 옵션: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>‘%1’ 다음에 값이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>‘%1’ 다음에 예상하지 못한 값이 있습니다.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3697,10 +3733,6 @@ a minus in front takes a tag away:</source>
         <translation>%1번째 줄: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>사용되지 않는 열: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>표 내보내기</translation>
     </message>
@@ -3725,6 +3757,10 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>가져오지 못한 행 %n개</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>알 수 없는 열: %1</translation>
     </message>
 </context>
 <context>
@@ -3918,20 +3954,6 @@ a minus in front takes a tag away:</source>
             <numerusform>%n대 중 %1대 완료</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, 그중 %n대 진행 중</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n대 실패</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>실행 취소: %1</translation>
@@ -3968,6 +3990,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>완료, 설정 %n개를 읽을 수 없었음</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n대 진행 중</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n대 실패</numerusform>
         </translation>
     </message>
 </context>

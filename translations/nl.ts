@@ -886,10 +886,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>geweigerd</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>aanvaard, maar %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>niet op tijd bereikt, de waarde is %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>the value before could not be read</source>
         <translation>de vorige waarde kon niet gelezen worden</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>aanvaard, maar niet bevestigd: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Alle opdrachten</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (elke code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Kies, of typ een deel van een naam of code</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (elke code)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nooit</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(twee gelijke tijden: geen)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Gebruik: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opties]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opties:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>De versie tonen.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Onbekende optie ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Onbekende opties: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>De waarde na ‘%1’ ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Onverwachte waarde na ‘%1’.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>Regel %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Kolommen die hier niets betekenen: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Tabel exporteren</translation>
     </message>
@@ -3775,6 +3807,10 @@ een minteken ervoor neemt een label weg:</numerusform>
             <numerusform>%n rij niet overgenomen</numerusform>
             <numerusform>%n rijen niet overgenomen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Onbekende kolommen: %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ een minteken ervoor neemt een label weg:</numerusform>
             <numerusform>%1 van %n klaar</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, waarvan %n nog bezig</numerusform>
-            <numerusform>, waarvan %n nog bezig</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n mislukt</numerusform>
-            <numerusform>, %n mislukt</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Ongedaan maken: %1</translation>
@@ -4031,6 +4051,22 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>
             <numerusform>klaar, %n instelling kon niet gelezen worden</numerusform>
             <numerusform>klaar, %n instellingen konden niet gelezen worden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n nog bezig</numerusform>
+            <numerusform>%n nog bezig</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n mislukt</numerusform>
+            <numerusform>%n mislukt</numerusform>
         </translation>
     </message>
 </context>

@@ -905,10 +905,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>odrzucono</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>przyjęto, ale %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nie osiągnięto na czas, obecnie %1</translation>
     </message>
@@ -1039,6 +1035,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>the value before could not be read</source>
         <translation>poprzedniej wartości nie udało się odczytać</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>przyjęto, ale nie potwierdzono: %1</translation>
     </message>
 </context>
 <context>
@@ -2021,10 +2021,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Wszystkie polecenia</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (dowolny kod)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Wybierz lub wpisz część nazwy albo kodu</translation>
     </message>
@@ -2036,6 +2032,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (dowolny kod)</translation>
     </message>
 </context>
 <context>
@@ -2480,10 +2480,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nigdy</translation>
     </message>
@@ -2554,6 +2550,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dwie takie same godziny: brak)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3182,6 +3183,41 @@ minus przed tagiem go usuwa:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Użycie: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opcje]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opcje:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Wyświetla wersję.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Nieznana opcja „%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Nieznane opcje: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Brak wartości po „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Nieoczekiwana wartość po „%1”.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3791,10 +3827,6 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Wiersz %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Kolumny bez znaczenia: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Eksport tabeli</translation>
     </message>
@@ -3825,6 +3857,10 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>nie przyjęto %n wierszy</numerusform>
             <numerusform>nie przyjęto %n wierszy</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Nieznane kolumny: %1</translation>
     </message>
 </context>
 <context>
@@ -4038,24 +4074,6 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>gotowe: %1 z %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, w tym jeszcze w toku: %n</numerusform>
-            <numerusform>, w tym jeszcze w toku: %n</numerusform>
-            <numerusform>, w tym jeszcze w toku: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, nieudane: %n</numerusform>
-            <numerusform>, nieudane: %n</numerusform>
-            <numerusform>, nieudane: %n</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Cofanie: %1</translation>
@@ -4094,6 +4112,24 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawienia</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>jeszcze w toku: %n</numerusform>
+            <numerusform>jeszcze w toku: %n</numerusform>
+            <numerusform>jeszcze w toku: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>nieudane: %n</numerusform>
+            <numerusform>nieudane: %n</numerusform>
+            <numerusform>nieudane: %n</numerusform>
         </translation>
     </message>
 </context>

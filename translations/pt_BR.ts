@@ -886,10 +886,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>recusado</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>aceito, mas %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>não atingido a tempo, o valor é %1</translation>
     </message>
@@ -1020,6 +1016,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>the value before could not be read</source>
         <translation>não foi possível ler o valor anterior</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>aceito, mas não confirmado: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +1993,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Todos os comandos</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (qualquer código)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Escolha ou digite parte de um nome ou código</translation>
     </message>
@@ -2008,6 +2004,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (qualquer código)</translation>
     </message>
 </context>
 <context>
@@ -2445,10 +2445,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nunca</translation>
     </message>
@@ -2519,6 +2515,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dois horários iguais: nenhuma)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3140,6 +3141,41 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opções]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostrar a versão.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opção desconhecida “%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opções desconhecidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta o valor depois de “%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado depois de “%1”.</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3744,10 +3780,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>Linha %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colunas sem significado aqui: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exportar tabela</translation>
     </message>
@@ -3775,6 +3807,10 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
             <numerusform>%n linha não importada</numerusform>
             <numerusform>%n linhas não importadas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colunas desconhecidas: %1</translation>
     </message>
 </context>
 <context>
@@ -3978,22 +4014,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
             <numerusform>%1 de %n concluídos</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, deles %n ainda em andamento</numerusform>
-            <numerusform>, deles %n ainda em andamento</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n falhou</numerusform>
-            <numerusform>, %n falharam</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Desfazer: %1</translation>
@@ -4031,6 +4051,22 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>
             <numerusform>concluído, não foi possível ler %n ajuste</numerusform>
             <numerusform>concluído, não foi possível ler %n ajustes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ainda em andamento</numerusform>
+            <numerusform>%n ainda em andamento</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n falhou</numerusform>
+            <numerusform>%n falharam</numerusform>
         </translation>
     </message>
 </context>

@@ -905,10 +905,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>отклонено</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>принято, но %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>не достигнуто вовремя, сейчас %1</translation>
     </message>
@@ -1039,6 +1035,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>the value before could not be read</source>
         <translation>прежнее значение не удалось прочитать</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>принято, но не подтверждено: %1</translation>
     </message>
 </context>
 <context>
@@ -2021,10 +2021,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Все команды</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (любой код)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Выберите или введите часть названия или кода</translation>
     </message>
@@ -2036,6 +2032,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 мс</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (любой код)</translation>
     </message>
 </context>
 <context>
@@ -2480,10 +2480,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation> с</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>никогда</translation>
     </message>
@@ -2554,6 +2550,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(если время одинаковое — выключено)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation> %</translation>
     </message>
 </context>
 <context>
@@ -3182,6 +3183,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Использование: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметры]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Показать сведения о версии.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Неизвестный параметр «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Неизвестные параметры: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Отсутствует значение после «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Неожиданное значение после «%1».</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3791,10 +3827,6 @@ a minus in front takes a tag away:</source>
         <translation>Строка %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Столбцы, не имеющие здесь значения: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Экспорт таблицы</translation>
     </message>
@@ -3825,6 +3857,10 @@ a minus in front takes a tag away:</source>
             <numerusform>не приняты %n строки</numerusform>
             <numerusform>не принято %n строк</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Неизвестные столбцы: %1</translation>
     </message>
 </context>
 <context>
@@ -4038,24 +4074,6 @@ a minus in front takes a tag away:</source>
             <numerusform>готово: %1 из %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, с ошибкой: %n</numerusform>
-            <numerusform>, с ошибкой: %n</numerusform>
-            <numerusform>, с ошибкой: %n</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Отмена: %1</translation>
@@ -4094,6 +4112,24 @@ a minus in front takes a tag away:</source>
             <numerusform>готово, не удалось прочитать %n настройку</numerusform>
             <numerusform>готово, не удалось прочитать %n настройки</numerusform>
             <numerusform>готово, не удалось прочитать %n настроек</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>ещё выполняется: %n</numerusform>
+            <numerusform>ещё выполняется: %n</numerusform>
+            <numerusform>ещё выполняется: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>с ошибкой: %n</numerusform>
+            <numerusform>с ошибкой: %n</numerusform>
+            <numerusform>с ошибкой: %n</numerusform>
         </translation>
     </message>
 </context>

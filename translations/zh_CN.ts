@@ -867,10 +867,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>被拒绝</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>已接受，但%1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>未能及时生效，当前为 %1</translation>
     </message>
@@ -1001,6 +997,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>the value before could not be read</source>
         <translation>无法读取更改前的值</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>已接受，但未确认：%1</translation>
     </message>
 </context>
 <context>
@@ -1953,10 +1953,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>所有命令</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation>（任意代码）</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>请选择，或输入名称或代码的一部分</translation>
     </message>
@@ -1980,6 +1976,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1：%2，%3 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1（任意代码）</translation>
     </message>
 </context>
 <context>
@@ -2410,10 +2410,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation> 秒</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>从不</translation>
     </message>
@@ -2484,6 +2480,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>（两个时间相同：不设）</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3098,6 +3099,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[选项]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>显示版本信息。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知选项“%1”。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知选项：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>“%1”之后缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>“%1”之后有意外的值。</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3697,10 +3733,6 @@ a minus in front takes a tag away:</source>
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>未使用的列：%1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>导出表格</translation>
     </message>
@@ -3725,6 +3757,10 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>%n 行未导入</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>未知的列：%1</translation>
     </message>
 </context>
 <context>
@@ -3946,20 +3982,6 @@ a minus in front takes a tag away:</source>
             <numerusform>已完成 %1/%n 台</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，其中 %n 台仍在进行</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，%n 台失败</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
@@ -3968,6 +3990,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完成，%n 项设置无法读取</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台仍在进行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台失败</numerusform>
         </translation>
     </message>
 </context>

@@ -867,10 +867,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>遭拒絕</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>已接受，但%1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>未及時生效，目前為 %1</translation>
     </message>
@@ -1001,6 +997,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>the value before could not be read</source>
         <translation>無法讀取先前的值</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>已接受，但未確認：%1</translation>
     </message>
 </context>
 <context>
@@ -1965,10 +1965,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>所有命令</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation>（任何代碼）</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>請選擇，或輸入名稱或代碼的一部分</translation>
     </message>
@@ -1980,6 +1976,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1：%2，%3 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1（任何代碼）</translation>
     </message>
 </context>
 <context>
@@ -2410,10 +2410,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation> 秒</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>永不</translation>
     </message>
@@ -2484,6 +2480,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>（兩個時間相同表示不使用）</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3098,6 +3099,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[選項]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>選項：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>顯示版本資訊。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知選項「%1」。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知選項：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>「%1」之後缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>「%1」之後有非預期的值。</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3697,10 +3733,6 @@ a minus in front takes a tag away:</source>
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>此處不使用的欄：%1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>匯出表格</translation>
     </message>
@@ -3725,6 +3757,10 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>%n 列未匯入</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>未知的欄：%1</translation>
     </message>
 </context>
 <context>
@@ -3918,20 +3954,6 @@ a minus in front takes a tag away:</source>
             <numerusform>已完成 %1/%n 台</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，其中 %n 台仍在進行</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，%n 台失敗</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>復原：%1</translation>
@@ -3968,6 +3990,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完成，%n 項設定無法讀取</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台仍在進行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台失敗</numerusform>
         </translation>
     </message>
 </context>

@@ -2203,7 +2203,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Eine Einstellung suchen</translation>
+        <translation>Einstellung suchen</translation>
     </message>
     <message>
         <source>Esc</source>

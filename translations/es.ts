@@ -1898,7 +1898,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Tiempo de lámpara</translation>
+        <translation>Horas de lámpara</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1910,7 +1910,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Tiempo de filtro</translation>
+        <translation>Horas de filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>

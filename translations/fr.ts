@@ -1898,7 +1898,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Durée de lampe</translation>
+        <translation>Durée de la lampe</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1910,7 +1910,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Durée de filtre</translation>
+        <translation>Durée du filtre</translation>
     </message>
     <message>
         <source>Other (99)</source>

@@ -1870,7 +1870,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>ランプ時間</translation>
+        <translation>ランプ使用時間</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1882,7 +1882,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Filter time</source>
-        <translation>フィルター時間</translation>
+        <translation>フィルター使用時間</translation>
     </message>
     <message>
         <source>Other (99)</source>

@@ -1870,7 +1870,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>램프 시간</translation>
+        <translation>램프 사용 시간</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1882,7 +1882,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Filter time</source>
-        <translation>필터 시간</translation>
+        <translation>필터 사용 시간</translation>
     </message>
     <message>
         <source>Other (99)</source>

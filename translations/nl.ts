@@ -258,7 +258,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
-        <translation>Klaar. Ook als een projector in stand-by niet alles kon melden, of een wijziging heeft aanvaard die nog niet van kracht is.</translation>
+        <translation>Klaar. Ook als een projector in stand-by niet alles kon melden, of een wijziging heeft geaccepteerd die nog niet van kracht is.</translation>
     </message>
     <message>
         <source>Something was refused, a projector lacks a setting that was named, or a file or the output could not be read or written.</source>
@@ -645,7 +645,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>accepted, but not so yet</source>
-        <translation>aanvaard, maar nog niet van kracht</translation>
+        <translation>geaccepteerd, maar nog niet van kracht</translation>
     </message>
     <message numerus="yes">
         <source>%n refused</source>
@@ -697,7 +697,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>skipped, this model does not take it</source>
-        <translation>overgeslagen, dit model aanvaardt de waarde niet</translation>
+        <translation>overgeslagen, dit model accepteert de waarde niet</translation>
     </message>
     <message>
         <source>stopped at %1</source>
@@ -858,20 +858,20 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message numerus="yes">
         <source>stopped, %1 of %n steps accepted</source>
         <translation>
-            <numerusform>gestopt, %1 van %n stap aanvaard</numerusform>
-            <numerusform>gestopt, %1 van %n stappen aanvaard</numerusform>
+            <numerusform>gestopt, %1 van %n stap geaccepteerd</numerusform>
+            <numerusform>gestopt, %1 van %n stappen geaccepteerd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1; %2 of %n steps accepted</source>
         <translation>
-            <numerusform>%1; %2 van %n stap aanvaard</numerusform>
-            <numerusform>%1; %2 van %n stappen aanvaard</numerusform>
+            <numerusform>%1; %2 van %n stap geaccepteerd</numerusform>
+            <numerusform>%1; %2 van %n stappen geaccepteerd</numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet, it is %1</source>
-        <translation>aanvaard, maar nog niet van kracht, de waarde is %1</translation>
+        <translation>geaccepteerd, maar nog niet van kracht, de waarde is %1</translation>
     </message>
     <message>
         <source>%1, it may have been changed, it is %2</source>
@@ -1019,7 +1019,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
-        <translation>aanvaard, maar niet bevestigd: %1</translation>
+        <translation>geaccepteerd, maar niet bevestigd: %1</translation>
     </message>
 </context>
 <context>
@@ -1208,7 +1208,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Commands that each projector takes in a minute.</source>
-        <translation>Opdrachten die elke projector per minuut aanvaardt.</translation>
+        <translation>Opdrachten die elke projector per minuut accepteert.</translation>
     </message>
     <message>
         <source>n</source>
@@ -2203,7 +2203,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Een instelling zoeken</translation>
+        <translation>Instelling zoeken</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -4028,7 +4028,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>accepted, still under way</source>
-        <translation>aanvaard, nog bezig</translation>
+        <translation>geaccepteerd, nog bezig</translation>
     </message>
     <message>
         <source>refused</source>

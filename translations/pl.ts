@@ -1986,7 +1986,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>Stan błę&amp;dów</translation>
+        <translation>Stan błę&amp;du</translation>
     </message>
     <message>
         <source>&amp;Command</source>

@@ -1898,7 +1898,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Tempo da lâmpada</translation>
+        <translation>Horas da lâmpada</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1910,7 +1910,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Tempo do filtro</translation>
+        <translation>Horas do filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -2203,7 +2203,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Procurar um ajuste</translation>
+        <translation>Localizar ajuste</translation>
     </message>
     <message>
         <source>Esc</source>

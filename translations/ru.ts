@@ -1986,7 +1986,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>Состояние &amp;ошибок</translation>
+        <translation>Состояние &amp;ошибки</translation>
     </message>
     <message>
         <source>&amp;Command</source>

@@ -1712,7 +1712,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>blank</source>
-        <translation>图像消隐</translation>
+        <translation>空白画面</translation>
     </message>
     <message>
         <source>muted</source>
@@ -1842,7 +1842,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Cooling down</source>
-        <translation>冷却中</translation>
+        <translation>正在冷却</translation>
     </message>
     <message>
         <source>No error</source>
@@ -3592,11 +3592,11 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Cooling down</source>
-        <translation>冷却中</translation>
+        <translation>正在冷却</translation>
     </message>
     <message>
         <source>Warming up</source>
-        <translation>预热中</translation>
+        <translation>正在预热</translation>
     </message>
     <message>
         <source>Fan</source>
@@ -3672,7 +3672,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Blank</source>
-        <translation>图像消隐</translation>
+        <translation>空白画面</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -3783,16 +3783,16 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>图像消隐(&amp;B)</translation>
+        <translation>空白画面(&amp;B)</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>图像消隐</translation>
+        <translation>显示空白画面</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation>
-            <numerusform>要对 %n 台投影机消隐画面吗？</numerusform>
+            <numerusform>要让 %n 台投影机显示空白画面吗？</numerusform>
         </translation>
     </message>
     <message>

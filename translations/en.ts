@@ -494,17 +494,17 @@ a minus in front takes a tag away:</numerusform>
     <message numerus="yes">
         <source>%n still under way</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n still under way</numerusform>
+            <numerusform>%n still under way</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n failed</source>
         <comment>projectors</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
         </translation>
     </message>
 </context>

@@ -250,7 +250,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue Advanced Control. Les projecteurs sont ceux d’un fichier de profils.</translation>
+        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue « Commande avancée ». Les projecteurs sont ceux d’un fichier de profils.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -2223,7 +2223,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct&#xa0;: chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Commande avancée %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct&#xa0;: chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2257,11 +2257,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control&#xa0;: %1</translation>
+        <translation>Commande avancée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2386,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2394,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
     <message>
         <source>Projector Settings</source>

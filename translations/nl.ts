@@ -250,7 +250,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Leest, wijzigt, bewaart en herstelt de instellingen van projectors die het dialoogvenster Advanced Control toont. De projectors zijn die van een profielbestand.</translation>
+        <translation>Leest, wijzigt, bewaart en herstelt de instellingen van projectors die het dialoogvenster ‘Geavanceerde bediening’ toont. De projectors zijn die van een profielbestand.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -2223,7 +2223,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;De instellingen van projectors, live: elke waarde wordt van de projector gelezen, elke wijziging wordt meteen gestuurd.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Geavanceerde bediening %1&lt;/h3&gt;&lt;p&gt;De instellingen van projectors, live: elke waarde wordt van de projector gelezen, elke wijziging wordt meteen gestuurd.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2257,11 +2257,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Geavanceerde bediening: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Geavanceerde bediening</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2386,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Geavanceerde bediening</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2394,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Geavanceerde bediening</translation>
     </message>
     <message>
         <source>Projector Settings</source>

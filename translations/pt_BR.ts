@@ -250,7 +250,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lê, altera, salva e restaura os ajustes de projetores que a caixa de diálogo Advanced Control mostra. Os projetores são os de um arquivo de perfis.</translation>
+        <translation>Lê, altera, salva e restaura os ajustes de projetores que a caixa de diálogo “Controle avançado” mostra. Os projetores são os de um arquivo de perfis.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -2223,7 +2223,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Os ajustes de projetores ao vivo: cada valor é lido do projetor, cada alteração é enviada na hora.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Controle avançado %1&lt;/h3&gt;&lt;p&gt;Os ajustes de projetores ao vivo: cada valor é lido do projetor, cada alteração é enviada na hora.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2257,11 +2257,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Controle avançado: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2386,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2394,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
     <message>
         <source>Projector Settings</source>

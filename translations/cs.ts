@@ -1053,6 +1053,22 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>přerušeno</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Vrátí nastavení na výchozí hodnoty projektoru a vypíše, jaké jsou potom. Počitadla hodin se vynulují jen po zadání přesného klíče, protože to nelze vrátit zpět.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>vrátit zpět poslední běh set nebo apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Obnoví na všech projektorech to, co nahradil poslední běh „set“ nebo „apply“, nebo to, co nahradil běh RUN: název, který vypíše „acctl undo --list“, nebo soubor. I vrácení lze vrátit zpět zadáním jeho názvu.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>přijato, ale nepotvrzeno: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -2050,6 +2066,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
     </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (libovolný kód)</translation>
+    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -2567,6 +2587,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(stejné časy: bez doby klidu)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3839,6 +3864,10 @@ a minus in front takes a tag away:</source>
             <numerusform>%n nepřevzatých řádků</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Neznámé sloupce: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4108,6 +4137,59 @@ a minus in front takes a tag away:</source>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ještě probíhá</numerusform>
+            <numerusform>%n ještě probíhají</numerusform>
+            <numerusform>%n ještě probíhá</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n selhal</numerusform>
+            <numerusform>%n selhaly</numerusform>
+            <numerusform>%n selhalo</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Použití: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[přepínače]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Přepínače:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Zobrazí informace o verzi.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Neznámý přepínač „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Neznámé přepínače: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Za „%1“ chybí hodnota.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Neočekávaná hodnota za „%1“.</translation>
     </message>
 </context>
 </TS>

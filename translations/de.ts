@@ -238,7 +238,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Liest, ändert, speichert und stellt die Einstellungen von Projektoren wieder her, die der Dialog „Advanced Control“ zeigt. Die Projektoren stehen in einer Profildatei.</translation>
+        <translation>Liest, ändert, speichert und stellt die Einstellungen von Projektoren wieder her, die der Dialog „Erweiterte Steuerung“ zeigt. Die Projektoren stehen in einer Profildatei.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -1033,6 +1033,22 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>unterbrochen</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>den letzten Lauf von set oder apply rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Stellt auf allen beteiligten Projektoren wieder her, was der letzte Lauf von „set“ oder „apply“ ersetzt hat, oder was RUN ersetzt hat: ein Name aus „acctl undo --list“ oder eine Datei. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>angenommen, aber nicht bestätigt: %1</translation>
     </message>
 </context>
 <context>
@@ -2022,6 +2038,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
     </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (beliebiger Code)</translation>
+    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -2216,7 +2236,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Eine Einstellung suchen</translation>
+        <translation>Einstellung suchen</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -2236,7 +2256,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Die Einstellungen von Projektoren, live: Jeder Wert wird vom Projektor gelesen, jede Änderung sofort gesendet.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Erweiterte Steuerung %1&lt;/h3&gt;&lt;p&gt;Die Einstellungen von Projektoren, live: Jeder Wert wird vom Projektor gelesen, jede Änderung sofort gesendet.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2270,11 +2290,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Erweiterte Steuerung: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Erweiterte Steuerung</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2399,7 +2419,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Erweiterte Steuerung</translation>
     </message>
 </context>
 <context>
@@ -2407,7 +2427,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Erweiterte Steuerung</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2532,6 +2552,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(zweimal dieselbe Zeit: keine)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +3814,10 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>%n Zeilen nicht übernommen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Unbekannte Spalten: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4045,6 +4074,57 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>erledigt, %n Einstellung konnte nicht gelesen werden</numerusform>
             <numerusform>erledigt, %n Einstellungen konnten nicht gelesen werden</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n noch unterwegs</numerusform>
+            <numerusform>%n noch unterwegs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n fehlgeschlagen</numerusform>
+            <numerusform>%n fehlgeschlagen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Nach „%1“ fehlt der Wert.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Unerwarteter Wert nach „%1“.</translation>
     </message>
 </context>
 </TS>

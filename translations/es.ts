@@ -238,7 +238,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lee, cambia, guarda y restaura los ajustes de los proyectores que muestra el cuadro de diálogo Advanced Control. Los proyectores son los de un archivo de perfiles.</translation>
+        <translation>Lee, cambia, guarda y restaura los ajustes de los proyectores que muestra el cuadro de diálogo «Control avanzado». Los proyectores son los de un archivo de perfiles.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -1033,6 +1033,22 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>interrumpido</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Restablece ajustes al valor estándar del propio proyector y muestra su nuevo valor. Los contadores de horas solo se restablecen con su clave exacta, porque no se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>deshacer la última ejecución de set o apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Restaura lo que sustituyó la última ejecución de «set» o «apply», en todos sus proyectores, o lo que sustituyó RUN: un nombre que muestra «acctl undo --list», o un archivo. Lo deshecho también se puede deshacer por su nombre.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>aceptado, pero sin confirmar: %1</translation>
     </message>
 </context>
 <context>
@@ -1911,7 +1927,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Tiempo de lámpara</translation>
+        <translation>Horas de lámpara</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1923,7 +1939,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Tiempo de filtro</translation>
+        <translation>Horas de filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -2021,6 +2037,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (cualquier código)</translation>
     </message>
 </context>
 <context>
@@ -2236,7 +2256,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Los ajustes de los proyectores en directo: cada valor se lee del proyector y cada cambio se envía al momento.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Control avanzado %1&lt;/h3&gt;&lt;p&gt;Los ajustes de los proyectores en directo: cada valor se lee del proyector y cada cambio se envía al momento.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2270,11 +2290,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Control avanzado: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Control avanzado</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2399,7 +2419,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Control avanzado</translation>
     </message>
 </context>
 <context>
@@ -2407,7 +2427,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Control avanzado</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2532,6 +2552,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dos veces la misma hora: ninguna)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +3814,10 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>%n filas no aceptadas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Columnas desconocidas: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4045,6 +4074,57 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>hecho, no se pudo leer %n ajuste</numerusform>
             <numerusform>hecho, no se pudieron leer %n ajustes</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n aún en curso</numerusform>
+            <numerusform>%n aún en curso</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n fallido</numerusform>
+            <numerusform>%n fallidos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opciones]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opción desconocida «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opciones desconocidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta el valor después de «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado después de «%1».</translation>
     </message>
 </context>
 </TS>

@@ -1034,6 +1034,22 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>keskeytetty</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>kumoa viimeisin set- tai apply-ajo</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Palauttaa arvot, jotka viimeisin &apos;set&apos; tai &apos;apply&apos; korvasi kaikissa projektoreissaan, tai arvot, jotka RUN korvasi. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tai tiedosto. Myös kumoamisen voi kumota sen nimellä.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>hyväksytty, mutta ei vahvistettu: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -2022,6 +2038,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
     </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (mikä tahansa koodi)</translation>
+    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -2532,6 +2552,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(kahdesti sama aika: ei lainkaan)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +3814,10 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>%n riviä jätettiin pois</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Tuntemattomat sarakkeet: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4045,6 +4074,57 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>valmis, %n asetusta ei voitu lukea</numerusform>
             <numerusform>valmis, %n asetusta ei voitu lukea</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n vielä kesken</numerusform>
+            <numerusform>%n vielä kesken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n epäonnistui</numerusform>
+            <numerusform>%n epäonnistui</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Käyttö: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[valitsimet]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Valitsimet:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Näytä versiotiedot.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Tuntematon valitsin ”%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Tuntemattomat valitsimet: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valitsin ”%1” vaatii arvon.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Odottamaton arvo valitsimen ”%1” jälkeen.</translation>
     </message>
 </context>
 </TS>

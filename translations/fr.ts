@@ -238,7 +238,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue Advanced Control. Les projecteurs sont ceux d’un fichier de profils.</translation>
+        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue «&#xa0;Commande avancée&#xa0;». Les projecteurs sont ceux d’un fichier de profils.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -1033,6 +1033,22 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>interrompu</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Rétablit la valeur standard du projecteur pour des réglages et affiche leur nouvelle valeur. Les compteurs d’heures ne sont remis à zéro que par leur clé exacte, car cela ne peut pas être annulé.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>annuler la dernière exécution de set ou apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Restaure ce que la dernière exécution de «&#xa0;set&#xa0;» ou «&#xa0;apply&#xa0;» a remplacé, sur tous ses projecteurs, ou ce que RUN a remplacé&#xa0;: un nom qu’affiche «&#xa0;acctl undo --list&#xa0;», ou un fichier. Une annulation peut elle-même être annulée par son nom.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>accepté, mais non confirmé&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1911,7 +1927,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Durée de lampe</translation>
+        <translation>Durée de la lampe</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1923,7 +1939,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Durée de filtre</translation>
+        <translation>Durée du filtre</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -2021,6 +2037,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1&#xa0;: %2, %3&#xa0;ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (tout code)</translation>
     </message>
 </context>
 <context>
@@ -2236,7 +2256,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct&#xa0;: chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Commande avancée %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct&#xa0;: chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2270,11 +2290,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control&#xa0;: %1</translation>
+        <translation>Commande avancée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2399,7 +2419,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
 </context>
 <context>
@@ -2407,7 +2427,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2532,6 +2552,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(deux fois la même heure&#xa0;: aucune)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +3814,10 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>%n lignes non prises en compte</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colonnes inconnues&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4045,6 +4074,57 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>terminé, %n réglage n’a pas pu être lu</numerusform>
             <numerusform>terminé, %n réglages n’ont pas pu être lus</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n encore en cours</numerusform>
+            <numerusform>%n encore en cours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n échec</numerusform>
+            <numerusform>%n échecs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Usage&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Option inconnue «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Options inconnues&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valeur manquante après «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 </TS>

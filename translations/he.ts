@@ -1034,6 +1034,22 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>הופסק</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>ביטול ההרצה האחרונה של set או apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>הפקודה משחזרת את מה שההרצה האחרונה של &apos;set&apos; או &apos;apply&apos; החליפה, בכל המקרנים שלה, או את מה ש־RUN החליפה: שם ש־&apos;acctl undo --list&apos; מדפיסה, או קובץ. גם ביטול אפשר לבטל לפי שמו.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>התקבלה, אך לא אושרה: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -2022,6 +2038,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 מ״ש</translation>
     </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (כל קוד)</translation>
+    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -2532,6 +2552,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(אותה שעה פעמיים: ללא)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +3814,10 @@ a minus in front takes a tag away:</source>
             <numerusform>%n שורות לא נקלטו</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>עמודות לא מוכרות: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4045,6 +4074,57 @@ a minus in front takes a tag away:</source>
             <numerusform>בוצע, לא ניתן היה לקרוא הגדרה אחת</numerusform>
             <numerusform>בוצע, לא ניתן היה לקרוא %n הגדרות</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>אחד עדיין בתהליך</numerusform>
+            <numerusform>%n עדיין בתהליך</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>אחד נכשל</numerusform>
+            <numerusform>%n נכשלו</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>שימוש: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[אפשרויות]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>אפשרויות:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>הצגת פרטי הגרסה.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>האפשרות &quot;%1&quot; אינה מוכרת.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>אפשרויות לא מוכרות: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>חסר ערך אחרי &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>ערך לא צפוי אחרי &quot;%1&quot;.</translation>
     </message>
 </context>
 </TS>

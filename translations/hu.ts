@@ -1015,6 +1015,22 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>megszakítva</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Visszaállítja a beállításokat a projektor saját alapértékére, és kiírja az új értéket. Az óraszámlálókat csak pontos kulcs megadásakor nullázza, mert ez nem vonható vissza.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>az utolsó set vagy apply visszavonása</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Minden érintett projektoron visszaállítja, amit az utolsó „set” vagy „apply” lecserélt, vagy amit a RUN futtatás: ez lehet az „acctl undo --list” által kiírt név vagy egy fájl. A visszavonás is visszavonható a neve alapján.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>elfogadva, de nincs megerősítve: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1994,6 +2010,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
     </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (bármely kód)</translation>
+    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -2497,6 +2517,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(azonos időpontok: nincs)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3739,6 +3764,10 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
             <numerusform>%n sor nem lett átvéve</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Ismeretlen oszlopok: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -3982,6 +4011,55 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>
             <numerusform>kész, %n beállítás nem volt beolvasható</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n még folyamatban</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n sikertelen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Használat: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[kapcsolók]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Kapcsolók:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>A verzió.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Ismeretlen kapcsoló: „%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Ismeretlen kapcsolók: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Hiányzó érték ez után: „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Váratlan érték ez után: „%1”.</translation>
     </message>
 </context>
 </TS>

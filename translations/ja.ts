@@ -1015,6 +1015,22 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>中断しました</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>設定をプロジェクター自身の標準値にリセットし、リセット後の値を表示します。使用時間のカウンターは元に戻せないため、キーを正確に指定した場合にのみリセットされます。</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>最後の set または apply を元に戻す</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>最後に実行した「set」または「apply」が置き換えた値を、その対象の全プロジェクターで復元します。RUN を指定すると、その実行が置き換えた値を復元します。RUN は「acctl undo --list」で表示される名前、またはファイルです。元に戻す操作自体も、名前を指定して元に戻せます。</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>受け付けられましたが、確認できません: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1883,7 +1899,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>ランプ時間</translation>
+        <translation>ランプ使用時間</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1895,7 +1911,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Filter time</source>
-        <translation>フィルター時間</translation>
+        <translation>フィルター使用時間</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1993,6 +2009,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2、%3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (すべてのコード)</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2517,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(同じ時刻にすると停止なし)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3739,6 +3764,10 @@ a minus in front takes a tag away:</source>
             <numerusform>取り込めない行 %n 行</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>不明な列: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -3982,6 +4011,55 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>完了、%n 件の設定は読み取れませんでした</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台は反映待ち</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台が失敗</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>使い方: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[オプション]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>オプション:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>バージョン情報を表示します。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>不明なオプション「%1」です。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>不明なオプション: %1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>「%1」の後に値がありません。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>「%1」の後の値は不要です。</translation>
     </message>
 </context>
 </TS>

@@ -1015,6 +1015,22 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>중단됨</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>설정을 프로젝터 자체의 표준값으로 초기화하고 그 결과를 표시합니다. 사용 시간은 되돌릴 수 없으므로 키를 정확히 지정한 경우에만 초기화합니다.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>마지막 set 또는 apply 실행 취소</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>마지막 ‘set’ 또는 ‘apply’가 바꾼 값을 해당하는 모든 프로젝터에서 복원합니다. RUN을 지정하면 그 실행이 바꾼 값을 복원합니다. RUN은 ‘acctl undo --list’가 표시하는 이름 또는 파일입니다. 실행 취소도 이름을 지정하여 다시 취소할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>승인되었지만 확인되지 않음: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1883,7 +1899,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>램프 시간</translation>
+        <translation>램프 사용 시간</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1895,7 +1911,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Filter time</source>
-        <translation>필터 시간</translation>
+        <translation>필터 사용 시간</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1993,6 +2009,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (모든 코드)</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2517,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(두 시각이 같으면 사용 안 함)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3739,6 +3764,10 @@ a minus in front takes a tag away:</source>
             <numerusform>가져오지 못한 행 %n개</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>알 수 없는 열: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -3982,6 +4011,55 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>완료, 설정 %n개를 읽을 수 없었음</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n대 진행 중</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n대 실패</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>사용법: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[옵션]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>옵션:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>버전 정보를 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>알 수 없는 옵션 ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>알 수 없는 옵션: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>‘%1’ 다음에 값이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>‘%1’ 다음에 예상하지 못한 값이 있습니다.</translation>
     </message>
 </context>
 </TS>

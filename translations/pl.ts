@@ -1053,6 +1053,22 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>przerwano</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Resetuje ustawienia do własnych standardowych wartości projektora i wypisuje nowe wartości. Liczniki godzin są resetowane tylko po podaniu dokładnych kluczy, ponieważ nie da się tego cofnąć.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>cofa ostatnie wykonanie set lub apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Przywraca to, co zastąpiło ostatnie wykonanie „set” lub „apply” na wszystkich jego projektorach, albo to, co zastąpiło RUN: nazwa wypisana przez „acctl undo --list” lub plik. Samo cofnięcie też można cofnąć, podając jego nazwę.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>przyjęto, ale nie potwierdzono: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1999,7 +2015,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>Stan błę&amp;dów</translation>
+        <translation>Stan błę&amp;du</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2049,6 +2065,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (dowolny kod)</translation>
     </message>
 </context>
 <context>
@@ -2567,6 +2587,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dwie takie same godziny: brak)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3839,6 +3864,10 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>nie przyjęto %n wierszy</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Nieznane kolumny: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4108,6 +4137,59 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>jeszcze w toku: %n</numerusform>
+            <numerusform>jeszcze w toku: %n</numerusform>
+            <numerusform>jeszcze w toku: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>nieudane: %n</numerusform>
+            <numerusform>nieudane: %n</numerusform>
+            <numerusform>nieudane: %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Użycie: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opcje]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opcje:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Wyświetla wersję.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Nieznana opcja „%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Nieznane opcje: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Brak wartości po „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Nieoczekiwana wartość po „%1”.</translation>
     </message>
 </context>
 </TS>

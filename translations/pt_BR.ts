@@ -238,7 +238,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lê, altera, salva e restaura os ajustes de projetores que a caixa de diálogo Advanced Control mostra. Os projetores são os de um arquivo de perfis.</translation>
+        <translation>Lê, altera, salva e restaura os ajustes de projetores que a caixa de diálogo “Controle avançado” mostra. Os projetores são os de um arquivo de perfis.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -1033,6 +1033,22 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>interrompido</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Redefine ajustes para o padrão do próprio projetor e mostra os novos valores. Contadores de horas só são zerados com sua chave exata, pois isso não pode ser desfeito.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>desfazer a última execução de set ou apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Restaura o que a última execução de “set” ou “apply” substituiu, em todos os seus projetores, ou o que RUN substituiu: um nome que “acctl undo --list” mostra, ou um arquivo. O próprio desfazer pode ser desfeito por seu nome.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>aceito, mas não confirmado: %1</translation>
     </message>
 </context>
 <context>
@@ -1911,7 +1927,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Tempo da lâmpada</translation>
+        <translation>Horas da lâmpada</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1923,7 +1939,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Tempo do filtro</translation>
+        <translation>Horas do filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -2021,6 +2037,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (qualquer código)</translation>
     </message>
 </context>
 <context>
@@ -2216,7 +2236,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Procurar um ajuste</translation>
+        <translation>Localizar ajuste</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -2236,7 +2256,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Os ajustes de projetores ao vivo: cada valor é lido do projetor, cada alteração é enviada na hora.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Controle avançado %1&lt;/h3&gt;&lt;p&gt;Os ajustes de projetores ao vivo: cada valor é lido do projetor, cada alteração é enviada na hora.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2270,11 +2290,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Controle avançado: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2399,7 +2419,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
 </context>
 <context>
@@ -2407,7 +2427,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2532,6 +2552,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dois horários iguais: nenhuma)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +3814,10 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
             <numerusform>%n linhas não importadas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colunas desconhecidas: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4045,6 +4074,57 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
             <numerusform>concluído, não foi possível ler %n ajuste</numerusform>
             <numerusform>concluído, não foi possível ler %n ajustes</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ainda em andamento</numerusform>
+            <numerusform>%n ainda em andamento</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n falhou</numerusform>
+            <numerusform>%n falharam</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opções]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostrar a versão.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opção desconhecida “%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opções desconhecidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta o valor depois de “%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado depois de “%1”.</translation>
     </message>
 </context>
 </TS>

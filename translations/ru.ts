@@ -1053,6 +1053,22 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>прервано</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Сбрасывает настройки к собственным стандартным значениям проектора и выводит новые значения. Счётчики часов сбрасываются только по точным ключам, потому что отменить это нельзя.</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>отменить последний запуск set или apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>Восстанавливает то, что заменил последний запуск «set» или «apply», на всех его проекторах, или то, что заменил RUN: имя из «acctl undo --list» или файл. Саму отмену тоже можно отменить по её имени.</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>принято, но не подтверждено: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1999,7 +2015,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>Состояние &amp;ошибок</translation>
+        <translation>Состояние &amp;ошибки</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2049,6 +2065,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 мс</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (любой код)</translation>
     </message>
 </context>
 <context>
@@ -2567,6 +2587,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(если время одинаковое — выключено)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3839,6 +3864,10 @@ a minus in front takes a tag away:</source>
             <numerusform>не принято %n строк</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Неизвестные столбцы: %1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -4108,6 +4137,59 @@ a minus in front takes a tag away:</source>
             <numerusform>готово, не удалось прочитать %n настройки</numerusform>
             <numerusform>готово, не удалось прочитать %n настроек</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>ещё выполняется: %n</numerusform>
+            <numerusform>ещё выполняется: %n</numerusform>
+            <numerusform>ещё выполняется: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>с ошибкой: %n</numerusform>
+            <numerusform>с ошибкой: %n</numerusform>
+            <numerusform>с ошибкой: %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Использование: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметры]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Показать сведения о версии.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Неизвестный параметр «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Неизвестные параметры: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Отсутствует значение после «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Неожиданное значение после «%1».</translation>
     </message>
 </context>
 </TS>

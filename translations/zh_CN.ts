@@ -1015,6 +1015,22 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>已中断</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>撤消上一次 set 或 apply 运行</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>在所有相关投影机上还原上一次“set”或“apply”替换的值，或还原 RUN 替换的值：“acctl undo --list”列出的名称，或一个文件。撤消本身也可以按其名称撤消。</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>已接受，但未确认：%1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1725,7 +1741,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>blank</source>
-        <translation>图像消隐</translation>
+        <translation>空白画面</translation>
     </message>
     <message>
         <source>muted</source>
@@ -1855,7 +1871,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Cooling down</source>
-        <translation>冷却中</translation>
+        <translation>正在冷却</translation>
     </message>
     <message>
         <source>No error</source>
@@ -1993,6 +2009,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1：%2，%3 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1（任意代码）</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2517,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>（两个时间相同：不设）</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3569,11 +3594,11 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Cooling down</source>
-        <translation>冷却中</translation>
+        <translation>正在冷却</translation>
     </message>
     <message>
         <source>Warming up</source>
-        <translation>预热中</translation>
+        <translation>正在预热</translation>
     </message>
     <message>
         <source>Fan</source>
@@ -3649,7 +3674,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Blank</source>
-        <translation>图像消隐</translation>
+        <translation>空白画面</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -3739,6 +3764,10 @@ a minus in front takes a tag away:</source>
             <numerusform>%n 行未导入</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>未知的列：%1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -3760,16 +3789,16 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>图像消隐(&amp;B)</translation>
+        <translation>空白画面(&amp;B)</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>图像消隐</translation>
+        <translation>显示空白画面</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation>
-            <numerusform>要对 %n 台投影机消隐画面吗？</numerusform>
+            <numerusform>要让 %n 台投影机显示空白画面吗？</numerusform>
         </translation>
     </message>
     <message>
@@ -3982,6 +4011,55 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>完成，%n 项设置无法读取</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台仍在进行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台失败</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[选项]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>显示版本信息。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知选项“%1”。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知选项：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>“%1”之后缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>“%1”之后有意外的值。</translation>
     </message>
 </context>
 </TS>

@@ -1015,6 +1015,22 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>已中斷</translation>
     </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>將設定重設為投影機本身的標準值，並顯示重設後的值。時數計數器必須以完整的鍵指定才會重設，因為此動作無法復原。</translation>
+    </message>
+    <message>
+        <source>undo the last run of set or apply</source>
+        <translation>復原上一次的 set 或 apply</translation>
+    </message>
+    <message>
+        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
+        <translation>在所有相關的投影機上，還原上一次「set」或「apply」所取代的值，或 RUN 所取代的值；RUN 是「acctl undo --list」列出的名稱，或是檔案。復原本身也可以用其名稱再復原。</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>已接受，但未確認：%1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -1994,6 +2010,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1：%2，%3 毫秒</translation>
     </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1（任何代碼）</translation>
+    </message>
 </context>
 <context>
     <name>FleetSummary</name>
@@ -2497,6 +2517,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>（兩個時間相同表示不使用）</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -3739,6 +3764,10 @@ a minus in front takes a tag away:</source>
             <numerusform>%n 列未匯入</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>未知的欄：%1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -3982,6 +4011,55 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>完成，%n 項設定無法讀取</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台仍在進行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台失敗</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[選項]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>選項：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>顯示版本資訊。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知選項「%1」。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知選項：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>「%1」之後缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>「%1」之後有非預期的值。</translation>
     </message>
 </context>
 </TS>

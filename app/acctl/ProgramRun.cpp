@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 
 #include "app/acctl/Completion.h"
 #include "app/acctl/Listing.h"
@@ -198,9 +199,11 @@ int ProgramRun::ListRecordedRuns() const {
       continue;
     }
     const auto count = static_cast<int>(run.undo.size());
+    const QDateTime time = QDateTime::fromString(Wide(run.time), Qt::ISODate).toLocalTime();
     //: Of a run of the program: somebody has undone it.
-    table.Add({run.name, run.time, CountedProjectors(count),
-               run.isUndone ? Message(Acctl::tr("undone")) : "", run.command});
+    table.Add({run.name, QLocale().toString(time, QLocale::ShortFormat).toStdString(),
+               CountedProjectors(count), run.isUndone ? Message(Acctl::tr("undone")) : "",
+               run.command});
     json.append(QJsonObject{{"run", Wide(run.name)},
                             {"time", Wide(run.time)},
                             {"command", Wide(run.command)},

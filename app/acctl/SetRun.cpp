@@ -200,7 +200,8 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
     return;
   }
   const Problem failure = FailureOf(projector_, {ProblemCode::Unconfirmed, NotReadable()});
-  Fail(result, "unconfirmed", failure.code, Message(Acctl::tr("accepted, but %1"), failure.text),
+  Fail(result, "unconfirmed", failure.code,
+       Message(Acctl::tr("accepted, but not confirmed: %1"), failure.text),
        isAnswered ? ExitCode::Refused : ExitCode::NoAnswer);
 }
 

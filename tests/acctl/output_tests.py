@@ -126,7 +126,7 @@ class Output(Building):
         self.start_simulator("--fault", "fail-read")
         run = self.check(["set", "Office", "contrast=3"], 1,
                          errors="main.contrast: the value before could not be read, and cannot be restored")
-        self.assertIn("accepted, but cannot be read now", run.stderr)
+        self.assertIn("accepted, but not confirmed: cannot be read now", run.stderr)
         entry = self.json("set", "Office", "contrast=3", code=1)["projectors"][0]
         self.assertEqual([(note["code"], note["key"]) for note in entry["notes"]], [("not-readable", "main.contrast")])
 

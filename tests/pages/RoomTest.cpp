@@ -194,4 +194,16 @@ TEST_F(LanguageTest, NothingIsClipped) {
   }
 }
 
+// The languages that the build makes from English have longer texts and the other direction.
+TEST_F(LanguageTest, NothingIsClippedInTheLanguagesForTests) {
+  const std::string folder = TEST_PSEUDO_DIR;
+  for (const char* locale : {"qps-ploc", "qps-plocm"}) {
+    SCOPED_TRACE(locale);
+    qputenv("LC_ALL", locale);
+    ASSERT_EQ(LoadCatalog(std::span(&folder, 1)), 0);
+    ForEachPage([](OpenDialog&, CTabPage& page) { ExpectNothingClipped(page); }, ModelsByLook());
+    ForEachPopup([](CDialog& popUp) { ExpectNothingClipped(popUp); });
+  }
+}
+
 }  // namespace

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -52,6 +53,8 @@ void ListPane::AddDetails(const QList<QAction*>& actions) {
   scrolled->setFrameShape(QFrame::NoFrame);
   scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scrolled->setFocusPolicy(Qt::NoFocus);
+  scrolled->setMinimumWidth(details_->minimumWidth() +
+                            scrolled->verticalScrollBar()->sizeHint().width());
   sides_->addWidget(scrolled);
   ShowDetails();
 }

@@ -55,6 +55,8 @@ class MainWindow : public QMainWindow {
 
  private:
   void Connect();
+  /// What the last comparison saw of a projector, in its dialog if that is open.
+  void ShowLastSeen(const std::string& id);
   void ConnectAlerts();
   void ShowProfiles();
   void OpenSelected();

@@ -24,8 +24,10 @@
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/dialogs/DialogKeeper.h"
 #include "app/desktop/log/CommandLog.h"
+#include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/profiles/ProfileEditing.h"
 #include "app/desktop/profiles/ProfileHistory.h"
+#include "app/desktop/profiles/TransferActions.h"
 #include "app/desktop/simulation/Demonstration.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/work/UsualActions.h"
@@ -261,6 +263,8 @@ void MainWindow::Demonstrate() {
   }
   ShowDemonstration(simulated);
   for (const auto& session : simulated) live_->TakeSimulation(*session);
+  if (simulated.size() == profiles_.Projectors().size())
+    pane_->OfferRealOnes({editing_->Transfers().Find(), editing_->Projectors().Add()});
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -47,7 +47,8 @@ class MainWindow : public QMainWindow {
   CAdvanceDlg* Dialog(std::size_t projector) const;
   std::shared_ptr<ProjectorSession> Session(std::size_t projector) const;
 
-  /// Brings the simulated projectors into different states.
+  /// Brings the simulated projectors into different states. If there are no others, offers to find
+  /// or add real ones.
   void Demonstrate();
 
  protected:

@@ -177,6 +177,8 @@ TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
   EXPECT_EQ(Row(a).profile.snapshot, "night");
   EXPECT_TRUE(Soon([&] { return list.currentItem() && list.currentItem()->text() == "night"; }));
 
+  manager.activateWindow();
+  ASSERT_TRUE(Soon([&] { return list.hasFocus(); }));
   QTest::keyClick(&list, Qt::Key_Delete);
   auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   ASSERT_NE(question, nullptr);

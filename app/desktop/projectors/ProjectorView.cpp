@@ -210,6 +210,13 @@ std::vector<int> ProjectorView::InSight() const {
   return positions;
 }
 
+int ProjectorView::UsualWidth() const {
+  int columns = 0;
+  for (int column = 0; column < ProjectorColumns::ColumnCount; ++column)
+    columns += table_->columnWidth(column);  // 0 if it is hidden
+  return columns + table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
+}
+
 void ProjectorView::FocusSearch() {
   search_->setFocus(Qt::ShortcutFocusReason);
   search_->selectAll();

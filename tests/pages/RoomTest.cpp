@@ -9,6 +9,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "host/ProjectorStrip.h"
 #include "i18n/Catalog.h"
 #include "i18n/CatalogLanguages.h"
 #include "tests/pages/EachPage.h"
@@ -156,7 +157,13 @@ TEST_P(ScreenSizeTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
       ExpectNothingClipped(page);
       ExpectInReach(dialog);
     };
-    ForEachPage([&](OpenDialog& open, CTabPage& page) { expectRoom(page, open.Dialog()); }, models);
+    ForEachPage(
+        [&](OpenDialog& open, CTabPage& page) {
+          expectRoom(page, open.Dialog());
+          const auto& strip = *open.Dialog().findChild<ProjectorStrip*>();
+          EXPECT_TRUE(strip.isVisible() && strip.height() >= strip.fontMetrics().height());
+        },
+        models);
     ForEachPopup([&](CDialog& popUp) { expectRoom(popUp, popUp); });
   }
 }

@@ -9,6 +9,7 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/Icons.h"
+#include "toolkit/IsolatedText.h"
 #include "toolkit/LineLabel.h"
 
 namespace AdvancedControl {
@@ -63,16 +64,22 @@ void ProjectorStrip::SetAnswers(bool answers) {
   if (std::exchange(answers_, answers) != answers) ShowProjector();
 }
 
+QString ProjectorStrip::TextOf(const QStringList& parts) const {
+  const QString text = parts.join(QStringLiteral(" \u2014 "));
+  if (!answers_) return text;
+  return CatalogString(kListCategory, *answers_ ? ListText::Answers : ListText::DoesNotAnswer,
+                       text.toStdString());
+}
+
+// In a right-to-left language, name, model and address would change places if drawn as one text.
 void ProjectorStrip::ShowProjector() {
-  QString text = parts_.join(QStringLiteral(" \u2014 "));
-  if (answers_) {
-    text = CatalogString(kListCategory, *answers_ ? ListText::Answers : ListText::DoesNotAnswer,
-                         text.toStdString());
-  }
+  QStringList drawn;
+  for (const QString& part : parts_) drawn += Isolated(part);
+  const QString text = TextOf(drawn);
   projector_->setText(
       projector_->fontMetrics().elidedText(text, Qt::ElideRight, projector_->width()));
   projector_->setToolTip(text);
-  projector_->setAccessibleName(text);
+  projector_->setAccessibleName(TextOf(parts_));
 }
 
 void ProjectorStrip::ShowAge() {

@@ -13,7 +13,7 @@ namespace {
 constexpr int kAround = 16;   // at both sides of a number
 constexpr int kMargins = 12;  // the least around a number with a unit
 constexpr int kUnitGap = 4;
-constexpr int kUnitMargin = 2;
+constexpr int kUnitMargin = 4;
 
 }  // namespace
 
@@ -46,7 +46,7 @@ void NumberField::paintEvent(QPaintEvent* event) {
   }
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::Text));
-  painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight, unit_);
+  painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight | Qt::AlignAbsolute, unit_);
 }
 
 }  // namespace AdvancedControl

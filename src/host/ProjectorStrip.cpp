@@ -78,7 +78,7 @@ void ProjectorStrip::ShowProjector() {
   const QString text = TextOf(drawn);
   projector_->setText(
       projector_->fontMetrics().elidedText(text, Qt::ElideRight, projector_->width()));
-  projector_->setToolTip(text);
+  projector_->setToolTip(projector_->text() == text ? QString() : text);
   projector_->setAccessibleName(TextOf(parts_));
 }
 

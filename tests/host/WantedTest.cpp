@@ -29,7 +29,7 @@ constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteRes
 constexpr int kVolumeField = 20133;
 
 std::string StripText(CAdvanceDlg& dialog) {
-  return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->toolTip().toStdString();
+  return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->accessibleName().toStdString();
 }
 
 QMenu* MenuOf(QWidget& control) {

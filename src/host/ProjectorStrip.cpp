@@ -33,6 +33,7 @@ ProjectorStrip::ProjectorStrip(QWidget* parent, std::function<Age()> age)
       read_(new QLabel),
       again_(new QToolButton) {
   again_->setIcon(ThemedIcon(IconName::Refresh));
+  again_->setIconSize(IconSize(*this));
   again_->setAutoRaise(true);
   again_->setFocusPolicy(Qt::NoFocus);  // F5 does the same
   connect(again_, &QToolButton::clicked, this, &ProjectorStrip::ReadAgain);
@@ -76,6 +77,7 @@ void ProjectorStrip::ShowProjector() {
   QStringList drawn;
   for (const QString& part : parts_) drawn += Isolated(part);
   const QString text = TextOf(drawn);
+  layout()->activate();  // the room depends on the text about the reading
   projector_->setText(
       projector_->fontMetrics().elidedText(text, Qt::ElideRight, projector_->width()));
   projector_->setToolTip(projector_->text() == text ? QString() : text);
@@ -85,12 +87,13 @@ void ProjectorStrip::ShowProjector() {
 void ProjectorStrip::ShowAge() {
   const Age age = age_();
   const QString text = age ? AgeText(*age) : QString();
-  if (text != read_->text()) read_->setText(text);
+  if (text == read_->text()) return;
+  read_->setText(text);
+  ShowProjector();
 }
 
 void ProjectorStrip::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  layout()->activate();
   ShowProjector();
 }
 

@@ -36,7 +36,7 @@ void NumberQuestion::SetUnit(const QString& unit) {
   auto* field = findChild<QLineEdit*>();
   auto* label = new QLabel(unit);
   auto* inside = new QHBoxLayout(field);
-  inside->setContentsMargins(0, 0, kUnitMargin, 0);
+  inside->setContentsMargins(kUnitMargin, 0, kUnitMargin, 0);
   inside->addStretch(1);
   inside->addWidget(label);
   const int room = label->sizeHint().width() + kUnitMargin;

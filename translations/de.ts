@@ -874,10 +874,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>abgelehnt</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>angenommen, aber %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nicht rechtzeitig erreicht, der Wert ist %1</translation>
     </message>
@@ -1033,18 +1029,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>unterbrochen</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>den letzten Lauf von set oder apply rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Stellt auf allen beteiligten Projektoren wieder her, was der letzte Lauf von „set“ oder „apply“ ersetzt hat, oder was RUN ersetzt hat: ein Name aus „acctl undo --list“ oder eine Datei. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2022,10 +2006,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Alle Befehle</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (beliebiger Code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Auswählen oder einen Teil von Name oder Code eingeben</translation>
     </message>
@@ -2287,6 +2267,17 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2478,10 +2469,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nie</translation>
     </message>
@@ -2644,6 +2631,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Should be</source>
         <translation>Soll entsprechen</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2703,72 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kann den Ordner %1 nicht anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Vorgaben</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Wert</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Einstellungen der Vorgabe</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Noch keine Vorgaben</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Entfernen</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3228,41 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Nach „%1“ fehlt der Wert.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Unerwarteter Wert nach „%1“.</translation>
     </message>
 </context>
 <context>
@@ -3782,10 +3870,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Zeile %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Spalten ohne Bedeutung hier: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Tabelle exportieren</translation>
     </message>
@@ -4020,22 +4104,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>%1 von %n erledigt</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, davon %n noch unterwegs</numerusform>
-            <numerusform>, davon %n noch unterwegs</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n fehlgeschlagen</numerusform>
-            <numerusform>, %n fehlgeschlagen</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Rückgängig: %1</translation>
@@ -4090,41 +4158,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>%n fehlgeschlagen</numerusform>
             <numerusform>%n fehlgeschlagen</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>Aufruf: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[Optionen]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Optionen:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>Die Version anzeigen.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Unbekannte Option „%1“.</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>Unbekannte Optionen: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Nach „%1“ fehlt der Wert.</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Unerwarteter Wert nach „%1“.</translation>
     </message>
 </context>
 </TS>

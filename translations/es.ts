@@ -874,10 +874,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>rechazado</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>aceptado, pero %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>no alcanzado a tiempo, el valor es %1</translation>
     </message>
@@ -1033,18 +1029,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>interrumpido</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Restablece ajustes al valor estándar del propio proyector y muestra su nuevo valor. Los contadores de horas solo se restablecen con su clave exacta, porque no se puede deshacer.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>deshacer la última ejecución de set o apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaura lo que sustituyó la última ejecución de «set» o «apply», en todos sus proyectores, o lo que sustituyó RUN: un nombre que muestra «acctl undo --list», o un archivo. Lo deshecho también se puede deshacer por su nombre.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2022,10 +2006,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Todas las órdenes</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (cualquier código)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Elija, o escriba parte de un nombre o código</translation>
     </message>
@@ -2287,6 +2267,17 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2478,10 +2469,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nunca</translation>
     </message>
@@ -2644,6 +2631,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Should be</source>
         <translation>Debe coincidir con</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2703,72 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>no se puede crear la carpeta %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Preajustes</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Ajustes del preajuste</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Aún no hay preajustes</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Eliminar</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3228,41 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opciones]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opción desconocida «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opciones desconocidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta el valor después de «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado después de «%1».</translation>
     </message>
 </context>
 <context>
@@ -3782,10 +3870,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Línea %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Columnas sin significado aquí: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exportar tabla</translation>
     </message>
@@ -4020,22 +4104,6 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>%1 de %n hechos</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, de ellos %n aún en curso</numerusform>
-            <numerusform>, de ellos %n aún en curso</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n fallido</numerusform>
-            <numerusform>, %n fallidos</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Deshacer: %1</translation>
@@ -4090,41 +4158,6 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>%n fallido</numerusform>
             <numerusform>%n fallidos</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>Uso: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[opciones]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opciones:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>Mostrar la versión.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Opción desconocida «%1».</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>Opciones desconocidas: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Falta el valor después de «%1».</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Valor inesperado después de «%1».</translation>
     </message>
 </context>
 </TS>

@@ -874,10 +874,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>hylätty</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>hyväksytty, mutta %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>ei toteutunut ajoissa, arvo on %1</translation>
     </message>
@@ -1033,18 +1029,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>keskeytetty</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>kumoa viimeisin set- tai apply-ajo</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Palauttaa arvot, jotka viimeisin &apos;set&apos; tai &apos;apply&apos; korvasi kaikissa projektoreissaan, tai arvot, jotka RUN korvasi. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tai tiedosto. Myös kumoamisen voi kumota sen nimellä.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2022,10 +2006,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Kaikki komennot</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (mikä tahansa koodi)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Valitse tai kirjoita osa nimestä tai koodista</translation>
     </message>
@@ -2287,6 +2267,17 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Sulje</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2478,10 +2469,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>ei koskaan</translation>
     </message>
@@ -2644,6 +2631,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>Should be</source>
         <translation>Tavoite</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2703,72 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kansiota %1 ei voi luoda</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Esiasetukset</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Asetus</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Arvo</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Esiasetuksen asetukset</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Poista</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Esiasetuksia ei vielä ole</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Poista</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3228,41 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Kansio</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Käyttö: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[valitsimet]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Valitsimet:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Näytä versiotiedot.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Tuntematon valitsin ”%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Tuntemattomat valitsimet: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valitsin ”%1” vaatii arvon.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Odottamaton arvo valitsimen ”%1” jälkeen.</translation>
     </message>
 </context>
 <context>
@@ -3782,10 +3870,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>Rivi %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Sarakkeet, joilla ei ole tässä merkitystä: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Vie taulukko</translation>
     </message>
@@ -4020,22 +4104,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>%1/%n valmis</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, joista %n vielä kesken</numerusform>
-            <numerusform>, joista %n vielä kesken</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n epäonnistui</numerusform>
-            <numerusform>, %n epäonnistui</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Kumoa: %1</translation>
@@ -4090,41 +4158,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>%n epäonnistui</numerusform>
             <numerusform>%n epäonnistui</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>Käyttö: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[valitsimet]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Valitsimet:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>Näytä versiotiedot.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Tuntematon valitsin ”%1”.</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>Tuntemattomat valitsimet: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Valitsin ”%1” vaatii arvon.</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Odottamaton arvo valitsimen ”%1” jälkeen.</translation>
     </message>
 </context>
 </TS>

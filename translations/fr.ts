@@ -874,10 +874,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>refusé</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>accepté, mais %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>pas atteint à temps, la valeur est %1</translation>
     </message>
@@ -1033,18 +1029,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>interrompu</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Rétablit la valeur standard du projecteur pour des réglages et affiche leur nouvelle valeur. Les compteurs d’heures ne sont remis à zéro que par leur clé exacte, car cela ne peut pas être annulé.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>annuler la dernière exécution de set ou apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaure ce que la dernière exécution de «&#xa0;set&#xa0;» ou «&#xa0;apply&#xa0;» a remplacé, sur tous ses projecteurs, ou ce que RUN a remplacé&#xa0;: un nom qu’affiche «&#xa0;acctl undo --list&#xa0;», ou un fichier. Une annulation peut elle-même être annulée par son nom.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2022,10 +2006,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Toutes les commandes</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (tout code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Choisissez, ou saisissez une partie d’un nom ou d’un code</translation>
     </message>
@@ -2287,6 +2267,17 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Fermer</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2478,10 +2469,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>jamais</translation>
     </message>
@@ -2644,6 +2631,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>Should be</source>
         <translation>Doit correspondre à</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2703,72 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossible de créer le dossier %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Préréglages</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valeur</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Réglages du préréglage</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Aucun préréglage pour l’instant</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Un préréglage ne peut pas s’appeler ainsi&#xa0;: pas de barre oblique, ni de point au début.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Supprimer</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3228,41 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Dossier</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Usage&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Option inconnue «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Options inconnues&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valeur manquante après «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3782,10 +3870,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colonnes sans signification ici&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exporter un tableau</translation>
     </message>
@@ -4020,22 +4104,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>%1 sur %n terminés</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, dont %n encore en cours</numerusform>
-            <numerusform>, dont %n encore en cours</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n échec</numerusform>
-            <numerusform>, %n échecs</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Annulation&#xa0;: %1</translation>
@@ -4090,41 +4158,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>%n échec</numerusform>
             <numerusform>%n échecs</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>Usage&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[options]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Options&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>Afficher la version.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Option inconnue «&#xa0;%1&#xa0;».</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>Options inconnues&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Valeur manquante après «&#xa0;%1&#xa0;».</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 </TS>

@@ -874,10 +874,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>נדחתה</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>התקבלה, אבל %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>לא נכנסה לתוקף בזמן, הערך הוא %1</translation>
     </message>
@@ -1033,18 +1029,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>הופסק</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>ביטול ההרצה האחרונה של set או apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>הפקודה משחזרת את מה שההרצה האחרונה של &apos;set&apos; או &apos;apply&apos; החליפה, בכל המקרנים שלה, או את מה ש־RUN החליפה: שם ש־&apos;acctl undo --list&apos; מדפיסה, או קובץ. גם ביטול אפשר לבטל לפי שמו.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2022,10 +2006,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>כל הפקודות</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (כל קוד)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>יש לבחור או להקליד חלק משם או מקוד</translation>
     </message>
@@ -2287,6 +2267,17 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">סגירה</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2478,10 +2469,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation> שנ׳</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>אף פעם</translation>
     </message>
@@ -2644,6 +2631,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>Should be</source>
         <translation>רצוי</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2703,72 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>אי אפשר ליצור את התיקייה %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">ערכות</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">הגדרה</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">ערך</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">ההגדרות שבערכה</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">ה&amp;סרה</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">אין עדיין ערכות</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">הסרה</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3228,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>תיקייה</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>שימוש: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[אפשרויות]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>אפשרויות:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>הצגת פרטי הגרסה.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>האפשרות &quot;%1&quot; אינה מוכרת.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>אפשרויות לא מוכרות: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>חסר ערך אחרי &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>ערך לא צפוי אחרי &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
@@ -3782,10 +3870,6 @@ a minus in front takes a tag away:</source>
         <translation>שורה %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>עמודות שאין להן משמעות כאן: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>ייצוא טבלה</translation>
     </message>
@@ -4020,22 +4104,6 @@ a minus in front takes a tag away:</source>
             <numerusform>הסתיימו %1 מתוך %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, מהם אחד עדיין בתהליך</numerusform>
-            <numerusform>, מהם %n עדיין בתהליך</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, אחד נכשל</numerusform>
-            <numerusform>, %n נכשלו</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>ביטול: %1</translation>
@@ -4090,41 +4158,6 @@ a minus in front takes a tag away:</source>
             <numerusform>אחד נכשל</numerusform>
             <numerusform>%n נכשלו</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>שימוש: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[אפשרויות]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>אפשרויות:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>הצגת פרטי הגרסה.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>האפשרות &quot;%1&quot; אינה מוכרת.</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>אפשרויות לא מוכרות: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>חסר ערך אחרי &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>ערך לא צפוי אחרי &quot;%1&quot;.</translation>
     </message>
 </context>
 </TS>

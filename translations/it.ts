@@ -874,10 +874,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>rifiutata</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>accettata, ma %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>non raggiunto in tempo, il valore è %1</translation>
     </message>
@@ -1033,18 +1029,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>interrotto</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>annulla l’ultima esecuzione di set o apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Ripristina ciò che l’ultima esecuzione di «set» o «apply» ha sostituito, su tutti i suoi proiettori, o ciò che RUN ha sostituito: un nome mostrato da «acctl undo --list», o un file. Anche un annullamento può essere annullato con il suo nome.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2022,10 +2006,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Tutti i comandi</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (qualsiasi codice)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Scegliere o digitare parte di un nome o di un codice</translation>
     </message>
@@ -2287,6 +2267,17 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2478,10 +2469,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>mai</translation>
     </message>
@@ -2644,6 +2631,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Should be</source>
         <translation>Valore voluto</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2703,72 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossibile creare la cartella %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valore</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Impostazioni della preimpostazione</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Ancora nessuna preimpostazione</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Rimuovi</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3228,41 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Cartella</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opzioni]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostra le informazioni sulla versione.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opzione sconosciuta «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opzioni sconosciute: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Manca il valore dopo «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valore inatteso dopo «%1».</translation>
     </message>
 </context>
 <context>
@@ -3782,10 +3870,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>Riga %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colonne qui senza significato: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Esporta tabella</translation>
     </message>
@@ -4020,22 +4104,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
             <numerusform>%1 di %n completati</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, di cui %n ancora in corso</numerusform>
-            <numerusform>, di cui %n ancora in corso</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n non riuscito</numerusform>
-            <numerusform>, %n non riusciti</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Annullamento: %1</translation>
@@ -4090,41 +4158,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
             <numerusform>%n non riuscito</numerusform>
             <numerusform>%n non riusciti</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>Uso: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[opzioni]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opzioni:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>Mostra le informazioni sulla versione.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Opzione sconosciuta «%1».</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>Opzioni sconosciute: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Manca il valore dopo «%1».</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Valore inatteso dopo «%1».</translation>
     </message>
 </context>
 </TS>

@@ -874,10 +874,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>geweigerd</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>aanvaard, maar %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>niet op tijd bereikt, de waarde is %1</translation>
     </message>
@@ -1033,18 +1029,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>afgebroken</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Zet instellingen terug op de eigen standaard van de projector en toont wat ze daarna zijn. Urentellers worden alleen met hun exacte sleutel op nul gezet, omdat dit niet ongedaan gemaakt kan worden.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>de laatste uitvoering van set of apply ongedaan maken</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Herstelt wat de laatste uitvoering van ‘set’ of ‘apply’ heeft vervangen, op alle betrokken projectors, of wat RUN heeft vervangen: een naam die ‘acctl undo --list’ toont, of een bestand. Ook dit kan met zijn naam weer ongedaan gemaakt worden.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2022,10 +2006,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Alle opdrachten</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (elke code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Kies, of typ een deel van een naam of code</translation>
     </message>
@@ -2287,6 +2267,17 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2478,10 +2469,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nooit</translation>
     </message>
@@ -2644,6 +2631,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Should be</source>
         <translation>Gewenst</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2703,72 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kan map %1 niet maken</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Instelling</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Waarde</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Instellingen van de voorinstelling</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">Ve&amp;rwijderen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Nog geen voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Verwijderen</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3228,41 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Map</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Gebruik: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opties]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opties:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>De versie tonen.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Onbekende optie ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Onbekende opties: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>De waarde na ‘%1’ ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Onverwachte waarde na ‘%1’.</translation>
     </message>
 </context>
 <context>
@@ -3782,10 +3870,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>Regel %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Kolommen die hier niets betekenen: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Tabel exporteren</translation>
     </message>
@@ -4020,22 +4104,6 @@ een minteken ervoor neemt een label weg:</numerusform>
             <numerusform>%1 van %n klaar</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, waarvan %n nog bezig</numerusform>
-            <numerusform>, waarvan %n nog bezig</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n mislukt</numerusform>
-            <numerusform>, %n mislukt</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Ongedaan maken: %1</translation>
@@ -4090,41 +4158,6 @@ een minteken ervoor neemt een label weg:</numerusform>
             <numerusform>%n mislukt</numerusform>
             <numerusform>%n mislukt</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>Gebruik: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[opties]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Opties:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>De versie tonen.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Onbekende optie ‘%1’.</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>Onbekende opties: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>De waarde na ‘%1’ ontbreekt.</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Onverwachte waarde na ‘%1’.</translation>
     </message>
 </context>
 </TS>

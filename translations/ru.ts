@@ -893,10 +893,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>отклонено</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>принято, но %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>не достигнуто вовремя, сейчас %1</translation>
     </message>
@@ -1052,18 +1048,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>прервано</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Сбрасывает настройки к собственным стандартным значениям проектора и выводит новые значения. Счётчики часов сбрасываются только по точным ключам, потому что отменить это нельзя.</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>отменить последний запуск set или apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Восстанавливает то, что заменил последний запуск «set» или «apply», на всех его проекторах, или то, что заменил RUN: имя из «acctl undo --list» или файл. Саму отмену тоже можно отменить по её имени.</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2050,10 +2034,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Все команды</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (любой код)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Выберите или введите часть названия или кода</translation>
     </message>
@@ -2321,6 +2301,17 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Закрыть</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2513,10 +2504,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation> с</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>никогда</translation>
     </message>
@@ -2680,6 +2667,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>Should be</source>
         <translation>Эталон</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2749,10 +2740,72 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>не удалось создать папку %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Пресеты</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Настройка</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Значение</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Настройки пресета</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Убрать</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Пресетов пока нет</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Удалить</translation>
     </message>
 </context>
 <context>
@@ -3217,6 +3270,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Папка</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Использование: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметры]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Показать сведения о версии.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Неизвестный параметр «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Неизвестные параметры: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Отсутствует значение после «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Неожиданное значение после «%1».</translation>
     </message>
 </context>
 <context>
@@ -3829,10 +3917,6 @@ a minus in front takes a tag away:</source>
         <translation>Строка %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Столбцы, не имеющие здесь значения: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Экспорт таблицы</translation>
     </message>
@@ -4080,24 +4164,6 @@ a minus in front takes a tag away:</source>
             <numerusform>готово: %1 из %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, с ошибкой: %n</numerusform>
-            <numerusform>, с ошибкой: %n</numerusform>
-            <numerusform>, с ошибкой: %n</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Отмена: %1</translation>
@@ -4155,41 +4221,6 @@ a minus in front takes a tag away:</source>
             <numerusform>с ошибкой: %n</numerusform>
             <numerusform>с ошибкой: %n</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>Использование: %1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[параметры]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>Параметры:</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>Показать сведения о версии.</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Неизвестный параметр «%1».</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>Неизвестные параметры: %1.</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Отсутствует значение после «%1».</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Неожиданное значение после «%1».</translation>
     </message>
 </context>
 </TS>

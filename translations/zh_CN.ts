@@ -855,10 +855,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>被拒绝</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>已接受，但%1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>未能及时生效，当前为 %1</translation>
     </message>
@@ -1014,18 +1010,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>interrupted</source>
         <extracomment>By Ctrl+C or another signal.</extracomment>
         <translation>已中断</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>撤消上一次 set 或 apply 运行</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>在所有相关投影机上还原上一次“set”或“apply”替换的值，或还原 RUN 替换的值：“acctl undo --list”列出的名称，或一个文件。撤消本身也可以按其名称撤消。</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -1982,10 +1966,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>所有命令</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation>（任意代码）</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>请选择，或输入名称或代码的一部分</translation>
     </message>
@@ -2253,6 +2233,17 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">关闭</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Open</source>
@@ -2443,10 +2434,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation> 秒</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>从不</translation>
     </message>
@@ -2608,6 +2595,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>Should be</source>
         <translation>应为</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2675,10 +2666,72 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>无法创建文件夹 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">预设</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">预设的设置</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">尚无预设</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">不能使用此预设名称：请去掉斜杠和开头的点。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">移除</translation>
     </message>
 </context>
 <context>
@@ -3133,6 +3186,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[选项]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>显示版本信息。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知选项“%1”。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知选项：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>“%1”之后缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>“%1”之后有意外的值。</translation>
     </message>
 </context>
 <context>
@@ -3735,10 +3823,6 @@ a minus in front takes a tag away:</source>
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>未使用的列：%1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>导出表格</translation>
     </message>
@@ -3988,20 +4072,6 @@ a minus in front takes a tag away:</source>
             <numerusform>已完成 %1/%n 台</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，其中 %n 台仍在进行</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，%n 台失败</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
@@ -4025,41 +4095,6 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>%n 台失败</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>QCommandLineParser</name>
-    <message>
-        <source>Usage: %1</source>
-        <translation>用法：%1</translation>
-    </message>
-    <message>
-        <source>[options]</source>
-        <translation>[选项]</translation>
-    </message>
-    <message>
-        <source>Options:</source>
-        <translation>选项：</translation>
-    </message>
-    <message>
-        <source>Displays version information.</source>
-        <translation>显示版本信息。</translation>
-    </message>
-    <message>
-        <source>Unknown option &apos;%1&apos;.</source>
-        <translation>未知选项“%1”。</translation>
-    </message>
-    <message>
-        <source>Unknown options: %1.</source>
-        <translation>未知选项：%1。</translation>
-    </message>
-    <message>
-        <source>Missing value after &apos;%1&apos;.</source>
-        <translation>“%1”之后缺少值。</translation>
-    </message>
-    <message>
-        <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>“%1”之后有意外的值。</translation>
     </message>
 </context>
 </TS>

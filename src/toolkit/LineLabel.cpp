@@ -6,13 +6,16 @@ namespace AdvancedControl {
 
 namespace {
 
-constexpr int kMarginPart = 6;  // of the font's height
+// Of the font's height.
+constexpr int kMarginPart = 6;
+constexpr int kSideMarginPart = 12;
 
 }  // namespace
 
 void LineLabel::SetMargin() {
   const int margin = fontMetrics().height() / kMarginPart;
-  setContentsMargins(margin, margin, margin, margin);
+  const int side = fontMetrics().height() / kSideMarginPart;
+  setContentsMargins(side, margin, side, margin);
 }
 
 QSize LineLabel::sizeHint() const {

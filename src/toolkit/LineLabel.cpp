@@ -6,16 +6,13 @@ namespace AdvancedControl {
 
 namespace {
 
-// Of the font's height.
-constexpr int kMarginPart = 6;
-constexpr int kSideMarginPart = 12;
+constexpr int kMarginPart = 6;  // of the font's height
 
 }  // namespace
 
 void LineLabel::SetMargin() {
   const int margin = fontMetrics().height() / kMarginPart;
-  const int side = fontMetrics().height() / kSideMarginPart;
-  setContentsMargins(side, margin, side, margin);
+  setContentsMargins(margin, margin, margin, margin);
 }
 
 QSize LineLabel::sizeHint() const {

@@ -16,6 +16,7 @@
 
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
+#include "app/desktop/details/DetailsPanel.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/profiles/Translations.h"
@@ -23,6 +24,7 @@
 #include "i18n/CatalogLanguages.h"
 #include "i18n/SystemLanguage.h"
 #include "tests/app/Windows.h"
+#include "tests/support/Ink.h"
 
 namespace {
 
@@ -119,6 +121,12 @@ TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
       width += window.menuBar()->fontMetrics().horizontalAdvance(entry->text()) + 16;
     }
     EXPECT_LE(width, 940) << "the menus do not fit in one line";
+    const DetailsPanel panel({});
+    for (auto* label : panel.findChildren<QLabel*>()) {
+      label->resize(label->sizeHint());
+      const QRect ink = InkOf(*label);
+      EXPECT_TRUE(ink.isEmpty() || label->rect().contains(ink)) << label->text().toStdString();
+    }
   }
   InstallTranslations(kEnglishUnitedStates);
 }

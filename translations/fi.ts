@@ -51,7 +51,7 @@
         <translation>”%1” ei ole mikään näistä: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>”%1” ei ole askel kuten +1 tai -1, ja PJLinkillä voi vain askeltaa</translation>
     </message>
     <message numerus="yes">
@@ -1223,19 +1223,19 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>nimi</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>”%1” ei ole aika %2 sekunnista vuorokauteen</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>”%1” ei ole aihe</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>”%1” ei ole osuus kuten 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>”%1” ei ole numeerinen osoite ja portti</translation>
     </message>
     <message>
@@ -1251,7 +1251,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--%1 vaatii valitsimen --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>”%1” ei ole isäntä ja portti</translation>
     </message>
     <message>
@@ -1263,11 +1263,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--cert-file ja --key-file vaativat toisensa</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: ”%1” ei ole ohjattavissa oleva asetus</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>”%1” ei ole luku 1–%2</translation>
     </message>
     <message>
@@ -1283,11 +1283,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--profiles puuttuu</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>”%1” ei ole numeerinen osoite</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>”%1” ei ole kansio</translation>
     </message>
     <message>
@@ -1614,7 +1614,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Sarjaportti</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 ei ole osoite.</translation>
     </message>
 </context>
@@ -2519,7 +2519,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>%</source>
         <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
-        <translation> %</translation>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2756,11 +2756,11 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>”%1” ei ole MAC-osoite</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>”%1” ei ole yhteyslaji</translation>
     </message>
     <message>
@@ -2768,7 +2768,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>”%1” on toisen projektorin nimi, jonka tunnus on %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>”%1” ei ole tuntimäärä</translation>
     </message>
     <message>
@@ -2857,7 +2857,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>projektoria ei ole</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>esiintyy tässä kahdesti</translation>
     </message>
     <message>
@@ -3341,7 +3341,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>vakiosyöte</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 esiintyy tässä kahdesti</translation>
     </message>
     <message>
@@ -3356,7 +3356,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: porttia ei saada käyttöön</translation>
     </message>
     <message>
@@ -3367,15 +3367,15 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>”%1” ei ole portti.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>”%1” ei ole luku %2–%3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>”%1” ei ole enintään tunnin pituinen aika.</translation>
     </message>
     <message>
@@ -3503,7 +3503,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>--%1 vaatii valitsimen --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>”%1” ei ole osoite.</translation>
     </message>
     <message>
@@ -3519,7 +3519,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>--fleet ei käytä sarjaliitäntöjä.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>”%1” ei ole IPv4-silmukkaosoite.</translation>
     </message>
     <message>
@@ -3531,7 +3531,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>Portin ”%1” jälkeen ei jää porttia PJLinkille.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>”%1” ei ole IPv4-silmukkaosoite ja portti.</translation>
     </message>
     <message>
@@ -3566,7 +3566,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>sisältää enemmän kuin %1 kohtaa</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>tämä ei ole tallennettujen asetusten tiedosto</translation>
     </message>
     <message>
@@ -3574,7 +3574,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>vain versio %1 tunnetaan</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>”%1” esiintyy tässä kahdesti</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>«&#xa0;%1&#xa0;» n’est pas possible&#xa0;; valeurs possibles&#xa0;: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un pas comme +1 ou -1, et PJLink ne peut modifier ce réglage que pas à pas</translation>
     </message>
     <message numerus="yes">
@@ -250,7 +250,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue « Commande avancée ». Les projecteurs sont ceux d’un fichier de profils.</translation>
+        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue «&#xa0;Commande avancée&#xa0;». Les projecteurs sont ceux d’un fichier de profils.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -1019,7 +1019,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
-        <translation>accepté, mais non confirmé : %1</translation>
+        <translation>accepté, mais non confirmé&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1223,19 +1223,19 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>nom</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une durée de %2 secondes à un jour</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un sujet</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une part comme 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse numérique avec un port</translation>
     </message>
     <message>
@@ -1251,7 +1251,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>--%1 demande --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un hôte avec un port</translation>
     </message>
     <message>
@@ -1263,11 +1263,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>--cert-file et --key-file vont ensemble</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands&#xa0;: «&#xa0;%1&#xa0;» n’est pas un réglage qui peut être commandé</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de 1 à %2</translation>
     </message>
     <message>
@@ -1283,11 +1283,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>il manque --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse numérique</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un dossier</translation>
     </message>
     <message>
@@ -1614,7 +1614,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Port série</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 n’est pas une adresse.</translation>
     </message>
 </context>
@@ -1866,7 +1866,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>On</source>
-        <translation>Activé</translation>
+        <translation>Allumé</translation>
     </message>
     <message>
         <source>Cooling down</source>
@@ -2519,7 +2519,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>%</source>
         <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
-        <translation> %</translation>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2756,11 +2756,11 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un type de liaison</translation>
     </message>
     <message>
@@ -2768,7 +2768,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>«&#xa0;%1&#xa0;» est le nom d’un autre projecteur, d’identité %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre d’heures</translation>
     </message>
     <message>
@@ -2857,7 +2857,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>il n’y a aucun projecteur</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>figure ici deux fois</translation>
     </message>
     <message>
@@ -3144,7 +3144,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>QCommandLineParser</name>
     <message>
         <source>Usage: %1</source>
-        <translation>Usage : %1</translation>
+        <translation>Usage&#xa0;: %1</translation>
     </message>
     <message>
         <source>[options]</source>
@@ -3152,7 +3152,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Options:</source>
-        <translation>Options :</translation>
+        <translation>Options&#xa0;:</translation>
     </message>
     <message>
         <source>Displays version information.</source>
@@ -3160,19 +3160,19 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Option inconnue « %1 ».</translation>
+        <translation>Option inconnue «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation>Options inconnues : %1.</translation>
+        <translation>Options inconnues&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Valeur manquante après « %1 ».</translation>
+        <translation>Valeur manquante après «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Valeur inattendue après « %1 ».</translation>
+        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3341,7 +3341,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>entrée standard</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 figure ici deux fois</translation>
     </message>
     <message>
@@ -3356,7 +3356,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control&#xa0;: le port n’est pas disponible</translation>
     </message>
     <message>
@@ -3367,15 +3367,15 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un port.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de %2 à %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’une heure au plus.</translation>
     </message>
     <message>
@@ -3503,7 +3503,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>--%1 demande --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse.</translation>
     </message>
     <message>
@@ -3519,7 +3519,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>--fleet n’a pas de lignes série.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de bouclage IPv4.</translation>
     </message>
     <message>
@@ -3531,7 +3531,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>«&#xa0;%1&#xa0;» ne laisse pas de port pour PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de bouclage IPv4 avec un port.</translation>
     </message>
     <message>
@@ -3566,7 +3566,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>a plus de %1 éléments</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>ce n’est pas un fichier de réglages enregistrés</translation>
     </message>
     <message>
@@ -3574,7 +3574,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>seule la version %1 est connue</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>«&#xa0;%1&#xa0;» figure ici deux fois</translation>
     </message>
     <message>
@@ -3810,7 +3810,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Unknown columns: %1</source>
-        <translation>Colonnes inconnues : %1</translation>
+        <translation>Colonnes inconnues&#xa0;: %1</translation>
     </message>
 </context>
 <context>

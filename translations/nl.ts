@@ -51,7 +51,7 @@
         <translation>‘%1’ is niet mogelijk; mogelijk zijn: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>‘%1’ is geen stap zoals +1 of -1, en PJLink kan dit alleen stapsgewijs wijzigen</translation>
     </message>
     <message numerus="yes">
@@ -1223,19 +1223,19 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>naam</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>‘%1’ is geen tijd van %2 seconden tot een dag</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>‘%1’ is geen topic</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>‘%1’ is geen aandeel zoals 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>‘%1’ is geen numeriek adres met poort</translation>
     </message>
     <message>
@@ -1251,7 +1251,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--%1 vereist --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>‘%1’ is geen host met poort</translation>
     </message>
     <message>
@@ -1263,11 +1263,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--cert-file en --key-file horen bij elkaar</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: ‘%1’ is geen instelling die met opdrachten gewijzigd mag worden</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>‘%1’ is geen getal van 1 tot %2</translation>
     </message>
     <message>
@@ -1283,11 +1283,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--profiles ontbreekt</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>‘%1’ is geen numeriek adres</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>‘%1’ is geen map</translation>
     </message>
     <message>
@@ -1614,7 +1614,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Seriële poort</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 is geen adres.</translation>
     </message>
 </context>
@@ -2756,11 +2756,11 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>‘%1’ is geen MAC-adres</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>‘%1’ is geen soort verbinding</translation>
     </message>
     <message>
@@ -2768,7 +2768,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>‘%1’ is de naam van een andere projector, met identiteit %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>‘%1’ is geen aantal uren</translation>
     </message>
     <message>
@@ -2857,7 +2857,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>er is geen projector</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>staat hier twee keer</translation>
     </message>
     <message>
@@ -3341,7 +3341,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>standaardinvoer</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 staat hier twee keer</translation>
     </message>
     <message>
@@ -3356,7 +3356,7 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: de poort is niet beschikbaar</translation>
     </message>
     <message>
@@ -3367,15 +3367,15 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>‘%1’ is geen poort.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>‘%1’ is geen getal van %2 tot %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>‘%1’ is geen tijd van hoogstens een uur.</translation>
     </message>
     <message>
@@ -3503,7 +3503,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>--%1 vereist --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>‘%1’ is geen adres.</translation>
     </message>
     <message>
@@ -3519,7 +3519,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>--fleet heeft geen seriële lijnen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>‘%1’ is geen IPv4-loopback-adres.</translation>
     </message>
     <message>
@@ -3531,7 +3531,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>‘%1’ laat geen poort over voor PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>‘%1’ is geen IPv4-loopback-adres met poort.</translation>
     </message>
     <message>
@@ -3566,7 +3566,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>heeft meer dan %1 onderdelen</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>dit is geen bestand met opgeslagen instellingen</translation>
     </message>
     <message>
@@ -3574,7 +3574,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>alleen versie %1 is bekend</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>‘%1’ staat hier twee keer</translation>
     </message>
     <message>

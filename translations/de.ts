@@ -128,10 +128,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Einstellungen auf den Standard des Projektors zurücksetzen</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>Ein/Aus, Eingang, Fehler und Stunden ausgeben</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>restore saved settings</source>
         <translation>gespeicherte Einstellungen wiederherstellen</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>den letzten Lauf von set oder apply rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Stellt auf allen beteiligten Projektoren wieder her, was der letzte Lauf von „set“ oder „apply“ ersetzt hat, oder was RUN ersetzt hat: ein Name aus „acctl undo --list“ oder eine Datei. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1016,6 +1004,31 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>the value before could not be read</source>
         <translation>der vorherige Wert konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>das kann nicht rückgängig gemacht werden</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. „acctl undo“ stellt den vorherigen Zustand wieder her. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>den letzten Lauf rückgängig machen, der Einstellungen geändert hat</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>der Lauf hat keinen dieser Projektoren geändert</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Stellt wieder her, was ein Lauf von „set“, „reset“ oder „apply“ ersetzt hat. RUN ist ein Name aus „acctl undo --list“, eine Datei oder „last“; ohne RUN wird der letzte Lauf rückgängig gemacht. Mit P oder --where werden nur diese Projektoren wiederhergestellt, und der Rest des Laufs kann später rückgängig gemacht werden. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>unterbrochen</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2254,6 +2267,17 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2607,6 +2631,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Should be</source>
         <translation>Soll entsprechen</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2675,10 +2703,72 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kann den Ordner %1 nicht anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Vorgaben</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Wert</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Einstellungen der Vorgabe</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Noch keine Vorgaben</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Entfernen</translation>
     </message>
 </context>
 <context>

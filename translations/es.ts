@@ -128,10 +128,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>restablecer ajustes al valor estándar del proyector</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Restablece ajustes al valor estándar del propio proyector y muestra su nuevo valor. Los contadores de horas solo se restablecen con su clave exacta, porque no se puede deshacer.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>mostrar alimentación, entrada, errores y horas</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>restore saved settings</source>
         <translation>restaurar ajustes guardados</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>deshacer la última ejecución de set o apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaura lo que sustituyó la última ejecución de «set» o «apply», en todos sus proyectores, o lo que sustituyó RUN: un nombre que muestra «acctl undo --list», o un archivo. Lo deshecho también se puede deshacer por su nombre.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1016,6 +1004,31 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>the value before could not be read</source>
         <translation>el valor anterior no se pudo leer</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>esto no se puede deshacer</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Restablece ajustes al valor estándar del propio proyector y muestra su nuevo valor. «acctl undo» restaura lo que había antes. Los contadores de horas solo se restablecen con su clave exacta, porque no se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>deshacer la última ejecución que cambió ajustes</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>la ejecución no cambió ninguno de estos proyectores</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Restaura lo que sustituyó una ejecución de «set», «reset» o «apply». RUN es un nombre que muestra «acctl undo --list», un archivo o «last»; sin él se deshace la última ejecución. Con P o --where solo se restauran estos proyectores, y el resto de la ejecución se puede deshacer más tarde. Lo deshecho también se puede deshacer por su nombre.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrumpido</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2254,6 +2267,17 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2607,6 +2631,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Should be</source>
         <translation>Debe coincidir con</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2675,10 +2703,72 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>no se puede crear la carpeta %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Preajustes</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Ajustes del preajuste</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Aún no hay preajustes</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Eliminar</translation>
     </message>
 </context>
 <context>

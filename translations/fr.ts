@@ -128,10 +128,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>rétablir les réglages standard du projecteur</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Rétablit la valeur standard du projecteur pour des réglages et affiche leur nouvelle valeur. Les compteurs d’heures ne sont remis à zéro que par leur clé exacte, car cela ne peut pas être annulé.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>afficher l’alimentation, l’entrée, les erreurs et les heures</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>restore saved settings</source>
         <translation>restaurer des réglages enregistrés</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>annuler la dernière exécution de set ou apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaure ce que la dernière exécution de «&#xa0;set&#xa0;» ou «&#xa0;apply&#xa0;» a remplacé, sur tous ses projecteurs, ou ce que RUN a remplacé&#xa0;: un nom qu’affiche «&#xa0;acctl undo --list&#xa0;», ou un fichier. Une annulation peut elle-même être annulée par son nom.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1016,6 +1004,31 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>the value before could not be read</source>
         <translation>la valeur précédente n’a pas pu être lue</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>cela ne peut pas être annulé</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Rétablit la valeur standard du projecteur pour des réglages et affiche leur nouvelle valeur. « acctl undo » rétablit l’état précédent. Les compteurs d’heures ne sont remis à zéro que par leur clé exacte, car cela ne peut pas être annulé.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>annuler la dernière exécution qui a modifié des réglages</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>l’exécution n’a modifié aucun de ces projecteurs</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Restaure ce qu’une exécution de « set », « reset » ou « apply » a remplacé. RUN est un nom qu’affiche « acctl undo --list », un fichier ou « last » ; sans RUN, la dernière exécution est annulée. Avec P ou --where, seuls ces projecteurs sont restaurés, et le reste de l’exécution peut être annulé plus tard. Une annulation peut elle-même être annulée par son nom.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrompu</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2254,6 +2267,17 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Fermer</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2607,6 +2631,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>Should be</source>
         <translation>Doit correspondre à</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2675,10 +2703,72 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossible de créer le dossier %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Préréglages</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valeur</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Réglages du préréglage</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Aucun préréglage pour l’instant</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Un préréglage ne peut pas s’appeler ainsi&#xa0;: pas de barre oblique, ni de point au début.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Supprimer</translation>
     </message>
 </context>
 <context>

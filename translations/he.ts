@@ -128,10 +128,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>איפוס הגדרות לברירת המחדל של המקרן</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>הצגת הפעלה, קלט, שגיאות ושעות</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>restore saved settings</source>
         <translation>שחזור הגדרות שמורות</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>ביטול ההרצה האחרונה של set או apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>הפקודה משחזרת את מה שההרצה האחרונה של &apos;set&apos; או &apos;apply&apos; החליפה, בכל המקרנים שלה, או את מה ש־RUN החליפה: שם ש־&apos;acctl undo --list&apos; מדפיסה, או קובץ. גם ביטול אפשר לבטל לפי שמו.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1016,6 +1004,31 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>the value before could not be read</source>
         <translation>לא ניתן היה לקרוא את הערך הקודם</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>אי אפשר לבטל את זה</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. &apos;acctl undo&apos; משחזרת את מה שהיה קודם. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>ביטול ההרצה האחרונה ששינתה הגדרות</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>ההרצה לא שינתה אף אחד מהמקרנים האלה</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>הפקודה משחזרת את מה שהרצה של &apos;set&apos;, &apos;reset&apos; או &apos;apply&apos; החליפה. RUN הוא שם ש־&apos;acctl undo --list&apos; מדפיסה, קובץ או &apos;last&apos;; בלעדיו מבוטלת ההרצה האחרונה. עם P או --where משוחזרים רק המקרנים האלה, ואת שאר ההרצה אפשר לבטל מאוחר יותר. גם ביטול אפשר לבטל לפי שמו.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>הופסק</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2254,6 +2267,17 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">סגירה</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2607,6 +2631,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>Should be</source>
         <translation>רצוי</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2675,10 +2703,72 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>אי אפשר ליצור את התיקייה %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">ערכות</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">הגדרה</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">ערך</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">ההגדרות שבערכה</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">ה&amp;סרה</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">אין עדיין ערכות</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">הסרה</translation>
     </message>
 </context>
 <context>

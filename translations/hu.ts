@@ -126,10 +126,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>beállítások visszaállítása a projektor alapértékére</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Visszaállítja a beállításokat a projektor saját alapértékére, és kiírja az új értéket. Az óraszámlálókat csak pontos kulcs megadásakor nullázza, mert ez nem vonható vissza.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>tápellátás, bemenet, hibák és üzemórák kiírása</translation>
     </message>
@@ -152,14 +148,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>restore saved settings</source>
         <translation>mentett beállítások visszaállítása</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>az utolsó set vagy apply visszavonása</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Minden érintett projektoron visszaállítja, amit az utolsó „set” vagy „apply” lecserélt, vagy amit a RUN futtatás: ez lehet az „acctl undo --list” által kiírt név vagy egy fájl. A visszavonás is visszavonható a neve alapján.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -997,6 +985,31 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>the value before could not be read</source>
         <translation>a korábbi érték nem volt beolvasható</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>ez nem vonható vissza</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Visszaállítja a beállításokat a projektor saját alapértékére, és kiírja az új értéket. Az „acctl undo” visszaállítja a korábbi állapotot. Az óraszámlálókat csak pontos kulcs megadásakor nullázza, mert ez nem vonható vissza.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>az utolsó beállításokat módosító futtatás visszavonása</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>a futtatás e projektorok egyikét sem módosította</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Visszaállítja, amit a „set”, „reset” vagy „apply” egy futtatása lecserélt. A RUN az „acctl undo --list” által kiírt név, egy fájl vagy „last”; nélküle az utolsó futtatást vonja vissza. P vagy --where megadásakor csak ezeket a projektorokat állítja vissza, és a futtatás többi része később vonható vissza. A visszavonás is visszavonható a neve alapján.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>megszakítva</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2220,6 +2233,17 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Bezárás</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2571,6 +2595,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>Should be</source>
         <translation>Elvárt</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2638,10 +2666,72 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>a mappa nem hozható létre: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Előbeállítások</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Érték</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Az előbeállítás tartalma</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Megszüntetés</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Még nincs előbeállítás</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Eltávolítás</translation>
     </message>
 </context>
 <context>

@@ -128,10 +128,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>riporta impostazioni allo standard del proiettore</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>mostra alimentazione, ingresso, errori e ore</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>restore saved settings</source>
         <translation>ripristina impostazioni salvate</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>annulla l’ultima esecuzione di set o apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Ripristina ciò che l’ultima esecuzione di «set» o «apply» ha sostituito, su tutti i suoi proiettori, o ciò che RUN ha sostituito: un nome mostrato da «acctl undo --list», o un file. Anche un annullamento può essere annullato con il suo nome.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1016,6 +1004,31 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>the value before could not be read</source>
         <translation>non è stato possibile leggere il valore precedente</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>questo non può essere annullato</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. “acctl undo” ripristina ciò che c’era prima. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>annulla l’ultima esecuzione che ha modificato impostazioni</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>l’esecuzione non ha modificato nessuno di questi proiettori</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Ripristina ciò che un’esecuzione di “set”, “reset” o “apply” ha sostituito. RUN è un nome mostrato da “acctl undo --list”, un file o “last”; senza RUN viene annullata l’ultima esecuzione. Con P o --where vengono ripristinati solo questi proiettori, e il resto dell’esecuzione può essere annullato in seguito. Anche un annullamento può essere annullato con il suo nome.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrotto</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2254,6 +2267,17 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2607,6 +2631,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Should be</source>
         <translation>Valore voluto</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2675,10 +2703,72 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossibile creare la cartella %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valore</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Impostazioni della preimpostazione</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Ancora nessuna preimpostazione</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Rimuovi</translation>
     </message>
 </context>
 <context>

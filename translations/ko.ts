@@ -126,10 +126,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>설정을 프로젝터 표준값으로 초기화</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>설정을 프로젝터 자체의 표준값으로 초기화하고 그 결과를 표시합니다. 사용 시간은 되돌릴 수 없으므로 키를 정확히 지정한 경우에만 초기화합니다.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>전원, 입력, 오류, 사용 시간 표시</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>restore saved settings</source>
         <translation>저장한 설정 복원</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>마지막 set 또는 apply 실행 취소</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>마지막 ‘set’ 또는 ‘apply’가 바꾼 값을 해당하는 모든 프로젝터에서 복원합니다. RUN을 지정하면 그 실행이 바꾼 값을 복원합니다. RUN은 ‘acctl undo --list’가 표시하는 이름 또는 파일입니다. 실행 취소도 이름을 지정하여 다시 취소할 수 있습니다.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -997,6 +985,31 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>the value before could not be read</source>
         <translation>이전 값을 읽을 수 없었음</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>되돌릴 수 없음</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>설정을 프로젝터 자체의 표준값으로 초기화하고 그 결과를 표시합니다. ‘acctl undo’로 이전 값을 복원할 수 있습니다. 사용 시간은 되돌릴 수 없으므로 키를 정확히 지정한 경우에만 초기화합니다.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>설정을 바꾼 마지막 실행 취소</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>이 실행은 이 프로젝터들을 변경하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>‘set’, ‘reset’ 또는 ‘apply’ 실행이 바꾼 값을 복원합니다. RUN은 ‘acctl undo --list’가 표시하는 이름, 파일 또는 ‘last’이며, 생략하면 마지막 실행을 취소합니다. P 또는 --where를 지정하면 해당 프로젝터만 복원하고 나머지는 나중에 취소할 수 있습니다. 실행 취소도 이름을 지정하여 다시 취소할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>중단됨</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2220,6 +2233,17 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">닫기</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2571,6 +2595,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>Should be</source>
         <translation>기준</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2638,10 +2666,72 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">프리셋</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">설정</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">값</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">프리셋의 설정</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">제거(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">프리셋이 아직 없음</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">제거</translation>
     </message>
 </context>
 <context>

@@ -128,10 +128,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>instellingen terugzetten op de standaard van de projector</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Zet instellingen terug op de eigen standaard van de projector en toont wat ze daarna zijn. Urentellers worden alleen met hun exacte sleutel op nul gezet, omdat dit niet ongedaan gemaakt kan worden.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>voeding, ingang, fouten en uren tonen</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>restore saved settings</source>
         <translation>opgeslagen instellingen herstellen</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>de laatste uitvoering van set of apply ongedaan maken</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Herstelt wat de laatste uitvoering van ‘set’ of ‘apply’ heeft vervangen, op alle betrokken projectors, of wat RUN heeft vervangen: een naam die ‘acctl undo --list’ toont, of een bestand. Ook dit kan met zijn naam weer ongedaan gemaakt worden.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1016,6 +1004,31 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>the value before could not be read</source>
         <translation>de vorige waarde kon niet gelezen worden</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>dit kan niet ongedaan gemaakt worden</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Zet instellingen terug op de eigen standaard van de projector en toont wat ze daarna zijn. ‘acctl undo’ herstelt wat er eerst was. Urentellers worden alleen met hun exacte sleutel op nul gezet, omdat dit niet ongedaan gemaakt kan worden.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>de laatste uitvoering die instellingen heeft gewijzigd ongedaan maken</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>de uitvoering heeft geen van deze projectors gewijzigd</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Herstelt wat een uitvoering van ‘set’, ‘reset’ of ‘apply’ heeft vervangen. RUN is een naam die ‘acctl undo --list’ toont, een bestand of ‘last’; zonder RUN wordt de laatste uitvoering ongedaan gemaakt. Met P of --where worden alleen deze projectors hersteld, en de rest van de uitvoering kan later ongedaan gemaakt worden. Ook dit kan met zijn naam weer ongedaan gemaakt worden.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>afgebroken</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2254,6 +2267,17 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2607,6 +2631,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Should be</source>
         <translation>Gewenst</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2675,10 +2703,72 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kan map %1 niet maken</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Instelling</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Waarde</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Instellingen van de voorinstelling</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">Ve&amp;rwijderen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Nog geen voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Verwijderen</translation>
     </message>
 </context>
 <context>

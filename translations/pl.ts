@@ -130,10 +130,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>resetuje ustawienia do standardowych wartości projektora</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Resetuje ustawienia do własnych standardowych wartości projektora i wypisuje nowe wartości. Liczniki godzin są resetowane tylko po podaniu dokładnych kluczy, ponieważ nie da się tego cofnąć.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>wypisuje zasilanie, wejście, błędy i godziny</translation>
     </message>
@@ -156,14 +152,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>restore saved settings</source>
         <translation>przywraca zapisane ustawienia</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>cofa ostatnie wykonanie set lub apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Przywraca to, co zastąpiło ostatnie wykonanie „set” lub „apply” na wszystkich jego projektorach, albo to, co zastąpiło RUN: nazwa wypisana przez „acctl undo --list” lub plik. Samo cofnięcie też można cofnąć, podając jego nazwę.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -1035,6 +1023,31 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>the value before could not be read</source>
         <translation>poprzedniej wartości nie udało się odczytać</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>tego nie da się cofnąć</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Resetuje ustawienia do własnych standardowych wartości projektora i wypisuje nowe wartości. „acctl undo” przywraca poprzedni stan. Liczniki godzin są resetowane tylko po podaniu dokładnych kluczy, ponieważ nie da się tego cofnąć.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>cofa ostatnie wykonanie, które zmieniło ustawienia</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>to wykonanie nie zmieniło żadnego z tych projektorów</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Przywraca to, co zastąpiło wykonanie „set”, „reset” lub „apply”. RUN to nazwa wypisana przez „acctl undo --list”, plik lub „last”; bez RUN cofane jest ostatnie wykonanie. Z P lub --where przywracane są tylko te projektory, a resztę wykonania można cofnąć później. Samo cofnięcie też można cofnąć, podając jego nazwę.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>przerwano</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2288,6 +2301,17 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Zamknij</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2643,6 +2667,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>Should be</source>
         <translation>Wzorzec</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2712,10 +2740,72 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>nie można utworzyć folderu %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Zestawy</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ustawienie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Wartość</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Ustawienia zestawu</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">U&amp;suń</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Nie ma jeszcze zestawów</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Usuń</translation>
     </message>
 </context>
 <context>

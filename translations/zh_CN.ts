@@ -126,10 +126,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>将设置复位为投影机的标准值</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>显示电源、输入、错误和小时数</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>restore saved settings</source>
         <translation>还原保存的设置</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>撤消上一次 set 或 apply 运行</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>在所有相关投影机上还原上一次“set”或“apply”替换的值，或还原 RUN 替换的值：“acctl undo --list”列出的名称，或一个文件。撤消本身也可以按其名称撤消。</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -997,6 +985,31 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>the value before could not be read</source>
         <translation>无法读取更改前的值</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>无法撤消</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。“acctl undo”可还原先前的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>撤消上一次更改设置的运行</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>该运行未更改其中任何投影机</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>还原“set”、“reset”或“apply”的一次运行所替换的值。RUN 是“acctl undo --list”列出的名称、一个文件或“last”；省略时撤消上一次运行。使用 P 或 --where 时，只还原这些投影机，该运行的其余部分可以稍后撤消。撤消本身也可以按其名称撤消。</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>已中断</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2220,6 +2233,17 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">关闭</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Open</source>
@@ -2571,6 +2595,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>Should be</source>
         <translation>应为</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2638,10 +2666,72 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>无法创建文件夹 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">预设</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">预设的设置</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">尚无预设</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">不能使用此预设名称：请去掉斜杠和开头的点。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">移除</translation>
     </message>
 </context>
 <context>

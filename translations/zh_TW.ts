@@ -126,10 +126,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>將設定重設為投影機的標準值</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>將設定重設為投影機本身的標準值，並顯示重設後的值。時數計數器必須以完整的鍵指定才會重設，因為此動作無法復原。</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>顯示電源、輸入、錯誤與時數</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>restore saved settings</source>
         <translation>還原儲存的設定</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>復原上一次的 set 或 apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>在所有相關的投影機上，還原上一次「set」或「apply」所取代的值，或 RUN 所取代的值；RUN 是「acctl undo --list」列出的名稱，或是檔案。復原本身也可以用其名稱再復原。</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -997,6 +985,31 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>the value before could not be read</source>
         <translation>無法讀取先前的值</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>這無法復原</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>將設定重設為投影機本身的標準值，並顯示重設後的值。「acctl undo」可還原先前的值。時數計數器必須以完整的鍵指定才會重設，因為此動作無法復原。</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>復原上一次變更設定的執行</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>該次執行未變更其中任何投影機</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>還原「set」、「reset」或「apply」的一次執行所取代的值。RUN 是「acctl undo --list」列出的名稱、檔案或「last」；省略時復原上一次執行。使用 P 或 --where 時，只還原這些投影機，該次執行的其餘部分可以稍後復原。復原本身也可以用其名稱再復原。</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>已中斷</translation>
     </message>
     <message>
         <source>accepted, but not confirmed: %1</source>
@@ -2220,6 +2233,17 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">關閉</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2571,6 +2595,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>Should be</source>
         <translation>應有值</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2638,10 +2666,72 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>無法建立資料夾 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">預設集</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">預設集的設定</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">尚無預設集</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">預設集不能使用這個名稱：請勿使用斜線，也不要以句點開頭。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">移除</translation>
     </message>
 </context>
 <context>

@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr int kButtonsInRow = 3;
+constexpr int kButtonsInRow = 2;
 constexpr int kSignSize = 16;
 constexpr int kBarHeight = 6;
 constexpr int kPercent = 100;
@@ -141,7 +141,8 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
   layout->addSpacing(6);
   layout->addWidget(body_, 1);
   layout->addStretch();  // while the body is hidden
-  setMinimumWidth(std::max(kUsualWidth * 3 / 4, body_->minimumSizeHint().width()));
+  setMinimumWidth(std::max(
+      {kUsualWidth * 3 / 4, body_->minimumSizeHint().width(), buttons->minimumSize().width()}));
 }
 
 void DetailsPanel::Show(const ProjectorRow* row, std::size_t count,

@@ -51,7 +51,7 @@
         <translation>„%1“ není jedna z možností: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>„%1“ není krok jako +1 nebo -1 a PJLink umí tuto hodnotu měnit jen po krocích</translation>
     </message>
     <message numerus="yes">
@@ -1256,19 +1256,19 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>název</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>„%1“ není doba od %2 sekund do jednoho dne</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>„%1“ není téma</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>„%1“ není podíl jako 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>„%1“ není číselná adresa s portem</translation>
     </message>
     <message>
@@ -1284,7 +1284,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>--%1 vyžaduje --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>„%1“ není počítač s portem</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>--cert-file a --key-file je třeba zadat společně</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: „%1“ není nastavení, které lze měnit příkazem</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>„%1“ není číslo od 1 do %2</translation>
     </message>
     <message>
@@ -1316,11 +1316,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>chybí --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>„%1“ není číselná adresa</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>„%1“ není složka</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Sériový port</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 není adresa.</translation>
     </message>
 </context>
@@ -2886,11 +2886,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>„%1“ není adresa MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>„%1“ není druh spojení</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@ a minus in front takes a tag away:</source>
         <translation>„%1“ je název jiného projektoru, s identifikátorem %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>„%1“ není počet hodin</translation>
     </message>
     <message>
@@ -2987,7 +2987,7 @@ a minus in front takes a tag away:</source>
         <translation>chybí projektory</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>je zde uvedeno dvakrát</translation>
     </message>
     <message>
@@ -3477,7 +3477,7 @@ a minus in front takes a tag away:</source>
         <translation>standardní vstup</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 je zde uvedeno dvakrát</translation>
     </message>
     <message>
@@ -3492,7 +3492,7 @@ a minus in front takes a tag away:</source>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: port nelze získat</translation>
     </message>
     <message>
@@ -3503,15 +3503,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>„%1“ není port.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>„%1“ není číslo od %2 do %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>„%1“ není doba do jedné hodiny.</translation>
     </message>
     <message>
@@ -3639,7 +3639,7 @@ a minus in front takes a tag away:</source>
         <translation>--%1 vyžaduje --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>„%1“ není adresa.</translation>
     </message>
     <message>
@@ -3655,7 +3655,7 @@ a minus in front takes a tag away:</source>
         <translation>--fleet nemá sériové linky.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>„%1“ není adresa zpětné smyčky IPv4.</translation>
     </message>
     <message>
@@ -3667,7 +3667,7 @@ a minus in front takes a tag away:</source>
         <translation>Po portu „%1“ nezbývá žádný pro PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>„%1“ není adresa zpětné smyčky IPv4 s portem.</translation>
     </message>
     <message>
@@ -3702,7 +3702,7 @@ a minus in front takes a tag away:</source>
         <translation>má více než %1 položek</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>toto není soubor uloženého nastavení</translation>
     </message>
     <message>
@@ -3710,7 +3710,7 @@ a minus in front takes a tag away:</source>
         <translation>známa je jen verze %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>„%1“ je zde uvedeno dvakrát</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>«%1» no es posible; valores posibles: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>«%1» no es un paso como +1 o -1, y PJLink solo puede cambiar este ajuste paso a paso</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>nombre</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>«%1» no es un tiempo de %2 segundos a un día</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>«%1» no es un tema</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>«%1» no es una parte como 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>«%1» no es una dirección numérica con puerto</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>--%1 necesita --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>«%1» no es un equipo con puerto</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>--cert-file y --key-file se necesitan mutuamente</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: «%1» no es un ajuste que se pueda ordenar</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>«%1» no es un número de 1 a %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>falta --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>«%1» no es una dirección numérica</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>«%1» no es una carpeta</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Puerto serie</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 no es una dirección.</translation>
     </message>
 </context>
@@ -2846,11 +2846,11 @@ un signo menos delante quita una etiqueta:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>«%1» no es una dirección MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>«%1» no es un tipo de conexión</translation>
     </message>
     <message>
@@ -2858,7 +2858,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>«%1» es el nombre de otro proyector, con la identidad %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>«%1» no es un número de horas</translation>
     </message>
     <message>
@@ -2947,7 +2947,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>no hay ningún proyector</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>aparece aquí dos veces</translation>
     </message>
     <message>
@@ -3431,7 +3431,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>entrada estándar</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 aparece aquí dos veces</translation>
     </message>
     <message>
@@ -3446,7 +3446,7 @@ un signo menos delante quita una etiqueta:</numerusform>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: el puerto no está disponible</translation>
     </message>
     <message>
@@ -3457,15 +3457,15 @@ un signo menos delante quita una etiqueta:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>«%1» no es un puerto.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>«%1» no es un número de %2 a %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>«%1» no es un tiempo de hasta una hora.</translation>
     </message>
     <message>
@@ -3593,7 +3593,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>--%1 necesita --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>«%1» no es una dirección.</translation>
     </message>
     <message>
@@ -3609,7 +3609,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>--fleet no tiene líneas serie.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>«%1» no es una dirección IPv4 de bucle.</translation>
     </message>
     <message>
@@ -3621,7 +3621,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>«%1» no deja ningún puerto para PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>«%1» no es una dirección IPv4 de bucle con puerto.</translation>
     </message>
     <message>
@@ -3656,7 +3656,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>tiene más de %1 entradas</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>esto no es un archivo de ajustes guardados</translation>
     </message>
     <message>
@@ -3664,7 +3664,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>solo se conoce la versión %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>«%1» aparece aquí dos veces</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>”%1” ei ole mikään näistä: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>”%1” ei ole askel kuten +1 tai -1, ja PJLinkillä voi vain askeltaa</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>nimi</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>”%1” ei ole aika %2 sekunnista vuorokauteen</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>”%1” ei ole aihe</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>”%1” ei ole osuus kuten 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>”%1” ei ole numeerinen osoite ja portti</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--%1 vaatii valitsimen --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>”%1” ei ole isäntä ja portti</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--cert-file ja --key-file vaativat toisensa</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: ”%1” ei ole ohjattavissa oleva asetus</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>”%1” ei ole luku 1–%2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--profiles puuttuu</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>”%1” ei ole numeerinen osoite</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>”%1” ei ole kansio</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Sarjaportti</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 ei ole osoite.</translation>
     </message>
 </context>
@@ -2846,11 +2846,11 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>”%1” ei ole MAC-osoite</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>”%1” ei ole yhteyslaji</translation>
     </message>
     <message>
@@ -2858,7 +2858,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>”%1” on toisen projektorin nimi, jonka tunnus on %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>”%1” ei ole tuntimäärä</translation>
     </message>
     <message>
@@ -2947,7 +2947,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>projektoria ei ole</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>esiintyy tässä kahdesti</translation>
     </message>
     <message>
@@ -3431,7 +3431,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>vakiosyöte</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 esiintyy tässä kahdesti</translation>
     </message>
     <message>
@@ -3446,7 +3446,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: porttia ei saada käyttöön</translation>
     </message>
     <message>
@@ -3457,15 +3457,15 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>”%1” ei ole portti.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>”%1” ei ole luku %2–%3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>”%1” ei ole enintään tunnin pituinen aika.</translation>
     </message>
     <message>
@@ -3593,7 +3593,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>--%1 vaatii valitsimen --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>”%1” ei ole osoite.</translation>
     </message>
     <message>
@@ -3609,7 +3609,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>--fleet ei käytä sarjaliitäntöjä.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>”%1” ei ole IPv4-silmukkaosoite.</translation>
     </message>
     <message>
@@ -3621,7 +3621,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>Portin ”%1” jälkeen ei jää porttia PJLinkille.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>”%1” ei ole IPv4-silmukkaosoite ja portti.</translation>
     </message>
     <message>
@@ -3656,7 +3656,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>sisältää enemmän kuin %1 kohtaa</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>tämä ei ole tallennettujen asetusten tiedosto</translation>
     </message>
     <message>
@@ -3664,7 +3664,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>vain versio %1 tunnetaan</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>”%1” esiintyy tässä kahdesti</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>‘%1’ is niet mogelijk; mogelijk zijn: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>‘%1’ is geen stap zoals +1 of -1, en PJLink kan dit alleen stapsgewijs wijzigen</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>naam</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>‘%1’ is geen tijd van %2 seconden tot een dag</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>‘%1’ is geen topic</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>‘%1’ is geen aandeel zoals 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>‘%1’ is geen numeriek adres met poort</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--%1 vereist --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>‘%1’ is geen host met poort</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--cert-file en --key-file horen bij elkaar</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: ‘%1’ is geen instelling die met opdrachten gewijzigd mag worden</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>‘%1’ is geen getal van 1 tot %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--profiles ontbreekt</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>‘%1’ is geen numeriek adres</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>‘%1’ is geen map</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Seriële poort</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 is geen adres.</translation>
     </message>
 </context>
@@ -2846,11 +2846,11 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>‘%1’ is geen MAC-adres</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>‘%1’ is geen soort verbinding</translation>
     </message>
     <message>
@@ -2858,7 +2858,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>‘%1’ is de naam van een andere projector, met identiteit %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>‘%1’ is geen aantal uren</translation>
     </message>
     <message>
@@ -2947,7 +2947,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>er is geen projector</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>staat hier twee keer</translation>
     </message>
     <message>
@@ -3431,7 +3431,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>standaardinvoer</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 staat hier twee keer</translation>
     </message>
     <message>
@@ -3446,7 +3446,7 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: de poort is niet beschikbaar</translation>
     </message>
     <message>
@@ -3457,15 +3457,15 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>‘%1’ is geen poort.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>‘%1’ is geen getal van %2 tot %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>‘%1’ is geen tijd van hoogstens een uur.</translation>
     </message>
     <message>
@@ -3593,7 +3593,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>--%1 vereist --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>‘%1’ is geen adres.</translation>
     </message>
     <message>
@@ -3609,7 +3609,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>--fleet heeft geen seriële lijnen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>‘%1’ is geen IPv4-loopback-adres.</translation>
     </message>
     <message>
@@ -3621,7 +3621,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>‘%1’ laat geen poort over voor PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>‘%1’ is geen IPv4-loopback-adres met poort.</translation>
     </message>
     <message>
@@ -3656,7 +3656,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>heeft meer dan %1 onderdelen</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>dit is geen bestand met opgeslagen instellingen</translation>
     </message>
     <message>
@@ -3664,7 +3664,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>alleen versie %1 is bekend</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>‘%1’ staat hier twee keer</translation>
     </message>
     <message>

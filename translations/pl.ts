@@ -51,7 +51,7 @@
         <translation>„%1” nie jest jedną z wartości: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>„%1” nie jest krokiem takim jak +1 lub -1, a przez PJLink można zmieniać tylko krokami</translation>
     </message>
     <message numerus="yes">
@@ -1256,19 +1256,19 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>nazwa</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>„%1” nie jest czasem od %2 sekund do doby</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>„%1” nie jest tematem</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>„%1” nie jest częścią taką jak 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>„%1” nie jest adresem liczbowym z portem</translation>
     </message>
     <message>
@@ -1284,7 +1284,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>--%1 wymaga --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>„%1” nie jest hostem z portem</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>--cert-file i --key-file wymagają się wzajemnie</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: „%1” nie jest ustawieniem, które można zmieniać poleceniami</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>„%1” nie jest liczbą od 1 do %2</translation>
     </message>
     <message>
@@ -1316,11 +1316,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>brak --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>„%1” nie jest adresem liczbowym</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>„%1” nie jest folderem</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Port szeregowy</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 nie jest adresem.</translation>
     </message>
 </context>
@@ -2886,11 +2886,11 @@ minus przed tagiem go usuwa:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>„%1” nie jest adresem MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>„%1” nie jest rodzajem połączenia</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>„%1” to nazwa innego projektora, o identyfikatorze %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>„%1” nie jest liczbą godzin</translation>
     </message>
     <message>
@@ -2987,7 +2987,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>nie ma żadnego projektora</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>występuje dwa razy</translation>
     </message>
     <message>
@@ -3477,7 +3477,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>standardowe wejście</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 występuje dwa razy</translation>
     </message>
     <message>
@@ -3492,7 +3492,7 @@ minus przed tagiem go usuwa:</numerusform>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: nie można zająć portu</translation>
     </message>
     <message>
@@ -3503,15 +3503,15 @@ minus przed tagiem go usuwa:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>„%1” nie jest portem.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>„%1” nie jest liczbą od %2 do %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>„%1” nie jest czasem do jednej godziny.</translation>
     </message>
     <message>
@@ -3639,7 +3639,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>--%1 wymaga --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>„%1” nie jest adresem.</translation>
     </message>
     <message>
@@ -3655,7 +3655,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>--fleet nie ma łączy szeregowych.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>„%1” nie jest adresem pętli zwrotnej IPv4.</translation>
     </message>
     <message>
@@ -3667,7 +3667,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Po „%1” nie zostaje port dla PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>„%1” nie jest adresem pętli zwrotnej IPv4 z portem.</translation>
     </message>
     <message>
@@ -3702,7 +3702,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>ma więcej niż %1 elementów</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>to nie jest plik zapisanych ustawień</translation>
     </message>
     <message>
@@ -3710,7 +3710,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>znana jest tylko wersja %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>„%1” występuje dwa razy</translation>
     </message>
     <message>

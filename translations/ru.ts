@@ -51,7 +51,7 @@
         <translation>«%1» не входит в число допустимых: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>«%1» — не шаг вида +1 или -1, а по PJLink возможны только шаги</translation>
     </message>
     <message numerus="yes">
@@ -1256,19 +1256,19 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>название</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>«%1» — не время в пределах от %2 секунд до суток</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>«%1» — не тема</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>«%1» — не доля вида 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>«%1» — не числовой адрес с портом</translation>
     </message>
     <message>
@@ -1284,7 +1284,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>для --%1 нужен --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>«%1» — не узел с портом</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>--cert-file и --key-file указываются только вместе</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: «%1» — не настройка, которую можно менять командами</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>«%1» — не число от 1 до %2</translation>
     </message>
     <message>
@@ -1316,11 +1316,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>не указан --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>«%1» — не числовой адрес</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>«%1» — не папка</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Последовательный порт</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 — не адрес.</translation>
     </message>
 </context>
@@ -2886,11 +2886,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>«%1» — не MAC-адрес</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>«%1» — не вид связи</translation>
     </message>
     <message>
@@ -2898,7 +2898,7 @@ a minus in front takes a tag away:</source>
         <translation>«%1» — имя другого проектора, с идентификатором %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>«%1» — не число часов</translation>
     </message>
     <message>
@@ -2987,7 +2987,7 @@ a minus in front takes a tag away:</source>
         <translation>нет ни одного проектора</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>указано дважды</translation>
     </message>
     <message>
@@ -3477,7 +3477,7 @@ a minus in front takes a tag away:</source>
         <translation>стандартный ввод</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 указано дважды</translation>
     </message>
     <message>
@@ -3492,7 +3492,7 @@ a minus in front takes a tag away:</source>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: не удалось занять порт</translation>
     </message>
     <message>
@@ -3503,15 +3503,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>«%1» — не порт.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>«%1» — не число от %2 до %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>«%1» — не время в пределах часа.</translation>
     </message>
     <message>
@@ -3639,7 +3639,7 @@ a minus in front takes a tag away:</source>
         <translation>Для --%1 нужен --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>«%1» — не адрес.</translation>
     </message>
     <message>
@@ -3655,7 +3655,7 @@ a minus in front takes a tag away:</source>
         <translation>У --fleet нет последовательных портов.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>«%1» — не петлевой адрес IPv4.</translation>
     </message>
     <message>
@@ -3667,7 +3667,7 @@ a minus in front takes a tag away:</source>
         <translation>После «%1» не остаётся порта для PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>«%1» — не петлевой адрес IPv4 с портом.</translation>
     </message>
     <message>
@@ -3702,7 +3702,7 @@ a minus in front takes a tag away:</source>
         <translation>больше %1 элементов</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>это не файл сохранённых настроек</translation>
     </message>
     <message>
@@ -3710,7 +3710,7 @@ a minus in front takes a tag away:</source>
         <translation>известна только версия %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>«%1» указано дважды</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>「%1」不在下列各項之中：%2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>「%1」不是 +1 或 -1 這樣的增減量，而 PJLink 只能逐級調整</translation>
     </message>
     <message numerus="yes">
@@ -1216,19 +1216,19 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>名稱</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>「%1」不是 %2 秒到一天之間的時間</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>「%1」不是主題</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>「%1」不是 2/5 這樣的份額</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>「%1」不是含連接埠的數字位址</translation>
     </message>
     <message>
@@ -1244,7 +1244,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>--%1 需要 --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>「%1」不是含連接埠的主機</translation>
     </message>
     <message>
@@ -1256,11 +1256,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>--cert-file 與 --key-file 必須同時使用</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands：「%1」不是可用命令變更的設定</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>「%1」不是 1 到 %2 之間的數字</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>缺少 --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>「%1」不是數字位址</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>「%1」不是資料夾</translation>
     </message>
     <message>
@@ -1603,7 +1603,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>序列埠</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 不是位址。</translation>
     </message>
 </context>
@@ -2806,11 +2806,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>「%1」不是 MAC 位址</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>「%1」不是連線方式</translation>
     </message>
     <message>
@@ -2818,7 +2818,7 @@ a minus in front takes a tag away:</source>
         <translation>「%1」是另一台投影機的名稱，其識別碼為 %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>「%1」不是時數</translation>
     </message>
     <message>
@@ -2907,7 +2907,7 @@ a minus in front takes a tag away:</source>
         <translation>沒有投影機</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>在此重複出現</translation>
     </message>
     <message>
@@ -3385,7 +3385,7 @@ a minus in front takes a tag away:</source>
         <translation>標準輸入</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 在此重複出現</translation>
     </message>
     <message>
@@ -3400,7 +3400,7 @@ a minus in front takes a tag away:</source>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control：無法使用該連接埠</translation>
     </message>
     <message>
@@ -3411,15 +3411,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>「%1」不是連接埠。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>「%1」不是 %2 到 %3 的數字。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>「%1」不是一小時以內的時間。</translation>
     </message>
     <message>
@@ -3547,7 +3547,7 @@ a minus in front takes a tag away:</source>
         <translation>--%1 需要 --fleet。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>「%1」不是位址。</translation>
     </message>
     <message>
@@ -3563,7 +3563,7 @@ a minus in front takes a tag away:</source>
         <translation>--fleet 不支援序列連線。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>「%1」不是 IPv4 迴路位址。</translation>
     </message>
     <message>
@@ -3575,7 +3575,7 @@ a minus in front takes a tag away:</source>
         <translation>「%1」之後沒有可供 PJLink 使用的連接埠。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>「%1」不是含連接埠的 IPv4 迴路位址。</translation>
     </message>
     <message>
@@ -3610,7 +3610,7 @@ a minus in front takes a tag away:</source>
         <translation>超過 %1 個項目</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>這不是儲存設定的檔案</translation>
     </message>
     <message>
@@ -3618,7 +3618,7 @@ a minus in front takes a tag away:</source>
         <translation>僅支援版本 %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>「%1」在此重複出現</translation>
     </message>
     <message>

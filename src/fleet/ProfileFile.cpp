@@ -203,7 +203,7 @@ ProfileList ParseProfileList(const QByteArray& text, const QString& fileName) {
   };
   const JsonLines lines(text);
   if (const auto repeated = lines.RepeatedKey()) {
-    return wrongValue(repeated->path, repeated->line, ProfileFile::tr("stands here twice"));
+    return wrongValue(repeated->path, repeated->line, ProfileFile::tr("is here twice"));
   }
   try {
     return {.profiles = Profiles(document), .error = {}};

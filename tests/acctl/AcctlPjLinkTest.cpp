@@ -166,7 +166,7 @@ TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
   EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused; 0 of 2 steps accepted\n")));
   EXPECT_THAT(set("-2"), Ends(0, ""));
   EXPECT_EQ(projector.Count("SVOL 0"), 2);
-  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step such as +1 or -1")));
+  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is not a step such as +1 or -1")));
   EXPECT_THAT(set("+4097"), Ends(2, HasSubstr("'+4097' is more than 4096 steps")));
 }
 

@@ -42,7 +42,7 @@ const WrongFile kWrongFiles[] = {
     {"{\n\"projectors\": []}", "2: projectors: there is no projector"},
     {"\"name\": \"A\"", "1: projectors[0]: \"model\" is missing"},
     {"\n\n\"brightnes\": 1", "3: projectors[0].brightnes: unknown key"},
-    {"\n\"name\": \"A\",\n\"name\": \"B\"", "3: projectors[0].name: stands here twice"},
+    {"\n\"name\": \"A\",\n\"name\": \"B\"", "3: projectors[0].name: is here twice"},
     {R"("name": "")", "name: must be"},
     {R"("modelCode": 1.5)", "modelCode: must be a whole number"},
     {"\"name\": \"" + std::string(257, 'x') + '"', "name: is longer than 256 bytes"},

@@ -98,13 +98,19 @@ void ForEachWindow(const std::function<void(QWidget&)>& look) {
 }
 
 TEST(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {
-  QTranslator pseudo;
-  ASSERT_TRUE(pseudo.load(TEST_PSEUDO_DIR "/translations/qps_ploc.qm"));
-  QCoreApplication::installTranslator(&pseudo);
-  ForEachWindow([](QWidget& window) {
-    ExpectTranslated(window);
-    ExpectRoom(window);
-  });
+  for (const auto& [name, direction] :
+       {std::pair("qps_ploc", Qt::LeftToRight), {"qps_plocm", Qt::RightToLeft}}) {
+    SCOPED_TRACE(name);
+    QTranslator pseudo;
+    ASSERT_TRUE(pseudo.load(name, TEST_PSEUDO_DIR "/translations"));
+    QCoreApplication::installTranslator(&pseudo);
+    QApplication::setLayoutDirection(direction);
+    ForEachWindow([](QWidget& window) {
+      ExpectTranslated(window);
+      ExpectRoom(window);
+    });
+  }
+  QApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
 }
 
 TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {

@@ -27,9 +27,20 @@ Fleet::Fleet(const FleetPolicy& policy, std::function<void()> onChanges)
     : onChanges_(std::move(onChanges)),
       states_(std::make_unique<FleetStates>(clock_, policy.history)),
       watcher_(std::make_unique<FleetWatcher>(WithinLimits(policy), network_, clock_, *states_)),
+      holds_(
+          std::make_shared<AddressHolds>([this](const AddressHolds::Address& address, bool isHeld) {
+            Change([&] {
+              if (isHeld) {
+                watcher_->Hold(address);
+              } else {
+                watcher_->Release(address);
+              }
+            });
+          })),
       thread_([this] { Run(); }) {}
 
 Fleet::~Fleet() {
+  holds_->Detach();
   Change([this] { ends_ = true; });
   thread_.join();
 }

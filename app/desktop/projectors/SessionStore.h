@@ -15,7 +15,8 @@ class SessionStore {
   using MakeObserver =
       std::function<LoggingChannel::Observer(const std::string& id, const FleetProfile& profile)>;
 
-  explicit SessionStore(MakeObserver makeObserver) : makeObserver_(std::move(makeObserver)) {}
+  SessionStore(MakeObserver makeObserver, std::shared_ptr<AddressHolds> holds)
+      : makeObserver_(std::move(makeObserver)), holds_(std::move(holds)) {}
 
   std::shared_ptr<ProjectorSession> Get(const FleetProfile& profile);
   /// Null if there is none yet.
@@ -30,5 +31,6 @@ class SessionStore {
 
  private:
   const MakeObserver makeObserver_;
+  const std::shared_ptr<AddressHolds> holds_;
   std::map<std::string, std::shared_ptr<ProjectorSession>> sessions_;
 };

@@ -7,9 +7,9 @@ LiveProjectors::LiveProjectors(const FleetPolicy& policy, Observer observer, QOb
     : QObject(parent),
       observer_(std::move(observer)),
       watch_(policy),
-      sessions_([this](const std::string& id,
-                       const FleetProfile& profile) { return MakeObserver(id, profile); },
-                watch_.Projectors().Holds()) {
+      sessions_([this](const std::string& id, const FleetProfile& profile) {
+        return MakeObserver(id, profile);
+      }) {
   connect(&watch_, &FleetWatch::Changed, this, &LiveProjectors::Changed);
   connect(&service_, &LoopbackService::Ready, this,
           [this](const std::string& id, const FleetWatch::Served& served) {

@@ -11,7 +11,7 @@
 
 #include "Namespace.h"
 #include "ProjectorFleetExport.h"
-#include "fleet/AddressHolds.h"
+#include "fleet/AddressHold.h"
 #include "fleet/CallersFirst.h"
 #include "fleet/FleetClock.h"
 #include "fleet/FleetEvents.h"
@@ -48,9 +48,6 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   void SetInterval(std::chrono::milliseconds interval);
 
   class Pause;
-  /// Who may connect to an address. The fleet visits nothing at an address that is held. May
-  /// outlive the fleet.
-  const std::shared_ptr<AddressHolds>& Holds() const { return holds_; }
 
   /// Updates the state with the reply to a command that was sent over another connection. `power`
   /// is the exact state that the connection reports.
@@ -86,13 +83,13 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   mutable CallersFirst lock_;
   const std::unique_ptr<FleetWatcher> watcher_;  ///< Under the lock.
   bool ends_ = false;                            ///< Under the lock.
-  const std::shared_ptr<AddressHolds> holds_;
+  std::optional<AddressHold::Observer> held_;
   std::thread thread_;
 };
 
 /// While an object of this class exists, the fleet visits nothing at the projector's address. It
 /// must not outlive the fleet. It keeps nobody else away: a connection needs an
-/// `AddressHolds::Hold`.
+/// `AddressHold`.
 class PROJECTOR_FLEET_EXPORT Fleet::Pause {
  public:
   [[nodiscard]] Pause(Fleet& fleet, std::string id);

@@ -71,11 +71,9 @@ void FleetJob::Change(std::size_t index, const auto& change) {
 
 void FleetJob::WorkOn(std::size_t index) {
   const FleetTarget& target = targets_[index];
-  std::optional<AddressHolds::Hold> hold;
-  if (fleet_ && !isCancelled_) {
-    hold.emplace(fleet_->Holds(), PlaceOf(target), options_.turn, [this] { loop_.WakeAll(); });
-  }
-  while (hold && !hold->IsHeld() && !isCancelled_) JobLoop::Pause(SessionTime::max());
+  std::optional<AddressHold> hold;
+  if (!isCancelled_) hold.emplace(PlaceOf(target), options_.turn, [this] { loop_.WakeAll(); });
+  while (!isCancelled_ && !hold->IsHeld()) JobLoop::Pause(SessionTime::max());
   WorkResult result = isCancelled_ ? WorkResult{.outcome = WorkOutcome::Stopped} : ResultOf(index);
   hold.reset();
   {

@@ -13,7 +13,7 @@
 
 #include "Namespace.h"
 #include "ProjectorFleetExport.h"
-#include "fleet/AddressHolds.h"
+#include "fleet/AddressHold.h"
 #include "fleet/FleetTarget.h"
 #include "fleet/FleetWork.h"
 #include "fleet/JobLoop.h"
@@ -40,15 +40,14 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
     /// Called on the thread of the job after each projector.
     std::function<void()> onProgress = [] {};
     /// Among those who wait for a projector.
-    AddressHolds::Turn turn = AddressHolds::Turn::Last;
+    AddressHold::Turn turn = AddressHold::Turn::Last;
   };
   struct Progress {
     std::size_t finished = 0;
     std::size_t all = 0;
   };
 
-  /// Begins. `fleet` may be null, and then the job does not know of others; it and `texts` must
-  /// outlive the job.
+  /// Begins. `fleet` may be null; it and `texts` must outlive the job.
   FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork work,
            const SettingTexts& texts, Options options);
   FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork work,

@@ -16,18 +16,14 @@ constexpr Time kPatience{10'000};
 
 }  // namespace
 
-HoldingChannel::HoldingChannel(std::shared_ptr<ProjectorChannel> inner,
-                               std::shared_ptr<AddressHolds> holds, const FleetTarget& target,
+HoldingChannel::HoldingChannel(std::shared_ptr<ProjectorChannel> inner, const FleetTarget& target,
                                Time time)
-    : ForwardingChannel(std::move(inner)),
-      holds_(std::move(holds)),
-      address_(PlaceOf(target)),
-      time_(time) {}
+    : ForwardingChannel(std::move(inner)), address_(PlaceOf(target)), time_(time) {}
 
 HoldingChannel::~HoldingChannel() { Inner().TendConnection(Time::max()); }
 
 PjtReply HoldingChannel::Execute(const PjtCommand& command) {
-  if (!hold_) hold_.emplace(holds_, address_, AddressHolds::Turn::Next);
+  if (!hold_) hold_.emplace(address_, AddressHold::Turn::Next);
   if (!hold_->IsHeld()) {
     state_ = ConnectionState::Connecting;
     if (!hold_->WaitFor(longest_ / 2)) {

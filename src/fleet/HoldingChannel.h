@@ -8,7 +8,7 @@
 #include "Namespace.h"
 #include "ProjectorFleetExport.h"
 #include "device/channels/ForwardingChannel.h"
-#include "fleet/AddressHolds.h"
+#include "fleet/AddressHold.h"
 #include "fleet/FleetTarget.h"
 
 namespace AdvancedControl {
@@ -21,8 +21,8 @@ namespace AdvancedControl {
 class PROJECTOR_FLEET_EXPORT HoldingChannel final : public ForwardingChannel {
  public:
   /// `time` is that of a command.
-  HoldingChannel(std::shared_ptr<ProjectorChannel> inner, std::shared_ptr<AddressHolds> holds,
-                 const FleetTarget& target, std::chrono::milliseconds time);
+  HoldingChannel(std::shared_ptr<ProjectorChannel> inner, const FleetTarget& target,
+                 std::chrono::milliseconds time);
   /// Closes the connection, then releases the address.
   ~HoldingChannel() override;
 
@@ -34,11 +34,10 @@ class PROJECTOR_FLEET_EXPORT HoldingChannel final : public ForwardingChannel {
   bool TendConnection(std::chrono::milliseconds unused) override;
 
  private:
-  const std::shared_ptr<AddressHolds> holds_;
-  const AddressHolds::Address address_;
+  const AddressHold::Address address_;
   const std::chrono::milliseconds time_;
   std::chrono::milliseconds longest_ = time_;
-  std::optional<AddressHolds::Hold> hold_;
+  std::optional<AddressHold> hold_;
   bool isSilent_ = false;  ///< The last command was not answered.
   /// Instead of that of the inner channel.
   std::atomic<std::optional<ConnectionState>> state_;

@@ -9,22 +9,18 @@
 
 // The log is the outermost channel. It shows what the dialog got, even for a command that was given
 // up before its answer came, or was never sent.
-ProjectorSession::ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer,
-                                   const std::shared_ptr<AddressHolds>& holds)
+ProjectorSession::ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
       simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
-      faultChannel_(std::make_shared<FaultChannel>(MakeInnerChannel(holds))),
+      faultChannel_(std::make_shared<FaultChannel>(MakeInnerChannel())),
       served_(std::make_shared<FaultChannel>(simulator_)),
       channel_(std::make_shared<LoggingChannel>(
           std::make_shared<BoundedChannel>(faultChannel_, Bounds()), std::move(observer))) {}
 
-std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel(
-    const std::shared_ptr<AddressHolds>& holds) {
+std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel() {
   if (profile_.link == ProjectorLink::Simulated) return simulator_;
-  auto channel = MakeUnboundedChannel(AddressOf(profile_));
-  if (!holds) return channel;
-  return std::make_shared<HoldingChannel>(std::move(channel), holds, TargetOf(profile_),
-                                          Bounds().timeOut);
+  return std::make_shared<HoldingChannel>(MakeUnboundedChannel(AddressOf(profile_)),
+                                          TargetOf(profile_), Bounds().timeOut);
 }
 
 BoundedChannel::Limits ProjectorSession::Bounds() const {

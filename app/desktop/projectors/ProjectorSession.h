@@ -9,7 +9,6 @@
 
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/LoggingChannel.h"
-#include "fleet/AddressHolds.h"
 #include "fleet/FleetProfile.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/FaultyLine.h"
@@ -25,10 +24,8 @@ using FaultTarget = std::variant<std::monostate, PjtOperation, std::uint16_t>;
 class ProjectorSession {
  public:
   /// `observer` gets every command of a dialog and the reply that the dialog got. It is called on
-  /// the user-interface thread, from inside the dialog's handlers. With `holds`, connects only
-  /// while nobody else does.
-  ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer,
-                   const std::shared_ptr<AddressHolds>& holds = nullptr);
+  /// the user-interface thread, from inside the dialog's handlers.
+  ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer);
 
   const FleetProfile& Profile() const { return profile_; }
   /// Takes over a profile with the same name, model and connection.
@@ -61,7 +58,7 @@ class ProjectorSession {
   void UpdateDialog(CAdvanceDlg& dialog) const;
 
  private:
-  std::shared_ptr<ProjectorChannel> MakeInnerChannel(const std::shared_ptr<AddressHolds>& holds);
+  std::shared_ptr<ProjectorChannel> MakeInnerChannel();
 
   FleetProfile profile_;
   std::shared_ptr<SimulatedProjector> simulator_;

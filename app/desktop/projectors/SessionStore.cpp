@@ -18,7 +18,7 @@ std::shared_ptr<ProjectorSession> SessionStore::Get(const FleetProfile& profile)
   const std::string id = FleetIdOf(profile);
   std::shared_ptr<ProjectorSession>& session = sessions_[id];
   if (!session) {
-    session = std::make_shared<ProjectorSession>(profile, makeObserver_(id, profile), holds_);
+    session = std::make_shared<ProjectorSession>(profile, makeObserver_(id, profile));
   }
   return session;
 }

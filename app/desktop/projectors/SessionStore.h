@@ -15,8 +15,7 @@ class SessionStore {
   using MakeObserver =
       std::function<LoggingChannel::Observer(const std::string& id, const FleetProfile& profile)>;
 
-  SessionStore(MakeObserver makeObserver, std::shared_ptr<AddressHolds> holds)
-      : makeObserver_(std::move(makeObserver)), holds_(std::move(holds)) {}
+  explicit SessionStore(MakeObserver makeObserver) : makeObserver_(std::move(makeObserver)) {}
 
   std::shared_ptr<ProjectorSession> Get(const FleetProfile& profile);
   /// Null if there is none yet.
@@ -31,6 +30,5 @@ class SessionStore {
 
  private:
   const MakeObserver makeObserver_;
-  const std::shared_ptr<AddressHolds> holds_;
   std::map<std::string, std::shared_ptr<ProjectorSession>> sessions_;
 };

@@ -199,6 +199,7 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
   // A condition may apply to projectors of many kinds, so this is no error.
   const std::string note = ImpossibleValue(conditions_, texts, projectors_, models_);
   if (!note.empty()) Complain("--where " + note);
+  JobLoop loop;
   UndoRecorder undo(UndoFolderOf(arguments_), arguments_.undoDays, recorded_);
   Work work{.arguments = arguments_,
             .texts = texts,
@@ -209,6 +210,7 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
             .password = password_,
             .models = &models_,
             .undo = &undo,
+            .loop = &loop,
             .isInterrupted = [] { return ReceivedSignal() != 0; }};
   for (const FleetProfile* profile : projectors_) work.ids[profile->name] = FleetIdOf(*profile);
   const bool needsSimulator = std::ranges::any_of(projectors_, [this](const FleetProfile* profile) {

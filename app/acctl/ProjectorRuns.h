@@ -49,6 +49,9 @@ class ProjectorRuns {
   Report Act(int number, const Step& step);
   Attempt Try(int number, const Step& step, const std::string& password);
   Attempt TryWithPassword(int number, const Step& step);
+  std::vector<int> All() const;
+  /// Works on the projectors with these numbers at once; the work gets their places in the list.
+  void RunOn(const std::vector<int>& numbers, const ParallelWork& work);
   Report RunOne(int number, const std::vector<std::optional<Report>>& checked);
   const FleetProfile& Profile(int number) const {
     return *projectors_[static_cast<std::size_t>(number)];

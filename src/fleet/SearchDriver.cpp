@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include <QNetworkInterface>
 #include <QTcpSocket>
 
 #include "fleet/AddressHold.h"
@@ -21,15 +20,14 @@ constexpr qint64 kReadBuffer = 8192;
 
 }  // namespace
 
-std::vector<QHostAddress> NetworkBroadcasts() {
+std::vector<QHostAddress> BroadcastsOf(const std::vector<MachineNetwork>& networks) {
   std::vector<QHostAddress> broadcasts;
-  for (const QNetworkInterface& network : QNetworkInterface::allInterfaces()) {
-    const auto flags = network.flags();
-    if (!flags.testFlag(QNetworkInterface::IsUp) ||
-        !flags.testFlag(QNetworkInterface::CanBroadcast)) {
+  for (const MachineNetwork& network : networks) {
+    if (!network.flags.testFlag(QNetworkInterface::IsUp) ||
+        !network.flags.testFlag(QNetworkInterface::CanBroadcast)) {
       continue;
     }
-    for (const QNetworkAddressEntry& entry : network.addressEntries()) {
+    for (const QNetworkAddressEntry& entry : network.addresses) {
       const QHostAddress broadcast = entry.broadcast();
       if (!broadcast.isNull() && std::ranges::find(broadcasts, broadcast) == broadcasts.end()) {
         broadcasts.push_back(broadcast);
@@ -37,6 +35,14 @@ std::vector<QHostAddress> NetworkBroadcasts() {
     }
   }
   return broadcasts;
+}
+
+std::vector<QHostAddress> NetworkBroadcasts() {
+  std::vector<MachineNetwork> networks;
+  for (const QNetworkInterface& network : QNetworkInterface::allInterfaces()) {
+    networks.push_back({network.flags(), network.addressEntries()});
+  }
+  return BroadcastsOf(networks);
 }
 
 /// One inquiry with its connection.

@@ -136,7 +136,7 @@ TEST(SimulatedModelTest, AHostsDescriptionDefinesTheProjector) {
 }
 
 TEST(SimulatedProjector, WarmsUpAndCoolsDownInTime) {
-  constexpr PjtCommand kSwitch[] = {{Op::SetPowerOff}, {Op::SetPowerOn}};
+  static constexpr PjtCommand kSwitch[] = {{Op::SetPowerOff}, {Op::SetPowerOn}};
   constexpr PowerState kMeanwhile[] = {PowerState::CoolingDown, PowerState::WarmingUp};
   constexpr PowerState kThen[] = {PowerState::Standby, PowerState::On};
   for (const bool on : {true, false}) {

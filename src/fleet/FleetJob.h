@@ -31,8 +31,9 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
  public:
   /// Bounds `Options::atOnce`.
   static constexpr std::size_t kMostAtOnce = 512;
-  /// A program that starts a job for each command runs at most so many at a time.
-  static constexpr std::size_t kMostThreads = 12;
+  /// A program that starts a job for each command runs at most so many at a time, so that with its
+  /// other threads it has no more than 16.
+  static constexpr std::size_t kMostThreads = 10;
 
   struct Options {
     std::size_t atOnce = 64;

@@ -58,6 +58,9 @@ class ProjectorRuns {
   Report Act(int number, const Step& step);
   Attempt Try(int number, const Step& step, const std::string& password);
   Attempt TryWithPassword(int number, const Step& step);
+  std::vector<int> All() const;
+  /// Works on the projectors with these numbers at once; the work gets their places in the list.
+  void RunOn(const std::vector<int>& numbers, const ParallelWork& work);
   Report RunOne(int number, const std::vector<std::optional<Report>>& checked);
   void RunOnAll();
   /// The report of a projector that is not begun because of --fail-fast or because the run was

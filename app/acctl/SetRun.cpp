@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <thread>
 #include <utility>
 
 #include "app/acctl/Message.h"
@@ -224,7 +223,7 @@ void SetRun::WaitForEffect(std::chrono::milliseconds time) {
     return mayCome && result.change->setting->readable && !IsInEffect(result);
   };
   while (progress.goesOn() && std::ranges::any_of(results_, isAwaited) && Clock::now() < end) {
-    std::this_thread::sleep_for(kStep);
+    JobLoop::Pause(Clock::now() + kStep);
     if (Clock::now() < next) continue;
     next = Clock::now() + work_.arguments.interval;
     for (Result& result : results_) {

@@ -6,6 +6,7 @@
 
 #include "app/profiles/PjLinkCache.h"
 #include "device/channels/WireChannel.h"
+#include "fleet/WireJobChannel.h"
 
 SimulatedModel SimulatedModelOf(const FleetProfile& profile) {
   SimulatedModel model = DescribeModel(profile.model->data);
@@ -19,6 +20,9 @@ namespace {
 bool HasGreeted(const ProjectorChannel& channel) {
   if (const auto* const pjLink = dynamic_cast<const PjLinkChannel*>(&channel)) {
     return pjLink->HasGreeted();
+  }
+  if (const auto* const job = dynamic_cast<const WireJobChannel*>(&channel)) {
+    return job->HasGreeted();
   }
   const auto* const wire = dynamic_cast<const WireChannel*>(&channel);
   return wire != nullptr && wire->HasGreeted();

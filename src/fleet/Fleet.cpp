@@ -27,9 +27,21 @@ Fleet::Fleet(const FleetPolicy& policy, std::function<void()> onChanges)
     : onChanges_(std::move(onChanges)),
       states_(std::make_unique<FleetStates>(clock_, policy.history)),
       watcher_(std::make_unique<FleetWatcher>(WithinLimits(policy), network_, clock_, *states_)),
-      thread_([this] { Run(); }) {}
+      thread_([this] { Run(); }) {
+  if (!policy.avoidsHeld) return;
+  held_.emplace([this](const AddressHold::Address& address, bool isHeld) {
+    Change([&] {
+      if (isHeld) {
+        watcher_->Hold(address);
+      } else {
+        watcher_->Release(address);
+      }
+    });
+  });
+}
 
 Fleet::~Fleet() {
+  held_.reset();
   Change([this] { ends_ = true; });
   thread_.join();
 }

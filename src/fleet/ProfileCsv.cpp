@@ -231,7 +231,7 @@ bool Importer::Take(const Cells& cells) {
     throw WrongRow{ProfileCsv::tr("\"%1\" is the name of another projector").arg(newName)};
   }
   if (!known) {
-    edits_.Add(members);
+    edits_.Add(WithIdentity(members));
     Remember(entry);
     return true;
   }

@@ -206,6 +206,26 @@ TEST(FleetWindow, DoesNotVisitWhileAClosedDialogsChannelIsConnected) {
   EXPECT_EQ(watch.Projectors().Tally().begun, begun);
 }
 
+TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
+  Served served;
+  served.device->Execute({PjtOperation::SetPowerOn});
+  FleetProfile profile = Profile("A");
+  profile.link = ProjectorLink::Network;
+  profile.connection = {.isNetwork = true, .address = "127.0.0.1", .port = served.wirePort};
+  MainWindow window({profile}, {.interval = 1h});
+  window.show();
+  CAdvanceDlg* const opened = window.OpenDialog(0, 0);
+  const auto connection = [&] { return window.Session(0)->Channel()->Connection(); };
+  ASSERT_TRUE(Soon([&] { return connection() == ConnectionState::Connected; }));
+  Table(window).selectAll();
+  Find<QAction>(window, "Switch Off").trigger();
+  Button(*window.findChild<WorkDialog*>(), "Switch Off").click();
+  EXPECT_EQ(Failed(Done(window)), 0);
+  EXPECT_EQ(connection(), ConnectionState::Unused);
+  EXPECT_TRUE(opened->Projector().Execute({PjtOperation::GetMirror}).answered);
+  EXPECT_EQ(connection(), ConnectionState::Connected);
+}
+
 TEST(FleetWindow, AlertsFollowTheRules) {
   const WallTime now = std::chrono::system_clock::now();
   ProjectorRow row{.id = "x", .profile = Profile("X")};

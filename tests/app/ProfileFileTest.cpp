@@ -275,6 +275,21 @@ TEST_F(ProfileDocumentFile, EachProjectorIsCopiedAndRemovedWithoutATrace) {
   }
 }
 
+TEST_F(ProfileDocumentFile, AnAddedOrRenamedProjectorHasAnIdentityThatStays) {
+  const auto identity = [&](std::size_t i) { return document.Projectors()[i].identity; };
+  ASSERT_EQ(document.Duplicate(0, {{"name", "copy"}}), "");
+  ASSERT_EQ(document.Duplicate(1, {{"name", "copy of it"}}), "");
+  ASSERT_EQ(document.Change(3, {{"notes", "here"}}), "");
+  EXPECT_EQ(identity(0) + identity(3), "") << "written by hand";
+  ASSERT_EQ(document.Change(0, {{"name", "renamed"}}), "");
+  const std::set all{identity(0), identity(1), identity(2)};
+  EXPECT_EQ(all.size() - all.count(""), 3U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    ASSERT_EQ(document.Change(i, {{"name", QString::number(i)}, {"tags", QJsonArray{"a"}}}), "");
+  }
+  EXPECT_EQ((std::set{identity(0), identity(1), identity(2)}), all);
+}
+
 TEST_F(ProfileDocumentFile, FailedChangesChangeNothing) {
   using testing::HasSubstr;
   const QByteArray before = Contents(name);

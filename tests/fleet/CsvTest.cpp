@@ -154,7 +154,10 @@ TEST(ProfileCsv, WhatGoesOutComesInAgain) {
 
   const CsvImport fresh = ImportCsv(ProfileEdits::kNoProfiles, csv);
   EXPECT_EQ(fresh.added, 2U) << (fresh.faults.empty() ? "" : qPrintable(fresh.faults[0].reason));
-  EXPECT_EQ(ParseProfileList(fresh.text, "p.json").profiles[0].identity, "mac:00:00:5e:00:53:01");
+  const ProfileList added = ParseProfileList(fresh.text, "p.json");
+  EXPECT_EQ(added.profiles[0].identity, "mac:00:00:5e:00:53:01");
+  EXPECT_TRUE(added.profiles[1].identity.starts_with("id:")) << "made up";
+  EXPECT_EQ(ImportCsv(fresh.text, csv).text, fresh.text) << "and kept";
 }
 
 }  // namespace

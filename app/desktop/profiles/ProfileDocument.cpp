@@ -1,5 +1,6 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QFileInfo>
@@ -89,7 +90,14 @@ QJsonObject ProfileDocument::Entry(std::size_t projector) const {
 
 QString ProfileDocument::Change(std::size_t projector, const JsonEdit::Members& members) {
   QByteArray text = text_;
-  for (const JsonEdit::Member& member : members) {
+  // Without an identity it was known by its name, which is another one now.
+  const QString name = QString::fromStdString(projectors_[projector].name);
+  const bool isRenamed = std::ranges::any_of(members, [&name](const JsonEdit::Member& member) {
+    return member.key == QLatin1String("name") && member.value != name;
+  });
+  const bool needsIdentity = isRenamed && projectors_[projector].identity.empty();
+  const JsonEdit::Members all = needsIdentity ? WithIdentity(members) : members;
+  for (const JsonEdit::Member& member : all) {
     text = JsonEdit::SetMember(text, EntryPath(projector), member);
   }
   return Write(text);
@@ -97,13 +105,14 @@ QString ProfileDocument::Change(std::size_t projector, const JsonEdit::Members& 
 
 QString ProfileDocument::Insert(std::size_t after, const JsonEdit::Members& members) {
   return Write(JsonEdit::InsertElement(text_, kProjectors, static_cast<qsizetype>(after),
-                                       JsonEdit::Write(members)));
+                                       JsonEdit::Write(WithIdentity(members))));
 }
 
 QString ProfileDocument::Duplicate(std::size_t projector, const JsonEdit::Members& members) {
   // A copy must not have the identity of the original.
-  QByteArray copy = JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
-                                        {QStringLiteral("identity"), QJsonValue::Undefined});
+  QByteArray copy =
+      JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
+                          {QStringLiteral("identity"), QString::fromStdString(MakeIdentity())});
   for (const JsonEdit::Member& member : members) copy = JsonEdit::SetMember(copy, {}, member);
   return Write(
       JsonEdit::InsertElement(text_, kProjectors, static_cast<qsizetype>(projector), copy));

@@ -4,6 +4,7 @@
 
 #include "app/profiles/PresetFolder.h"
 #include "app/profiles/ProjectorAccess.h"
+#include "fleet/HoldingChannel.h"
 #include "host/CAdvanceDlg.h"
 
 // The log is the outermost channel. It shows what the dialog got, even for a command that was given
@@ -18,7 +19,8 @@ ProjectorSession::ProjectorSession(FleetProfile profile, LoggingChannel::Observe
 
 std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel() {
   if (profile_.link == ProjectorLink::Simulated) return simulator_;
-  return MakeUnboundedChannel(AddressOf(profile_));
+  return std::make_shared<HoldingChannel>(MakeUnboundedChannel(AddressOf(profile_)),
+                                          TargetOf(profile_), Bounds().timeOut);
 }
 
 BoundedChannel::Limits ProjectorSession::Bounds() const {

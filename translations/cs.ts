@@ -2288,6 +2288,17 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Všechny tyto projektory jsou simulované, pro vyzkoušení programu.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2642,6 +2653,14 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>Should be</source>
         <translation>Má být</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Spravovat předvol&amp;by…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Všechny s %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2711,10 +2730,72 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Přejmenovat předvolbu</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Odebrat předvolbu</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>nelze vytvořit složku %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Předvolby</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Hodnota</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Nastavení předvolby</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Přejme&amp;novat</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Odebrat</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Zatím žádné předvolby</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Má jí odpovídat: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Předvolba %1 už existuje.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Odebrat předvolbu %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Odebrat</translation>
     </message>
 </context>
 <context>

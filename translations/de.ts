@@ -2254,6 +2254,17 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Alle diese Projektoren sind simuliert, zum Ausprobieren des Programms.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Should be</source>
         <translation>Soll entsprechen</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Vorgaben ver&amp;walten…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Alle mit %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Vorgabe umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Vorgabe entfernen</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kann den Ordner %1 nicht anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Vorgaben</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Einstellungen der Vorgabe</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Umbe&amp;nennen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Noch keine Vorgaben</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Soll ihr entsprechen: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Eine Vorgabe %1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Die Vorgabe %1 entfernen?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>

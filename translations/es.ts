@@ -2254,6 +2254,17 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Todos estos proyectores son simulados, para probar el programa.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Should be</source>
         <translation>Debe coincidir con</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Gestionar preaj&amp;ustes…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Todos los de %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Cambiar nombre del preajuste</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Quitar preajuste</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>no se puede crear la carpeta %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Preajustes</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Ajustes del preajuste</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Cambiar &amp;nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Aún no hay preajustes</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Debe coincidir con él: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Ya hay un preajuste %1.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>¿Quitar el preajuste %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
     </message>
 </context>
 <context>

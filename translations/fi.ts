@@ -2254,6 +2254,17 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Kaikki nämä projektorit on simuloitu ohjelman kokeilemista varten.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>Should be</source>
         <translation>Tavoite</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>&amp;Hallitse esiasetuksia…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Kaikki: %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Nimeä esiasetus uudelleen</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Poista esiasetus</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kansiota %1 ei voi luoda</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Esiasetukset</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Asetus</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Arvo</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Esiasetuksen asetukset</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Nimeä uudelleen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Poista</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Esiasetuksia ei vielä ole</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Tavoitteena tämä: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Esiasetus %1 on jo olemassa.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Poistetaanko esiasetus %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Poista</translation>
     </message>
 </context>
 <context>

@@ -2254,6 +2254,17 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Tous ces projecteurs sont simulés, pour essayer le programme.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>Should be</source>
         <translation>Doit correspondre à</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Gérer les pré&amp;réglages…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Tous ceux de %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Renommer le préréglage</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Supprimer le préréglage</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossible de créer le dossier %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Réglages du préréglage</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nommer</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Aucun préréglage pour l’instant</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Doit y correspondre : %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Un préréglage ne peut pas s’appeler ainsi : pas de barre oblique, ni de point au début.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Il y a déjà un préréglage %1.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Supprimer le préréglage %1 ?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>

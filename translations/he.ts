@@ -2254,6 +2254,17 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>כל המקרנים האלה מדומים, כדי לנסות את התוכנית.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>Should be</source>
         <translation>רצוי</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>&amp;ניהול ערכות…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>כל אלה של %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>שינוי שם ערכה</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>הסרת ערכה</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>אי אפשר ליצור את התיקייה %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>ערכות</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>הגדרה</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>ערך</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>ההגדרות שבערכה</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>שינוי ש&amp;ם</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>ה&amp;סרה</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>אין עדיין ערכות</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>הערכה הרצויה של: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>כבר יש ערכה בשם %1.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>להסיר את הערכה %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>הסרה</translation>
     </message>
 </context>
 <context>

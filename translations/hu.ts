@@ -2220,6 +2220,17 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Ezek a projektorok mind szimuláltak, a program kipróbálásához.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Bezárás</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2570,6 +2581,14 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>Should be</source>
         <translation>Elvárt</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Előbeállítások &amp;kezelése…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Összes: %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2656,72 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Előbeállítás átnevezése</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Előbeállítás eltávolítása</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>a mappa nem hozható létre: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Előbeállítások</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Beállítás</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Érték</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Az előbeállítás tartalma</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Át&amp;nevezés</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Eltávolítás</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Még nincs előbeállítás</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Ilyennek kell lennie: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Már van %1 nevű előbeállítás.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Eltávolítja a(z) %1 előbeállítást?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eltávolítás</translation>
     </message>
 </context>
 <context>

@@ -2254,6 +2254,17 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Tutti questi proiettori sono simulati, per provare il programma.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Should be</source>
         <translation>Valore voluto</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>&amp;Gestisci preimpostazioni…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Tutti quelli di %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Rinomina preimpostazione</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Rimuovi preimpostazione</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossibile creare la cartella %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Impostazioni della preimpostazione</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Ri&amp;nomina</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Ancora nessuna preimpostazione</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Deve corrispondere: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Esiste già una preimpostazione %1.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Rimuovere la preimpostazione %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
     </message>
 </context>
 <context>

@@ -2220,6 +2220,17 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>これらのプロジェクターはすべて、お試し用のシミュレーションです。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2570,6 +2581,14 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>Should be</source>
         <translation>基準</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>プリセットの管理(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>%1 のすべて</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2656,72 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>プリセット名の変更</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>プリセットの削除</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>フォルダー %1 を作成できません</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>プリセットの設定</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>名前の変更(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>プリセットはまだありません</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>基準とするプロジェクター: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>この名前はプリセットに使用できません。スラッシュと先頭のピリオドを除いてください。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>プリセット %1 は既にあります。</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>プリセット %1 を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
     </message>
 </context>
 <context>

@@ -2220,6 +2220,17 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>이 프로젝터들은 모두 프로그램을 시험해 보기 위한 시뮬레이션입니다.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2570,6 +2581,14 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>Should be</source>
         <translation>기준</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>프리셋 관리(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>%1 전체</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2656,72 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>프리셋 이름 변경</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>프리셋 제거</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>프리셋</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>프리셋의 설정</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>이름 변경(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>제거(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>프리셋이 아직 없음</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>기준으로 삼는 프로젝터: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>프리셋 %1이(가) 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>프리셋 %1을(를) 제거할까요?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
     </message>
 </context>
 <context>

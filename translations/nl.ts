@@ -2254,6 +2254,17 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Al deze projectoren zijn gesimuleerd, om het programma uit te proberen.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Should be</source>
         <translation>Gewenst</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Voorinstellingen &amp;beheren…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Alle van %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Voorinstelling hernoemen</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Voorinstelling verwijderen</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kan map %1 niet maken</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Instellingen van de voorinstelling</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Her&amp;noemen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ve&amp;rwijderen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Nog geen voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Moet ermee overeenkomen: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Er is al een voorinstelling %1.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>De voorinstelling %1 verwijderen?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
     </message>
 </context>
 <context>

@@ -2288,6 +2288,17 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Wszystkie te projektory są symulowane, aby można było wypróbować program.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2642,6 +2653,14 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>Should be</source>
         <translation>Wzorzec</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Zarzą&amp;dzaj zestawami…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Wszystkie z %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2711,10 +2730,72 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Zmień nazwę zestawu</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Usuń zestaw</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>nie można utworzyć folderu %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Zestawy</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ustawienie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wartość</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Ustawienia zestawu</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Zmień &amp;nazwę</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>U&amp;suń</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Nie ma jeszcze zestawów</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Jest wzorcem dla: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Zestaw %1 już istnieje.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Usunąć zestaw %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
     </message>
 </context>
 <context>

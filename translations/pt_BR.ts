@@ -2254,6 +2254,17 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Todos estes projetores são simulados, para experimentar o programa.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2606,6 +2617,14 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>Should be</source>
         <translation>Desejado</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>&amp;Gerenciar predefinições…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Todos de %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2693,72 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Renomear predefinição</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Remover predefinição</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>não é possível criar a pasta %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Predefinições</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Ajustes da predefinição</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nomear</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remover</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Ainda não há predefinições</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Deve corresponder a ela: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Nome inválido para uma predefinição: não use barras nem comece com um ponto.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Já existe uma predefinição %1.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Remover a predefinição %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
     </message>
 </context>
 <context>

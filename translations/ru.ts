@@ -2288,6 +2288,17 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>Все эти проекторы имитируются, чтобы можно было опробовать программу.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2642,6 +2653,14 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>Should be</source>
         <translation>Эталон</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>Управление пре&amp;сетами…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Все с тегом %1</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2711,10 +2730,72 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Переименование пресета</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>Удаление пресета</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>не удалось создать папку %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>Пресеты</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Настройка</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>Настройки пресета</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Переи&amp;меновать</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>Пресетов пока нет</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>Эталон для: %1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>Пресет %1 уже есть.</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>Удалить пресет %1?</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>

@@ -2220,6 +2220,17 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>这些投影机都是模拟的，供试用本程序。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Open</source>
@@ -2570,6 +2581,14 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>Should be</source>
         <translation>应为</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>管理预设(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>%1 的全部</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2656,72 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>重命名预设</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>移除预设</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>无法创建文件夹 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>预设的设置</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>重命名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>尚无预设</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>应与其一致：%1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>不能使用此预设名称：请去掉斜杠和开头的点。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>已有预设 %1。</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>移除预设 %1 吗？</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
     </message>
 </context>
 <context>

@@ -2220,6 +2220,17 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation>這些投影機都是模擬的，供試用本程式。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2570,6 +2581,14 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>Should be</source>
         <translation>應有值</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation>管理預設集(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>%1 的全部</translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2656,72 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation>重新命名預設集</translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation>移除預設集</translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>無法建立資料夾 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation>預設集</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation>預設集的設定</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>重新命名(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation>尚無預設集</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation>應與其相符：%1</translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation>預設集不能使用這個名稱：請勿使用斜線，也不要以句點開頭。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation>已有預設集 %1。</translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation>要移除預設集 %1 嗎？</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
     </message>
 </context>
 <context>

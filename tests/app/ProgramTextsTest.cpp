@@ -16,6 +16,7 @@
 
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
+#include "app/desktop/presets/PresetManager.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/profiles/Translations.h"
@@ -93,6 +94,16 @@ void ForEachWindow(const std::function<void(QWidget&)>& look) {
   show(preferences);
   SearchDialog search(document.Projectors(), nullptr);
   show(search);
+  const SettingTexts texts(CatalogFolders(), kEnglishUnitedStates);
+  PresetManager presets(
+      {.users = [](const QString&) { return QStringList(); },
+       .model =
+           [&](const Snapshot&) { return ModelSettings(document.Projectors()[0].model->data); },
+       .rename = {},
+       .remove = {},
+       .texts = texts},
+      nullptr);
+  show(presets);
 }
 
 TEST(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {

@@ -90,7 +90,7 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   EXPECT_EQ(dialog->findChild<QTreeWidget*>()->topLevelItemCount(), 500);
   Button(*dialog, "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), silent);
-  Find<QLabel>(*dialog, "475 of 500 done, 25 failed");
+  Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 
   tell("* none");

@@ -30,7 +30,7 @@ namespace {
 // Without what is in brackets.
 bool IsTranslated(QString text) {
   static const QRegularExpression known(QStringLiteral("\\[[^\\]]*\\]"));
-  static const QStringList kUntranslated{"OK", "Cancel", "Apply"};  // Qt's own
+  static const QStringList kUntranslated{"OK", "Cancel", "Apply", "Close"};  // Qt's own
   text.remove(known).remove('&');
   return kUntranslated.contains(text) ||
          std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
@@ -130,6 +130,22 @@ TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
       width += window.menuBar()->fontMetrics().horizontalAdvance(entry->text()) + 16;
     }
     EXPECT_LE(width, 940) << "the menus do not fit in one line";
+  }
+  InstallTranslations(kEnglishUnitedStates);
+}
+
+TEST(ProgramTexts, OfQtAreInTheLanguageOfTheProgramForARegionToo) {
+  const auto inQt = [](const char* context, const char* text) {
+    return QCoreApplication::translate(context, text).toStdString();
+  };
+  for (const auto& [tag, cancel] : {std::pair("de-AT", "Abbrechen"),
+                                    {"pt-PT", "Cancelar"},
+                                    {"zh-HK", "取消"},
+                                    {"he", "ביטול"}}) {
+    SCOPED_TRACE(tag);
+    InstallTranslations(LanguageIdOf(tag).value());
+    EXPECT_EQ(inQt("QPlatformTheme", "Cancel"), cancel);
+    EXPECT_NE(inQt("QCommandLineParser", "Options:"), "Options:");
   }
   InstallTranslations(kEnglishUnitedStates);
 }

@@ -77,6 +77,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
       editing_(new ProfileEditing(
           profiles_, [this] { return pane_->View().Selected(); }, *this)),
       presets_(new PresetActions({.selected = [this] { return pane_->Selected(); },
+                                  .tag = [this] { return pane_->View().Model().Group().tag; },
                                   .watch = live_->Watch(),
                                   .work = *work_,
                                   .document = profiles_,

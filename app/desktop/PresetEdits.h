@@ -1,9 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 
 #include "snapshots/SettingTexts.h"
 #include "snapshots/Snapshot.h"
@@ -33,8 +32,8 @@ class PresetEdits : public QObject {
   void Open();
 
  private:
-  /// The positions of the projectors that should be like a preset.
-  std::vector<int> UsersOf(const QString& preset) const;
+  /// The names of the projectors that should be like a preset.
+  QStringList UsersOf(const QString& preset) const;
   ModelSettings ModelOf(const Snapshot& preset) const;
   QString Rename(const QString& from, const QString& to);
   QString Remove(const QString& preset);

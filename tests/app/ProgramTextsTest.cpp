@@ -17,6 +17,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/details/DetailsPanel.h"
+#include "app/desktop/presets/PresetManager.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/profiles/Translations.h"
@@ -31,7 +32,7 @@ namespace {
 // Without what is in brackets.
 bool IsTranslated(QString text) {
   static const QRegularExpression known(QStringLiteral("\\[[^\\]]*\\]"));
-  static const QStringList kUntranslated{"OK", "Cancel", "Apply"};  // Qt's own
+  static const QStringList kUntranslated{"OK", "Cancel", "Apply", "Close"};  // Qt's own
   text.remove(known).remove('&');
   return kUntranslated.contains(text) ||
          std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
@@ -95,6 +96,16 @@ void ForEachWindow(const std::function<void(QWidget&)>& look) {
   show(preferences);
   SearchDialog search(document.Projectors(), nullptr);
   show(search);
+  const SettingTexts texts(CatalogFolders(), kEnglishUnitedStates);
+  PresetManager presets(
+      {.users = [](const QString&) { return QStringList(); },
+       .model =
+           [&](const Snapshot&) { return ModelSettings(document.Projectors()[0].model->data); },
+       .rename = {},
+       .remove = {},
+       .texts = texts},
+      nullptr);
+  show(presets);
 }
 
 TEST(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {

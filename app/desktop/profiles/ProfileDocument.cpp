@@ -1,6 +1,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include <QFileInfo>
@@ -14,6 +15,13 @@
 namespace {
 
 const JsonEdit::Path kProjectors{"projectors"};
+const QString kTags = QStringLiteral("tags");
+const QString kSnapshot = QStringLiteral("snapshot");
+
+void SetPreset(QJsonObject& tags, const QString& tag, const QString& preset) {
+  if (preset.isEmpty()) return tags.remove(tag);
+  tags[tag] = QJsonObject{{kSnapshot, preset}};
+}
 
 JsonEdit::Path EntryPath(std::size_t projector) {
   return {"projectors", static_cast<qsizetype>(projector)};
@@ -152,6 +160,38 @@ QString ProfileDocument::SetMember(const std::vector<int>& projectors,
   for (const int projector : projectors)
     edits.Change(static_cast<std::size_t>(projector), {member});
   return Write(edits.Text());
+}
+
+QString ProfileDocument::WriteTags(const QByteArray& text, const QJsonObject& tags) {
+  const QJsonValue value = tags.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(tags);
+  return Write(JsonEdit::SetMember(text, {}, {kTags, value}));
+}
+
+QString ProfileDocument::SetTagPreset(const QString& tag, const QString& preset) {
+  QJsonObject tags = File()[kTags].toObject();
+  SetPreset(tags, tag, preset);
+  return WriteTags(text_, tags);
+}
+
+// A projector that has it from a tag needs no change of its own.
+QString ProfileDocument::ReplacePreset(const QString& from, const QString& to) {
+  QJsonObject tags = File()[kTags].toObject();
+  std::set<std::string> changed;
+  for (const QString& tag : tags.keys()) {
+    if (tags[tag].toObject()[kSnapshot].toString() != from) continue;
+    changed.insert(tag.toStdString());
+    SetPreset(tags, tag, to);
+  }
+  const QJsonValue value = to.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(to);
+  ProfileEdits edits(text_);
+  for (std::size_t i = 0; i < projectors_.size(); ++i) {
+    const FleetProfile& profile = projectors_[i];
+    if (profile.snapshot != from.toStdString()) continue;
+    const bool isOfTag = std::ranges::any_of(
+        profile.tags, [&](const std::string& tag) { return changed.contains(tag); });
+    if (!isOfTag || Entry(i).contains(kSnapshot)) edits.Change(i, {{kSnapshot, value}});
+  }
+  return WriteTags(edits.Text(), tags);
 }
 
 QString ProfileDocument::ChangedMeanwhile() const {

@@ -75,7 +75,7 @@ class Broker {
   const Listener listener_;
   std::unique_ptr<mosquitto, void (*)(mosquitto*)> client_;
   QString error_;
-  QObject context_;  ///< What is told ends with it.
+  QObject context_;  ///< Queued calls are dropped when it dies.
   std::mutex mutex_;
   std::condition_variable ends_;
   bool isEnding_ = false;  ///< Under the mutex.

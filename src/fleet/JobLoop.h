@@ -32,7 +32,7 @@ class JobLoop final : private FleetNetwork::Listener {
   /// have returned. `work` must not throw.
   void Run(Peer count, const std::function<void(Peer)>& work);
 
-  // For channels, in a work:
+  // For the channels of a work:
 
   /// Sets who gets the events of the work's connection; null for none.
   void SetReceiver(Peer peer, Receiver* receiver) { works_[peer].receiver = receiver; }

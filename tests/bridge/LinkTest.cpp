@@ -54,7 +54,7 @@ class Bridges {
     if (one.holds) SetOnline(false);
     one.isUp = false;
   }
-  /// Its network breaks, and nobody is told.
+  /// Its network breaks, which the broker does not notice.
   void Lose(One& one) {
     one.isUp = false;
     one.keeper->Disconnected();

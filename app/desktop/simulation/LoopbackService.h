@@ -24,7 +24,7 @@ class LoopbackService : public QObject {
   explicit LoopbackService(QObject* parent = nullptr);
   ~LoopbackService() override;
 
-  /// Serves a projector, unless there are too many. `Ready` tells where.
+  /// Serves a projector, unless there are too many. `Ready` says where.
   void Serve(const std::string& id, const ProjectorSession& session);
   void Stop(const std::string& id);
   /// Takes over the faults of the session.

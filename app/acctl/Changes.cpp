@@ -67,7 +67,7 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
     const ModelSetting& setting = *change.setting;
     isForOtherSource = isForOtherSource || setting.SelectsInput();
     if (isForOtherSource && setting.IsPerSource()) continue;
-    if (target.OnlySteps(setting)) continue;  // nobody knows where to
+    if (target.OnlySteps(setting)) continue;  // its value is unknown
     std::optional<int>& value = expected[&setting];
     if (!change.typed.relative && !IsUnbounded(target, setting)) {
       value = change.typed.amount;

@@ -26,7 +26,7 @@ bool CheckWithoutAsking(const Work& work, const Target& target, Report& report) 
       Chosen(target, kSaved, arguments.only, work.isForSeveral, report);
       return true;
     default:
-      return !HasFile(arguments.command) || !target.TellsInputs();
+      return !HasFile(arguments.command) || !target.ReportsInputs();
   }
 }
 
@@ -109,7 +109,7 @@ Report CheckByAsking(const Work& work, ProjectorAccess& projector) {
 }
 
 InputsNeeded InputsNeededBy(const Work& work, const Target& target) {
-  if (!target.TellsInputs()) return InputsNeeded::None;
+  if (!target.ReportsInputs()) return InputsNeeded::None;
   const Arguments& arguments = work.arguments;
   const auto showsInput = [](const ModelSetting* setting) {
     return setting->key == "status.input-source" || setting->SelectsInput();

@@ -159,7 +159,7 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
                 ExitCode::Done);
   }
   const bool isAnswered = projector_.Channel().HasAnswered();
-  // If it does not answer any more, nobody knows.
+  // If the projector does not answer any more, the outcome is unknown.
   if (after.pending > before.pending && isAnswered) {
     return Fail(result, "pending", ProblemCode::Pending,
                 result.now ? Message(Acctl::tr("accepted, but not so yet, it is %1"), now)

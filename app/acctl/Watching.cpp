@@ -96,7 +96,7 @@ class ProjectorWatch {
         !shared_.until || std::ranges::find(words, shared_.until->key) != words.end();
     if (!isWatched) words.push_back(shared_.until->key);
     const auto chosen = Chosen(TargetOf(projector), kRead, words, work.isForSeveral, lacks);
-    if (!std::exchange(isBegun_, true)) TellLacks(lacks);
+    if (!std::exchange(isBegun_, true)) ReportLacks(lacks);
     isFinished_ = isFinished_ || chosen.empty();
     if (isFinished_) return;
     const Progress progress = ProgressOf(work, projector);
@@ -130,7 +130,7 @@ class ProjectorWatch {
   }
 
   /// What this projector does not have is never reached.
-  void TellLacks(const Report& lacks) {
+  void ReportLacks(const Report& lacks) {
     for (const Problem& problem : lacks.problems) {
       Add(problem);
       if (shared_.until && problem.key == shared_.until->key) isFinished_ = true;

@@ -114,7 +114,7 @@ void BrokerLink::FollowRole() {
   }
 }
 
-/// The share is ours, and the broker has told what it knows.
+/// Called when the share is ours and the broker has sent its retained messages.
 void BrokerLink::Settle() {
   session_->SayOnline();
   for (const QByteArray& topic : services_.topics) session_->Subscribe(topic);

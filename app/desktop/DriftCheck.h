@@ -16,8 +16,8 @@ class QWidget;
 class WorkRun;
 
 /// Checks how many settings of the projectors differ from the presets that they should have, and
-/// tells the fleet: for all projectors a minute after the start and then every hour, and for some
-/// on request.
+/// reports it to the fleet: for all projectors a minute after the start and then every hour, and
+/// for some on request.
 class DriftCheck : public QObject {
   Q_OBJECT
 

@@ -40,7 +40,7 @@ ProjectorAccess::ProjectorAccess(const FleetProfile& profile,
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
       channel_(std::make_shared<PatientChannel>(
           channel, timeOut, [&channel = *channel] { return HasGreeted(channel); })) {
-  tellsInputs_ = pjLink_ != nullptr && settings_->Model().MySourceList.Size() == 0;
+  reportsInputs_ = pjLink_ != nullptr && settings_->Model().MySourceList.Size() == 0;
   connection_.SetChannel(channel_);
   if (!pjLink_) return;
   remembered_ = ReadPjLinkCache(pjLink_->Address());

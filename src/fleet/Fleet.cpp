@@ -54,7 +54,7 @@ void Fleet::Run() {
       return watcher_->Tick();
     });
     if (!next) return;
-    if (states_->MustTell()) onChanges_();
+    if (states_->MustNotify()) onChanges_();
     network_.Wait(*next);
   }
 }
@@ -106,7 +106,7 @@ std::vector<StateChange> Fleet::History(const std::string& id) const {
 }
 FleetChanges Fleet::TakeChanges() {
   FleetChanges taken = states_->TakeChanges();
-  network_.Wake();  // to tell of the rest
+  network_.Wake();  // so that `onChanges` is called again if there are more
   return taken;
 }
 

@@ -30,7 +30,7 @@ struct WrongRow {
   QString reason;
 };
 
-/// The cells of a row by their meaning; empty ones tell nothing. Several columns may be tags.
+/// The cells of a row by their meaning; an empty cell changes nothing. Several columns may be tags.
 using Cells = std::map<CsvColumn, QStringList>;
 
 QString One(const Cells& cells, CsvColumn column) {

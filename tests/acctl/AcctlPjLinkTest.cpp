@@ -110,7 +110,7 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
               Ends(0, "acctl: Any: audio.*: skipped, PJLink does not have it\n"));
   EXPECT_THAT(any.Run(projector, {"set", "Any", "picture.tint", "1"}),
               Ends(2, "acctl: Any: picture.tint: PJLink does not have it\n"));
-  // Class 1 tells no names; "Digital 2" is one input's alone.
+  // Class 1 reports no names; only one input is called "Digital 2".
   EXPECT_THAT(any.Run(projector, {"settings", "Any"}).output, HasSubstr("Digital 1 (31), Dig"));
   EXPECT_THAT(any.Run(projector, {"get", "Any", "status.input-source"}).output,
               HasSubstr("  Digital 1 (31)\n"));

@@ -51,7 +51,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   Publish(broker,
           {"-t", "projectors/" + subscriber->Find("standby", {}) + "/set/power", "-m", "on"});
 
-  // One with the same share stands back, and visits nobody.
+  // A third bridge, with the same share, stands back and visits no projector.
   const quint16 thirdPort = FreePort();
   const auto third = Bridge(At(broker) + QStringList{"--share", "2/2"}, thirdPort);
   EXPECT_TRUE(third->Says("stands back"));

@@ -199,7 +199,7 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
        At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),     // moved, known by its second identity
        At("2001:db8::3", "C", "3"),                        // gets its identity
        At("192.0.2.4", "Hall", "4"),                       // new, with a name that is taken
-       At("192.0.2.5", "", "0000"),                        // new, and tells nothing
+       At("192.0.2.5", "", "0000"),                        // new, without a name
        At("192.0.2.6", "D", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing
        At("192.0.2.7", "E", "same", "00:00:5e:00:53:07")},
       "secret");

@@ -112,9 +112,9 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
   };
   for (const auto& [steps, sent] : cases) {
     std::size_t made = 0;
-    const auto step = [&](bool upwards, int) {
+    const auto step = [&made, &answers = steps](bool upwards, int) {
       EXPECT_TRUE(upwards);
-      return steps.at(made++);
+      return answers.at(made++);
     };
     EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), sent) << made;
     EXPECT_EQ(made, steps.size());

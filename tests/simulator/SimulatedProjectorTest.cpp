@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "device/channels/LoggingChannel.h"
+#include "simulator/SettingsTable.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Replies.h"
 #include "tests/support/Soon.h"

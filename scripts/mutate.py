@@ -28,6 +28,7 @@ from concurrent.futures import ProcessPoolExecutor
 from functools import partial
 from pathlib import Path
 
+from mutation.equivalent import Equivalents
 from mutation.mutants import find_mutants
 from mutation.reach import Reach, Suites
 from mutation.workplace import Workplace
@@ -132,10 +133,11 @@ def run(mutants, reach, results, arguments):
     waiting = queue.SimpleQueue()
     for mutant in mutants:
         waiting.put(mutant)
+    suites = sorted({test.split(":")[0] for mutant in mutants for test in reach.of(mutant)})
     failures = []
 
     def work(number):
-        workplace = Workplace(ROOT, WORK / str(number), arguments.suites)
+        workplace = Workplace(ROOT, WORK / str(number), suites)
         try:
             while not failures:
                 mutant = waiting.get_nowait()
@@ -158,13 +160,17 @@ def run(mutants, reach, results, arguments):
         raise failures[0]
 
 
-def report(mutants, results):
+def report(mutants, results, equivalents):
     scores, alive = defaultdict(Counter), []
     for mutant in mutants:
         result = results.find(mutant)
+        folder = "/".join(mutant.file.split("/")[:2])
+        if equivalents.has(mutant):
+            scores[folder]["equivalent"] += 1
+            continue
         if result is None:
             continue
-        scores["/".join(mutant.file.split("/")[:2])][result["outcome"]] += 1
+        scores[folder][result["outcome"]] += 1
         if result["outcome"] == "alive":
             alive.append((mutant, result["detail"]))
     if alive:
@@ -196,12 +202,13 @@ def main():
         return (result is None or bool(arguments.only)
                 or (arguments.again and result["outcome"] == "alive"))
 
-    wanted = [mutant for mutant in mutants if is_open(mutant)]
+    equivalents = Equivalents(ROOT)
+    wanted = [mutant for mutant in mutants if is_open(mutant) and not equivalents.has(mutant)]
     if wanted:
         reach = (Suites(arguments.suites) if arguments.suites
                  else Reach(ROOT, WORK, arguments.jobs, arguments.keep_reach))
         run(wanted, reach, results, arguments)
-    return 1 if report(mutants, results) else 0
+    return 1 if report(mutants, results, equivalents) else 0
 
 
 if __name__ == "__main__":

@@ -48,10 +48,13 @@ class Recorder:
         self.root = root
         self.build = root / "build/coverage"
         self.scratch = Path(tempfile.mkdtemp(prefix="reach-", dir=work))
+        self.idle = {}  # what a program counts that runs no test: {.gcda file: its content}
 
     def lines(self, folder):
-        """The lines counted in the .gcda files below `folder`: {file: lines reached}, {file: lines with code}."""
-        counted = sorted(folder.rglob("*.gcda"))
+        """The lines counted in the .gcda files below `folder`: {file: lines reached}, {file: lines with code}. What is
+        only reached before any test is left out, and most of the time of gcov with it."""
+        counted = [file for file in sorted(folder.rglob("*.gcda"))
+                   if self.idle.get(file.relative_to(folder)) != file.read_bytes()]
         for file in counted:
             notes = "/" / file.relative_to(folder).with_suffix(".gcno")
             file.with_suffix(".gcno").symlink_to(notes)
@@ -70,15 +73,29 @@ class Recorder:
                             reached.setdefault(path, set()).add(line["line_number"])
         return reached, code
 
+    def run(self, program, test, folder):
+        environment = test_environment(folder) | {"GCOV_PREFIX": str(folder)}
+        return subprocess.run([program, f"--gtest_filter={test}"], capture_output=True, text=True,
+                              env=environment, cwd=folder, timeout=1800).returncode
+
+    def run_idle(self, program):
+        """{file: lines with code}"""
+        folder = self.scratch / "idle"
+        folder.mkdir()
+        self.idle = {}
+        self.run(program, "-*", folder)
+        _, code = self.lines(folder)
+        self.idle = {file.relative_to(folder): file.read_bytes() for file in folder.rglob("*.gcda")}
+        shutil.rmtree(folder)
+        return code
+
     def record(self, program, test):
         folder = self.scratch / hashlib.sha256(test.encode()).hexdigest()[:16]
         folder.mkdir()
-        environment = test_environment(folder) | {"GCOV_PREFIX": str(folder)}
         started = time.monotonic()
-        ended = subprocess.run([program, f"--gtest_filter={test}"], capture_output=True, text=True,
-                               env=environment, cwd=folder, timeout=1800)
+        failed = self.run(program, test, folder)
         seconds = time.monotonic() - started
-        result = None if ended.returncode != 0 else (seconds, *self.lines(folder))
+        result = None if failed else (seconds, self.lines(folder)[0])
         shutil.rmtree(folder)
         return result
 
@@ -89,18 +106,18 @@ class Recorder:
         for program in programs:
             tests = list_tests(program, test_environment(self.scratch))
             print(f"reach: {len(tests)} tests of {program.name}", flush=True)
+            for file, lines in self.run_idle(program).items():
+                data["code"][file] = sorted(lines.union(data["code"].get(file, ())))
             with ThreadPoolExecutor(jobs) as pool:
                 runs = {test: pool.submit(self.record, program, test) for test in tests}
             for test, run in runs.items():
                 if run.result() is None:
                     print(f"reach: {test} fails without a mutant and is left out", flush=True)
                     continue
-                seconds, reached, present = run.result()
+                seconds, reached = run.result()
                 data["tests"][f"{program.name}:{test}"] = {
                     "seconds": round(seconds, 3),
                     "lines": {file: sorted(lines) for file, lines in reached.items()}}
-                for file, lines in present.items():
-                    data["code"][file] = sorted(lines.union(data["code"].get(file, ())))
             data["suites"].append(program.name)
             keep(data)
         shutil.rmtree(self.scratch)

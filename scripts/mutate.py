@@ -53,7 +53,7 @@ def parse_arguments():
     parser.add_argument("--budget", type=float, default=300, metavar="SECONDS",
                         help="of tests for one mutant, the quickest first (default: 300)")
     parser.add_argument("--suites", nargs="+", metavar="SUITE",
-                        help="run these test programs on each mutant, and record no reach")
+                        help="run these test programs, or SUITE:PATTERN, on each mutant, and record no reach")
     parser.add_argument("--keep-reach", action="store_true",
                         help="take the recorded reach of the tests, though the sources have changed since")
     return parser.parse_args()

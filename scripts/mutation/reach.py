@@ -165,10 +165,10 @@ class Reach:
 
 
 class Suites:
-    """Test programs that are run on every mutant, whatever they reach."""
+    """Test programs that are run on every mutant, whatever they reach; all their tests, or SUITE:PATTERN."""
 
     def __init__(self, suites):
-        self.tests = [f"{suite}:*" for suite in suites]
+        self.tests = [suite if ":" in suite else f"{suite}:*" for suite in suites]
 
     def seconds(self, test):
         return 60.0 + self.tests.index(test)  # allows for a slow one; in the order of the command line

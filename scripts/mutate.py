@@ -9,7 +9,7 @@
 A mutant is killed when a test fails or does not end. One that lives shows a fault that no test would notice, code that
 nothing needs, or a change that makes no difference. Results are kept in build/mutation/results.jsonl: a run that was
 interrupted goes on where it was, and a mutant is tried anew when its file has changed, or with --again if it lived.
-Needs gcov and python3-clang; ccache and mold are used where they are. MUTATE_CMAKE holds further options for cmake."""
+Needs llvm and python3-clang; ccache and mold are used where they are. MUTATE_CMAKE holds further options for cmake."""
 
 import argparse
 import fnmatch

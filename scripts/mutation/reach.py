@@ -48,54 +48,38 @@ class Recorder:
         self.root = root
         self.build = root / "build/coverage"
         self.scratch = Path(tempfile.mkdtemp(prefix="reach-", dir=work))
-        self.idle = {}  # what a program counts that runs no test: {.gcda file: its content}
+        files = sorted(file for file in (self.build / "bin").iterdir() if file.is_file() and not file.is_symlink())
+        # What tests start or load. A test program has the objects of the libraries in it.
+        self.others = [file for file in files if os.access(file, os.X_OK) and not file.name.endswith(("_tests", ".dll"))
+                       and file.read_bytes()[:4] == b"\x7fELF"]
 
-    def lines(self, folder):
-        """The lines counted in the .gcda files below `folder`: {file: lines reached}, {file: lines with code}. What is
-        only reached before any test is left out, and most of the time of gcov with it."""
-        counted = [file for file in sorted(folder.rglob("*.gcda"))
-                   if self.idle.get(file.relative_to(folder)) != file.read_bytes()]
-        for file in counted:
-            notes = "/" / file.relative_to(folder).with_suffix(".gcno")
-            file.with_suffix(".gcno").symlink_to(notes)
-        reached, code = {}, {}
-        for first in range(0, len(counted), 40):
-            told = subprocess.run(["gcov", "--json-format", "--stdout", *counted[first:first + 40]],
-                                  capture_output=True, text=True, check=True, cwd=self.build).stdout
-            for document in filter(None, told.splitlines()):
-                for file in json.loads(document)["files"]:
-                    path = os.path.relpath(os.path.join(self.build, file["file"]), self.root)
-                    if not path.startswith(("src/", "app/")):
-                        continue
-                    for line in file["lines"]:
-                        code.setdefault(path, set()).add(line["line_number"])
-                        if line["count"] > 0:
-                            reached.setdefault(path, set()).add(line["line_number"])
+    def lines(self, program, folder):
+        """The lines counted in the profiles in `folder`: {file: lines reached}, {file: lines with code}."""
+        merged = folder / "all.profdata"
+        subprocess.run(["llvm-profdata", "merge", "-sparse", "-o", merged, *folder.glob("*.profraw")], check=True)
+        told = subprocess.run(["llvm-cov", "export", "-format=lcov", "-skip-functions", f"-instr-profile={merged}", program,
+                               *(f"-object={other}" for other in self.others)],
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=True).stdout
+        reached, code, path = {}, {}, ""
+        for line in told.splitlines():
+            if line.startswith("SF:"):
+                path = os.path.relpath(line[3:], self.root)
+            elif line.startswith("DA:") and path.startswith(("src/", "app/")):
+                number, count = line[3:].split(",")
+                code.setdefault(path, set()).add(int(number))
+                if count != "0":
+                    reached.setdefault(path, set()).add(int(number))
         return reached, code
-
-    def run(self, program, test, folder):
-        environment = test_environment(folder) | {"GCOV_PREFIX": str(folder)}
-        return subprocess.run([program, f"--gtest_filter={test}"], capture_output=True, text=True,
-                              env=environment, cwd=folder, timeout=1800).returncode
-
-    def run_idle(self, program):
-        """{file: lines with code}"""
-        folder = self.scratch / "idle"
-        folder.mkdir()
-        self.idle = {}
-        self.run(program, "-*", folder)
-        _, code = self.lines(folder)
-        self.idle = {file.relative_to(folder): file.read_bytes() for file in folder.rglob("*.gcda")}
-        shutil.rmtree(folder)
-        return code
 
     def record(self, program, test):
         folder = self.scratch / hashlib.sha256(test.encode()).hexdigest()[:16]
         folder.mkdir()
+        environment = test_environment(folder) | {"LLVM_PROFILE_FILE": str(folder / "%2m.profraw")}
         started = time.monotonic()
-        failed = self.run(program, test, folder)
+        failed = subprocess.run([program, f"--gtest_filter={test}"], capture_output=True, text=True,
+                                env=environment, cwd=folder, timeout=1800).returncode
         seconds = time.monotonic() - started
-        result = None if failed else (seconds, self.lines(folder)[0])
+        result = None if failed else (seconds, *self.lines(program, folder))
         shutil.rmtree(folder)
         return result
 
@@ -106,18 +90,18 @@ class Recorder:
         for program in programs:
             tests = list_tests(program, test_environment(self.scratch))
             print(f"reach: {len(tests)} tests of {program.name}", flush=True)
-            for file, lines in self.run_idle(program).items():
-                data["code"][file] = sorted(lines.union(data["code"].get(file, ())))
             with ThreadPoolExecutor(jobs) as pool:
                 runs = {test: pool.submit(self.record, program, test) for test in tests}
             for test, run in runs.items():
                 if run.result() is None:
                     print(f"reach: {test} fails without a mutant and is left out", flush=True)
                     continue
-                seconds, reached = run.result()
+                seconds, reached, present = run.result()
                 data["tests"][f"{program.name}:{test}"] = {
                     "seconds": round(seconds, 3),
                     "lines": {file: sorted(lines) for file, lines in reached.items()}}
+                for file, lines in present.items():
+                    data["code"][file] = sorted(lines.union(data["code"].get(file, ())))
             data["suites"].append(program.name)
             keep(data)
         shutil.rmtree(self.scratch)

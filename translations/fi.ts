@@ -3308,14 +3308,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <source>%1 stands here twice</source>
         <translation>%1 esiintyy tässä kahdesti</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; enempää ei lähetetty</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; mitään ei lähetetty</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

@@ -127,7 +127,7 @@ TEST(MessageTable, MarksEnglishTextsThatEveryLanguageHas) {
           .bytes);
   ASSERT_TRUE(table);
   std::vector<std::uint32_t> same;
-  for (const std::uint32_t id : {1, 2, 3, 4, 6}) {
+  for (const std::uint32_t id : {1U, 2U, 3U, 4U, 6U}) {
     if (table->FindEnglish(id).sameEverywhere) same.push_back(id);
   }
   EXPECT_EQ(same, (std::vector<std::uint32_t>{1, 2, 6}));

@@ -54,6 +54,8 @@ def parse_arguments():
                         help="of tests for one mutant, the quickest first (default: 300)")
     parser.add_argument("--suites", nargs="+", metavar="SUITE",
                         help="run these test programs, or SUITE:PATTERN, on each mutant, and record no reach")
+    parser.add_argument("--least", type=float, default=100, metavar="PERCENT",
+                        help="fail only if fewer are killed (default: 100)")
     parser.add_argument("--keep-reach", action="store_true",
                         help="take the recorded reach of the tests, though the sources have changed since")
     return parser.parse_args()
@@ -161,6 +163,7 @@ def run(mutants, reach, results, arguments):
 
 
 def report(mutants, results, equivalents):
+    """Prints what is known of the mutants. Returns how many percent are killed."""
     scores, alive = defaultdict(Counter), []
     for mutant in mutants:
         result = results.find(mutant)
@@ -183,7 +186,8 @@ def report(mutants, results, equivalents):
         tried = score["killed"] + score["alive"]
         share = f"{100 * score['killed'] / tried:4.0f} %" if tried else "     -"
         print(f"{folder:18} {score['killed']:7} {score['alive']:6} {share} {score['equivalent']:12} {score['invalid']:8}")
-    return len(alive)
+    killed = sum(score["killed"] for score in scores.values())
+    return 100 * killed / (killed + len(alive)) if killed + len(alive) else 100
 
 
 def main():
@@ -208,7 +212,7 @@ def main():
         reach = (Suites(arguments.suites) if arguments.suites
                  else Reach(ROOT, WORK, arguments.jobs, arguments.keep_reach))
         run(wanted, reach, results, arguments)
-    return 1 if report(mutants, results, equivalents) else 0
+    return 0 if report(mutants, results, equivalents) >= arguments.least else 1
 
 
 if __name__ == "__main__":

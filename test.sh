@@ -8,8 +8,9 @@ TIMEFORMAT="  %0R s (processors: %0U s + %0S s)"
 scripts/setup.sh
 echo "Building (build/asan)"
 cmake --preset asan >/dev/null
-time cmake --build --preset asan
-cmake --build --preset asan --target format-check
+time cmake --build --preset asan || { echo "The build failed. To see it again: cmake --build --preset asan" >&2; exit 1; }
+cmake --build --preset asan --target format-check ||
+  { echo "Files are not formatted. To format them: cmake --build --preset asan --target format" >&2; exit 1; }
 echo "Testing"
 # Many tests mostly wait.
 time ctest --preset asan -j $((2 * $(nproc))) "$@" ||

@@ -7,7 +7,11 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 since="${1:-$(git describe --tags --abbrev=0 2>/dev/null || true)}"
-[ -n "$since" ] || { echo "No release has a tag yet: name a commit to compare with" >&2; exit 2; }
+[ -n "$since" ] || {
+  echo "No release has a tag yet. To compare with a commit: $0 HEAD~50. To tag a release: git tag -a v1.0.0" >&2
+  exit 2
+}
+command -v abidiff >/dev/null || { echo "$0 needs abidiff: apt-get install abigail-tools" >&2; exit 1; }
 libraries="ProjectorCommon ProjectorSettings ProjectorFleet AdvancedControl"
 then=build/abi/then
 git worktree remove --force "$then" 2>/dev/null || true

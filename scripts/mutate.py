@@ -9,7 +9,7 @@
 A mutant is killed when a test fails or does not end. One that lives shows a fault that no test would notice, code that
 nothing needs, or a change that makes no difference. Results are kept in build/mutation/results.jsonl: a run that was
 interrupted goes on where it was, and a mutant is tried anew when its file has changed, or with --again if it lived.
-Needs gcov and python3-clang; ccache and mold are used where they are. MUTATE_CMAKE holds further options for cmake."""
+Needs llvm and python3-clang; ccache and mold are used where they are. MUTATE_CMAKE holds further options for cmake."""
 
 import argparse
 import fnmatch
@@ -28,6 +28,7 @@ from concurrent.futures import ProcessPoolExecutor
 from functools import partial
 from pathlib import Path
 
+from mutation.equivalent import Equivalents
 from mutation.mutants import find_mutants
 from mutation.reach import Reach, Suites
 from mutation.workplace import Workplace
@@ -52,7 +53,9 @@ def parse_arguments():
     parser.add_argument("--budget", type=float, default=300, metavar="SECONDS",
                         help="of tests for one mutant, the quickest first (default: 300)")
     parser.add_argument("--suites", nargs="+", metavar="SUITE",
-                        help="run these test programs on each mutant, and record no reach")
+                        help="run these test programs, or SUITE:PATTERN, on each mutant, and record no reach")
+    parser.add_argument("--least", type=float, default=100, metavar="PERCENT",
+                        help="fail only if fewer are killed (default: 100)")
     parser.add_argument("--keep-reach", action="store_true",
                         help="take the recorded reach of the tests, though the sources have changed since")
     return parser.parse_args()
@@ -132,10 +135,11 @@ def run(mutants, reach, results, arguments):
     waiting = queue.SimpleQueue()
     for mutant in mutants:
         waiting.put(mutant)
+    suites = sorted({test.split(":")[0] for mutant in mutants for test in reach.of(mutant)})
     failures = []
 
     def work(number):
-        workplace = Workplace(ROOT, WORK / str(number), arguments.suites)
+        workplace = Workplace(ROOT, WORK / str(number), suites)
         try:
             while not failures:
                 mutant = waiting.get_nowait()
@@ -158,13 +162,18 @@ def run(mutants, reach, results, arguments):
         raise failures[0]
 
 
-def report(mutants, results):
+def report(mutants, results, equivalents):
+    """Prints what is known of the mutants. Returns how many percent are killed."""
     scores, alive = defaultdict(Counter), []
     for mutant in mutants:
         result = results.find(mutant)
+        folder = "/".join(mutant.file.split("/")[:2])
+        if equivalents.has(mutant):
+            scores[folder]["equivalent"] += 1
+            continue
         if result is None:
             continue
-        scores["/".join(mutant.file.split("/")[:2])][result["outcome"]] += 1
+        scores[folder][result["outcome"]] += 1
         if result["outcome"] == "alive":
             alive.append((mutant, result["detail"]))
     if alive:
@@ -177,7 +186,8 @@ def report(mutants, results):
         tried = score["killed"] + score["alive"]
         share = f"{100 * score['killed'] / tried:4.0f} %" if tried else "     -"
         print(f"{folder:18} {score['killed']:7} {score['alive']:6} {share} {score['equivalent']:12} {score['invalid']:8}")
-    return len(alive)
+    killed = sum(score["killed"] for score in scores.values())
+    return 100 * killed / (killed + len(alive)) if killed + len(alive) else 100
 
 
 def main():
@@ -196,12 +206,13 @@ def main():
         return (result is None or bool(arguments.only)
                 or (arguments.again and result["outcome"] == "alive"))
 
-    wanted = [mutant for mutant in mutants if is_open(mutant)]
+    equivalents = Equivalents(ROOT)
+    wanted = [mutant for mutant in mutants if is_open(mutant) and not equivalents.has(mutant)]
     if wanted:
         reach = (Suites(arguments.suites) if arguments.suites
                  else Reach(ROOT, WORK, arguments.jobs, arguments.keep_reach))
         run(wanted, reach, results, arguments)
-    return 1 if report(mutants, results) else 0
+    return 0 if report(mutants, results, equivalents) >= arguments.least else 1
 
 
 if __name__ == "__main__":

@@ -55,7 +55,7 @@ class Reader {
       "text-file",
       BridgeOptions::tr("Write metrics to <file> every 15 seconds, for a collector of text files."),
       BridgeOptions::tr("file")};
-  const BrokerOptions broker_;
+  const BrokerOptions broker_{};
   const QCommandLineOption prefix_{"topic", BridgeOptions::tr("The first level of all topics."),
                                    BridgeOptions::tr("topic"), "projectors"};
   const QCommandLineOption discovery_{

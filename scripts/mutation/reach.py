@@ -48,37 +48,38 @@ class Recorder:
         self.root = root
         self.build = root / "build/coverage"
         self.scratch = Path(tempfile.mkdtemp(prefix="reach-", dir=work))
+        files = sorted(file for file in (self.build / "bin").iterdir() if file.is_file() and not file.is_symlink())
+        # What tests start or load. A test program has the objects of the libraries in it.
+        self.others = [file for file in files if os.access(file, os.X_OK) and not file.name.endswith(("_tests", ".dll"))
+                       and file.read_bytes()[:4] == b"\x7fELF"]
 
-    def lines(self, folder):
-        """The lines counted in the .gcda files below `folder`: {file: lines reached}, {file: lines with code}."""
-        counted = sorted(folder.rglob("*.gcda"))
-        for file in counted:
-            notes = "/" / file.relative_to(folder).with_suffix(".gcno")
-            file.with_suffix(".gcno").symlink_to(notes)
-        reached, code = {}, {}
-        for first in range(0, len(counted), 40):
-            told = subprocess.run(["gcov", "--json-format", "--stdout", *counted[first:first + 40]],
-                                  capture_output=True, text=True, check=True, cwd=self.build).stdout
-            for document in filter(None, told.splitlines()):
-                for file in json.loads(document)["files"]:
-                    path = os.path.relpath(os.path.join(self.build, file["file"]), self.root)
-                    if not path.startswith(("src/", "app/")):
-                        continue
-                    for line in file["lines"]:
-                        code.setdefault(path, set()).add(line["line_number"])
-                        if line["count"] > 0:
-                            reached.setdefault(path, set()).add(line["line_number"])
+    def lines(self, program, folder):
+        """The lines counted in the profiles in `folder`: {file: lines reached}, {file: lines with code}."""
+        merged = folder / "all.profdata"
+        subprocess.run(["llvm-profdata", "merge", "-sparse", "-o", merged, *folder.glob("*.profraw")], check=True)
+        told = subprocess.run(["llvm-cov", "export", "-format=lcov", "-skip-functions", f"-instr-profile={merged}", program,
+                               *(f"-object={other}" for other in self.others)],
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=True).stdout
+        reached, code, path = {}, {}, ""
+        for line in told.splitlines():
+            if line.startswith("SF:"):
+                path = os.path.relpath(line[3:], self.root)
+            elif line.startswith("DA:") and path.startswith(("src/", "app/")):
+                number, count = line[3:].split(",")
+                code.setdefault(path, set()).add(int(number))
+                if count != "0":
+                    reached.setdefault(path, set()).add(int(number))
         return reached, code
 
     def record(self, program, test):
         folder = self.scratch / hashlib.sha256(test.encode()).hexdigest()[:16]
         folder.mkdir()
-        environment = test_environment(folder) | {"GCOV_PREFIX": str(folder)}
+        environment = test_environment(folder) | {"LLVM_PROFILE_FILE": str(folder / "%2m.profraw")}
         started = time.monotonic()
-        ended = subprocess.run([program, f"--gtest_filter={test}"], capture_output=True, text=True,
-                               env=environment, cwd=folder, timeout=1800)
+        failed = subprocess.run([program, f"--gtest_filter={test}"], capture_output=True, text=True,
+                                env=environment, cwd=folder, timeout=1800).returncode
         seconds = time.monotonic() - started
-        result = None if ended.returncode != 0 else (seconds, *self.lines(folder))
+        result = None if failed else (seconds, *self.lines(program, folder))
         shutil.rmtree(folder)
         return result
 
@@ -148,10 +149,10 @@ class Reach:
 
 
 class Suites:
-    """Test programs that are run on every mutant, whatever they reach."""
+    """Test programs that are run on every mutant, whatever they reach; all their tests, or SUITE:PATTERN."""
 
     def __init__(self, suites):
-        self.tests = [f"{suite}:*" for suite in suites]
+        self.tests = [suite if ":" in suite else f"{suite}:*" for suite in suites]
 
     def seconds(self, test):
         return 60.0 + self.tests.index(test)  # allows for a slow one; in the order of the command line

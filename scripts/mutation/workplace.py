@@ -12,9 +12,9 @@ from mutation.reach import test_environment
 
 
 class Workplace:
-    def __init__(self, root, folder, suites=None):
+    def __init__(self, root, folder, suites):
         self.root = root
-        self.suites = suites or []  # all if there is none
+        self.suites = suites  # those that any mutant needs
         self.tree = folder / "tree"
         self.build = self.tree / "build/dev"
         self.originals = folder / "objects"
@@ -38,8 +38,9 @@ class Workplace:
             for copy in (self.tree / folder).rglob("*"):
                 if copy.is_file() and str(copy.relative_to(self.tree)) not in files:
                     copy.unlink()
-        options = ["-DCMAKE_CXX_FLAGS_DEBUG=", "-DCMAKE_COMPILE_WARNING_AS_ERROR=OFF",
-                   "-DADVANCEDCONTROL_BENCHMARKS=OFF"]
+        # The library's assertions notice what reads beyond an end.
+        options = ["-DCMAKE_CXX_FLAGS_DEBUG=-D_GLIBCXX_ASSERTIONS", "-DCMAKE_COMPILE_WARNING_AS_ERROR=OFF",
+                   "-DADVANCEDCONTROL_BENCHMARKS=OFF", "-DADVANCEDCONTROL_PRECOMPILE=ON"]
         if shutil.which("ccache"):
             options.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
         if shutil.which("mold"):
@@ -59,8 +60,9 @@ class Workplace:
         self.prepared = True
 
     def environment(self, mutated):
-        settings = {"CCACHE_BASEDIR": str(self.tree), "CCACHE_NOHASHDIR": "1"}
-        return os.environ | settings | ({"CCACHE_READONLY": "1"} if mutated else {})
+        settings = {"CCACHE_BASEDIR": str(self.tree), "CCACHE_NOHASHDIR": "1",
+                    "CCACHE_SLOPPINESS": "pch_defines,time_macros"}
+        return os.environ | settings | ({"CCACHE_DISABLE": "1"} if mutated else {})
 
     def restore(self, file, stamp, since):
         """Takes the mutant back, and what was built of it; what was linked with it is linked anew when needed."""

@@ -146,7 +146,7 @@ TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
     const std::clock_t start = std::clock();
     const auto contents = ParseProfileList(QByteArray::fromStdString(text), "p.json");
     EXPECT_THAT(contents.error.toStdString(), testing::StartsWith(error));
-    EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC) << error;
+    EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC) << error;
   }
 }
 

@@ -127,6 +127,30 @@ TEST(WireChannelTest, EveryFaultOfThePeerGivesAStateAndTheNextCommandWorks) {
   }
 }
 
+TEST(WireChannelTest, TheStatusOfAReplySaysWhatBecameOfTheCommand) {
+  const auto with = [](Wire::Status status) {
+    return Distorts([status](const std::string& reply) {
+      Wire::Decoder decoder;
+      decoder.Add(reply);
+      const auto frame = decoder.Next();
+      return FrameBytes({frame ? frame->sequence : std::uint16_t{}, Wire::Reply{status}});
+    });
+  };
+  struct Case {
+    Wire::Status status;
+    const char* reply;
+    ConnectionState state;
+  };
+  for (const auto& [status, reply, state] : {Case{Wire::Status::UnknownOperation, "!", Connected},
+                                             Case{Wire::Status::Unanswered, "?", Connected},
+                                             Case{Wire::Status::NoHello, "?", NotUnderstood}}) {
+    const Peer peer(Transport::Tcp, {with(status), with(status)});
+    const auto channel = ChannelTo(peer);
+    EXPECT_EQ(Replies(*channel, {Get(5)}), reply);
+    EXPECT_EQ(channel->Connection(), state) << reply;
+  }
+}
+
 TEST(WireChannelTest, SaysWhyItCannotConnect) {
   QTcpServer neverAccepts;
   ASSERT_TRUE(neverAccepts.listen(QHostAddress::LocalHost));

@@ -65,7 +65,7 @@ TEST(WireTest, FindsFramesAfterNoiseAndInPieces) {
        {std::string(), Bytes("00FF"), Bytes("A5"), Bytes("A5A5"), Bytes("A55A"), Bytes("A55A0407"),
         Bytes("A55A04FF"), Bytes("A55A0008"), changed, whole.substr(0, 14),
         std::string(9000, '?')}) {
-    for (const std::size_t piece : {1, 2, 3, 7, 10'000}) {
+    for (const std::size_t piece : {1U, 2U, 3U, 7U, 10'000U}) {
       const std::string bytes = noise + whole + whole;
       Wire::Decoder decoder;
       std::vector<Wire::Frame> found;

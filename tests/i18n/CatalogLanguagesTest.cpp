@@ -65,9 +65,8 @@ TEST(CatalogLanguages, AreFoundByWhatPeopleCallThem) {
 
 // The captions of a language; those that it lacks are empty.
 std::vector<std::optional<std::string>> Captions(const CatalogTexts& texts, std::uint32_t id) {
-  constexpr int kCount = 400;
-  std::vector<std::optional<std::string>> captions(kCount);
-  for (int i = 0; i < kCount; ++i) captions[i] = texts.Find(id, 4, i);
+  std::vector<std::optional<std::string>> captions;
+  for (int i = 0; i < 400; ++i) captions.push_back(texts.Find(id, 4, i));
   return captions;
 }
 

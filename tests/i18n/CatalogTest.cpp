@@ -188,6 +188,23 @@ TEST_F(CatalogTest, EachCallUsesThePresentLanguage) {
   expectTexts("in 1033", kNoCatalog);
 }
 
+TEST_F(CatalogTest, TheShownLanguageIsThatOfTheTexts) {
+  const TestTable german{1031, {{kFirst, {Unicode(u"a\r\n")}}}};
+  const TestTable english{1033, german.blocks}, chinese{2052, german.blocks};
+  const auto shown = [](const char* locale) {
+    SetLocale(locale);
+    return ShownLanguageId();
+  };
+  EXPECT_EQ(shown("de_DE"), 1033U) << "without a catalog";
+  LoadTables({german, english, chinese});
+  EXPECT_EQ(shown("de_DE"), 1031U);
+  EXPECT_EQ(shown("fr_FR"), 2052U) << "all texts of such a module are Chinese";
+  Touch("GETENG");
+  EXPECT_EQ(shown("de_DE"), 2052U);
+  LoadTables({german, english});
+  EXPECT_EQ(shown("de_DE"), 1033U);
+}
+
 TEST_F(CatalogTest, ABatchUsesTheLanguageOfItsBeginning) {
   SetLocale("de_DE");
   const std::vector<TestTable> tables = {

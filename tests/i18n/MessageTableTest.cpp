@@ -25,7 +25,8 @@ std::string TextIn(const MessageTable& table, std::uint32_t language, std::uint3
 std::vector<TestTable> SampleTables() {
   return {
       {1033,
-       {{0x01040001, {Unicode(u"One\r\n"), Unicode(u"Two\r\n")}},
+       {{0x01040001,
+         {Unicode(u"One\r\n"), Unicode(u"Two\r\n"), Unicode(u"\x7F\u0080\u07FF\u0800")}},
         {0xFFFFFFFE, {Ansi("Stra\337e\r\n"), Ansi("")}}}},
       {2052, {{0x01040001, {Unicode(u"\u4EAE\u5EA6\r\n"), Ansi("\xD6\xD0\xCE\xC4\r\n")}}}},
       {1041, {{7, {Ansi("\x93\xFA\x96\x7B"), Unicode(u"\xD83D\xDE00|\xD83D|")}}}, 9},
@@ -41,14 +42,46 @@ TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
       for (const std::uint32_t id : ids) all += TextIn(*table, language, id) + ';';
       return all;
     };
-    EXPECT_EQ(table->Count(), 8U);
+    EXPECT_EQ(table->Count(), 9U);
     EXPECT_EQ(texts(1033, {0x01040001, 0x01040002}), "One\r\n;Two\r\n;");
+    EXPECT_EQ(texts(1033, {0x01040003}), "\x7F\u0080\u07FF\u0800;");
     EXPECT_EQ(texts(1033, {0xFFFFFFFE, 0xFFFFFFFF}), "Straße\r\n;;");
     EXPECT_EQ(texts(2052, {0x01040001, 0x01040002}), "亮度\r\n;中文\r\n;");
     EXPECT_EQ(texts(1041, {7, 8}), "日本;😀|\uFFFD|;");
     // Finds neither messages of another language nor neighbours of a block.
     EXPECT_EQ(texts(1041, {0x01040001}) + texts(9, {0x01040001}), "(none);(none);");
-    EXPECT_EQ(texts(1033, {0x01040000, 0x01040003, 0xFFFFFFFD, 0}), "(none);(none);(none);(none);");
+    EXPECT_EQ(texts(1033, {0x01040000, 0x01040004, 0xFFFFFFFD, 0}), "(none);(none);(none);(none);");
+  }
+}
+
+TEST(MessageTable, ReadsAnsiTextsInTheCodePageOfTheirLanguage) {
+  const std::pair<const char*, std::vector<std::uint32_t>> kCases[] = {
+      {"陏", {0x0404, 0x0C04, 0x1404}},
+      {"忻", {0x0804, 0x1004}},
+      {"ﾐﾃ", {0x0411}},
+      {"勤", {0x0412}},
+      {"ะร", {0x041E}},
+      {"РГ",
+       {0x0C1A, 0x1C1A, 0x201A, 0x281A, 0x301A, 0x082C, 0x0843, 0x0402, 0x0419, 0x0422, 0x0423,
+        0x042F, 0x043F, 0x0440, 0x0444}},
+      {"ĐĂ", {0x0405, 0x040E, 0x0415, 0x0418, 0x041A, 0x041B, 0x041C, 0x0424, 0x042A}},
+      {"ΠΓ", {0x0408}},
+      {"ĞÃ", {0x041F, 0x042C, 0x0443}},
+      {"\u05C0\u05B3", {0x040D}},
+      {"ذأ", {0x0401, 0x0420, 0x0429}},
+      {"ŠĆ", {0x0425, 0x0426, 0x0427}},
+      {"ÐÃ", {0x0407, 0x0409}},
+  };
+  std::vector<TestTable> tables;
+  for (const auto& [text, languages] : kCases) {
+    for (const std::uint32_t language : languages)
+      tables.push_back({language, {{1, {Ansi("\xD0\xC3")}}}});
+  }
+  const auto table = MessageTable::Parse(TestModule(tables).bytes);
+  ASSERT_TRUE(table);
+  for (const auto& [text, languages] : kCases) {
+    for (const std::uint32_t language : languages)
+      EXPECT_EQ(TextIn(*table, language, 1), text) << language;
   }
 }
 
@@ -94,7 +127,7 @@ TEST(MessageTable, MarksEnglishTextsThatEveryLanguageHas) {
           .bytes);
   ASSERT_TRUE(table);
   std::vector<std::uint32_t> same;
-  for (const std::uint32_t id : {1, 2, 3, 4, 6}) {
+  for (const std::uint32_t id : {1U, 2U, 3U, 4U, 6U}) {
     if (table->FindEnglish(id).sameEverywhere) same.push_back(id);
   }
   EXPECT_EQ(same, (std::vector<std::uint32_t>{1, 2, 6}));
@@ -208,7 +241,7 @@ TEST(MessageTable, SharedBytesDoNotMultiply) {
   for (std::uint32_t i = 0; i < kLanguages; ++i) module.Put32(languages + 20 + 8 * i, longOne);
   const std::clock_t start = std::clock();
   EXPECT_FALSE(MessageTable::Parse(module.bytes));
-  EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
+  EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC);
 }
 
 TEST(MessageTable, ReadsOnlyRegularFiles) {

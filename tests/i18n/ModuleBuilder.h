@@ -6,7 +6,6 @@
 #include <cstring>
 #include <fstream>
 #include <map>
-#include <ranges>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,15 +56,19 @@ class TestModule {
 
     std::map<std::uint32_t, std::vector<const TestTable*>> resources;
     for (const TestTable& table : tables) resources[table.resource].push_back(&table);
-    names = Directory(types, std::views::single(11U));
+    names = Directory(types, {11U});
     Put32(types + 20, Relative(names) | kDirectory);
-    std::size_t next = Directory(names, std::views::keys(resources));
+    std::vector<std::uint32_t> numbers;
+    for (const auto& [number, languages] : resources) numbers.push_back(number);
+    std::size_t next = Directory(names, numbers);
     std::size_t slot = names + 20;
     for (const auto& [number, languages] : resources) {
       Put32(slot, Relative(next) | kDirectory);
       slot += 8;
       std::size_t languageSlot = next + 20;
-      next = Directory(next, std::views::transform(languages, &TestTable::language));
+      numbers.clear();
+      for (const TestTable* table : languages) numbers.push_back(table->language);
+      next = Directory(next, numbers);
       for (const TestTable* table : languages) {
         Put32(languageSlot, Relative(next));
         languageSlot += 8;
@@ -111,8 +114,8 @@ class TestModule {
   std::uint32_t Relative(std::size_t at) const { return static_cast<std::uint32_t>(at - types); }
 
   // Writes a directory of numbered entries, whose targets are filled in later. Returns its end.
-  std::size_t Directory(std::size_t at, const std::ranges::sized_range auto& numbers) {
-    Put32(at + 12, static_cast<std::uint32_t>(std::ranges::size(numbers)) << 16);
+  std::size_t Directory(std::size_t at, const std::vector<std::uint32_t>& numbers) {
+    Put32(at + 12, static_cast<std::uint32_t>(numbers.size()) << 16);
     at += 16;
     for (const std::uint32_t number : numbers) {
       Put32(at, number);

@@ -1,7 +1,5 @@
 // The pages of the newest page set.
 
-#include <set>
-
 #include <QAbstractButton>
 #include <QGuiApplication>
 #include <QLabel>
@@ -42,74 +40,6 @@ struct Type5Page : OpenDialog {
   RecordingChannel& projector = Projector();
   MessageBoxes boxes;
 };
-
-template <class Page>
-using Handlers = std::vector<std::pair<int, void (Page::*)()>>;
-
-/// Each handler must send what its control sends when the user operates it.
-template <class Page>
-void ExpectOwnControls(int tab, std::initializer_list<int> codes, const Handlers<Page>& handlers) {
-  std::set<int> tried;
-  for (const int code : codes) {
-    Type5Page open(tab, code, {{"Get", 128}, {"Get 0x3304", 0}});
-    for (const auto& [control, handler] : handlers) {
-      auto& widget = open.driver.template Item<QWidget>(control);
-      if (!widget.isVisible()) continue;
-      SCOPED_TRACE(NameOf(widget));
-      const bool isList = qobject_cast<CComboBox*>(&widget) != nullptr;
-      isList ? open.driver.Choose(control, 1) : open.driver.Click(control);
-      const Strings sent = open.projector.TakeChanges();
-      (static_cast<Page&>(open.Page()).*handler)();
-      EXPECT_EQ(sent.size(), 1);
-      EXPECT_EQ(open.projector.TakeChanges(), sent);
-      tried.insert(control);
-    }
-  }
-  EXPECT_EQ(tried.size(), handlers.size());
-}
-
-TEST(Picture5, ANamedHandlerActsOnItsOwnControl) {
-  namespace Id = ControlId::Picture;
-  using Page = CPictureTabType5Dlg;
-  ExpectOwnControls<Page>(kPictureTab, {30},
-                          {{Id::BrightnessPlus, &Page::OnBnClickedPicBgpBtn},
-                           {Id::BrightnessMinus, &Page::OnBnClickedPicBgnBtn},
-                           {Id::ContrastPlus, &Page::OnBnClickedPicCnpBtn},
-                           {Id::ContrastMinus, &Page::OnBnClickedPicCnnBtn},
-                           {Id::ColorPlus, &Page::OnBnClickedPicClrpBtn},
-                           {Id::ColorMinus, &Page::OnBnClickedPicClrnBtn},
-                           {Id::TintPlus, &Page::OnBnClickedPicTintpBtn},
-                           {Id::TintMinus, &Page::OnBnClickedPicTintnBtn},
-                           {Id::SharpnessPlus, &Page::OnBnClickedPicShppBtn},
-                           {Id::SharpnessMinus, &Page::OnBnClickedPicShpnBtn},
-                           {Id::MyMemoryExecute, &Page::OnBnClickedPicMyldBtn},
-                           {Id::ActiveIris, &Page::OnCbnSelchangePic5ActilisCombo}});
-}
-
-TEST(Input5, ANamedHandlerActsOnItsOwnControl) {
-  namespace Id = ControlId::InputType5;
-  using Page = CInputType5Dlg;
-  ExpectOwnControls<Page>(kInputTab, {30, 41, 42},
-                          {{Id::Progressive, &Page::OnCbnSelchangeInput5ProgComb},
-                           {Id::VideoNr, &Page::OnCbnSelchangeInput5VidnrComb},
-                           {Id::ThreeDYcs, &Page::OnCbnSelchangeInput53dycsComb},
-                           {Id::ColorSpace, &Page::OnCbnSelchangeInput5CospsComb},
-                           {Id::Component, &Page::OnCbnSelchangeInput5CompoComb},
-                           {Id::CVideoFormat, &Page::OnCbnSelchangeInput5CvidfmtComb},
-                           {Id::SVideoFormat, &Page::OnCbnSelchangeInput5SvidfmtComb},
-                           {Id::Hdmi, &Page::OnCbnSelchangeInput5HdmiComb},
-                           {Id::M1D, &Page::OnCbnSelchangeInput5M1dComb},
-                           {Id::FrameLock, &Page::OnCbnSelchangeInput5FrlckCombo},
-                           {Id::FrameLockRgb1, &Page::OnCbnSelchangeInput5Framelockrgb1Comb},
-                           {Id::FrameLockComputer1, &Page::OnCbnSelchangeInput5Framelockcomp1Comb},
-                           {Id::FrameLockRgb2, &Page::OnCbnSelchangeInput5Framelockrgb2Comb},
-                           {Id::FrameLockComputer2, &Page::OnCbnSelchangeInput5Framelockcomp2Comb},
-                           {Id::FrameLockHdmi, &Page::OnCbnSelchangeInput5FramelockhdmiComb},
-                           {Id::RgbIn1, &Page::OnCbnSelchangeInput5Rgbin1Comb},
-                           {Id::ComputerIn1, &Page::OnCbnSelchangeInput5Computerin1Comb},
-                           {Id::RgbIn2, &Page::OnCbnSelchangeInput5Rgbin2Comb},
-                           {Id::ComputerIn2, &Page::OnCbnSelchangeInput5Computerin2Comb}});
-}
 
 TEST(Input5, CaptionsAreLocalizedEvenForAModelWithoutRows) {
   EXPECT_EQ(Type5Page(kInputTab, 47).driver.Text(20500), "Progressive");

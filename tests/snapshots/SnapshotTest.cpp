@@ -87,6 +87,9 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
            {"\"version\": 1", "\"version\": 2", "only version 1"},
            {"\"value\": ", "\"value\": 0.5, \"x\": ", "settings[0].value: must be a whole"},
            {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
+           {"\"value\": ", "\"other\": ", "settings[0].value: a whole number is missing"},
+           {"\"value\": ", "\"value\": -32769, \"x\": ", "settings[0].value: must be a whole"},
+           {"\"value\": ", "\"value\": 65536, \"x\": ", "settings[0].value: must be a whole"},
            {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
            {"\"settings\"", "\"settingz\"", "settings: must be an array"},
            {"\"settings\"", "\"beforehand\": 1, \"settings\"", "beforehand: must be an array"},
@@ -96,6 +99,14 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
     wrong.replace(wrong.indexOf(from), static_cast<int>(strlen(from)), to);
     EXPECT_THAT(ReadSnapshot(wrong).error.toStdString(), testing::HasSubstr(error));
   }
+  const auto withSettings = [&text](int count) {
+    QByteArray many = text;
+    return many.replace("\"settings\": [", "\"settings\": [" + QByteArray("1,").repeated(count));
+  };
+  const int free = 10'000 - static_cast<int>(snapshot.settings.size());
+  EXPECT_EQ(ReadSnapshot(withSettings(free)).path, "settings[0]");
+  EXPECT_EQ(ReadSnapshot(withSettings(free + 1)).path, "settings");
+  EXPECT_FALSE(ReadSnapshot("[1]").error.isEmpty());
 }
 
 TEST(SettingTexts, ParsesTypedValues) {

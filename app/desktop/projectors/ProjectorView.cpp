@@ -175,8 +175,8 @@ std::vector<int> ProjectorView::Selected() const {
     for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
   }
   std::ranges::sort(rows);
-  const auto repeated = std::ranges::unique(rows);
-  rows.erase(repeated.begin(), repeated.end());
+  // Not ranges::unique: clang 14 cannot use its result with this standard library.
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
   std::ranges::transform(rows, rows.begin(), [this](int row) { return model_->PositionAt(row); });
   return rows;
 }

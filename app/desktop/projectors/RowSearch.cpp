@@ -37,7 +37,8 @@ std::vector<int> RowSearch::Matching(const std::vector<ProjectorRow>& rows,
 void RowSearch::PutExactFirst(const std::vector<ProjectorRow>& rows,
                               std::vector<int>& positions) const {
   if (text_.isEmpty()) return;
-  std::ranges::stable_partition(positions, [&](int position) {
+  // Not that of std::ranges: clang 14 cannot use its result with this standard library.
+  std::stable_partition(positions.begin(), positions.end(), [&](int position) {
     const std::string& name = rows[static_cast<std::size_t>(position)].profile.name;
     return QString::fromStdString(name).toLower() == text_;
   });

@@ -17,6 +17,7 @@
 #include "app/desktop/profiles/ConnectionTest.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/desktop/profiles/TransferActions.h"
+#include "host/CAdvanceDlg.h"
 #include "tests/app/Work.h"
 #include "tests/fleet/Served.h"
 #include "tests/support/Programs.h"

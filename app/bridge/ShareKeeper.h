@@ -17,6 +17,7 @@ struct Claim {
   std::uint64_t beat = 0;  ///< Grows with each claim of the instance.
   bool isGivenUp = false;  ///< The last message of a holder that ends.
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): there is no pointer
   friend auto operator<=>(const Claim&, const Claim&) = default;
 };
 

@@ -236,15 +236,16 @@ TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
   profile.connection = {.isNetwork = true, .address = "127.0.0.1", .port = served.wirePort};
   MainWindow window({profile}, {.interval = 1h});
   window.show();
-  CAdvanceDlg* const opened = window.OpenDialog(0, 0);
-  const auto connection = [&] { return window.Session(0)->Channel()->Connection(); };
+  window.OpenDialog(0, 0);
+  ProjectorChannel& channel = *window.Session(0)->Channel();
+  const auto connection = [&channel] { return channel.Connection(); };
   ASSERT_TRUE(Soon([&] { return connection() == ConnectionState::Connected; }));
   Table(window).selectAll();
   Find<QAction>(window, "Switch Off").trigger();
   Button(*window.findChild<WorkDialog*>(), "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), 0);
   EXPECT_EQ(connection(), ConnectionState::Unused);
-  EXPECT_TRUE(opened->Projector().Execute({PjtOperation::GetMirror}).answered);
+  EXPECT_TRUE(channel.Execute({PjtOperation::GetMirror}).answered);
   EXPECT_EQ(connection(), ConnectionState::Connected);
 }
 

@@ -26,10 +26,10 @@ PresetActions::PresetActions(Parts parts)
     : QObject(&parts.window),
       parts_(std::move(parts)),
       presets_(new QAction(tr("P&resets"), this)),
-      drift_(new DriftCheck(parts_.document, parts_.watch, parts_.work.Texts(), parts_.window)),
+      drift_(new DriftCheck(parts_.document, parts_.watch, parts_.work, parts_.window)),
       edits_(new PresetEdits({.document = parts_.document,
                               .history = parts_.edits,
-                              .texts = parts_.work.Texts(),
+                              .work = parts_.work,
                               .window = parts_.window})) {
   auto* menu = new QMenu(&parts_.window);
   presets_->setMenu(menu);

@@ -7,6 +7,7 @@
 #include "app/desktop/presets/PresetManager.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileHistory.h"
+#include "app/desktop/work/WorkActions.h"
 #include "app/profiles/PresetFolder.h"
 #include "device/ModelDataIntake.h"
 #include "fleet/WholeFile.h"
@@ -33,7 +34,7 @@ void PresetEdits::Open() {
        .model = [this](const Snapshot& preset) { return ModelOf(preset); },
        .rename = [this](const QString& from, const QString& to) { return Rename(from, to); },
        .remove = [this](const QString& preset) { return Remove(preset); },
-       .texts = parts_.texts},
+       .texts = parts_.work.Texts()},
       &parts_.window);
   manager_->setAttribute(Qt::WA_DeleteOnClose);
   manager_->addActions({parts_.history.Undo(), parts_.history.Redo()});  // for their keys

@@ -11,6 +11,7 @@ class PresetManager;
 class ProfileDocument;
 class ProfileHistory;
 class QWidget;
+class WorkActions;
 
 /// Renames and removes presets. The projectors that should be like such a preset change with it,
 /// and all of it can be undone.
@@ -21,7 +22,7 @@ class PresetEdits : public QObject {
   struct Parts {
     ProfileDocument& document;
     ProfileHistory& history;
-    const SettingTexts& texts;
+    const WorkActions& work;
     QWidget& window;
   };
 

@@ -96,6 +96,8 @@ const WrongFile kWrongFiles[] = {
     {R"("like": "x")", "like: there is no family \"x\""},
     {"{\"families\": {\n\"a\": {\"like\": \"b\"},\n\"b\": {\"like\": \"a\"}}}",
      "3: families.b.like: makes \"a\" like itself"},
+    {"{\"projectors\": [], \"tags\": {\"a\": {\n\"snapshot\": 1}}}",
+     "2: tags.a.snapshot: must be a text"},
     {"{\"families\": {\"a\": {\n\"dialogType\": \"5\"}}, \"projectors\": []}",
      "2: families.a.dialogType: must be a whole number"},
     {kWhole + "}, {" + kWhole, "1: projectors[1].name: \"A\" is the name of projectors[0] too"},

@@ -131,9 +131,9 @@ QStringList ProjectorColumns::Samples(int column) {
       return samples;
     }
     case Model:
-      return {QStringLiteral("Model 5-30")};
+      return {QStringLiteral("Model 4-11 b")};
     case Place:
-      return {QStringLiteral("Building A, Libra")};
+      return {QStringLiteral("Building A, Seminar rooms")};
     case Settings:
       return {StateTexts::Drift({.drift = 0}), StateTexts::Drift({.drift = 12})};
     case Answered:

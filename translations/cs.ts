@@ -2304,11 +2304,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny tyto projektory jsou simulované, k vyzkoušení programu.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zavřít</translation>
+        <translation>Zavřít</translation>
     </message>
 </context>
 <context>
@@ -2669,7 +2669,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Správa předvoleb…</translation>
     </message>
 </context>
 <context>
@@ -2743,11 +2743,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovat předvolbu</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat předvolbu</translation>
     </message>
 </context>
 <context>
@@ -2761,51 +2761,51 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Předvolby</translation>
+        <translation>Předvolby</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Nastavení</translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Hodnota</translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Nastavení předvolby</translation>
+        <translation>Nastavení předvolby</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přejmenovat</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Zrušit</translation>
+        <translation>&amp;Odebrat</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Zatím žádné předvolby</translation>
+        <translation>Zatím žádné předvolby</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle ní mají být: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
+        <translation>Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolba %1 už existuje.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat předvolbu %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Odebrat</translation>
+        <translation>Odebrat</translation>
     </message>
 </context>
 <context>

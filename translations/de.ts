@@ -2270,11 +2270,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle diese Projektoren sind simuliert, um das Programm auszuprobieren.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>V&amp;orgaben verwalten …</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2706,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe umbenennen</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe entfernen</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2724,51 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Vorgaben</translation>
+        <translation>Vorgaben</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Einstellung</translation>
+        <translation>Einstellung</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wert</translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Einstellungen der Vorgabe</translation>
+        <translation>Einstellungen der Vorgabe</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Entfernen</translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Noch keine Vorgaben</translation>
+        <translation>Noch keine Vorgaben</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll dieser Vorgabe entsprechen: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
+        <translation>So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon eine Vorgabe %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe %1 entfernen?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Entfernen</translation>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>

@@ -2270,11 +2270,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos estos proyectores son simulados, para probar el programa.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Cerrar</translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Administrar preajustes…</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2706,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre del preajuste</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar preajuste</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2724,51 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Preajustes</translation>
+        <translation>Preajustes</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ajuste</translation>
+        <translation>Ajuste</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valor</translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Ajustes del preajuste</translation>
+        <translation>Ajustes del preajuste</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar nombre</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Quitar</translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Aún no hay preajustes</translation>
+        <translation>Aún no hay preajustes</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Deben coincidir con él: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
+        <translation>Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un preajuste %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar el preajuste %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Eliminar</translation>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>

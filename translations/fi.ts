@@ -2270,11 +2270,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaikki nämä projektorit ovat simuloituja, ohjelman kokeilua varten.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Sulje</translation>
+        <translation>Sulje</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hallitse esiasetuksia…</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2706,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimeä esiasetus uudelleen</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Poista esiasetus</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2724,51 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Esiasetukset</translation>
+        <translation>Esiasetukset</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Asetus</translation>
+        <translation>Asetus</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Arvo</translation>
+        <translation>Arvo</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Esiasetuksen asetukset</translation>
+        <translation>Esiasetuksen asetukset</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nimeä uudelleen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Poista</translation>
+        <translation>&amp;Poista</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Esiasetuksia ei vielä ole</translation>
+        <translation>Esiasetuksia ei vielä ole</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tavoitteena projektoreilla: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
+        <translation>Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiasetus %1 on jo olemassa.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Poistetaanko esiasetus %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Poista</translation>
+        <translation>Poista</translation>
     </message>
 </context>
 <context>

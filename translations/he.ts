@@ -2270,11 +2270,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>כל המקרנים האלה הם הדמיה, להתנסות בתוכנה.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">סגירה</translation>
+        <translation>סגירה</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ניהול ערכות…</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2706,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>שינוי שם של ערכה</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>הסרת ערכה</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2724,51 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">ערכות</translation>
+        <translation>ערכות</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">הגדרה</translation>
+        <translation>הגדרה</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">ערך</translation>
+        <translation>ערך</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">ההגדרות שבערכה</translation>
+        <translation>ההגדרות שבערכה</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;שינוי שם</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">ה&amp;סרה</translation>
+        <translation>ה&amp;סרה</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">אין עדיין ערכות</translation>
+        <translation>אין עדיין ערכות</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>זו הערכה הרצויה של: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
+        <translation>שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>כבר קיימת ערכה %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>להסיר את הערכה %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">הסרה</translation>
+        <translation>הסרה</translation>
     </message>
 </context>
 <context>

@@ -2236,11 +2236,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ezek mind szimulált projektorok, a program kipróbálásához.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Bezárás</translation>
+        <translation>Bezárás</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2597,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítások &amp;kezelése…</translation>
     </message>
 </context>
 <context>
@@ -2669,11 +2669,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítás átnevezése</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítás eltávolítása</translation>
     </message>
 </context>
 <context>
@@ -2687,51 +2687,51 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Előbeállítások</translation>
+        <translation>Előbeállítások</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Beállítás</translation>
+        <translation>Beállítás</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Érték</translation>
+        <translation>Érték</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Az előbeállítás tartalma</translation>
+        <translation>Az előbeállítás tartalma</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Átnevezés</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Megszüntetés</translation>
+        <translation>E&amp;ltávolítás</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Még nincs előbeállítás</translation>
+        <translation>Még nincs előbeállítás</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ilyennek kell lennie: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
+        <translation>Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Már van ilyen előbeállítás: %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eltávolítja ezt az előbeállítást: %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Eltávolítás</translation>
+        <translation>Eltávolítás</translation>
     </message>
 </context>
 <context>

@@ -2236,11 +2236,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프로젝터는 모두 프로그램을 시험해 보기 위한 시뮬레이션입니다.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">닫기</translation>
+        <translation>닫기</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2597,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 관리(&amp;M)…</translation>
     </message>
 </context>
 <context>
@@ -2669,11 +2669,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 이름 바꾸기</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 제거</translation>
     </message>
 </context>
 <context>
@@ -2687,51 +2687,51 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">프리셋</translation>
+        <translation>프리셋</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">설정</translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">값</translation>
+        <translation>값</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">프리셋의 설정</translation>
+        <translation>프리셋의 설정</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 바꾸기(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">제거(&amp;R)</translation>
+        <translation>제거(&amp;R)</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">프리셋이 아직 없음</translation>
+        <translation>프리셋이 아직 없음</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프리셋을 기준으로 하는 프로젝터: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
+        <translation>프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 %1이(가) 이미 있습니다.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 %1을(를) 제거하시겠습니까?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">제거</translation>
+        <translation>제거</translation>
     </message>
 </context>
 <context>

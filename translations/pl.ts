@@ -2304,11 +2304,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie te projektory są symulowane, do wypróbowania programu.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zamknij</translation>
+        <translation>Zamknij</translation>
     </message>
 </context>
 <context>
@@ -2669,7 +2669,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;arządzaj zestawami…</translation>
     </message>
 </context>
 <context>
@@ -2743,11 +2743,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmiana nazwy zestawu</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwanie zestawu</translation>
     </message>
 </context>
 <context>
@@ -2761,51 +2761,51 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Zestawy</translation>
+        <translation>Zestawy</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wartość</translation>
+        <translation>Wartość</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Ustawienia zestawu</translation>
+        <translation>Ustawienia zestawu</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zmień nazwę</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">U&amp;suń</translation>
+        <translation>U&amp;suń</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Nie ma jeszcze zestawów</translation>
+        <translation>Nie ma jeszcze zestawów</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wzorzec dla: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
+        <translation>Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zestaw %1 już istnieje.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunąć zestaw %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Usuń</translation>
+        <translation>Usuń</translation>
     </message>
 </context>
 <context>

@@ -2304,11 +2304,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Все эти проекторы имитируются, чтобы можно было опробовать программу.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Закрыть</translation>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
@@ -2669,7 +2669,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Управление пресетами…</translation>
     </message>
 </context>
 <context>
@@ -2743,11 +2743,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Переименование пресета</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Удаление пресета</translation>
     </message>
 </context>
 <context>
@@ -2761,51 +2761,51 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Пресеты</translation>
+        <translation>Пресеты</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Значение</translation>
+        <translation>Значение</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Настройки пресета</translation>
+        <translation>Настройки пресета</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Переименовать</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Убрать</translation>
+        <translation>&amp;Удалить</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Пресетов пока нет</translation>
+        <translation>Пресетов пока нет</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Эталон для: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
+        <translation>Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пресет %1 уже есть.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить пресет %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Удалить</translation>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>

@@ -2304,7 +2304,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>Všechny tyto projektory jsou simulované, pro vyzkoušení programu.</translation>
+        <translation>Všechny tyto projektory jsou simulované, k vyzkoušení programu.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2669,7 +2669,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation>Spravovat předvol&amp;by…</translation>
+        <translation>&amp;Správa předvoleb…</translation>
     </message>
     <message>
         <source>All of %1</source>
@@ -2781,7 +2781,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Přejme&amp;novat</translation>
+        <translation>&amp;Přejmenovat</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2793,7 +2793,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Má jí odpovídat: %1</translation>
+        <translation>Podle ní mají být: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -3483,6 +3483,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 je zde uvedeno dvakrát</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; nic dalšího se neodeslalo</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; nic se neodeslalo</translation>
     </message>
 </context>
 <context>

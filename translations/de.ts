@@ -2270,7 +2270,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>Alle diese Projektoren sind simuliert, zum Ausprobieren des Programms.</translation>
+        <translation>Alle diese Projektoren sind simuliert, um das Programm auszuprobieren.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2633,7 +2633,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation>Vorgaben ver&amp;walten…</translation>
+        <translation>V&amp;orgaben verwalten …</translation>
     </message>
     <message>
         <source>All of %1</source>
@@ -2744,7 +2744,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Umbe&amp;nennen</translation>
+        <translation>&amp;Umbenennen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2756,7 +2756,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Soll ihr entsprechen: %1</translation>
+        <translation>Soll dieser Vorgabe entsprechen: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -2764,11 +2764,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>Eine Vorgabe %1 gibt es schon.</translation>
+        <translation>Es gibt schon eine Vorgabe %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation>Die Vorgabe %1 entfernen?</translation>
+        <translation>Vorgabe %1 entfernen?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3437,6 +3437,14 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 steht hier zweimal</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; weiter wurde nichts gesendet</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; nichts wurde gesendet</translation>
     </message>
 </context>
 <context>

@@ -2633,7 +2633,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation>Gestionar preaj&amp;ustes…</translation>
+        <translation>&amp;Administrar preajustes…</translation>
     </message>
     <message>
         <source>All of %1</source>
@@ -2714,7 +2714,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation>Quitar preajuste</translation>
+        <translation>Eliminar preajuste</translation>
     </message>
 </context>
 <context>
@@ -2744,11 +2744,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Cambiar &amp;nombre</translation>
+        <translation>&amp;Cambiar nombre</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Quitar</translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>No presets yet</source>
@@ -2756,7 +2756,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Debe coincidir con él: %1</translation>
+        <translation>Deben coincidir con él: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -2764,15 +2764,15 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>Ya hay un preajuste %1.</translation>
+        <translation>Ya existe un preajuste %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation>¿Quitar el preajuste %1?</translation>
+        <translation>¿Eliminar el preajuste %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Quitar</translation>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
@@ -3437,6 +3437,14 @@ un signo menos delante quita una etiqueta:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 aparece aquí dos veces</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; no se envió nada más</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; no se envió nada</translation>
     </message>
 </context>
 <context>

@@ -2270,7 +2270,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>Kaikki nämä projektorit on simuloitu ohjelman kokeilemista varten.</translation>
+        <translation>Kaikki nämä projektorit ovat simuloituja, ohjelman kokeilua varten.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2756,7 +2756,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Tavoitteena tämä: %1</translation>
+        <translation>Tavoitteena projektoreilla: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -3437,6 +3437,14 @@ miinus edessä poistaa tunnisteen:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 esiintyy tässä kahdesti</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; enempää ei lähetetty</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; mitään ei lähetetty</translation>
     </message>
 </context>
 <context>

@@ -2633,7 +2633,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation>Gérer les pré&amp;réglages…</translation>
+        <translation>Gérer &amp;les préréglages…</translation>
     </message>
     <message>
         <source>All of %1</source>
@@ -2710,11 +2710,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation>Renommer le préréglage</translation>
+        <translation>Renommer un préréglage</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation>Supprimer le préréglage</translation>
+        <translation>Supprimer un préréglage</translation>
     </message>
 </context>
 <context>
@@ -2744,7 +2744,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Re&amp;nommer</translation>
+        <translation>&amp;Renommer</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2756,19 +2756,19 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Doit y correspondre : %1</translation>
+        <translation>Doivent y correspondre&#xa0;: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation>Un préréglage ne peut pas s’appeler ainsi : pas de barre oblique, ni de point au début.</translation>
+        <translation>Un préréglage ne peut pas s’appeler ainsi&#xa0;: pas de barre oblique, ni de point au début.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>Il y a déjà un préréglage %1.</translation>
+        <translation>Il existe déjà un préréglage %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation>Supprimer le préréglage %1 ?</translation>
+        <translation>Supprimer le préréglage %1&#xa0;?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3437,6 +3437,14 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 figure ici deux fois</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1&#xa0;; rien d’autre n’a été envoyé</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1&#xa0;; rien n’a été envoyé</translation>
     </message>
 </context>
 <context>

@@ -2270,7 +2270,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>כל המקרנים האלה מדומים, כדי לנסות את התוכנית.</translation>
+        <translation>כל המקרנים האלה הם הדמיה, להתנסות בתוכנה.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2710,7 +2710,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation>שינוי שם ערכה</translation>
+        <translation>שינוי שם של ערכה</translation>
     </message>
     <message>
         <source>Remove Preset</source>
@@ -2744,7 +2744,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>שינוי ש&amp;ם</translation>
+        <translation>&amp;שינוי שם</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2756,7 +2756,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>הערכה הרצויה של: %1</translation>
+        <translation>זו הערכה הרצויה של: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -2764,7 +2764,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>כבר יש ערכה בשם %1.</translation>
+        <translation>כבר קיימת ערכה %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
@@ -3437,6 +3437,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 מופיע כאן פעמיים</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; דבר נוסף לא נשלח</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; דבר לא נשלח</translation>
     </message>
 </context>
 <context>

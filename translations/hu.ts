@@ -2236,7 +2236,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>Ezek a projektorok mind szimuláltak, a program kipróbálásához.</translation>
+        <translation>Ezek mind szimulált projektorok, a program kipróbálásához.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2707,11 +2707,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Át&amp;nevezés</translation>
+        <translation>&amp;Átnevezés</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Eltávolítás</translation>
+        <translation>E&amp;ltávolítás</translation>
     </message>
     <message>
         <source>No presets yet</source>
@@ -2727,11 +2727,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>Már van %1 nevű előbeállítás.</translation>
+        <translation>Már van ilyen előbeállítás: %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation>Eltávolítja a(z) %1 előbeállítást?</translation>
+        <translation>Eltávolítja ezt az előbeállítást: %1?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3391,6 +3391,14 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 kétszer szerepel itt</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; több nem lett elküldve</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; semmi sem lett elküldve</translation>
     </message>
 </context>
 <context>

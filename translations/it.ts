@@ -2744,7 +2744,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Ri&amp;nomina</translation>
+        <translation>R&amp;inomina</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2756,7 +2756,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Deve corrispondere: %1</translation>
+        <translation>Vi devono corrispondere: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -3437,6 +3437,14 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 compare qui due volte</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; non è stato inviato altro</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; non è stato inviato nulla</translation>
     </message>
 </context>
 <context>

@@ -2236,7 +2236,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>これらのプロジェクターはすべて、お試し用のシミュレーションです。</translation>
+        <translation>これらのプロジェクターはすべて、プログラムを試すためのシミュレーションです。</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2719,7 +2719,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>基準とするプロジェクター: %1</translation>
+        <translation>これを基準とするプロジェクター: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -2727,11 +2727,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>プリセット %1 は既にあります。</translation>
+        <translation>プリセット %1 は既に存在します。</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation>プリセット %1 を削除しますか？</translation>
+        <translation>プリセット %1 を削除しますか?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3391,6 +3391,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 が重複しています</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1。以降は送信していません</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1。何も送信していません</translation>
     </message>
 </context>
 <context>

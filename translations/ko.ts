@@ -2236,7 +2236,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>이 프로젝터들은 모두 프로그램을 시험해 보기 위한 시뮬레이션입니다.</translation>
+        <translation>이 프로젝터는 모두 프로그램을 시험해 보기 위한 시뮬레이션입니다.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2673,7 +2673,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation>프리셋 이름 변경</translation>
+        <translation>프리셋 이름 바꾸기</translation>
     </message>
     <message>
         <source>Remove Preset</source>
@@ -2707,7 +2707,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>이름 변경(&amp;N)</translation>
+        <translation>이름 바꾸기(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2719,7 +2719,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>기준으로 삼는 프로젝터: %1</translation>
+        <translation>이 프리셋을 기준으로 하는 프로젝터: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -2731,7 +2731,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation>프리셋 %1을(를) 제거할까요?</translation>
+        <translation>프리셋 %1을(를) 제거하시겠습니까?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3391,6 +3391,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1 is here twice</source>
         <translation>%1이(가) 중복되어 있습니다</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1. 이후는 전송하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1. 아무것도 전송하지 않았습니다</translation>
     </message>
 </context>
 <context>

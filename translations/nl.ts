@@ -2270,7 +2270,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>Al deze projectoren zijn gesimuleerd, om het programma uit te proberen.</translation>
+        <translation>Al deze projectors zijn gesimuleerd, om het programma uit te proberen.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2744,7 +2744,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Her&amp;noemen</translation>
+        <translation>&amp;Hernoemen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -3437,6 +3437,14 @@ een minteken ervoor neemt een label weg:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 staat hier twee keer</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; meer is er niet gestuurd</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; er is niets gestuurd</translation>
     </message>
 </context>
 <context>

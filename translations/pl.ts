@@ -2304,7 +2304,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation>Wszystkie te projektory są symulowane, aby można było wypróbować program.</translation>
+        <translation>Wszystkie te projektory są symulowane, do wypróbowania programu.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2669,7 +2669,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation>Zarzą&amp;dzaj zestawami…</translation>
+        <translation>Z&amp;arządzaj zestawami…</translation>
     </message>
     <message>
         <source>All of %1</source>
@@ -2747,11 +2747,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation>Zmień nazwę zestawu</translation>
+        <translation>Zmiana nazwy zestawu</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation>Usuń zestaw</translation>
+        <translation>Usuwanie zestawu</translation>
     </message>
 </context>
 <context>
@@ -2781,7 +2781,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Zmień &amp;nazwę</translation>
+        <translation>&amp;Zmień nazwę</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2793,7 +2793,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Jest wzorcem dla: %1</translation>
+        <translation>Wzorzec dla: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -3483,6 +3483,14 @@ minus przed tagiem go usuwa:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 występuje dwa razy</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; nic więcej nie wysłano</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; nic nie wysłano</translation>
     </message>
 </context>
 <context>

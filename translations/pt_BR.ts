@@ -2744,7 +2744,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Re&amp;nomear</translation>
+        <translation>R&amp;enomear</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -2756,7 +2756,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>Deve corresponder a ela: %1</translation>
+        <translation>Devem corresponder a ela: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -3437,6 +3437,14 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 aparece aqui duas vezes</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; nada mais foi enviado</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; nada foi enviado</translation>
     </message>
 </context>
 <context>

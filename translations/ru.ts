@@ -2669,7 +2669,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation>Управление пре&amp;сетами…</translation>
+        <translation>&amp;Управление пресетами…</translation>
     </message>
     <message>
         <source>All of %1</source>
@@ -2781,7 +2781,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>Переи&amp;меновать</translation>
+        <translation>&amp;Переименовать</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -3483,6 +3483,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 указано дважды</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1; больше ничего не отправлено</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1; ничего не отправлено</translation>
     </message>
 </context>
 <context>

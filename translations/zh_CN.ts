@@ -2719,7 +2719,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>应与其一致：%1</translation>
+        <translation>应与其一致的投影机：%1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -2727,11 +2727,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>已有预设 %1。</translation>
+        <translation>预设 %1 已存在。</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation>移除预设 %1 吗？</translation>
+        <translation>要移除预设 %1 吗？</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3391,6 +3391,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 在此重复出现</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1；未发送任何设置</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1；其余设置未发送</translation>
     </message>
 </context>
 <context>

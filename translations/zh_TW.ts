@@ -2719,7 +2719,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation>應與其相符：%1</translation>
+        <translation>應符合此預設集的投影機：%1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
@@ -2727,7 +2727,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation>已有預設集 %1。</translation>
+        <translation>預設集 %1 已存在。</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
@@ -3391,6 +3391,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>%1 is here twice</source>
         <translation>%1 在此重複出現</translation>
+    </message>
+    <message>
+        <source>%1; no more was sent</source>
+        <translation>%1；其餘未傳送</translation>
+    </message>
+    <message>
+        <source>%1; nothing was sent</source>
+        <translation>%1；未傳送任何內容</translation>
     </message>
 </context>
 <context>

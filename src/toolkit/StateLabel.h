@@ -39,7 +39,7 @@ class StateLabel final : public LineLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  int TextWidth() const { return LineLabel::sizeHint().width(); }
+  int TextWidth() const { return LineLabel::sizeHint().shrunkBy(contentsMargins()).width(); }
 
   Mark mark_ = Mark::None;
   std::optional<double> share_;

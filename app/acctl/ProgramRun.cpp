@@ -18,6 +18,7 @@
 #include "app/acctl/RunFiles.h"
 #include "app/acctl/Selection.h"
 #include "app/acctl/Signals.h"
+#include "app/acctl/Simulated.h"
 #include "app/acctl/Watching.h"
 #include "device/Connect.h"
 #include "fleet/WholeFile.h"

@@ -12,6 +12,7 @@
 #include "app/acctl/Password.h"
 #include "app/acctl/ProfileTables.h"
 #include "app/acctl/Signals.h"
+#include "app/acctl/Simulated.h"
 #include "device/Connect.h"
 #include "fleet/JobChannel.h"
 #include "fleet/MakeVisit.h"
@@ -85,14 +86,6 @@ int NameWidth(const Projectors& projectors, const Arguments& arguments) {
 }
 
 }  // namespace
-
-bool IsSimulated(const FleetProfile& profile, const Arguments& arguments) {
-  return arguments.connecting.address.empty() && profile.link == ProjectorLink::Simulated;
-}
-
-bool IsSimulatedHere(const FleetProfile& profile, const Work& work) {
-  return IsSimulated(profile, work.arguments) && !work.served.contains(profile.name);
-}
 
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
                                                const std::string& password) {

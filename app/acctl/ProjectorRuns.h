@@ -12,13 +12,6 @@
 #include "app/acctl/Preflight.h"
 #include "app/acctl/Printer.h"
 
-/// Whether a projector is only simulated: by a simulator program that serves it, or else here.
-bool IsSimulated(const FleetProfile& profile, const Arguments& arguments);
-
-/// Whether this program itself simulates the projector, so that no change lasts longer than the
-/// run.
-bool IsSimulatedHere(const FleetProfile& profile, const Work& work);
-
 /// Opens a projector without waiting for others; null if another run of the program uses it.
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
                                                const std::string& password);

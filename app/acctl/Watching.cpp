@@ -11,6 +11,7 @@
 #include "app/acctl/Output.h"
 #include "app/acctl/ProjectorRuns.h"
 #include "app/acctl/Reading.h"
+#include "app/acctl/Simulated.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include <atomic>
 #include <functional>
 #include <optional>
+#include <set>
 #include <thread>
 
 #include <QDir>
@@ -149,6 +150,26 @@ TEST(WireChannelTest, TheStatusOfAReplySaysWhatBecameOfTheCommand) {
     EXPECT_EQ(Replies(*channel, {Get(5)}), reply);
     EXPECT_EQ(channel->Connection(), state) << reply;
   }
+}
+
+TEST(WireChannelTest, GivesUpEarlierWhenAsked) {
+  const Peer peer(Transport::Tcp, {Peer::Says({})});
+  const auto channel = std::make_shared<TcpChannel>(
+      "127.0.0.1", peer.port, WireChannel::Limits{.connect = 1h, .answer = 1h});
+  channel->GiveUpAfter(50ms);
+  EXPECT_EQ(Replies(*channel, {Get(1)}), "?");
+  BoundedChannel bounded(channel, {.timeOut = 1h});
+  bounded.GiveUpAfter(50ms);
+  EXPECT_EQ(Replies(bounded, {Get(1)}), "?");
+}
+
+TEST(WireChannelTest, EachStateHasATextOfItsOwn) {
+  std::set<std::string_view> texts;
+  constexpr auto kStates = {None,         Unused,          Connecting, Connected, WrongParameters,
+                            NameUnknown,  NotReachable,    NoAnswer,   Lost,      NotUnderstood,
+                            OtherVersion, PasswordRequired};
+  for (const ConnectionState state : kStates) texts.insert(ConnectionStateText(state));
+  EXPECT_EQ(texts.size(), kStates.size());
 }
 
 TEST(WireChannelTest, SaysWhyItCannotConnect) {

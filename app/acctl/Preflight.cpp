@@ -96,7 +96,9 @@ std::vector<std::optional<Report>> CheckWords(const Work& work, const Projectors
     });
   }
   if (std::ranges::any_of(results, IsWrong)) {
-    for (std::optional<Report>& report : results) report = report.value_or(Report());
+    for (std::size_t i = 0; i < results.size(); ++i) {
+      if (!results[i]) results[i] = std::move(reports[i]);
+    }
   }
   return results;
 }

@@ -110,6 +110,7 @@ void SetRun::Make(Result& result) {
 
 void SetRun::MakeSteps(Result& result) {
   const int wanted = result.change->typed.amount;
+  KeepRun(work_, projector_.Name());
   const CPjtInterface::Tally before = projector_.Connection().Sent();
   const int done = projector_.StepUnread(*result.change->setting, wanted,
                                          [this] { return !work_.isInterrupted(); });

@@ -11,6 +11,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeEdit>
 #include <QTranslator>
 #include <gtest/gtest.h>
 
@@ -145,6 +146,18 @@ TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
       EXPECT_TRUE(ink.isEmpty() || label->rect().contains(ink)) << label->text().toStdString();
     }
   }
+  InstallTranslations(kEnglishUnitedStates);
+}
+
+TEST(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
+  InstallTranslations(LanguageIdOf("he").value());
+  const QTemporaryDir folder;
+  QSettings settings(folder.filePath("settings"), QSettings::IniFormat);
+  Preferences preferences(settings);
+  const auto times = preferences.findChildren<QTimeEdit*>();
+  ASSERT_EQ(times.size(), 2);
+  times.front()->setTime(QTime(22, 30));
+  EXPECT_EQ(times.front()->text(), "22:30");
   InstallTranslations(kEnglishUnitedStates);
 }
 

@@ -98,6 +98,9 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
   auto* facts = new QGridLayout;
   facts->setColumnStretch(1, 1);
   facts->setVerticalSpacing(2);  // the labels have margins
+  // A longer word would take the captions' room.
+  constexpr int kLettersOfAWord = 16;
+  facts->setColumnMinimumWidth(1, kLettersOfAWord * fontMetrics().averageCharWidth());
   const std::array<QString, FactCount> captions{
       tr("State:"), tr("Power:"),  tr("Source:"),   tr("Problem:"), tr("Picture and sound:"),
       tr("Lamp:"),  tr("Filter:"), tr("Settings:"), tr("Answered:")};

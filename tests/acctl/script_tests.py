@@ -5,6 +5,7 @@ import json
 import os
 import re
 import shutil
+import signal
 import time
 
 from script_support import PROGRAMS, ROOMS, VALIDATOR, Building, free_port
@@ -31,6 +32,11 @@ class Choosing(Building):
             with self.subTest(conditions=conditions):
                 found = self.json("get", "*", "power", "--where", conditions)["projectors"]
                 self.assertEqual([projector["name"] for projector in found], names)
+        for words, output in ((["list", "--brief"], "^Seminar 2\n$"), (["export"], "^Seminar 2,.*\n$"),
+                              (["settings", "*", "status.error"], "^Seminar 2 .*\n$"),
+                              (["watch", "*", "power", "--wait", "0.2"], "^Seminar 2 .* Standby\n$")):
+            run = self.check([*words, "--where", "power=standby"], 0, output)
+            self.assertNotRegex(run.stdout, "Office|Lecture")
         for wrong, error in (("power", "one of = != < "), ("power=", "a value is missing"), ("smell=1", "no model has"),
                              ("lamp-hours>many", "only numbers")):
             self.check(["get", "*", "power", "--where", wrong], 2, errors=error)
@@ -44,6 +50,9 @@ class Choosing(Building):
         (self.folder / "pjlink.json").write_text(json.dumps(profiles))
         explained = self.acctl("explain", "input", ACCTL_PROFILES="pjlink.json").stdout
         self.assertRegex(explained, "(?m)^  values +those that the projector reports$")
+        # What a condition compares is asked for though the command does not need it.
+        where = self.acctl("get", "*", "power", "--where", "input=rgb1", ACCTL_PROFILES="pjlink.json")
+        self.assertEqual(where.stdout.count(" On\n"), len(self.pjlink))
 
     def test_keys_with_one_meaning_have_one_short_name_on_all_models(self):
         models = {}
@@ -91,6 +100,39 @@ class Runs(Building):
         self.check(["undo", undo["run"]], 0, "2 changed")
         self.assertEqual(self.value(ALL, "contrast"), ["2"] * 3)
 
+    def test_a_part_of_a_run_is_undone_by_name_or_state(self):
+        self.acctl("set", "Seminar 2", "power=standby", "--wait", "60s")
+        self.acctl("set", "*", "brightness=5")
+        self.check(["undo", "--where", "power=standby"], 0, "^Seminar 2 .*changed")
+        self.check(["undo", "last", "Off*"], 0, "^Office .*changed")
+        self.assertEqual(self.value("*", "brightness"), ["5", "5", "0", "0"])
+        self.check(["undo"], 0, "^Lecture hall .*changed")
+        self.assertEqual(self.value("*", "brightness"), ["0"] * 4)
+        self.acctl("set", "Office", "brightness=5")
+        self.check(["undo", "last", "Seminar*"], 2, errors="the run has changed none of these projectors")
+
+    def test_a_reset_is_undone_except_for_hours(self):
+        self.acctl("set", "Lecture hall", "tint=7")
+        self.check(["reset", "Lecture hall", "tint", "status.lamp-time"], 0, " 0 h\n.* 0$",
+                   "status.lamp-time: this cannot be undone")
+        self.assertEqual(self.value("Lecture hall", "tint"), ["0"])
+        self.check(["undo"], 0, "tint .* 0  ->  7$")
+        self.check(["reset", "Lecture hall", "status.lamp-time"], 0, "0 h", "cannot be undone")
+        self.assertEqual(len(self.json("undo", "--list")["runs"]), 3, "there is nothing to undo of the last run")
+
+    def test_what_is_interrupted_is_not_an_empty_list(self):
+        served = json.loads((self.folder / "served.json").read_text())
+        served["projectors"][1]["connection"]["network"]["port"] = 1
+        (self.folder / "served.json").write_text(json.dumps(served))
+        get = self.start("get", "*", "power", "--jobs", "1", "--retries", "1000", "-o", "jsonl")
+        get.stdout.readline()
+        get.send_signal(signal.SIGINT)
+        self.assertEqual(get.wait(60), 130)
+        lines = [json.loads(line) for line in get.stdout]
+        self.assertIn(lines.pop(0)["error"]["code"], ("no-answer", "stopped"))
+        self.assertEqual([(line["name"], line["error"]["code"]) for line in lines],
+                         [("Seminar 2", "stopped"), ("Office", "stopped")])
+
     def test_old_undo_files_are_removed(self):
         undo = self.folder / "state/advanced-control/undo"
         undo.mkdir(parents=True)
@@ -136,8 +178,8 @@ class Runs(Building):
         job.write_text(' {"undoOfJob": [{"id": "a\\nb", "snapshot": {}}]}')
         self.assertEqual(self.acctl("undo", "job.undo").stderr.count("\n"), 1)
         # What is undone and cannot be recorded is reported with an exit code of its own.
-        pipe = self.acctl("undo", "/dev/stdin", text=run.read_text())
-        self.assertEqual(pipe.returncode, 1)
+        pipe = self.acctl("undo", "/dev/stdin", "-o", "json", text=run.read_text())
+        self.assertEqual((pipe.returncode, json.loads(pipe.stdout)["errors"][0]["code"]), (1, "file"))
         self.assertIn("cannot record in /dev/stdin that it is undone", pipe.stderr)
 
     def test_what_was_set_for_a_new_input_is_undone_for_it(self):
@@ -190,8 +232,9 @@ class Runs(Building):
         nobody = ["--connect", "tcp://127.0.0.1:1", "--timeout", "0.1"]
         self.check(["status", "Office", "--retries", "1", *nobody], 3, errors="not reachable")
         self.stop(self.simulator)
-        self.check(["get", "*", "power", "--jobs", "1", "--fail-fast"], 3,
-                   errors="Lecture hall: .*\n(.*not begun, as another projector failed\n){3}")
+        for words in (["get", "*", "power"], ["list", "--where", "power=on"]):
+            self.check([*words, "--jobs", "1", "--fail-fast"], 3,
+                       errors="Lecture hall: .*\n(.*not begun, as another projector failed\n){3}")
         port = free_port(2)
         get = self.start("--profiles", "rooms.json", "get", "Office", "contrast", "-o", "value", "--retries", "60",
                          "--connect", f"tcp://127.0.0.1:{port}")

@@ -59,10 +59,11 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   EXPECT_TRUE(second->Says("another bridge has the same share"));
 
   // A broker that remembers gets nothing twice, and what has changed meanwhile.
-  ASSERT_TRUE(Soon([&] {
-    return Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}") == projectors;
-  }));
-  const double sent = Metric(port, "projector_bridge_messages_total{kind=\"state\"}");
+  const auto hasSent = [&](double states) {
+    return Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}") == projectors &&
+           Metric(port, "projector_bridge_messages_total{kind=\"state\"}") == states;
+  };
+  ASSERT_TRUE(Soon([&] { return hasSent(projectors); }));
   broker.Stop();
   EXPECT_TRUE(Soon([&] { return Metric(port, "projector_bridge_broker_connected") == 0; }));
   EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
@@ -76,9 +77,8 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
       std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
   EXPECT_TRUE(
       Soon([&] { return isComplete() && subscriber->With("/availability", "online") == 2; }));
-  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"state\"}"), sent + 1);
+  EXPECT_TRUE(Soon([&] { return hasSent(projectors + 1); }));
   EXPECT_EQ(subscriber->StateOf(NameOf(on))["power"], "standby");
-  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}"), projectors);
 
   // A bridge dies. The broker says so, and the one that stood back takes over.
   const int before = subscriber->Count("projectors/bridge/2-of-2/availability");
@@ -88,11 +88,73 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
     return subscriber->Count("projectors/bridge/2-of-2/availability") >= before + 2 &&
            isComplete() && subscriber->With("/availability", "online") == 2;
   }));
+  EXPECT_TRUE(hasSent(projectors + 1)) << "still nothing twice";
   EXPECT_FALSE(subscriber->Saw("never-asked")) << "what the dead bridge knew holds until the visit";
   const QRegularExpression most("at-once (\\d+)");
   EXPECT_LE(most.match(QString::fromStdString(Control("* count"))).captured(1).toInt(), 1)
       << "never two connections to a projector";
   EXPECT_EQ(Changes(), "0") << "without --allow-commands";
+}
+
+TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
+  StartProjectors(20);
+  MosquittoBroker broker(folder_.path());
+  const quint16 ports[] = {FreePort(), FreePort()};
+  const QStringList options =
+      At(broker) + QStringList{"--takeover", "3", "--allow-commands", "power"};
+  const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};
+  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
+  const auto holds = [&](int which) {
+    return Metric(ports[which], "projector_bridge_holds_share") == 1;
+  };
+  for (const bool isCutOff : {false, true}) {
+    int holder = 0;
+    ASSERT_TRUE(Soon([&] {
+      holder = holds(0) ? 0 : 1;
+      return holds(holder) && !holds(1 - holder) && subscriber.With("/state", "\"answers\"") == 20;
+    }));
+    int on = 1;
+    while (on < 20 && subscriber.StateOf(NameOf(on))["power"] != "on") ++on;
+    const auto id = static_cast<pid_t>(bridges[holder]->Id());
+    kill(id, SIGSTOP);
+    Publish(broker, {"-t", "projectors/" + subscriber.Find("on", {}) + "/set/power", "-m", "off"});
+    EXPECT_TRUE(Soon([&] { return holds(1 - holder); })) << bridges[1 - holder]->Said().data();
+    EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
+    const auto isTold = [&] { return subscriber.StateOf(NameOf(on))["power"] == "standby"; };
+    EXPECT_TRUE(Soon(isTold));
+    if (isCutOff) {
+      broker.Stop();
+      broker.Start();
+    }
+    kill(id, SIGCONT);
+    EXPECT_TRUE(Soon([&] { return holds(0) != holds(1); })) << bridges[holder]->Said().data();
+    EXPECT_TRUE(holds(1 - holder));
+    EXPECT_TRUE(isTold()) << "not what the one that hung knew";
+    EXPECT_FALSE(Get(ports[holder], "/metrics").contains("_commands_total{"))
+        << "the command that came meanwhile is old";
+  }
+}
+
+TEST_F(BridgeProgram, EndsWhileTheBrokersHostAnswersNothing) {
+  StartProjectors(1);
+  QTcpServer server;
+  server.setListenBacklogSize(0);
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  server.pauseAccepting();
+  const auto connecting = [end = QByteArray::number(server.serverPort(), 16).toUpper() + " 02 "] {
+    return Contents("/proc/net/tcp").count(end);
+  };
+  std::vector<std::unique_ptr<QTcpSocket>> others;
+  while (connecting() == 0) {
+    others.push_back(std::make_unique<QTcpSocket>());
+    others.back()->connectToHost(QHostAddress::LocalHost, server.serverPort());
+    QCoreApplication::processEvents();
+  }
+  const auto before = connecting();
+  Daemon bridge(BRIDGE_PROGRAM, {"--profiles", profiles_, "--listen", "none", "--broker",
+                                 QString("127.0.0.1:%1").arg(server.serverPort())});
+  EXPECT_TRUE(Soon([&] { return connecting() > before; }));
+  bridge.Stop();  // the system would try for two minutes
 }
 
 TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {

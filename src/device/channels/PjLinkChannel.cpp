@@ -24,15 +24,13 @@ PjLinkChannel::PjLinkChannel(const std::string& host, int port, const std::strin
       }) {}
 
 PjLinkChannel::PjLinkChannel(const std::string& host, int port, const std::string& password,
-                             const Limits& limits, const MakeSocket& makeSocket)
+                             const Limits& limits, const MakePjLinkSocket& makeSocket)
     : limits_(limits),
       hasValidAddress_(!host.empty() && port >= 1 && port <= UINT16_MAX),
       address_(host + ':' + std::to_string(port)),
       session_(password, {.connect = limits.connect, .answer = limits.answer}),
       socket_(makeSocket(session_.Connection())),
       inquiry_(limits.firstPause, limits.longestPause) {}
-
-PjLinkChannel::~PjLinkChannel() = default;
 
 bool PjLinkChannel::Has(const PjtCommand& command) {
   return PjLinkMapping::Find(command) != nullptr;

@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -63,13 +62,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
       : PjLinkChannel(host, port, password, {}) {}
   PjLinkChannel(const std::string& host, int port, const std::string& password,
                 const Limits& limits);
-  /// Makes the socket of a channel, which reports to `connection`.
-  using MakeSocket = std::function<std::unique_ptr<PjLinkSocket>(PjLinkConnection& connection)>;
   PjLinkChannel(const std::string& host, int port, const std::string& password,
-                const Limits& limits, const MakeSocket& makeSocket);
-  ~PjLinkChannel() override;
-  PjLinkChannel(const PjLinkChannel&) = delete;
-  PjLinkChannel& operator=(const PjLinkChannel&) = delete;
+                const Limits& limits, const MakePjLinkSocket& makeSocket);
 
   /// Whether PJLink of either class supports this command.
   static bool Has(const PjtCommand& command);

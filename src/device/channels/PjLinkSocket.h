@@ -1,7 +1,10 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+
 #include "Namespace.h"
-#include "device/protocol/SessionStep.h"
+#include "device/protocol/PjLinkConnection.h"
 
 namespace AdvancedControl {
 
@@ -21,5 +24,8 @@ class PjLinkSocket {
   virtual void ReceiveUnsolicited() = 0;
   virtual void Close() = 0;
 };
+
+/// Makes the socket of a session, which reports to `connection`.
+using MakePjLinkSocket = std::function<std::unique_ptr<PjLinkSocket>(PjLinkConnection& connection)>;
 
 }  // namespace AdvancedControl

@@ -3484,14 +3484,6 @@ a minus in front takes a tag away:</source>
         <source>%1 is here twice</source>
         <translation>%1 je zde uvedeno dvakrát</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; nic dalšího se neodeslalo</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; nic se neodeslalo</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

@@ -3438,14 +3438,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 steht hier zweimal</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; weiter wurde nichts gesendet</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; nichts wurde gesendet</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

@@ -3438,14 +3438,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 aparece aquí dos veces</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; no se envió nada más</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; no se envió nada</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

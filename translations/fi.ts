@@ -3438,14 +3438,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 esiintyy tässä kahdesti</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; enempää ei lähetetty</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; mitään ei lähetetty</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

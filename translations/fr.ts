@@ -3438,14 +3438,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 figure ici deux fois</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1&#xa0;; rien d’autre n’a été envoyé</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1&#xa0;; rien n’a été envoyé</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

@@ -3438,14 +3438,6 @@ a minus in front takes a tag away:</source>
         <source>%1 is here twice</source>
         <translation>%1 מופיע כאן פעמיים</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; דבר נוסף לא נשלח</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; דבר לא נשלח</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

@@ -3392,14 +3392,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 kétszer szerepel itt</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; több nem lett elküldve</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; semmi sem lett elküldve</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

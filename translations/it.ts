@@ -3438,14 +3438,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 compare qui due volte</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; non è stato inviato altro</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; non è stato inviato nulla</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

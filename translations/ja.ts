@@ -3392,14 +3392,6 @@ a minus in front takes a tag away:</source>
         <source>%1 is here twice</source>
         <translation>%1 が重複しています</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1。以降は送信していません</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1。何も送信していません</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

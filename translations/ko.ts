@@ -3392,14 +3392,6 @@ a minus in front takes a tag away:</source>
         <source>%1 is here twice</source>
         <translation>%1이(가) 중복되어 있습니다</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1. 이후는 전송하지 않았습니다</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1. 아무것도 전송하지 않았습니다</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

@@ -3438,14 +3438,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 staat hier twee keer</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; meer is er niet gestuurd</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; er is niets gestuurd</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

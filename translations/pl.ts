@@ -3484,14 +3484,6 @@ minus przed tagiem go usuwa:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 występuje dwa razy</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; nic więcej nie wysłano</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; nic nie wysłano</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

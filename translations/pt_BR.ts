@@ -3438,14 +3438,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <source>%1 is here twice</source>
         <translation>%1 aparece aqui duas vezes</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1; nada mais foi enviado</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1; nada foi enviado</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

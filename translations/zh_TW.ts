@@ -3392,14 +3392,6 @@ a minus in front takes a tag away:</source>
         <source>%1 is here twice</source>
         <translation>%1 在此重複出現</translation>
     </message>
-    <message>
-        <source>%1; no more was sent</source>
-        <translation>%1；其餘未傳送</translation>
-    </message>
-    <message>
-        <source>%1; nothing was sent</source>
-        <translation>%1；未傳送任何內容</translation>
-    </message>
 </context>
 <context>
     <name>Simulator</name>

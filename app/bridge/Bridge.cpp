@@ -87,16 +87,15 @@ QString Bridge::Start() {
 }
 
 void Bridge::StartBroker() {
-  BrokerLink::Services services{.topics = {topics_.EveryHolder()},
+  BrokerLink::Services services{.commandSwitch = {},
+                                .topics = {topics_.EveryHolder()},
                                 .received = [this](const BrokerMessage& message) { Take(message); },
                                 .renewed = [this] { desk_.TakeSwitch({}); },
                                 .share = JsonOf(options_.share)};
   if (!desk_.Keys().IsEmpty()) {
-    // The switch first, so that its message comes before any command.
-    for (const QByteArray& topic :
-         {topics_.CommandSwitch(), topics_.EverySet(), topics_.EveryKeySet()}) {
-      services.topics.push_back(topic);
-    }
+    services.commandSwitch = topics_.CommandSwitch();
+    services.topics.push_back(topics_.EverySet());
+    services.topics.push_back(topics_.EveryKeySet());
   }
   if (!options_.discoveryPrefix.isEmpty()) {
     services.topics.push_back(options_.discoveryPrefix + "/status");

@@ -93,9 +93,16 @@ Broker::~Broker() {
 }
 
 std::optional<int> Broker::Subscribe(const QByteArray& topic) {
+  return Subscribe(topic, kExactlyOnce);
+}
+
+std::optional<int> Broker::SubscribeAtOnce(const QByteArray& topic) {
+  return Subscribe(topic, kAtLeastOnce);
+}
+
+std::optional<int> Broker::Subscribe(const QByteArray& topic, int quality) {
   int number = 0;
-  const int code =
-      mosquitto_subscribe(connection_->Client(), &number, topic.constData(), kExactlyOnce);
+  const int code = mosquitto_subscribe(connection_->Client(), &number, topic.constData(), quality);
   return code == MOSQ_ERR_SUCCESS ? std::optional(number) : std::nullopt;
 }
 

@@ -61,11 +61,15 @@ class Broker {
 
   /// Sent exactly once, as far as this depends on the sender.
   std::optional<int> Subscribe(const QByteArray& topic);
+  /// Received at least once, without the further round trip that exactly once takes.
+  std::optional<int> SubscribeAtOnce(const QByteArray& topic);
   /// Sent at least once.
   std::optional<int> Publish(const BrokerMessage& message);
 
  private:
   class Connection;
+
+  std::optional<int> Subscribe(const QByteArray& topic, int quality);
 
   const std::shared_ptr<Connection> connection_;
   const QString error_;

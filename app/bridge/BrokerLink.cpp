@@ -19,7 +19,8 @@ BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
       topics_(topics),
       services_(std::move(services)),
       instance_(QUuid::createUuid().toByteArray(QUuid::WithoutBraces)),
-      hang_(takeover, Clock::now()),
+      // The others count from the last claim, up to a third of the time before the hang.
+      hang_(takeover / 2, Clock::now()),
       keeper_(instance_.toStdString(), takeover, Clock::now()),
       publisher_(projectors, std::move(make), [this](const BrokerMessage& message) {
         return hang_.HasHung(Clock::now()) ? std::nullopt : session_->Publish(message);
@@ -117,6 +118,7 @@ void BrokerLink::FollowRole() {
 /// Called when the share is ours and the broker has sent its retained messages.
 void BrokerLink::Settle() {
   session_->SayOnline();
+  if (!services_.commandSwitch.isEmpty()) session_->SubscribeAtOnce(services_.commandSwitch);
   for (const QByteArray& topic : services_.topics) session_->Subscribe(topic);
   if (!keeper_.BrokerRemembers()) {
     publisher_.Forget(Publisher::Kind::State);

@@ -21,7 +21,9 @@
 class BrokerLink {
  public:
   struct Services {
-    /// What to listen to while the share is held, in this order.
+    /// Listened to first, so that its retained message comes before any command; may be empty.
+    QByteArray commandSwitch;
+    /// What else to listen to while the share is held, in this order.
     std::vector<QByteArray> topics;
     std::function<void(const BrokerMessage& message)> received;
     /// The connection is new; nothing has been received over it.
@@ -58,7 +60,7 @@ class BrokerLink {
   const Topics topics_;
   const Services services_;
   const QByteArray instance_;
-  HangWatch hang_;  ///< For so long that another bridge may have taken over.
+  HangWatch hang_;  ///< For so long that another bridge may take over.
   ShareKeeper keeper_;
   Publisher publisher_;
   bool holds_ = false;      ///< What the present connection is for.

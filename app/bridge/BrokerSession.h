@@ -31,6 +31,7 @@ class BrokerSession {
   bool IsConnected() const { return isConnected_; }
 
   void Subscribe(const QByteArray& topic) { broker_->Subscribe(topic); }
+  void SubscribeAtOnce(const QByteArray& topic) { broker_->SubscribeAtOnce(topic); }
   std::optional<int> Publish(const BrokerMessage& message) { return broker_->Publish(message); }
   void SayOnline();
   /// Waits until the broker has confirmed the message, for up to two seconds.

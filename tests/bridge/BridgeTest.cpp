@@ -115,6 +115,8 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
     }));
     int on = 1;
     while (on < 20 && subscriber.StateOf(NameOf(on))["power"] != "on") ++on;
+    const char* const commands = "projector_bridge_commands_total{outcome=\"accepted\"}";
+    const double taken = Metric(ports[holder], commands);
     const auto id = static_cast<pid_t>(bridges[holder]->Id());
     kill(id, SIGSTOP);
     Publish(broker, {"-t", "projectors/" + subscriber.Find("on", {}) + "/set/power", "-m", "off"});
@@ -131,10 +133,10 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
     EXPECT_TRUE(Soon(isTold));
     kill(id, SIGCONT);
     EXPECT_TRUE(Soon([&] { return holds(0) != holds(1); })) << bridges[holder]->Said().data();
-    EXPECT_TRUE(holds(1 - holder));
+    // After a restart of the broker, whoever connects first may have the share.
+    EXPECT_TRUE(isCutOff || holds(1 - holder));
     EXPECT_TRUE(isTold()) << "not what the one that hung knew";
-    EXPECT_FALSE(Get(ports[holder], "/metrics").contains("_commands_total{"))
-        << "the command that came meanwhile is old";
+    EXPECT_EQ(Metric(ports[holder], commands), taken) << "the command that came meanwhile is old";
   }
 }
 

@@ -121,7 +121,9 @@ set(CPACK_DEBIAN_BRIDGE_PACKAGE_NAME advanced-control-bridge)
 set(CPACK_DEBIAN_BRIDGE_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_BRIDGE_PACKAGE_DEPENDS "${library} (= ${version})")
 set(CPACK_DEBIAN_BRIDGE_PACKAGE_SUGGESTS "mosquitto, prometheus, prometheus-alertmanager")
-set(CPACK_DEBIAN_BRIDGE_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/bridge/conffiles)
+set(control ${PROJECT_SOURCE_DIR}/packaging/bridge)
+set(CPACK_DEBIAN_BRIDGE_PACKAGE_CONTROL_EXTRA
+    ${control}/conffiles ${control}/postinst ${control}/prerm ${control}/postrm)
 set(CPACK_COMPONENT_BRIDGE_DESCRIPTION "tell metrics stores and message brokers about projectors
 Watches projectors, serves metrics with alerts, and sends states to an MQTT
 broker with discovery messages for home automation. Takes commands if they

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # A folder of src/ includes only folders below it. Programs include only what they share
 # (app/profiles). The folders of the host application include only that of the projectors.
+# No file is longer than 350 lines.
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
@@ -55,4 +56,11 @@ for folder in desktop/*/; do
     wrong=1
   fi
 done
+cd ..
+while read -r lines file; do
+  echo "$file has $lines lines, more than 350"
+  wrong=1
+done < <(find src app tests bench examples fuzz integrations scripts -type f \
+  \( -name '*.cpp' -o -name '*.h' -o -name '*.def' -o -name '*.py' -o -name '*.sh' \) -exec wc -l {} + |
+  awk '$1 > 350 && $2 != "total"')
 exit $wrong

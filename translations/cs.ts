@@ -130,10 +130,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>vrátit nastavení na výchozí hodnoty projektoru</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Vrátí nastavení na výchozí hodnoty projektoru a vypíše, jaké jsou potom. Počitadla hodin se vynulují jen po zadání přesného klíče, protože to nelze vrátit zpět.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>vypsat napájení, vstup, chyby a hodiny</translation>
     </message>
@@ -156,14 +152,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>restore saved settings</source>
         <translation>obnovit uložené nastavení</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>vrátit zpět poslední běh set nebo apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Obnoví na všech projektorech to, co nahradil poslední běh „set“ nebo „apply“, nebo to, co nahradil běh RUN: název, který vypíše „acctl undo --list“, nebo soubor. I vrácení lze vrátit zpět zadáním jeho názvu.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -905,10 +893,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>odmítnuto</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>přijato, ale %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nedosaženo včas, hodnota je %1</translation>
     </message>
@@ -1039,6 +1023,35 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>the value before could not be read</source>
         <translation>předchozí hodnotu se nepodařilo načíst</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>toto nelze vrátit zpět</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Vrátí nastavení na výchozí hodnoty projektoru a vypíše, jaké jsou potom. „acctl undo“ obnoví předchozí stav. Počitadla hodin se vynulují jen po zadání přesného klíče, protože to nelze vrátit zpět.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>vrátit zpět poslední běh, který změnil nastavení</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>tento běh nezměnil žádný z těchto projektorů</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Obnoví to, co nahradil běh „set“, „reset“ nebo „apply“. RUN je název, který vypíše „acctl undo --list“, soubor, nebo „last“; bez něj se vrátí zpět poslední běh. S P nebo --where se obnoví jen tyto projektory a zbytek běhu lze vrátit zpět později. I vrácení lze vrátit zpět zadáním jeho názvu.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>přerušeno</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>přijato, ale nepotvrzeno: %1</translation>
     </message>
 </context>
 <context>
@@ -2021,10 +2034,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Všechny příkazy</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (libovolný kód)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Vyberte nebo zadejte část názvu či kódu</translation>
     </message>
@@ -2036,6 +2045,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (libovolný kód)</translation>
     </message>
 </context>
 <context>
@@ -2288,6 +2301,17 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Zavřít</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2480,10 +2504,6 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nikdy</translation>
     </message>
@@ -2554,6 +2574,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(stejné časy: bez doby klidu)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2642,6 +2667,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>Should be</source>
         <translation>Má být</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2711,10 +2740,72 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>nelze vytvořit složku %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Předvolby</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Nastavení</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Hodnota</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Nastavení předvolby</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Zrušit</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Zatím žádné předvolby</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Odebrat</translation>
     </message>
 </context>
 <context>
@@ -3179,6 +3270,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Složka</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Použití: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[přepínače]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Přepínače:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Zobrazí informace o verzi.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Neznámý přepínač „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Neznámé přepínače: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Za „%1“ chybí hodnota.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Neočekávaná hodnota za „%1“.</translation>
     </message>
 </context>
 <context>
@@ -3783,10 +3909,6 @@ a minus in front takes a tag away:</source>
         <translation>Řádek %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Sloupce, které zde nemají význam: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exportovat tabulku</translation>
     </message>
@@ -3817,6 +3939,10 @@ a minus in front takes a tag away:</source>
             <numerusform>%n nepřevzaté řádky</numerusform>
             <numerusform>%n nepřevzatých řádků</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Neznámé sloupce: %1</translation>
     </message>
 </context>
 <context>
@@ -4030,24 +4156,6 @@ a minus in front takes a tag away:</source>
             <numerusform>hotovo %1 z %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, z toho %n ještě probíhá</numerusform>
-            <numerusform>, z toho %n ještě probíhají</numerusform>
-            <numerusform>, z toho %n ještě probíhá</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n selhal</numerusform>
-            <numerusform>, %n selhaly</numerusform>
-            <numerusform>, %n selhalo</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Vrátit zpět: %1</translation>
@@ -4086,6 +4194,24 @@ a minus in front takes a tag away:</source>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
             <numerusform>hotovo, %n nastavení se nepodařilo načíst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ještě probíhá</numerusform>
+            <numerusform>%n ještě probíhají</numerusform>
+            <numerusform>%n ještě probíhá</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n selhal</numerusform>
+            <numerusform>%n selhaly</numerusform>
+            <numerusform>%n selhalo</numerusform>
         </translation>
     </message>
 </context>

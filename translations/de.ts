@@ -128,10 +128,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Einstellungen auf den Standard des Projektors zurücksetzen</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>Ein/Aus, Eingang, Fehler und Stunden ausgeben</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>restore saved settings</source>
         <translation>gespeicherte Einstellungen wiederherstellen</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>den letzten Lauf von set oder apply rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Stellt auf allen beteiligten Projektoren wieder her, was der letzte Lauf von „set“ oder „apply“ ersetzt hat, oder was RUN ersetzt hat: ein Name aus „acctl undo --list“ oder eine Datei. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -250,7 +238,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Liest, ändert, speichert und stellt die Einstellungen von Projektoren wieder her, die der Dialog „Advanced Control“ zeigt. Die Projektoren stehen in einer Profildatei.</translation>
+        <translation>Liest, ändert, speichert und stellt die Einstellungen von Projektoren wieder her, die der Dialog „Erweiterte Steuerung“ zeigt. Die Projektoren stehen in einer Profildatei.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -886,10 +874,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>abgelehnt</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>angenommen, aber %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nicht rechtzeitig erreicht, der Wert ist %1</translation>
     </message>
@@ -1020,6 +1004,35 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>the value before could not be read</source>
         <translation>der vorherige Wert konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>das kann nicht rückgängig gemacht werden</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Setzt Einstellungen auf den eigenen Standard des Projektors zurück und gibt aus, was sie danach sind. „acctl undo“ stellt den vorherigen Zustand wieder her. Stundenzähler werden nur mit ihrem genauen Schlüssel zurückgesetzt, weil das nicht rückgängig gemacht werden kann.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>den letzten Lauf rückgängig machen, der Einstellungen geändert hat</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>der Lauf hat keinen dieser Projektoren geändert</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Stellt wieder her, was ein Lauf von „set“, „reset“ oder „apply“ ersetzt hat. RUN ist ein Name aus „acctl undo --list“, eine Datei oder „last“; ohne RUN wird der letzte Lauf rückgängig gemacht. Mit P oder --where werden nur diese Projektoren wiederhergestellt, und der Rest des Laufs kann später rückgängig gemacht werden. Auch ein solcher Lauf kann unter seinem Namen rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>unterbrochen</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>angenommen, aber nicht bestätigt: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +2006,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Alle Befehle</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (beliebiger Code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Auswählen oder einen Teil von Name oder Code eingeben</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (beliebiger Code)</translation>
     </message>
 </context>
 <context>
@@ -2203,7 +2216,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Eine Einstellung suchen</translation>
+        <translation>Einstellung suchen</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -2223,7 +2236,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Die Einstellungen von Projektoren, live: Jeder Wert wird vom Projektor gelesen, jede Änderung sofort gesendet.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Erweiterte Steuerung %1&lt;/h3&gt;&lt;p&gt;Die Einstellungen von Projektoren, live: Jeder Wert wird vom Projektor gelesen, jede Änderung sofort gesendet.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2254,14 +2267,25 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Erweiterte Steuerung: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Erweiterte Steuerung</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2410,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Erweiterte Steuerung</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2418,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Erweiterte Steuerung</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2443,10 +2467,6 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source> s</source>
         <translation> s</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
@@ -2519,6 +2539,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(zweimal dieselbe Zeit: keine)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>Should be</source>
         <translation>Soll entsprechen</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kann den Ordner %1 nicht anlegen</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Vorgaben</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Wert</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Einstellungen der Vorgabe</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Noch keine Vorgaben</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Entfernen</translation>
     </message>
 </context>
 <context>
@@ -3137,6 +3228,41 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Nach „%1“ fehlt der Wert.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Unerwarteter Wert nach „%1“.</translation>
     </message>
 </context>
 <context>
@@ -3736,10 +3862,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Zeile %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Spalten ohne Bedeutung hier: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Tabelle exportieren</translation>
     </message>
@@ -3767,6 +3889,10 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>%n Zeile nicht übernommen</numerusform>
             <numerusform>%n Zeilen nicht übernommen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Unbekannte Spalten: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
             <numerusform>%1 von %n erledigt</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, davon %n noch unterwegs</numerusform>
-            <numerusform>, davon %n noch unterwegs</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n fehlgeschlagen</numerusform>
-            <numerusform>, %n fehlgeschlagen</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Rückgängig: %1</translation>
@@ -4023,6 +4133,22 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>
             <numerusform>erledigt, %n Einstellung konnte nicht gelesen werden</numerusform>
             <numerusform>erledigt, %n Einstellungen konnten nicht gelesen werden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n noch unterwegs</numerusform>
+            <numerusform>%n noch unterwegs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n fehlgeschlagen</numerusform>
+            <numerusform>%n fehlgeschlagen</numerusform>
         </translation>
     </message>
 </context>

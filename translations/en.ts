@@ -485,26 +485,26 @@ a minus in front takes a tag away:</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, of these %n still under way</numerusform>
-            <numerusform>, of these %n still under way</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n failed</numerusform>
-            <numerusform>, %n failed</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>done, %n setting could not be read</numerusform>
             <numerusform>done, %n settings could not be read</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n still under way</numerusform>
+            <numerusform>%n still under way</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
         </translation>
     </message>
 </context>

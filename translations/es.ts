@@ -128,10 +128,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>restablecer ajustes al valor estándar del proyector</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Restablece ajustes al valor estándar del propio proyector y muestra su nuevo valor. Los contadores de horas solo se restablecen con su clave exacta, porque no se puede deshacer.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>mostrar alimentación, entrada, errores y horas</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>restore saved settings</source>
         <translation>restaurar ajustes guardados</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>deshacer la última ejecución de set o apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaura lo que sustituyó la última ejecución de «set» o «apply», en todos sus proyectores, o lo que sustituyó RUN: un nombre que muestra «acctl undo --list», o un archivo. Lo deshecho también se puede deshacer por su nombre.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -250,7 +238,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lee, cambia, guarda y restaura los ajustes de los proyectores que muestra el cuadro de diálogo Advanced Control. Los proyectores son los de un archivo de perfiles.</translation>
+        <translation>Lee, cambia, guarda y restaura los ajustes de los proyectores que muestra el cuadro de diálogo «Control avanzado». Los proyectores son los de un archivo de perfiles.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -886,10 +874,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>rechazado</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>aceptado, pero %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>no alcanzado a tiempo, el valor es %1</translation>
     </message>
@@ -1020,6 +1004,35 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>the value before could not be read</source>
         <translation>el valor anterior no se pudo leer</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>esto no se puede deshacer</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Restablece ajustes al valor estándar del propio proyector y muestra su nuevo valor. «acctl undo» restaura lo que había antes. Los contadores de horas solo se restablecen con su clave exacta, porque no se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>deshacer la última ejecución que cambió ajustes</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>la ejecución no cambió ninguno de estos proyectores</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Restaura lo que sustituyó una ejecución de «set», «reset» o «apply». RUN es un nombre que muestra «acctl undo --list», un archivo o «last»; sin él se deshace la última ejecución. Con P o --where solo se restauran estos proyectores, y el resto de la ejecución se puede deshacer más tarde. Lo deshecho también se puede deshacer por su nombre.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrumpido</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>aceptado, pero sin confirmar: %1</translation>
     </message>
 </context>
 <context>
@@ -1898,7 +1911,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Tiempo de lámpara</translation>
+        <translation>Horas de lámpara</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1910,7 +1923,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Tiempo de filtro</translation>
+        <translation>Horas de filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1993,10 +2006,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Todas las órdenes</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (cualquier código)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Elija, o escriba parte de un nombre o código</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (cualquier código)</translation>
     </message>
 </context>
 <context>
@@ -2223,7 +2236,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Los ajustes de los proyectores en directo: cada valor se lee del proyector y cada cambio se envía al momento.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Control avanzado %1&lt;/h3&gt;&lt;p&gt;Los ajustes de los proyectores en directo: cada valor se lee del proyector y cada cambio se envía al momento.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2254,14 +2267,25 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Control avanzado: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Control avanzado</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2410,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Control avanzado</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2418,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Control avanzado</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2443,10 +2467,6 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source> s</source>
         <translation> s</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
@@ -2519,6 +2539,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dos veces la misma hora: ninguna)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>Should be</source>
         <translation>Debe coincidir con</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>no se puede crear la carpeta %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Preajustes</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Ajustes del preajuste</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Aún no hay preajustes</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Eliminar</translation>
     </message>
 </context>
 <context>
@@ -3137,6 +3228,41 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opciones]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opción desconocida «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opciones desconocidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta el valor después de «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado después de «%1».</translation>
     </message>
 </context>
 <context>
@@ -3736,10 +3862,6 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>Línea %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Columnas sin significado aquí: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exportar tabla</translation>
     </message>
@@ -3767,6 +3889,10 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>%n fila no aceptada</numerusform>
             <numerusform>%n filas no aceptadas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Columnas desconocidas: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ un signo menos delante quita una etiqueta:</numerusform>
             <numerusform>%1 de %n hechos</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, de ellos %n aún en curso</numerusform>
-            <numerusform>, de ellos %n aún en curso</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n fallido</numerusform>
-            <numerusform>, %n fallidos</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Deshacer: %1</translation>
@@ -4023,6 +4133,22 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>
             <numerusform>hecho, no se pudo leer %n ajuste</numerusform>
             <numerusform>hecho, no se pudieron leer %n ajustes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n aún en curso</numerusform>
+            <numerusform>%n aún en curso</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n fallido</numerusform>
+            <numerusform>%n fallidos</numerusform>
         </translation>
     </message>
 </context>

@@ -128,10 +128,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>palauta asetukset projektorin oletusarvoihin</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>tulosta virran tila, tulo, virheet ja käyttötunnit</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>restore saved settings</source>
         <translation>palauta tallennetut asetukset</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>kumoa viimeisin set- tai apply-ajo</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Palauttaa arvot, jotka viimeisin &apos;set&apos; tai &apos;apply&apos; korvasi kaikissa projektoreissaan, tai arvot, jotka RUN korvasi. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tai tiedosto. Myös kumoamisen voi kumota sen nimellä.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -886,10 +874,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>hylätty</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>hyväksytty, mutta %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>ei toteutunut ajoissa, arvo on %1</translation>
     </message>
@@ -1020,6 +1004,35 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>the value before could not be read</source>
         <translation>aiempaa arvoa ei voitu lukea</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>tätä ei voi kumota</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. &apos;acctl undo&apos; palauttaa aiemman tilan. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>kumoa viimeisin ajo, joka muutti asetuksia</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>ajo ei muuttanut yhtäkään näistä projektoreista</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Palauttaa arvot, jotka &apos;set&apos;, &apos;reset&apos; tai &apos;apply&apos; korvasi ajossa. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tiedosto tai &apos;last&apos;; ilman sitä kumotaan viimeisin ajo. Jos P tai --where annetaan, palautetaan vain nämä projektorit, ja ajon loppuosan voi kumota myöhemmin. Myös kumoamisen voi kumota sen nimellä.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>keskeytetty</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>hyväksytty, mutta ei vahvistettu: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +2006,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Kaikki komennot</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (mikä tahansa koodi)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Valitse tai kirjoita osa nimestä tai koodista</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (mikä tahansa koodi)</translation>
     </message>
 </context>
 <context>
@@ -2254,6 +2267,17 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Sulje</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2445,10 +2469,6 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>ei koskaan</translation>
     </message>
@@ -2519,6 +2539,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(kahdesti sama aika: ei lainkaan)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>Should be</source>
         <translation>Tavoite</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kansiota %1 ei voi luoda</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Esiasetukset</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Asetus</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Arvo</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Esiasetuksen asetukset</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Poista</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Esiasetuksia ei vielä ole</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Poista</translation>
     </message>
 </context>
 <context>
@@ -3137,6 +3228,41 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Kansio</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Käyttö: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[valitsimet]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Valitsimet:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Näytä versiotiedot.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Tuntematon valitsin ”%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Tuntemattomat valitsimet: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valitsin ”%1” vaatii arvon.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Odottamaton arvo valitsimen ”%1” jälkeen.</translation>
     </message>
 </context>
 <context>
@@ -3736,10 +3862,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>Rivi %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Sarakkeet, joilla ei ole tässä merkitystä: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Vie taulukko</translation>
     </message>
@@ -3767,6 +3889,10 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>%n rivi jätettiin pois</numerusform>
             <numerusform>%n riviä jätettiin pois</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Tuntemattomat sarakkeet: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ miinus edessä poistaa tunnisteen:</numerusform>
             <numerusform>%1/%n valmis</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, joista %n vielä kesken</numerusform>
-            <numerusform>, joista %n vielä kesken</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n epäonnistui</numerusform>
-            <numerusform>, %n epäonnistui</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Kumoa: %1</translation>
@@ -4023,6 +4133,22 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>
             <numerusform>valmis, %n asetusta ei voitu lukea</numerusform>
             <numerusform>valmis, %n asetusta ei voitu lukea</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n vielä kesken</numerusform>
+            <numerusform>%n vielä kesken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n epäonnistui</numerusform>
+            <numerusform>%n epäonnistui</numerusform>
         </translation>
     </message>
 </context>

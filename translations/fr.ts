@@ -128,10 +128,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>rétablir les réglages standard du projecteur</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Rétablit la valeur standard du projecteur pour des réglages et affiche leur nouvelle valeur. Les compteurs d’heures ne sont remis à zéro que par leur clé exacte, car cela ne peut pas être annulé.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>afficher l’alimentation, l’entrée, les erreurs et les heures</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>restore saved settings</source>
         <translation>restaurer des réglages enregistrés</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>annuler la dernière exécution de set ou apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaure ce que la dernière exécution de «&#xa0;set&#xa0;» ou «&#xa0;apply&#xa0;» a remplacé, sur tous ses projecteurs, ou ce que RUN a remplacé&#xa0;: un nom qu’affiche «&#xa0;acctl undo --list&#xa0;», ou un fichier. Une annulation peut elle-même être annulée par son nom.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -250,7 +238,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue Advanced Control. Les projecteurs sont ceux d’un fichier de profils.</translation>
+        <translation>Lit, modifie, enregistre et restaure les réglages des projecteurs qu’affiche la boîte de dialogue «&#xa0;Commande avancée&#xa0;». Les projecteurs sont ceux d’un fichier de profils.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -886,10 +874,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>refusé</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>accepté, mais %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>pas atteint à temps, la valeur est %1</translation>
     </message>
@@ -1020,6 +1004,35 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>the value before could not be read</source>
         <translation>la valeur précédente n’a pas pu être lue</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>cela ne peut pas être annulé</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Rétablit la valeur standard du projecteur pour des réglages et affiche leur nouvelle valeur. « acctl undo » rétablit l’état précédent. Les compteurs d’heures ne sont remis à zéro que par leur clé exacte, car cela ne peut pas être annulé.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>annuler la dernière exécution qui a modifié des réglages</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>l’exécution n’a modifié aucun de ces projecteurs</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Restaure ce qu’une exécution de « set », « reset » ou « apply » a remplacé. RUN est un nom qu’affiche « acctl undo --list », un fichier ou « last » ; sans RUN, la dernière exécution est annulée. Avec P ou --where, seuls ces projecteurs sont restaurés, et le reste de l’exécution peut être annulé plus tard. Une annulation peut elle-même être annulée par son nom.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrompu</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>accepté, mais non confirmé&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1898,7 +1911,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Durée de lampe</translation>
+        <translation>Durée de la lampe</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1910,7 +1923,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Durée de filtre</translation>
+        <translation>Durée du filtre</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1993,10 +2006,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Toutes les commandes</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (tout code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Choisissez, ou saisissez une partie d’un nom ou d’un code</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1&#xa0;: %2, %3&#xa0;ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (tout code)</translation>
     </message>
 </context>
 <context>
@@ -2223,7 +2236,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct&#xa0;: chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Commande avancée %1&lt;/h3&gt;&lt;p&gt;Les réglages des projecteurs en direct&#xa0;: chaque valeur est lue sur le projecteur, chaque modification est envoyée aussitôt.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2254,14 +2267,25 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Fermer</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control&#xa0;: %1</translation>
+        <translation>Commande avancée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2410,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2418,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Commande avancée</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2443,10 +2467,6 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source> s</source>
         <translation> s</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
@@ -2519,6 +2539,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(deux fois la même heure&#xa0;: aucune)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>Should be</source>
         <translation>Doit correspondre à</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossible de créer le dossier %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Préréglages</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valeur</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Réglages du préréglage</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Aucun préréglage pour l’instant</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Un préréglage ne peut pas s’appeler ainsi&#xa0;: pas de barre oblique, ni de point au début.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Supprimer</translation>
     </message>
 </context>
 <context>
@@ -3137,6 +3228,41 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Dossier</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Usage&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Option inconnue «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Options inconnues&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valeur manquante après «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3736,10 +3862,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colonnes sans signification ici&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exporter un tableau</translation>
     </message>
@@ -3767,6 +3889,10 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>%n ligne non prise en compte</numerusform>
             <numerusform>%n lignes non prises en compte</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colonnes inconnues&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
             <numerusform>%1 sur %n terminés</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, dont %n encore en cours</numerusform>
-            <numerusform>, dont %n encore en cours</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n échec</numerusform>
-            <numerusform>, %n échecs</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Annulation&#xa0;: %1</translation>
@@ -4023,6 +4133,22 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>
             <numerusform>terminé, %n réglage n’a pas pu être lu</numerusform>
             <numerusform>terminé, %n réglages n’ont pas pu être lus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n encore en cours</numerusform>
+            <numerusform>%n encore en cours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n échec</numerusform>
+            <numerusform>%n échecs</numerusform>
         </translation>
     </message>
 </context>

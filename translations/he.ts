@@ -128,10 +128,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>איפוס הגדרות לברירת המחדל של המקרן</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>הצגת הפעלה, קלט, שגיאות ושעות</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>restore saved settings</source>
         <translation>שחזור הגדרות שמורות</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>ביטול ההרצה האחרונה של set או apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>הפקודה משחזרת את מה שההרצה האחרונה של &apos;set&apos; או &apos;apply&apos; החליפה, בכל המקרנים שלה, או את מה ש־RUN החליפה: שם ש־&apos;acctl undo --list&apos; מדפיסה, או קובץ. גם ביטול אפשר לבטל לפי שמו.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -886,10 +874,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>נדחתה</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>התקבלה, אבל %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>לא נכנסה לתוקף בזמן, הערך הוא %1</translation>
     </message>
@@ -1020,6 +1004,35 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>the value before could not be read</source>
         <translation>לא ניתן היה לקרוא את הערך הקודם</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>אי אפשר לבטל את זה</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>הפקודה מאפסת הגדרות לברירת המחדל של המקרן עצמו ומדפיסה את ערכיהן לאחר מכן. &apos;acctl undo&apos; משחזרת את מה שהיה קודם. מוני שעות מתאפסים רק לפי המפתח המדויק שלהם, כי אי אפשר לבטל זאת.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>ביטול ההרצה האחרונה ששינתה הגדרות</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>ההרצה לא שינתה אף אחד מהמקרנים האלה</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>הפקודה משחזרת את מה שהרצה של &apos;set&apos;, &apos;reset&apos; או &apos;apply&apos; החליפה. RUN הוא שם ש־&apos;acctl undo --list&apos; מדפיסה, קובץ או &apos;last&apos;; בלעדיו מבוטלת ההרצה האחרונה. עם P או --where משוחזרים רק המקרנים האלה, ואת שאר ההרצה אפשר לבטל מאוחר יותר. גם ביטול אפשר לבטל לפי שמו.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>הופסק</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>התקבלה, אך לא אושרה: %1</translation>
     </message>
 </context>
 <context>
@@ -1993,10 +2006,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>כל הפקודות</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (כל קוד)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>יש לבחור או להקליד חלק משם או מקוד</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 מ״ש</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (כל קוד)</translation>
     </message>
 </context>
 <context>
@@ -2254,6 +2267,17 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">סגירה</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2445,10 +2469,6 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation> שנ׳</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>אף פעם</translation>
     </message>
@@ -2519,6 +2539,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(אותה שעה פעמיים: ללא)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>Should be</source>
         <translation>רצוי</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>אי אפשר ליצור את התיקייה %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">ערכות</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">הגדרה</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">ערך</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">ההגדרות שבערכה</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">ה&amp;סרה</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">אין עדיין ערכות</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">הסרה</translation>
     </message>
 </context>
 <context>
@@ -3137,6 +3228,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>תיקייה</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>שימוש: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[אפשרויות]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>אפשרויות:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>הצגת פרטי הגרסה.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>האפשרות &quot;%1&quot; אינה מוכרת.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>אפשרויות לא מוכרות: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>חסר ערך אחרי &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>ערך לא צפוי אחרי &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
@@ -3736,10 +3862,6 @@ a minus in front takes a tag away:</source>
         <translation>שורה %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>עמודות שאין להן משמעות כאן: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>ייצוא טבלה</translation>
     </message>
@@ -3767,6 +3889,10 @@ a minus in front takes a tag away:</source>
             <numerusform>שורה אחת לא נקלטה</numerusform>
             <numerusform>%n שורות לא נקלטו</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>עמודות לא מוכרות: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ a minus in front takes a tag away:</source>
             <numerusform>הסתיימו %1 מתוך %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, מהם אחד עדיין בתהליך</numerusform>
-            <numerusform>, מהם %n עדיין בתהליך</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, אחד נכשל</numerusform>
-            <numerusform>, %n נכשלו</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>ביטול: %1</translation>
@@ -4023,6 +4133,22 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>בוצע, לא ניתן היה לקרוא הגדרה אחת</numerusform>
             <numerusform>בוצע, לא ניתן היה לקרוא %n הגדרות</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>אחד עדיין בתהליך</numerusform>
+            <numerusform>%n עדיין בתהליך</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>אחד נכשל</numerusform>
+            <numerusform>%n נכשלו</numerusform>
         </translation>
     </message>
 </context>

@@ -126,10 +126,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>beállítások visszaállítása a projektor alapértékére</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Visszaállítja a beállításokat a projektor saját alapértékére, és kiírja az új értéket. Az óraszámlálókat csak pontos kulcs megadásakor nullázza, mert ez nem vonható vissza.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>tápellátás, bemenet, hibák és üzemórák kiírása</translation>
     </message>
@@ -152,14 +148,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>restore saved settings</source>
         <translation>mentett beállítások visszaállítása</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>az utolsó set vagy apply visszavonása</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Minden érintett projektoron visszaállítja, amit az utolsó „set” vagy „apply” lecserélt, vagy amit a RUN futtatás: ez lehet az „acctl undo --list” által kiírt név vagy egy fájl. A visszavonás is visszavonható a neve alapján.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -867,10 +855,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>elutasítva</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>elfogadva, de %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nem érte el időben, értéke %1</translation>
     </message>
@@ -1001,6 +985,35 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>the value before could not be read</source>
         <translation>a korábbi érték nem volt beolvasható</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>ez nem vonható vissza</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Visszaállítja a beállításokat a projektor saját alapértékére, és kiírja az új értéket. Az „acctl undo” visszaállítja a korábbi állapotot. Az óraszámlálókat csak pontos kulcs megadásakor nullázza, mert ez nem vonható vissza.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>az utolsó beállításokat módosító futtatás visszavonása</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>a futtatás e projektorok egyikét sem módosította</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Visszaállítja, amit a „set”, „reset” vagy „apply” egy futtatása lecserélt. A RUN az „acctl undo --list” által kiírt név, egy fájl vagy „last”; nélküle az utolsó futtatást vonja vissza. P vagy --where megadásakor csak ezeket a projektorokat állítja vissza, és a futtatás többi része később vonható vissza. A visszavonás is visszavonható a neve alapján.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>megszakítva</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>elfogadva, de nincs megerősítve: %1</translation>
     </message>
 </context>
 <context>
@@ -1965,10 +1978,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>Minden parancs</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (bármely kód)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Válasszon, vagy írja be egy név vagy kód részletét</translation>
     </message>
@@ -1980,6 +1989,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (bármely kód)</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2233,17 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Bezárás</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2410,10 +2434,6 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation> mp</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>soha</translation>
     </message>
@@ -2484,6 +2504,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(azonos időpontok: nincs)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2570,6 +2595,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>Should be</source>
         <translation>Elvárt</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2666,72 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>a mappa nem hozható létre: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Előbeállítások</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Beállítás</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Érték</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Az előbeállítás tartalma</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Megszüntetés</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Még nincs előbeállítás</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Eltávolítás</translation>
     </message>
 </context>
 <context>
@@ -3095,6 +3186,41 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Mappa</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Használat: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[kapcsolók]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Kapcsolók:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>A verzió.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Ismeretlen kapcsoló: „%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Ismeretlen kapcsolók: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Hiányzó érték ez után: „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Váratlan érték ez után: „%1”.</translation>
     </message>
 </context>
 <context>
@@ -3689,10 +3815,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>%1. sor: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Itt nem értelmezett oszlopok: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Táblázat exportálása</translation>
     </message>
@@ -3717,6 +3839,10 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>
             <numerusform>%n sor nem lett átvéve</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Ismeretlen oszlopok: %1</translation>
     </message>
 </context>
 <context>
@@ -3910,20 +4036,6 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
             <numerusform>kész: %1 / %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, ebből %n még folyamatban</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n sikertelen</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Visszavonás: %1</translation>
@@ -3960,6 +4072,20 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>kész, %n beállítás nem volt beolvasható</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n még folyamatban</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n sikertelen</numerusform>
         </translation>
     </message>
 </context>

@@ -24,7 +24,7 @@
     <message>
         <source>%1: &apos;%2&apos; is not possible</source>
         <extracomment>An option and its value.</extracomment>
-        <translation>%1: “%2” non è possibile</translation>
+        <translation>%1: «%2» non è possibile</translation>
     </message>
     <message>
         <source>a command is missing; --help lists them</source>
@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>there is no command &apos;%1&apos;; --help lists them</source>
-        <translation>il comando “%1” non esiste; --help li elenca</translation>
+        <translation>il comando «%1» non esiste; --help li elenca</translation>
     </message>
     <message>
         <source>%1 has no such --format</source>
@@ -48,29 +48,29 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not one of: %2</source>
-        <translation>“%1” non è possibile; valori possibili: %2</translation>
+        <translation>«%1» non è possibile; valori possibili: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
-        <translation>“%1” non è un passo come +1 o -1, e PJLink può cambiare questa impostazione solo a passi</translation>
+        <translation>«%1» non è un passo come +1 o -1, e PJLink può cambiare questa impostazione solo a passi</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps</source>
         <translation>
-            <numerusform>“%1” supera %n passo</numerusform>
-            <numerusform>“%1” supera %n passi</numerusform>
+            <numerusform>«%1» supera %n passo</numerusform>
+            <numerusform>«%1» supera %n passi</numerusform>
         </translation>
     </message>
     <message>
         <source>&apos;%1&apos; from %2 is not one of: %3</source>
         <extracomment>A step such as +3, the value that it starts from, and the values that are possible.</extracomment>
-        <translation>“%1” a partire da %2 non è possibile; valori possibili: %3</translation>
+        <translation>«%1» a partire da %2 non è possibile; valori possibili: %3</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos; is more than %n steps from %2</source>
         <translation>
-            <numerusform>“%1” supera %n passo a partire da %2</numerusform>
-            <numerusform>“%1” supera %n passi a partire da %2</numerusform>
+            <numerusform>«%1» supera %n passo a partire da %2</numerusform>
+            <numerusform>«%1» supera %n passi a partire da %2</numerusform>
         </translation>
     </message>
     <message>
@@ -121,15 +121,11 @@
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
         <translation>Cambia impostazioni nell’ordine indicato, le rilegge e mostra il valore prima e dopo. Prima vengono controllate tutte le chiavi e tutti i valori per tutti i proiettori; se un valore è errato per uno di essi, non viene inviato nulla a nessuno. Una chiave che un proiettore non ha viene segnalata e non ferma gli altri.
-KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Nella forma KEY VALUE, +3 e -3 sono passi, e =-3 è un numero negativo. “acctl undo” ripristina ciò che c’era prima, tranne l’alimentazione e i risultati delle azioni.</translation>
+KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Nella forma KEY VALUE, +3 e -3 sono passi, e =-3 è un numero negativo. «acctl undo» ripristina ciò che c’era prima, tranne l’alimentazione e i risultati delle azioni.</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
         <translation>riporta impostazioni allo standard del proiettore</translation>
-    </message>
-    <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
     </message>
     <message>
         <source>print power, input, errors and hours</source>
@@ -145,7 +141,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Saves every setting that can be restored: those of one projector in FILE (&apos;-&apos; is standard output), or those of any number in a folder, a file each. A file that is not a file of settings is not replaced without --force.</source>
-        <translation>Salva tutte le impostazioni che possono essere ripristinate: quelle di un proiettore in FILE (“-” è l’output standard), o quelle di un numero qualsiasi di essi in una cartella, un file ciascuno. Un file che non è un file di impostazioni non viene sostituito senza --force.</translation>
+        <translation>Salva tutte le impostazioni che possono essere ripristinate: quelle di un proiettore in FILE («-» è l’output standard), o quelle di un numero qualsiasi di essi in una cartella, un file ciascuno. Un file che non è un file di impostazioni non viene sostituito senza --force.</translation>
     </message>
     <message>
         <source>compare with saved settings</source>
@@ -154,14 +150,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>restore saved settings</source>
         <translation>ripristina impostazioni salvate</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>annulla l’ultima esecuzione di set o apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Ripristina ciò che l’ultima esecuzione di “set” o “apply” ha sostituito, su tutti i suoi proiettori, o ciò che RUN ha sostituito: un nome mostrato da “acctl undo --list”, o un file. Anche un annullamento può essere annullato con il suo nome.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -185,7 +173,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Adds the rows of comma-separated values (&apos;-&apos; is standard input) to the profile file that --profiles or ACCTL_PROFILES names, and changes those that it has.</source>
-        <translation>Aggiunge le righe di valori separati da virgole (“-” è l’input standard) al file dei profili indicato da --profiles o ACCTL_PROFILES, e cambia i proiettori che già contiene.</translation>
+        <translation>Aggiunge le righe di valori separati da virgole («-» è l’input standard) al file dei profili indicato da --profiles o ACCTL_PROFILES, e cambia i proiettori che già contiene.</translation>
     </message>
     <message>
         <source>print projectors as a table</source>
@@ -246,15 +234,15 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>text &quot;%1&quot; is not that of value %2, which is &quot;%3&quot;; change both, or remove the text</source>
-        <translation>il testo “%1” non è quello del valore %2, che è “%3”; cambiare entrambi o rimuovere il testo</translation>
+        <translation>il testo «%1» non è quello del valore %2, che è «%3»; cambiare entrambi o rimuovere il testo</translation>
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Legge, cambia, salva e ripristina le impostazioni dei proiettori mostrate dalla finestra di dialogo Advanced Control. I proiettori sono quelli di un file di profili.</translation>
+        <translation>Legge, cambia, salva e ripristina le impostazioni dei proiettori mostrate dalla finestra di dialogo «Controllo avanzato». I proiettori sono quelli di un file di profili.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
-        <translation>P seleziona i proiettori: un nome, un modello di nome come “Lecture*”, @TAG o model=PATTERN. Più d’uno si separano con virgole, e !P esclude proiettori. KEY è la chiave di un’impostazione, un modello come “picture.*”, o un nome breve come brightness, input o power, uguale per tutti i modelli. VALUE è un numero come lo mostra la finestra di dialogo, il testo di una voce in una qualsiasi delle sue lingue, o il suo codice.</translation>
+        <translation>P seleziona i proiettori: un nome, un modello di nome come «Lecture*», @TAG o model=PATTERN. Più d’uno si separano con virgole, e !P esclude proiettori. KEY è la chiave di un’impostazione, un modello come «picture.*», o un nome breve come brightness, input o power, uguale per tutti i modelli. VALUE è un numero come lo mostra la finestra di dialogo, il testo di una voce in una qualsiasi delle sue lingue, o il suo codice.</translation>
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
@@ -291,7 +279,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
-        <translation>Opzioni di tutti i comandi; “acctl help COMMAND” elenca quelle di un comando, con esempi</translation>
+        <translation>Opzioni di tutti i comandi; «acctl help COMMAND» elenca quelle di un comando, con esempi</translation>
     </message>
     <message>
         <source>Examples</source>
@@ -382,7 +370,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>only projectors in this state, such as &apos;power=on lamp-hours&gt;1500&apos;</source>
-        <translation>solo i proiettori in questo stato, ad esempio “power=on lamp-hours&gt;1500”</translation>
+        <translation>solo i proiettori in questo stato, ad esempio «power=on lamp-hours&gt;1500»</translation>
     </message>
     <message>
         <source>the projector is at ADDRESS; P gives only its model</source>
@@ -422,7 +410,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>take KEY=VALUE lines from FILE (&apos;-&apos; is standard input)</source>
-        <translation>prendi righe KEY=VALUE da FILE (“-” è l’input standard)</translation>
+        <translation>prendi righe KEY=VALUE da FILE («-» è l’input standard)</translation>
     </message>
     <message>
         <source>save each projector in a file of its own in DIR</source>
@@ -506,11 +494,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&apos;%1&apos; is not possible</source>
-        <translation>“%1” non è possibile</translation>
+        <translation>«%1» non è possibile</translation>
     </message>
     <message>
         <source>&apos;=&apos; is missing</source>
-        <translation>manca “=”</translation>
+        <translation>manca «=»</translation>
     </message>
     <message>
         <source>there is no setting %1</source>
@@ -557,7 +545,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>%1: &apos;%2&apos; is not KEY=VALUE</source>
-        <translation>%1: “%2” non è KEY=VALUE</translation>
+        <translation>%1: «%2» non è KEY=VALUE</translation>
     </message>
     <message>
         <source>%1: has no KEY=VALUE</source>
@@ -765,7 +753,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>%1: there is no projector &apos;%2&apos;</source>
-        <translation>%1: il proiettore “%2” non esiste</translation>
+        <translation>%1: il proiettore «%2» non esiste</translation>
     </message>
     <message>
         <source>%1: %2 is also of %3</source>
@@ -810,7 +798,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>there is no run &apos;%1&apos;; --list shows them</source>
-        <translation>l’esecuzione “%1” non esiste; --list le elenca</translation>
+        <translation>l’esecuzione «%1» non esiste; --list le elenca</translation>
     </message>
     <message>
         <source>%1: is no longer in the profile file</source>
@@ -833,7 +821,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;; acctl list shows all</source>
-        <translation>il proiettore “%1” non esiste; acctl list li elenca tutti</translation>
+        <translation>il proiettore «%1» non esiste; acctl list li elenca tutti</translation>
     </message>
     <message>
         <source>refused, the projector is in standby</source>
@@ -884,10 +872,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>refused</source>
         <translation>rifiutata</translation>
-    </message>
-    <message>
-        <source>accepted, but %1</source>
-        <translation>accettata, ma %1</translation>
     </message>
     <message>
         <source>not so in time, it is %1</source>
@@ -1003,15 +987,15 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>--until: &apos;%1&apos; is not KEY=VALUE</source>
-        <translation>--until: “%1” non è KEY=VALUE</translation>
+        <translation>--until: «%1» non è KEY=VALUE</translation>
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation>Mostra ciò che differisce da un file (“-” è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella.</translation>
+        <translation>Mostra ciò che differisce da un file («-» è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella.</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Legge i proiettori, invia ciò che differisce dal file (“-” è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché “acctl undo” possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
+        <translation>Legge i proiettori, invia ciò che differisce dal file («-» è l’input standard), da una preimpostazione dell’applicazione grafica o dal file di ciascun proiettore in una cartella, e lo rilegge. Ciò che viene sostituito è prima conservato, perché «acctl undo» possa ripristinarlo. Un’esecuzione interrotta può essere ripetuta in qualsiasi momento.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
@@ -1020,6 +1004,35 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>the value before could not be read</source>
         <translation>non è stato possibile leggere il valore precedente</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>questo non può essere annullato</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Riporta impostazioni allo standard del proiettore stesso e mostra il nuovo valore. “acctl undo” ripristina ciò che c’era prima. I contatori di ore si azzerano solo con la loro chiave esatta, perché ciò non può essere annullato.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>annulla l’ultima esecuzione che ha modificato impostazioni</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>l’esecuzione non ha modificato nessuno di questi proiettori</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Ripristina ciò che un’esecuzione di “set”, “reset” o “apply” ha sostituito. RUN è un nome mostrato da “acctl undo --list”, un file o “last”; senza RUN viene annullata l’ultima esecuzione. Con P o --where vengono ripristinati solo questi proiettori, e il resto dell’esecuzione può essere annullato in seguito. Anche un annullamento può essere annullato con il suo nome.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrotto</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>accettata, ma non confermata: %1</translation>
     </message>
 </context>
 <context>
@@ -1132,7 +1145,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Serve metrics at &lt;address:port&gt;; &apos;none&apos; for nowhere.</source>
-        <translation>Offri le metriche a &lt;indirizzo:porta&gt;; “none” per nessun indirizzo.</translation>
+        <translation>Offri le metriche a &lt;indirizzo:porta&gt;; «none» per nessun indirizzo.</translation>
     </message>
     <message>
         <source>address:port</source>
@@ -1192,7 +1205,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>The first level of discovery topics; &apos;none&apos; for no discovery.</source>
-        <translation>Il primo livello degli argomenti di rilevamento; “none” per nessun rilevamento.</translation>
+        <translation>Il primo livello degli argomenti di rilevamento; «none» per nessun rilevamento.</translation>
     </message>
     <message>
         <source>Take the share of a bridge that has said nothing for &lt;seconds&gt;.</source>
@@ -1200,7 +1213,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Settings that may be commanded: keys or patterns, separated by commas; &apos;power&apos; is the power. Without it nothing may be.</source>
-        <translation>Impostazioni che possono essere comandate: chiavi o modelli di chiavi, separati da virgole; “power” è l’alimentazione. Senza questa opzione, nessuna.</translation>
+        <translation>Impostazioni che possono essere comandate: chiavi o modelli di chiavi, separati da virgole; «power» è l’alimentazione. Senza questa opzione, nessuna.</translation>
     </message>
     <message>
         <source>keys</source>
@@ -1224,19 +1237,19 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
-        <translation>“%1” non è un tempo da %2 secondi a un giorno</translation>
+        <translation>«%1» non è un tempo da %2 secondi a un giorno</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no topic</source>
-        <translation>“%1” non è un argomento</translation>
+        <translation>«%1» non è un argomento</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no share such as 2/5</source>
-        <translation>“%1” non è una parte come 2/5</translation>
+        <translation>«%1» non è una parte come 2/5</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address with a port</source>
-        <translation>“%1” non è un indirizzo numerico con porta</translation>
+        <translation>«%1» non è un indirizzo numerico con porta</translation>
     </message>
     <message>
         <source>cannot read %1: %2</source>
@@ -1252,11 +1265,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&apos;%1&apos; is no host with a port</source>
-        <translation>“%1” non è un host con porta</translation>
+        <translation>«%1» non è un host con porta</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither 3 nor 5</source>
-        <translation>“%1” non è né 3 né 5</translation>
+        <translation>«%1» non è né 3 né 5</translation>
     </message>
     <message>
         <source>--cert-file and --key-file need each other</source>
@@ -1264,11 +1277,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
-        <translation>--allow-commands: “%1” non è un’impostazione che può essere comandata</translation>
+        <translation>--allow-commands: «%1» non è un’impostazione che può essere comandata</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from 1 to %2</source>
-        <translation>“%1” non è un numero da 1 a %2</translation>
+        <translation>«%1» non è un numero da 1 a %2</translation>
     </message>
     <message>
         <source>Watches projectors, and tells a metrics store and a message broker of them.</source>
@@ -1276,7 +1289,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>unexpected argument &apos;%1&apos;</source>
-        <translation>argomento inatteso “%1”</translation>
+        <translation>argomento inatteso «%1»</translation>
     </message>
     <message>
         <source>--profiles is missing</source>
@@ -1284,22 +1297,22 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&apos;%1&apos; is no numeric address</source>
-        <translation>“%1” non è un indirizzo numerico</translation>
+        <translation>«%1» non è un indirizzo numerico</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no folder</source>
-        <translation>“%1” non è una cartella</translation>
+        <translation>«%1» non è una cartella</translation>
     </message>
     <message>
         <source>there are no texts in &apos;%1&apos;</source>
-        <translation>non ci sono testi in “%1”</translation>
+        <translation>non ci sono testi in «%1»</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>Unexpected &apos;=&apos; in &apos;%1&apos;.</source>
-        <translation>“=” inatteso in “%1”.</translation>
+        <translation>«=» inatteso in «%1».</translation>
     </message>
     <message>
         <source>--%1 needs a value.</source>
@@ -1355,11 +1368,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>--language: there are no texts in &apos;%1&apos;.</source>
-        <translation>--language: non ci sono testi in “%1”.</translation>
+        <translation>--language: non ci sono testi in «%1».</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>Argomento inatteso “%1”.</translation>
+        <translation>Argomento inatteso «%1».</translation>
     </message>
     <message>
         <source>Only one of --list, --tour and --open can be given.</source>
@@ -1371,7 +1384,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>--tab: &apos;%1&apos; is not a number.</source>
-        <translation>--tab: “%1” non è un numero.</translation>
+        <translation>--tab: «%1» non è un numero.</translation>
     </message>
 </context>
 <context>
@@ -1898,7 +1911,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Ore lampada</translation>
+        <translation>Ore della lampada</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1910,7 +1923,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Ore filtro</translation>
+        <translation>Ore del filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1993,10 +2006,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Tutti i comandi</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (qualsiasi codice)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Scegliere o digitare parte di un nome o di un codice</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (qualsiasi codice)</translation>
     </message>
 </context>
 <context>
@@ -2203,7 +2216,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Trova un’impostazione</translation>
+        <translation>Cerca un’impostazione</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -2223,7 +2236,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Le impostazioni dei proiettori dal vivo: ogni valore è letto dal proiettore, ogni modifica è inviata subito.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Controllo avanzato %1&lt;/h3&gt;&lt;p&gt;Le impostazioni dei proiettori dal vivo: ogni valore è letto dal proiettore, ogni modifica è inviata subito.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2254,14 +2267,25 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Controllo avanzato: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controllo avanzato</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2410,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controllo avanzato</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2418,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Controllo avanzato</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2443,10 +2467,6 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source> s</source>
         <translation> s</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
@@ -2519,6 +2539,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(due orari uguali: nessuna)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>Should be</source>
         <translation>Valore voluto</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>impossibile creare la cartella %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Preimpostazioni</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valore</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Impostazioni della preimpostazione</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Ancora nessuna preimpostazione</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Rimuovi</translation>
     </message>
 </context>
 <context>
@@ -2724,7 +2815,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>Remove &quot;%1&quot; from %2?</source>
-        <translation>Rimuovere “%1” da %2?</translation>
+        <translation>Rimuovere «%1» da %2?</translation>
     </message>
     <message numerus="yes">
         <source>Remove %n projectors from %1?</source>
@@ -2756,27 +2847,27 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <name>ProfileCsv</name>
     <message>
         <source>&quot;%1&quot; is no MAC number</source>
-        <translation>“%1” non è un indirizzo MAC</translation>
+        <translation>«%1» non è un indirizzo MAC</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no link</source>
-        <translation>“%1” non è un tipo di collegamento</translation>
+        <translation>«%1» non è un tipo di collegamento</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector, with the identity %2</source>
-        <translation>“%1” è il nome di un altro proiettore, con identità %2</translation>
+        <translation>«%1» è il nome di un altro proiettore, con identità %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no number of hours</source>
-        <translation>“%1” non è un numero di ore</translation>
+        <translation>«%1» non è un numero di ore</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the name of another projector</source>
-        <translation>“%1” è il nome di un altro proiettore</translation>
+        <translation>«%1» è il nome di un altro proiettore</translation>
     </message>
     <message>
         <source>the header has no column &quot;name&quot;</source>
-        <translation>l’intestazione non ha la colonna “name”</translation>
+        <translation>l’intestazione non ha la colonna «name»</translation>
     </message>
 </context>
 <context>
@@ -2829,19 +2920,19 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>makes &quot;%1&quot; like itself</source>
-        <translation>rende “%1” uguale a sé stessa</translation>
+        <translation>rende «%1» uguale a sé stessa</translation>
     </message>
     <message>
         <source>there is no family &quot;%1&quot;</source>
-        <translation>la famiglia “%1” non esiste</translation>
+        <translation>la famiglia «%1» non esiste</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is missing</source>
-        <translation>manca “%1”</translation>
+        <translation>manca «%1»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is the %2 of projectors[%3] too</source>
-        <translation>“%1” è anche %2 di projectors[%3]</translation>
+        <translation>«%1» è anche %2 di projectors[%3]</translation>
     </message>
     <message>
         <source>the file must hold an object</source>
@@ -2849,7 +2940,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>&quot;projectors&quot; is missing</source>
-        <translation>manca “projectors”</translation>
+        <translation>manca «projectors»</translation>
     </message>
     <message>
         <source>there is no projector</source>
@@ -2873,7 +2964,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>must be given by its name &quot;%1&quot;</source>
-        <translation>va indicato con il nome “%1”</translation>
+        <translation>va indicato con il nome «%1»</translation>
     </message>
     <message>
         <source>must be [minimum, maximum] or null</source>
@@ -2917,7 +3008,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>must be a number, a text or an object with &quot;value&quot; and &quot;name&quot;</source>
-        <translation>deve essere un numero, un testo o un oggetto con “value” e “name”</translation>
+        <translation>deve essere un numero, un testo o un oggetto con «value» e «name»</translation>
     </message>
     <message>
         <source>must be a path that begins with /</source>
@@ -2929,7 +3020,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>must have either &quot;network&quot; or &quot;serial&quot;</source>
-        <translation>deve avere “network” oppure “serial”</translation>
+        <translation>deve avere «network» oppure «serial»</translation>
     </message>
     <message>
         <source>must be simulated, network, serial or pjlink</source>
@@ -2941,7 +3032,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation>l’impostazione “%1” non esiste</translation>
+        <translation>l’impostazione «%1» non esiste</translation>
     </message>
 </context>
 <context>
@@ -3037,11 +3128,11 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>--open: there is no projector &apos;%1&apos;; --list names all.</source>
-        <translation>--open: il proiettore “%1” non esiste; --list li elenca tutti.</translation>
+        <translation>--open: il proiettore «%1» non esiste; --list li elenca tutti.</translation>
     </message>
     <message>
         <source>--tab: there is no tab %1; &apos;%2&apos; has tabs 0 to %3.</source>
-        <translation>--tab: la scheda %1 non esiste; “%2” ha le schede da 0 a %3.</translation>
+        <translation>--tab: la scheda %1 non esiste; «%2» ha le schede da 0 a %3.</translation>
     </message>
     <message>
         <source>no display; use --list, --tour or --screenshot without one.</source>
@@ -3140,10 +3231,45 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opzioni]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostra le informazioni sulla versione.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opzione sconosciuta «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opzioni sconosciute: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Manca il valore dopo «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valore inatteso dopo «%1».</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
-        <translation>“%1” non è né un indirizzo IP né un intervallo di indirizzi</translation>
+        <translation>«%1» non è né un indirizzo IP né un intervallo di indirizzi</translation>
     </message>
     <message>
         <source>more than %1 addresses</source>
@@ -3317,22 +3443,22 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
-        <translation>il proiettore “%1” non esiste</translation>
+        <translation>il proiettore «%1» non esiste</translation>
     </message>
 </context>
 <context>
     <name>SimulatorArguments</name>
     <message>
         <source>&apos;%1&apos; is no port.</source>
-        <translation>“%1” non è una porta.</translation>
+        <translation>«%1» non è una porta.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no number from %2 to %3.</source>
-        <translation>“%1” non è un numero da %2 a %3.</translation>
+        <translation>«%1» non è un numero da %2 a %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no time up to an hour.</source>
-        <translation>“%1” non è un tempo fino a un’ora.</translation>
+        <translation>«%1» non è un tempo fino a un’ora.</translation>
     </message>
     <message>
         <source>Display this help.</source>
@@ -3384,7 +3510,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>Begin with a fault: %1. Of a share of the projectors: &apos;silent 5%&apos;. May be given several times.</source>
-        <translation>Inizia con un guasto: %1. Per una parte dei proiettori: “silent 5%”. Può essere ripetuto.</translation>
+        <translation>Inizia con un guasto: %1. Per una parte dei proiettori: «silent 5%». Può essere ripetuto.</translation>
     </message>
     <message>
         <source>fault</source>
@@ -3448,11 +3574,11 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>Serves simulated projectors over TCP, PJLink and pseudo terminals. Prints an address a line, then &quot;ready&quot;.</source>
-        <translation>Serve proiettori simulati via TCP, PJLink e pseudoterminali. Mostra un indirizzo per riga, poi “ready”.</translation>
+        <translation>Serve proiettori simulati via TCP, PJLink e pseudoterminali. Mostra un indirizzo per riga, poi «ready».</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>Argomento inatteso “%1”.</translation>
+        <translation>Argomento inatteso «%1».</translation>
     </message>
     <message>
         <source>--%1 needs --fleet.</source>
@@ -3460,7 +3586,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>&apos;%1&apos; is no address.</source>
-        <translation>“%1” non è un indirizzo.</translation>
+        <translation>«%1» non è un indirizzo.</translation>
     </message>
     <message>
         <source>--password: is longer than %1 bytes.</source>
@@ -3468,7 +3594,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>--fault: &apos;%1&apos; is none of %2.</source>
-        <translation>--fault: “%1” non è nessuno di %2.</translation>
+        <translation>--fault: «%1» non è nessuno di %2.</translation>
     </message>
     <message>
         <source>--fleet has no serial lines.</source>
@@ -3476,23 +3602,23 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address.</source>
-        <translation>“%1” non è un indirizzo IPv4 di loopback.</translation>
+        <translation>«%1» non è un indirizzo IPv4 di loopback.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves too few addresses.</source>
-        <translation>“%1” lascia troppo pochi indirizzi.</translation>
+        <translation>«%1» lascia troppo pochi indirizzi.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; leaves none for PJLink.</source>
-        <translation>“%1” non lascia porte per PJLink.</translation>
+        <translation>«%1» non lascia porte per PJLink.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
-        <translation>“%1” non è un indirizzo IPv4 di loopback con porta.</translation>
+        <translation>«%1» non è un indirizzo IPv4 di loopback con porta.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of pjlink, network and mixed.</source>
-        <translation>“%1” non è né pjlink né network né mixed.</translation>
+        <translation>«%1» non è né pjlink né network né mixed.</translation>
     </message>
 </context>
 <context>
@@ -3531,7 +3657,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     </message>
     <message>
         <source>&quot;%1&quot; stands here twice</source>
-        <translation>“%1” compare qui due volte</translation>
+        <translation>«%1» compare qui due volte</translation>
     </message>
     <message>
         <source>is larger than 4 MiB</source>
@@ -3736,10 +3862,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>Riga %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colonne qui senza significato: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Esporta tabella</translation>
     </message>
@@ -3767,6 +3889,10 @@ un segno meno davanti toglie un’etichetta:</numerusform>
             <numerusform>%n riga non importata</numerusform>
             <numerusform>%n righe non importate</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colonne sconosciute: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ un segno meno davanti toglie un’etichetta:</numerusform>
             <numerusform>%1 di %n completati</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, di cui %n ancora in corso</numerusform>
-            <numerusform>, di cui %n ancora in corso</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n non riuscito</numerusform>
-            <numerusform>, %n non riusciti</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Annullamento: %1</translation>
@@ -4023,6 +4133,22 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>
             <numerusform>completato, non è stato possibile leggere %n impostazione</numerusform>
             <numerusform>completato, non è stato possibile leggere %n impostazioni</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ancora in corso</numerusform>
+            <numerusform>%n ancora in corso</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n non riuscito</numerusform>
+            <numerusform>%n non riusciti</numerusform>
         </translation>
     </message>
 </context>

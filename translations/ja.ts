@@ -126,10 +126,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>設定をプロジェクターの標準値にリセット</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>設定をプロジェクター自身の標準値にリセットし、リセット後の値を表示します。使用時間のカウンターは元に戻せないため、キーを正確に指定した場合にのみリセットされます。</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>電源、入力、エラー、使用時間を表示</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>restore saved settings</source>
         <translation>保存した設定を復元</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>最後の set または apply を元に戻す</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>最後に実行した「set」または「apply」が置き換えた値を、その対象の全プロジェクターで復元します。RUN を指定すると、その実行が置き換えた値を復元します。RUN は「acctl undo --list」で表示される名前、またはファイルです。元に戻す操作自体も、名前を指定して元に戻せます。</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -867,10 +855,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>拒否されました</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>受け付けられましたが、%1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>時間内に反映されませんでした (現在の値: %1)</translation>
     </message>
@@ -1001,6 +985,35 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>the value before could not be read</source>
         <translation>変更前の値を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>元に戻せません</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>設定をプロジェクター自身の標準値にリセットし、リセット後の値を表示します。「acctl undo」でリセット前の値に戻せます。使用時間のカウンターは元に戻せないため、キーを正確に指定した場合にのみリセットされます。</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>設定を変更した最後の実行を元に戻す</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>この実行ではこれらのプロジェクターは変更されていません</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>「set」、「reset」または「apply」の実行が置き換えた値を復元します。RUN は「acctl undo --list」で表示される名前、ファイル、または「last」です。省略すると最後の実行を元に戻します。P または --where を指定すると、そのプロジェクターだけを復元し、残りは後で元に戻せます。元に戻す操作自体も、名前を指定して元に戻せます。</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>中断しました</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>受け付けられましたが、確認できません: %1</translation>
     </message>
 </context>
 <context>
@@ -1870,7 +1883,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>ランプ時間</translation>
+        <translation>ランプ使用時間</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1882,7 +1895,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>Filter time</source>
-        <translation>フィルター時間</translation>
+        <translation>フィルター使用時間</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1965,10 +1978,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>すべてのコマンド</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (すべてのコード)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>選択するか、名前またはコードの一部を入力</translation>
     </message>
@@ -1980,6 +1989,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2、%3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (すべてのコード)</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2233,17 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">閉じる</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2410,10 +2434,6 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation> 秒</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>通知しない</translation>
     </message>
@@ -2484,6 +2504,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(同じ時刻にすると停止なし)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2570,6 +2595,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>Should be</source>
         <translation>基準</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2666,72 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>フォルダー %1 を作成できません</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">プリセット</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">値</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">プリセットの設定</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">解除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">プリセットはまだありません</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">この名前はプリセットに使用できません。スラッシュと先頭のピリオドを除いてください。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">削除</translation>
     </message>
 </context>
 <context>
@@ -3095,6 +3186,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>フォルダー</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>使い方: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[オプション]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>オプション:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>バージョン情報を表示します。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>不明なオプション「%1」です。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>不明なオプション: %1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>「%1」の後に値がありません。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>「%1」の後の値は不要です。</translation>
     </message>
 </context>
 <context>
@@ -3689,10 +3815,6 @@ a minus in front takes a tag away:</source>
         <translation>%1 行目: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>使用されない列: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>表のエクスポート</translation>
     </message>
@@ -3717,6 +3839,10 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>取り込めない行 %n 行</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>不明な列: %1</translation>
     </message>
 </context>
 <context>
@@ -3910,20 +4036,6 @@ a minus in front takes a tag away:</source>
             <numerusform>%n 台中 %1 台が完了</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>、うち %n 台は反映待ち</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>、%n 台が失敗</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>元に戻す: %1</translation>
@@ -3960,6 +4072,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完了、%n 件の設定は読み取れませんでした</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台は反映待ち</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台が失敗</numerusform>
         </translation>
     </message>
 </context>

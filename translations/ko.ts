@@ -126,10 +126,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>설정을 프로젝터 표준값으로 초기화</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>설정을 프로젝터 자체의 표준값으로 초기화하고 그 결과를 표시합니다. 사용 시간은 되돌릴 수 없으므로 키를 정확히 지정한 경우에만 초기화합니다.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>전원, 입력, 오류, 사용 시간 표시</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>restore saved settings</source>
         <translation>저장한 설정 복원</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>마지막 set 또는 apply 실행 취소</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>마지막 ‘set’ 또는 ‘apply’가 바꾼 값을 해당하는 모든 프로젝터에서 복원합니다. RUN을 지정하면 그 실행이 바꾼 값을 복원합니다. RUN은 ‘acctl undo --list’가 표시하는 이름 또는 파일입니다. 실행 취소도 이름을 지정하여 다시 취소할 수 있습니다.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -867,10 +855,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>거부됨</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>승인되었지만 %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>제시간에 적용되지 않음, 현재 값: %1</translation>
     </message>
@@ -1001,6 +985,35 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>the value before could not be read</source>
         <translation>이전 값을 읽을 수 없었음</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>되돌릴 수 없음</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>설정을 프로젝터 자체의 표준값으로 초기화하고 그 결과를 표시합니다. ‘acctl undo’로 이전 값을 복원할 수 있습니다. 사용 시간은 되돌릴 수 없으므로 키를 정확히 지정한 경우에만 초기화합니다.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>설정을 바꾼 마지막 실행 취소</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>이 실행은 이 프로젝터들을 변경하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>‘set’, ‘reset’ 또는 ‘apply’ 실행이 바꾼 값을 복원합니다. RUN은 ‘acctl undo --list’가 표시하는 이름, 파일 또는 ‘last’이며, 생략하면 마지막 실행을 취소합니다. P 또는 --where를 지정하면 해당 프로젝터만 복원하고 나머지는 나중에 취소할 수 있습니다. 실행 취소도 이름을 지정하여 다시 취소할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>승인되었지만 확인되지 않음: %1</translation>
     </message>
 </context>
 <context>
@@ -1870,7 +1883,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>램프 시간</translation>
+        <translation>램프 사용 시간</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1882,7 +1895,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>Filter time</source>
-        <translation>필터 시간</translation>
+        <translation>필터 사용 시간</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1965,10 +1978,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>모든 명령</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (모든 코드)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>선택하거나 이름 또는 코드의 일부 입력</translation>
     </message>
@@ -1980,6 +1989,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (모든 코드)</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2233,17 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">닫기</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2410,10 +2434,6 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation> 초</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>사용 안 함</translation>
     </message>
@@ -2484,6 +2504,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(두 시각이 같으면 사용 안 함)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2570,6 +2595,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>Should be</source>
         <translation>기준</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2666,72 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">프리셋</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">설정</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">값</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">프리셋의 설정</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">제거(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">프리셋이 아직 없음</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">제거</translation>
     </message>
 </context>
 <context>
@@ -3095,6 +3186,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>폴더</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>사용법: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[옵션]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>옵션:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>버전 정보를 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>알 수 없는 옵션 ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>알 수 없는 옵션: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>‘%1’ 다음에 값이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>‘%1’ 다음에 예상하지 못한 값이 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -3689,10 +3815,6 @@ a minus in front takes a tag away:</source>
         <translation>%1번째 줄: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>사용되지 않는 열: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>표 내보내기</translation>
     </message>
@@ -3717,6 +3839,10 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>가져오지 못한 행 %n개</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>알 수 없는 열: %1</translation>
     </message>
 </context>
 <context>
@@ -3910,20 +4036,6 @@ a minus in front takes a tag away:</source>
             <numerusform>%n대 중 %1대 완료</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, 그중 %n대 진행 중</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n대 실패</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>실행 취소: %1</translation>
@@ -3960,6 +4072,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>완료, 설정 %n개를 읽을 수 없었음</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n대 진행 중</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n대 실패</numerusform>
         </translation>
     </message>
 </context>

@@ -128,10 +128,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>instellingen terugzetten op de standaard van de projector</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Zet instellingen terug op de eigen standaard van de projector en toont wat ze daarna zijn. Urentellers worden alleen met hun exacte sleutel op nul gezet, omdat dit niet ongedaan gemaakt kan worden.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>voeding, ingang, fouten en uren tonen</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>restore saved settings</source>
         <translation>opgeslagen instellingen herstellen</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>de laatste uitvoering van set of apply ongedaan maken</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Herstelt wat de laatste uitvoering van ‘set’ of ‘apply’ heeft vervangen, op alle betrokken projectors, of wat RUN heeft vervangen: een naam die ‘acctl undo --list’ toont, of een bestand. Ook dit kan met zijn naam weer ongedaan gemaakt worden.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -250,7 +238,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Leest, wijzigt, bewaart en herstelt de instellingen van projectors die het dialoogvenster Advanced Control toont. De projectors zijn die van een profielbestand.</translation>
+        <translation>Leest, wijzigt, bewaart en herstelt de instellingen van projectors die het dialoogvenster ‘Geavanceerde bediening’ toont. De projectors zijn die van een profielbestand.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -258,7 +246,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Done. Also if a projector in standby could not report everything, or accepted a change that has not taken effect yet.</source>
-        <translation>Klaar. Ook als een projector in stand-by niet alles kon melden, of een wijziging heeft aanvaard die nog niet van kracht is.</translation>
+        <translation>Klaar. Ook als een projector in stand-by niet alles kon melden, of een wijziging heeft geaccepteerd die nog niet van kracht is.</translation>
     </message>
     <message>
         <source>Something was refused, a projector lacks a setting that was named, or a file or the output could not be read or written.</source>
@@ -645,7 +633,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>accepted, but not so yet</source>
-        <translation>aanvaard, maar nog niet van kracht</translation>
+        <translation>geaccepteerd, maar nog niet van kracht</translation>
     </message>
     <message numerus="yes">
         <source>%n refused</source>
@@ -697,7 +685,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>skipped, this model does not take it</source>
-        <translation>overgeslagen, dit model aanvaardt de waarde niet</translation>
+        <translation>overgeslagen, dit model accepteert de waarde niet</translation>
     </message>
     <message>
         <source>stopped at %1</source>
@@ -858,20 +846,20 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message numerus="yes">
         <source>stopped, %1 of %n steps accepted</source>
         <translation>
-            <numerusform>gestopt, %1 van %n stap aanvaard</numerusform>
-            <numerusform>gestopt, %1 van %n stappen aanvaard</numerusform>
+            <numerusform>gestopt, %1 van %n stap geaccepteerd</numerusform>
+            <numerusform>gestopt, %1 van %n stappen geaccepteerd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1; %2 of %n steps accepted</source>
         <translation>
-            <numerusform>%1; %2 van %n stap aanvaard</numerusform>
-            <numerusform>%1; %2 van %n stappen aanvaard</numerusform>
+            <numerusform>%1; %2 van %n stap geaccepteerd</numerusform>
+            <numerusform>%1; %2 van %n stappen geaccepteerd</numerusform>
         </translation>
     </message>
     <message>
         <source>accepted, but not so yet, it is %1</source>
-        <translation>aanvaard, maar nog niet van kracht, de waarde is %1</translation>
+        <translation>geaccepteerd, maar nog niet van kracht, de waarde is %1</translation>
     </message>
     <message>
         <source>%1, it may have been changed, it is %2</source>
@@ -884,10 +872,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>refused</source>
         <translation>geweigerd</translation>
-    </message>
-    <message>
-        <source>accepted, but %1</source>
-        <translation>aanvaard, maar %1</translation>
     </message>
     <message>
         <source>not so in time, it is %1</source>
@@ -1020,6 +1004,35 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>the value before could not be read</source>
         <translation>de vorige waarde kon niet gelezen worden</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>dit kan niet ongedaan gemaakt worden</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Zet instellingen terug op de eigen standaard van de projector en toont wat ze daarna zijn. ‘acctl undo’ herstelt wat er eerst was. Urentellers worden alleen met hun exacte sleutel op nul gezet, omdat dit niet ongedaan gemaakt kan worden.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>de laatste uitvoering die instellingen heeft gewijzigd ongedaan maken</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>de uitvoering heeft geen van deze projectors gewijzigd</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Herstelt wat een uitvoering van ‘set’, ‘reset’ of ‘apply’ heeft vervangen. RUN is een naam die ‘acctl undo --list’ toont, een bestand of ‘last’; zonder RUN wordt de laatste uitvoering ongedaan gemaakt. Met P of --where worden alleen deze projectors hersteld, en de rest van de uitvoering kan later ongedaan gemaakt worden. Ook dit kan met zijn naam weer ongedaan gemaakt worden.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>afgebroken</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>geaccepteerd, maar niet bevestigd: %1</translation>
     </message>
 </context>
 <context>
@@ -1208,7 +1221,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Commands that each projector takes in a minute.</source>
-        <translation>Opdrachten die elke projector per minuut aanvaardt.</translation>
+        <translation>Opdrachten die elke projector per minuut accepteert.</translation>
     </message>
     <message>
         <source>n</source>
@@ -1993,10 +2006,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Alle opdrachten</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (elke code)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Kies, of typ een deel van een naam of code</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (elke code)</translation>
     </message>
 </context>
 <context>
@@ -2203,7 +2216,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Een instelling zoeken</translation>
+        <translation>Instelling zoeken</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -2223,7 +2236,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;De instellingen van projectors, live: elke waarde wordt van de projector gelezen, elke wijziging wordt meteen gestuurd.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Geavanceerde bediening %1&lt;/h3&gt;&lt;p&gt;De instellingen van projectors, live: elke waarde wordt van de projector gelezen, elke wijziging wordt meteen gestuurd.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2254,14 +2267,25 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Geavanceerde bediening: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Geavanceerde bediening</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2410,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Geavanceerde bediening</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2418,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Geavanceerde bediening</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2443,10 +2467,6 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source> s</source>
         <translation> s</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
@@ -2519,6 +2539,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(twee gelijke tijden: geen)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>Should be</source>
         <translation>Gewenst</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>kan map %1 niet maken</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Instelling</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Waarde</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Instellingen van de voorinstelling</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">Ve&amp;rwijderen</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Nog geen voorinstellingen</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Verwijderen</translation>
     </message>
 </context>
 <context>
@@ -3137,6 +3228,41 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Map</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Gebruik: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opties]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opties:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>De versie tonen.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Onbekende optie ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Onbekende opties: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>De waarde na ‘%1’ ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Onverwachte waarde na ‘%1’.</translation>
     </message>
 </context>
 <context>
@@ -3736,10 +3862,6 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>Regel %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Kolommen die hier niets betekenen: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Tabel exporteren</translation>
     </message>
@@ -3767,6 +3889,10 @@ een minteken ervoor neemt een label weg:</numerusform>
             <numerusform>%n rij niet overgenomen</numerusform>
             <numerusform>%n rijen niet overgenomen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Onbekende kolommen: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ een minteken ervoor neemt een label weg:</numerusform>
             <numerusform>%1 van %n klaar</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, waarvan %n nog bezig</numerusform>
-            <numerusform>, waarvan %n nog bezig</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n mislukt</numerusform>
-            <numerusform>, %n mislukt</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Ongedaan maken: %1</translation>
@@ -4000,7 +4110,7 @@ een minteken ervoor neemt een label weg:</numerusform>
     </message>
     <message>
         <source>accepted, still under way</source>
-        <translation>aanvaard, nog bezig</translation>
+        <translation>geaccepteerd, nog bezig</translation>
     </message>
     <message>
         <source>refused</source>
@@ -4023,6 +4133,22 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>
             <numerusform>klaar, %n instelling kon niet gelezen worden</numerusform>
             <numerusform>klaar, %n instellingen konden niet gelezen worden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n nog bezig</numerusform>
+            <numerusform>%n nog bezig</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n mislukt</numerusform>
+            <numerusform>%n mislukt</numerusform>
         </translation>
     </message>
 </context>

@@ -130,10 +130,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>resetuje ustawienia do standardowych wartości projektora</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Resetuje ustawienia do własnych standardowych wartości projektora i wypisuje nowe wartości. Liczniki godzin są resetowane tylko po podaniu dokładnych kluczy, ponieważ nie da się tego cofnąć.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>wypisuje zasilanie, wejście, błędy i godziny</translation>
     </message>
@@ -156,14 +152,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>restore saved settings</source>
         <translation>przywraca zapisane ustawienia</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>cofa ostatnie wykonanie set lub apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Przywraca to, co zastąpiło ostatnie wykonanie „set” lub „apply” na wszystkich jego projektorach, albo to, co zastąpiło RUN: nazwa wypisana przez „acctl undo --list” lub plik. Samo cofnięcie też można cofnąć, podając jego nazwę.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -905,10 +893,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>odrzucono</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>przyjęto, ale %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>nie osiągnięto na czas, obecnie %1</translation>
     </message>
@@ -1039,6 +1023,35 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>the value before could not be read</source>
         <translation>poprzedniej wartości nie udało się odczytać</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>tego nie da się cofnąć</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Resetuje ustawienia do własnych standardowych wartości projektora i wypisuje nowe wartości. „acctl undo” przywraca poprzedni stan. Liczniki godzin są resetowane tylko po podaniu dokładnych kluczy, ponieważ nie da się tego cofnąć.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>cofa ostatnie wykonanie, które zmieniło ustawienia</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>to wykonanie nie zmieniło żadnego z tych projektorów</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Przywraca to, co zastąpiło wykonanie „set”, „reset” lub „apply”. RUN to nazwa wypisana przez „acctl undo --list”, plik lub „last”; bez RUN cofane jest ostatnie wykonanie. Z P lub --where przywracane są tylko te projektory, a resztę wykonania można cofnąć później. Samo cofnięcie też można cofnąć, podając jego nazwę.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>przerwano</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>przyjęto, ale nie potwierdzono: %1</translation>
     </message>
 </context>
 <context>
@@ -1986,7 +1999,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>Stan błę&amp;dów</translation>
+        <translation>Stan błę&amp;du</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2021,10 +2034,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Wszystkie polecenia</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (dowolny kod)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Wybierz lub wpisz część nazwy albo kodu</translation>
     </message>
@@ -2036,6 +2045,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (dowolny kod)</translation>
     </message>
 </context>
 <context>
@@ -2288,6 +2301,17 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Zamknij</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2480,10 +2504,6 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation> s</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>nigdy</translation>
     </message>
@@ -2554,6 +2574,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dwie takie same godziny: brak)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2642,6 +2667,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>Should be</source>
         <translation>Wzorzec</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2711,10 +2740,72 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>nie można utworzyć folderu %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Zestawy</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ustawienie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Wartość</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Ustawienia zestawu</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">U&amp;suń</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Nie ma jeszcze zestawów</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Usuń</translation>
     </message>
 </context>
 <context>
@@ -3179,6 +3270,41 @@ minus przed tagiem go usuwa:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Folder</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Użycie: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opcje]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opcje:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Wyświetla wersję.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Nieznana opcja „%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Nieznane opcje: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Brak wartości po „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Nieoczekiwana wartość po „%1”.</translation>
     </message>
 </context>
 <context>
@@ -3783,10 +3909,6 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Wiersz %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Kolumny bez znaczenia: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Eksport tabeli</translation>
     </message>
@@ -3817,6 +3939,10 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>nie przyjęto %n wierszy</numerusform>
             <numerusform>nie przyjęto %n wierszy</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Nieznane kolumny: %1</translation>
     </message>
 </context>
 <context>
@@ -4030,24 +4156,6 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>gotowe: %1 z %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, w tym jeszcze w toku: %n</numerusform>
-            <numerusform>, w tym jeszcze w toku: %n</numerusform>
-            <numerusform>, w tym jeszcze w toku: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, nieudane: %n</numerusform>
-            <numerusform>, nieudane: %n</numerusform>
-            <numerusform>, nieudane: %n</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Cofanie: %1</translation>
@@ -4086,6 +4194,24 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawienia</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
             <numerusform>gotowe, nie udało się odczytać %n ustawień</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>jeszcze w toku: %n</numerusform>
+            <numerusform>jeszcze w toku: %n</numerusform>
+            <numerusform>jeszcze w toku: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>nieudane: %n</numerusform>
+            <numerusform>nieudane: %n</numerusform>
+            <numerusform>nieudane: %n</numerusform>
         </translation>
     </message>
 </context>

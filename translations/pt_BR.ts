@@ -128,10 +128,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>redefinir ajustes para o padrão do projetor</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Redefine ajustes para o padrão do próprio projetor e mostra os novos valores. Contadores de horas só são zerados com sua chave exata, pois isso não pode ser desfeito.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>mostrar alimentação, entrada, erros e horas</translation>
     </message>
@@ -154,14 +150,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>restore saved settings</source>
         <translation>restaurar ajustes salvos</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>desfazer a última execução de set ou apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Restaura o que a última execução de “set” ou “apply” substituiu, em todos os seus projetores, ou o que RUN substituiu: um nome que “acctl undo --list” mostra, ou um arquivo. O próprio desfazer pode ser desfeito por seu nome.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -250,7 +238,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Lê, altera, salva e restaura os ajustes de projetores que a caixa de diálogo Advanced Control mostra. Os projetores são os de um arquivo de perfis.</translation>
+        <translation>Lê, altera, salva e restaura os ajustes de projetores que a caixa de diálogo “Controle avançado” mostra. Os projetores são os de um arquivo de perfis.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -886,10 +874,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>recusado</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>aceito, mas %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>não atingido a tempo, o valor é %1</translation>
     </message>
@@ -1020,6 +1004,35 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>the value before could not be read</source>
         <translation>não foi possível ler o valor anterior</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>isto não pode ser desfeito</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Redefine ajustes para o padrão do próprio projetor e mostra os novos valores. “acctl undo” restaura o que havia antes. Contadores de horas só são zerados com sua chave exata, pois isso não pode ser desfeito.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>desfazer a última execução que alterou ajustes</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>a execução não alterou nenhum destes projetores</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Restaura o que uma execução de “set”, “reset” ou “apply” substituiu. RUN é um nome que “acctl undo --list” mostra, um arquivo ou “last”; sem ele, a última execução é desfeita. Com P ou --where, só esses projetores são restaurados, e o resto da execução pode ser desfeito mais tarde. O próprio desfazer pode ser desfeito por seu nome.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>interrompido</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>aceito, mas não confirmado: %1</translation>
     </message>
 </context>
 <context>
@@ -1898,7 +1911,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Lamp time</source>
-        <translation>Tempo da lâmpada</translation>
+        <translation>Horas da lâmpada</translation>
     </message>
     <message>
         <source>Cold</source>
@@ -1910,7 +1923,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Filter time</source>
-        <translation>Tempo do filtro</translation>
+        <translation>Horas do filtro</translation>
     </message>
     <message>
         <source>Other (99)</source>
@@ -1993,10 +2006,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Todos os comandos</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (qualquer código)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Escolha ou digite parte de um nome ou código</translation>
     </message>
@@ -2008,6 +2017,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (qualquer código)</translation>
     </message>
 </context>
 <context>
@@ -2203,7 +2216,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>Find a setting</source>
-        <translation>Procurar um ajuste</translation>
+        <translation>Localizar ajuste</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -2223,7 +2236,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;The live settings of projectors: every value is read from the projector, every change is sent at once.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Advanced Control %1&lt;/h3&gt;&lt;p&gt;Os ajustes de projetores ao vivo: cada valor é lido do projetor, cada alteração é enviada na hora.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Controle avançado %1&lt;/h3&gt;&lt;p&gt;Os ajustes de projetores ao vivo: cada valor é lido do projetor, cada alteração é enviada na hora.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2254,14 +2267,25 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Fechar</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
-        <translation>Advanced Control: %1</translation>
+        <translation>Controle avançado: %1</translation>
     </message>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -2386,7 +2410,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>Notify</name>
     <message>
         <source>Advanced Control</source>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
 </context>
 <context>
@@ -2394,7 +2418,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>Advanced Control</source>
         <extracomment>The name of the program in the menu.</extracomment>
-        <translation>Advanced Control</translation>
+        <translation>Controle avançado</translation>
     </message>
     <message>
         <source>Projector Settings</source>
@@ -2443,10 +2467,6 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source> s</source>
         <translation> s</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
     </message>
     <message>
         <source>never</source>
@@ -2519,6 +2539,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(dois horários iguais: nenhuma)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2606,6 +2631,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>Should be</source>
         <translation>Desejado</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2674,10 +2703,72 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>não é possível criar a pasta %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Predefinições</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Valor</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Ajustes da predefinição</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Remover</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Ainda não há predefinições</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Nome inválido para uma predefinição: não use barras nem comece com um ponto.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Remover</translation>
     </message>
 </context>
 <context>
@@ -3137,6 +3228,41 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Pasta</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opções]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostrar a versão.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opção desconhecida “%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opções desconhecidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta o valor depois de “%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado depois de “%1”.</translation>
     </message>
 </context>
 <context>
@@ -3736,10 +3862,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>Linha %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Colunas sem significado aqui: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Exportar tabela</translation>
     </message>
@@ -3767,6 +3889,10 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
             <numerusform>%n linha não importada</numerusform>
             <numerusform>%n linhas não importadas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Colunas desconhecidas: %1</translation>
     </message>
 </context>
 <context>
@@ -3970,22 +4096,6 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
             <numerusform>%1 de %n concluídos</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, deles %n ainda em andamento</numerusform>
-            <numerusform>, deles %n ainda em andamento</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, %n falhou</numerusform>
-            <numerusform>, %n falharam</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Desfazer: %1</translation>
@@ -4023,6 +4133,22 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>
             <numerusform>concluído, não foi possível ler %n ajuste</numerusform>
             <numerusform>concluído, não foi possível ler %n ajustes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n ainda em andamento</numerusform>
+            <numerusform>%n ainda em andamento</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n falhou</numerusform>
+            <numerusform>%n falharam</numerusform>
         </translation>
     </message>
 </context>

@@ -130,10 +130,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>сбросить настройки к стандартным значениям проектора</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Сбрасывает настройки к собственным стандартным значениям проектора и выводит новые значения. Счётчики часов сбрасываются только по точным ключам, потому что отменить это нельзя.</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>вывести питание, вход, ошибки и часы</translation>
     </message>
@@ -156,14 +152,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>restore saved settings</source>
         <translation>восстановить сохранённые настройки</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>отменить последний запуск set или apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>Восстанавливает то, что заменил последний запуск «set» или «apply», на всех его проекторах, или то, что заменил RUN: имя из «acctl undo --list» или файл. Саму отмену тоже можно отменить по её имени.</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -905,10 +893,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>отклонено</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>принято, но %1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>не достигнуто вовремя, сейчас %1</translation>
     </message>
@@ -1039,6 +1023,35 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>the value before could not be read</source>
         <translation>прежнее значение не удалось прочитать</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>это нельзя отменить</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>Сбрасывает настройки к собственным стандартным значениям проектора и выводит новые значения. «acctl undo» восстанавливает прежние значения. Счётчики часов сбрасываются только по точным ключам, потому что отменить это нельзя.</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>отменить последний запуск, изменивший настройки</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>этот запуск не изменил ни один из этих проекторов</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>Восстанавливает то, что заменил запуск «set», «reset» или «apply». RUN — имя из «acctl undo --list», файл или «last»; без него отменяется последний запуск. С P или --where восстанавливаются только эти проекторы, а остальное можно отменить позже. Саму отмену тоже можно отменить по её имени.</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>прервано</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>принято, но не подтверждено: %1</translation>
     </message>
 </context>
 <context>
@@ -1986,7 +1999,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;Error status</source>
-        <translation>Состояние &amp;ошибок</translation>
+        <translation>Состояние &amp;ошибки</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2021,10 +2034,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Все команды</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation> (любой код)</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>Выберите или введите часть названия или кода</translation>
     </message>
@@ -2036,6 +2045,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1: %2, %3 мс</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1 (любой код)</translation>
     </message>
 </context>
 <context>
@@ -2288,6 +2301,17 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Закрыть</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2480,10 +2504,6 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation> с</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>никогда</translation>
     </message>
@@ -2554,6 +2574,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>(если время одинаковое — выключено)</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -2642,6 +2667,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>Should be</source>
         <translation>Эталон</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2711,10 +2740,72 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>не удалось создать папку %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">Пресеты</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">Настройка</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Значение</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">Настройки пресета</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Убрать</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">Пресетов пока нет</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Удалить</translation>
     </message>
 </context>
 <context>
@@ -3179,6 +3270,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>Папка</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Использование: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметры]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Показать сведения о версии.</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Неизвестный параметр «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Неизвестные параметры: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Отсутствует значение после «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Неожиданное значение после «%1».</translation>
     </message>
 </context>
 <context>
@@ -3783,10 +3909,6 @@ a minus in front takes a tag away:</source>
         <translation>Строка %1: %2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>Столбцы, не имеющие здесь значения: %1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>Экспорт таблицы</translation>
     </message>
@@ -3817,6 +3939,10 @@ a minus in front takes a tag away:</source>
             <numerusform>не приняты %n строки</numerusform>
             <numerusform>не принято %n строк</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>Неизвестные столбцы: %1</translation>
     </message>
 </context>
 <context>
@@ -4030,24 +4156,6 @@ a minus in front takes a tag away:</source>
             <numerusform>готово: %1 из %n</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-            <numerusform>, из них ещё выполняется: %n</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>, с ошибкой: %n</numerusform>
-            <numerusform>, с ошибкой: %n</numerusform>
-            <numerusform>, с ошибкой: %n</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>Отмена: %1</translation>
@@ -4086,6 +4194,24 @@ a minus in front takes a tag away:</source>
             <numerusform>готово, не удалось прочитать %n настройку</numerusform>
             <numerusform>готово, не удалось прочитать %n настройки</numerusform>
             <numerusform>готово, не удалось прочитать %n настроек</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>ещё выполняется: %n</numerusform>
+            <numerusform>ещё выполняется: %n</numerusform>
+            <numerusform>ещё выполняется: %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>с ошибкой: %n</numerusform>
+            <numerusform>с ошибкой: %n</numerusform>
+            <numerusform>с ошибкой: %n</numerusform>
         </translation>
     </message>
 </context>

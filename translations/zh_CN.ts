@@ -126,10 +126,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>将设置复位为投影机的标准值</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>显示电源、输入、错误和小时数</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>restore saved settings</source>
         <translation>还原保存的设置</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>撤消上一次 set 或 apply 运行</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>在所有相关投影机上还原上一次“set”或“apply”替换的值，或还原 RUN 替换的值：“acctl undo --list”列出的名称，或一个文件。撤消本身也可以按其名称撤消。</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -867,10 +855,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>被拒绝</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>已接受，但%1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>未能及时生效，当前为 %1</translation>
     </message>
@@ -1001,6 +985,35 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>the value before could not be read</source>
         <translation>无法读取更改前的值</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>无法撤消</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>将设置复位为投影机自身的标准值，并显示复位后的值。“acctl undo”可还原先前的值。计时器只能用完整的键复位，因为此操作无法撤消。</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>撤消上一次更改设置的运行</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>该运行未更改其中任何投影机</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>还原“set”、“reset”或“apply”的一次运行所替换的值。RUN 是“acctl undo --list”列出的名称、一个文件或“last”；省略时撤消上一次运行。使用 P 或 --where 时，只还原这些投影机，该运行的其余部分可以稍后撤消。撤消本身也可以按其名称撤消。</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>已接受，但未确认：%1</translation>
     </message>
 </context>
 <context>
@@ -1712,7 +1725,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>blank</source>
-        <translation>图像消隐</translation>
+        <translation>空白画面</translation>
     </message>
     <message>
         <source>muted</source>
@@ -1842,7 +1855,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Cooling down</source>
-        <translation>冷却中</translation>
+        <translation>正在冷却</translation>
     </message>
     <message>
         <source>No error</source>
@@ -1953,10 +1966,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>所有命令</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation>（任意代码）</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>请选择，或输入名称或代码的一部分</translation>
     </message>
@@ -1980,6 +1989,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1：%2，%3 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1（任意代码）</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2233,17 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">关闭</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Open</source>
@@ -2410,10 +2434,6 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation> 秒</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>从不</translation>
     </message>
@@ -2484,6 +2504,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>（两个时间相同：不设）</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2570,6 +2595,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>Should be</source>
         <translation>应为</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2666,72 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>无法创建文件夹 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">预设</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">设置</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">预设的设置</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">尚无预设</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">不能使用此预设名称：请去掉斜杠和开头的点。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">移除</translation>
     </message>
 </context>
 <context>
@@ -3098,6 +3189,41 @@ a minus in front takes a tag away:</source>
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[选项]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>显示版本信息。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知选项“%1”。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知选项：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>“%1”之后缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>“%1”之后有意外的值。</translation>
+    </message>
+</context>
+<context>
     <name>Search</name>
     <message>
         <source>&quot;%1&quot; is neither an IP address nor a range of them</source>
@@ -3548,11 +3674,11 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Cooling down</source>
-        <translation>冷却中</translation>
+        <translation>正在冷却</translation>
     </message>
     <message>
         <source>Warming up</source>
-        <translation>预热中</translation>
+        <translation>正在预热</translation>
     </message>
     <message>
         <source>Fan</source>
@@ -3628,7 +3754,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Blank</source>
-        <translation>图像消隐</translation>
+        <translation>空白画面</translation>
     </message>
     <message>
         <source>Mute</source>
@@ -3689,10 +3815,6 @@ a minus in front takes a tag away:</source>
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>未使用的列：%1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>导出表格</translation>
     </message>
@@ -3718,6 +3840,10 @@ a minus in front takes a tag away:</source>
             <numerusform>%n 行未导入</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>未知的列：%1</translation>
+    </message>
 </context>
 <context>
     <name>UsualActions</name>
@@ -3739,16 +3865,16 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>&amp;Blank</source>
-        <translation>图像消隐(&amp;B)</translation>
+        <translation>空白画面(&amp;B)</translation>
     </message>
     <message>
         <source>Blank the Picture</source>
-        <translation>图像消隐</translation>
+        <translation>显示空白画面</translation>
     </message>
     <message numerus="yes">
         <source>Blank the picture of %n projectors?</source>
         <translation>
-            <numerusform>要对 %n 台投影机消隐画面吗？</numerusform>
+            <numerusform>要让 %n 台投影机显示空白画面吗？</numerusform>
         </translation>
     </message>
     <message>
@@ -3938,20 +4064,6 @@ a minus in front takes a tag away:</source>
             <numerusform>已完成 %1/%n 台</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，其中 %n 台仍在进行</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，%n 台失败</numerusform>
-        </translation>
-    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
@@ -3960,6 +4072,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完成，%n 项设置无法读取</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台仍在进行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台失败</numerusform>
         </translation>
     </message>
 </context>

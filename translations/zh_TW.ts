@@ -126,10 +126,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>將設定重設為投影機的標準值</translation>
     </message>
     <message>
-        <source>Resets settings to the projector&apos;s own standard and prints what they are then. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>將設定重設為投影機本身的標準值，並顯示重設後的值。時數計數器必須以完整的鍵指定才會重設，因為此動作無法復原。</translation>
-    </message>
-    <message>
         <source>print power, input, errors and hours</source>
         <translation>顯示電源、輸入、錯誤與時數</translation>
     </message>
@@ -152,14 +148,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>restore saved settings</source>
         <translation>還原儲存的設定</translation>
-    </message>
-    <message>
-        <source>undo the last run of set or apply</source>
-        <translation>復原上一次的 set 或 apply</translation>
-    </message>
-    <message>
-        <source>Restores what the last run of &apos;set&apos; or &apos;apply&apos; replaced, on all its projectors, or what RUN replaced: a name that &apos;acctl undo --list&apos; prints, or a file. An undo can itself be undone by its name.</source>
-        <translation>在所有相關的投影機上，還原上一次「set」或「apply」所取代的值，或 RUN 所取代的值；RUN 是「acctl undo --list」列出的名稱，或是檔案。復原本身也可以用其名稱再復原。</translation>
     </message>
     <message>
         <source>print values and every change</source>
@@ -867,10 +855,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>遭拒絕</translation>
     </message>
     <message>
-        <source>accepted, but %1</source>
-        <translation>已接受，但%1</translation>
-    </message>
-    <message>
         <source>not so in time, it is %1</source>
         <translation>未及時生效，目前為 %1</translation>
     </message>
@@ -1001,6 +985,35 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>the value before could not be read</source>
         <translation>無法讀取先前的值</translation>
+    </message>
+    <message>
+        <source>this cannot be undone</source>
+        <translation>這無法復原</translation>
+    </message>
+    <message>
+        <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
+        <translation>將設定重設為投影機本身的標準值，並顯示重設後的值。「acctl undo」可還原先前的值。時數計數器必須以完整的鍵指定才會重設，因為此動作無法復原。</translation>
+    </message>
+    <message>
+        <source>undo the last run that changed settings</source>
+        <translation>復原上一次變更設定的執行</translation>
+    </message>
+    <message>
+        <source>the run has changed none of these projectors</source>
+        <translation>該次執行未變更其中任何投影機</translation>
+    </message>
+    <message>
+        <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
+        <translation>還原「set」、「reset」或「apply」的一次執行所取代的值。RUN 是「acctl undo --list」列出的名稱、檔案或「last」；省略時復原上一次執行。使用 P 或 --where 時，只還原這些投影機，該次執行的其餘部分可以稍後復原。復原本身也可以用其名稱再復原。</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <extracomment>By Ctrl+C or another signal.</extracomment>
+        <translation>已中斷</translation>
+    </message>
+    <message>
+        <source>accepted, but not confirmed: %1</source>
+        <translation>已接受，但未確認：%1</translation>
     </message>
 </context>
 <context>
@@ -1965,10 +1978,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>所有命令</translation>
     </message>
     <message>
-        <source> (any code)</source>
-        <translation>（任何代碼）</translation>
-    </message>
-    <message>
         <source>Choose, or type a part of a name or code</source>
         <translation>請選擇，或輸入名稱或代碼的一部分</translation>
     </message>
@@ -1980,6 +1989,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>%1: %2, %3 ms</source>
         <extracomment>A command, what is wrong with it (&quot;Delay&quot;), and for how many milliseconds.</extracomment>
         <translation>%1：%2，%3 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 (any code)</source>
+        <translation>%1（任何代碼）</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2233,17 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
 </context>
 <context>
+    <name>ListPane</name>
+    <message>
+        <source>All these projectors are simulated, for trying the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">關閉</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Advanced Control: %1</source>
@@ -2410,10 +2434,6 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation> 秒</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
         <source>never</source>
         <translation>永不</translation>
     </message>
@@ -2484,6 +2504,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <message>
         <source>(equal times: no quiet hours)</source>
         <translation>（兩個時間相同表示不使用）</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <extracomment>Behind a number; with a blank before the sign if the language has one.</extracomment>
+        <translation>%</translation>
     </message>
 </context>
 <context>
@@ -2570,6 +2595,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>Should be</source>
         <translation>應有值</translation>
     </message>
+    <message>
+        <source>&amp;Manage Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PresetDialog</name>
@@ -2637,10 +2666,72 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
 </context>
 <context>
+    <name>PresetEdits</name>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PresetFolder</name>
     <message>
         <source>cannot create the folder %1</source>
         <translation>無法建立資料夾 %1</translation>
+    </message>
+</context>
+<context>
+    <name>PresetManager</name>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished">預設集</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation type="unfinished">設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">值</translation>
+    </message>
+    <message>
+        <source>Settings of the preset</source>
+        <translation type="unfinished">預設集的設定</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No presets yet</source>
+        <translation type="unfinished">尚無預設集</translation>
+    </message>
+    <message>
+        <source>Should be like it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is not allowed: no slashes, and no dot in front.</source>
+        <translation type="unfinished">預設集不能使用這個名稱：請勿使用斜線，也不要以句點開頭。</translation>
+    </message>
+    <message>
+        <source>There is already a preset %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the preset %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">移除</translation>
     </message>
 </context>
 <context>
@@ -3095,6 +3186,41 @@ a minus in front takes a tag away:</source>
         <source>Folder</source>
         <comment>All other platforms</comment>
         <translation>資料夾</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[選項]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>選項：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>顯示版本資訊。</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知選項「%1」。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知選項：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>「%1」之後缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>「%1」之後有非預期的值。</translation>
     </message>
 </context>
 <context>
@@ -3689,10 +3815,6 @@ a minus in front takes a tag away:</source>
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>Columns that mean nothing here: %1</source>
-        <translation>此處不使用的欄：%1</translation>
-    </message>
-    <message>
         <source>Export Table</source>
         <translation>匯出表格</translation>
     </message>
@@ -3717,6 +3839,10 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>%n 列未匯入</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Unknown columns: %1</source>
+        <translation>未知的欄：%1</translation>
     </message>
 </context>
 <context>
@@ -3910,20 +4036,6 @@ a minus in front takes a tag away:</source>
             <numerusform>已完成 %1/%n 台</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>, of these %n still under way</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，其中 %n 台仍在進行</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>, %n failed</source>
-        <comment>projectors</comment>
-        <translation>
-            <numerusform>，%n 台失敗</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Undo: %1</source>
         <translation>復原：%1</translation>
@@ -3960,6 +4072,20 @@ a minus in front takes a tag away:</source>
         <source>done, %n settings could not be read</source>
         <translation>
             <numerusform>完成，%n 項設定無法讀取</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still under way</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台仍在進行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台失敗</numerusform>
         </translation>
     </message>
 </context>

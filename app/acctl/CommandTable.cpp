@@ -60,8 +60,8 @@ constexpr CommandForm kCommands[] = {
     {Command::Reset, "reset", Words::ProjectorWords, "P KEY...",
      QT_TRANSLATE_NOOP("Acctl", "reset settings to the projector's standard"),
      QT_TRANSLATE_NOOP("Acctl",
-         "Resets settings to the projector's own standard and prints what they are then. Hour counters are reset only "
-     "by their exact keys, because this cannot be undone."),
+         "Resets settings to the projector's own standard and prints what they are then. 'acctl undo' restores what "
+     "was there before. Hour counters are reset only by their exact keys, because this cannot be undone."),
      "acctl reset 'Lecture hall' picture.tint\n"
      "acctl reset 'Lecture hall' status.lamp-time",
      2, kMany},
@@ -96,13 +96,15 @@ constexpr CommandForm kCommands[] = {
      "acctl apply good.json 'Seminar*' --only 'picture.*' --dry-run\n"
      "acctl apply saved",
      1, kMany},
-    {Command::Undo, "undo", Words::Any, "[RUN]", QT_TRANSLATE_NOOP("Acctl", "undo the last run of set or apply"),
+    {Command::Undo, "undo", Words::Any, "[RUN [P...]]", QT_TRANSLATE_NOOP("Acctl", "undo the last run that changed settings"),
      QT_TRANSLATE_NOOP("Acctl",
-         "Restores what the last run of 'set' or 'apply' replaced, on all its projectors, or what RUN replaced: a name "
-     "that 'acctl undo --list' prints, or a file. An undo can itself be undone by its name."),
+         "Restores what a run of 'set', 'reset' or 'apply' replaced. RUN is a name that 'acctl undo --list' prints, a "
+     "file, or 'last'; without it, the last run is undone. With P or --where, only these projectors are restored, and "
+     "the rest of the run can be undone later. An undo can itself be undone by its name."),
      "acctl undo --list\n"
+     "acctl undo last 'Lecture hall'\n"
      "acctl undo",
-     0, 1},
+     0, kMany},
     {Command::Watch, "watch", Words::ProjectorWords, "P KEY...",
      QT_TRANSLATE_NOOP("Acctl", "print values and every change"),
      QT_TRANSLATE_NOOP("Acctl",

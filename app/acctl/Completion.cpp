@@ -5,6 +5,7 @@
 
 #include "app/acctl/Aliases.h"
 #include "app/acctl/OptionTable.h"
+#include "app/acctl/RunFiles.h"
 #include "app/acctl/Selection.h"
 #include "app/acctl/Uses.h"
 #include "i18n/Catalog.h"
@@ -103,7 +104,10 @@ class Completer {
         for (const FleetProfile& profile : profiles_) Offer(profile.model->info.ModelName);
         return;
       case Command::Import:
+        return Offer(kFiles);
       case Command::Undo:
+        if (position > 1) return OfferProjectors();
+        Offer(kLastRun);
         return Offer(kFiles);
       default:
         break;

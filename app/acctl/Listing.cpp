@@ -10,7 +10,6 @@
 #include "app/acctl/Describing.h"
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
-#include "app/acctl/Printer.h"
 #include "app/acctl/ProjectorRuns.h"
 #include "app/acctl/Selection.h"
 
@@ -119,9 +118,8 @@ std::string Text(const ValueTexts& texts, const Explained& explained) {
 
 }  // namespace
 
-int List(const Work& work, const Projectors& projectors) {
+void List(const Work& work, const Projectors& projectors, Printer& printer) {
   Table table;
-  QJsonArray json;
   for (const FleetProfile* profile : projectors) {
     const CModelInfo2& model = profile->model->info;
     const bool isSimulated = IsSimulated(*profile, work.arguments);
@@ -133,16 +131,13 @@ int List(const Work& work, const Projectors& projectors) {
                  std::to_string(model.DialogType), std::to_string(model.ModelCode), connection,
                  Joined(profile->tags)});
     }
-    json.append(QJsonObject{{"name", Wide(profile->name)},
-                            {"id", Wide(FleetIdOf(*profile))},
-                            {"model", Wide(model.ModelName)},
-                            {"dialogType", model.DialogType},
-                            {"modelCode", model.ModelCode},
-                            {"connection", Wide(connection)},
-                            {"tags", Array(profile->tags)},
-                            {"simulated", isSimulated}});
+    Report report;
+    report.json = {{"id", Wide(FleetIdOf(*profile))}, {"model", Wide(model.ModelName)},
+                   {"dialogType", model.DialogType},  {"modelCode", model.ModelCode},
+                   {"connection", Wide(connection)},  {"tags", Array(profile->tags)}};
+    printer.Add(profile->name, isSimulated, report);
   }
-  return PrintEntries(work.arguments, table.Text(), "projectors", json);
+  printer.AddTable(table.Text());
 }
 
 int ListModels(const Work& work, ModelCache& models) {

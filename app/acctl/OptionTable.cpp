@@ -74,10 +74,22 @@ bool TakeLanguage(const std::string& text, std::optional<std::uint32_t>& languag
   return language.has_value();
 }
 
-const std::vector<Command> kRecorded{Command::Set, Command::Apply, Command::Undo};
-const std::vector<Command> kAsking{Command::Settings, Command::Get,  Command::Set,  Command::Reset,
-                                   Command::Status,   Command::Save, Command::Diff, Command::Apply,
-                                   Command::Undo,     Command::Watch};
+std::vector<Command> With(std::vector<Command> commands, const std::vector<Command>& others) {
+  commands.insert(commands.end(), others.begin(), others.end());
+  return commands;
+}
+
+const std::vector<Command> kRecorded{Command::Set, Command::Reset, Command::Apply, Command::Undo};
+const std::vector<Command> kConnecting{
+    Command::Settings, Command::Get,  Command::Set,   Command::Reset, Command::Status,
+    Command::Save,     Command::Diff, Command::Apply, Command::Undo,  Command::Watch};
+// What prints profiles asks the projectors only for --where.
+const std::vector<Command> kAsking = With(kConnecting, {Command::List, Command::Export});
+const std::vector<Command> kAskingOrSearching = With(kAsking, {Command::Find});
+// One that watches has a thread for each projector, and tries it until it answers.
+const std::vector<Command> kTrying{Command::List,  Command::Settings, Command::Get,   Command::Set,
+                                   Command::Reset, Command::Status,   Command::Save,  Command::Diff,
+                                   Command::Apply, Command::Undo,     Command::Export};
 
 std::vector<OptionForm> MakeOptions() {
   using A = Arguments;
@@ -93,13 +105,12 @@ std::vector<OptionForm> MakeOptions() {
        .help = QT_TRANSLATE_NOOP(
            "Acctl", "only projectors in this state, such as 'power=on lamp-hours>1500'"),
        .take = [](A& a, Text text) { return TakeText(text, a.where); },
-       .of = {Command::Get, Command::Set, Command::Reset, Command::Status, Command::Save,
-              Command::Diff, Command::Apply, Command::Watch}},
+       .of = kAsking},
       {.name = "connect",
        .value = "ADDRESS",
        .help = QT_TRANSLATE_NOOP("Acctl", "the projector is at ADDRESS; P gives only its model"),
        .take = [](A& a, Text text) { return TakeText(text, a.connecting.address); },
-       .of = kAsking},
+       .of = kConnecting},
       {.name = "port",
        .value = "N",
        .help = QT_TRANSLATE_NOOP("Acctl",
@@ -113,12 +124,16 @@ std::vector<OptionForm> MakeOptions() {
        .value = "TEXT",
        .help = QT_TRANSLATE_NOOP("Acctl",
                                  "PJLink password; other users of this machine can see it here"),
-       .take = [](A& a, Text text) { return TakeText(text, a.connecting.password); }},
+       .take = [](A& a, Text text) { return TakeText(text, a.connecting.password); },
+       .of = kAskingOrSearching,
+       .isForAsking = true},
       {.name = "password-file",
        .value = "FILE",
        .help = QT_TRANSLATE_NOOP("Acctl", "the first line of FILE is the password"),
        .take = [](A& a, Text text) { return TakeText(text, a.connecting.passwordFile); },
-       .isDefault = true},
+       .of = kAskingOrSearching,
+       .isDefault = true,
+       .isForAsking = true},
       {.name = "format",
        .letter = 'o',
        .value = "FORMAT",
@@ -214,23 +229,29 @@ std::vector<OptionForm> MakeOptions() {
        .help = QT_TRANSLATE_NOOP(
            "Acctl", "projectors at once, 1 to 1024; by default 512 to read and 64 to change"),
        .take = [](A& a, Text text) { return TakeNumber(text, 1, 1024, a.connecting.jobs); },
-       .isDefault = true},
+       .of = kTrying,
+       .isDefault = true,
+       .isForAsking = true},
       {.name = "timeout",
        .value = "SECONDS",
        .help = QT_TRANSLATE_NOOP("Acctl", "time for one answer; 2 by default"),
        .take = [](A& a, Text text) { return TakeTimeOut(text, a.connecting.timeOut); },
-       .isDefault = true},
+       .of = kAskingOrSearching,
+       .isDefault = true,
+       .isForAsking = true},
       {.name = "retries",
        .value = "N",
        .help = QT_TRANSLATE_NOOP("Acctl",
                                  "try a projector that does not answer N more times; 0 by default"),
        .take = [](A& a, Text text) { return TakeNumber(text, 0, 1000, a.connecting.retries); },
-       .of = kAsking,
-       .isDefault = true},
+       .of = kTrying,
+       .isDefault = true,
+       .isForAsking = true},
       {.name = "fail-fast",
        .help = QT_TRANSLATE_NOOP("Acctl", "begin no other projector after the first error"),
        .take = [](A& a, Text) { return a.failFast = true; },
-       .of = kAsking},
+       .of = kTrying,
+       .isForAsking = true},
       {.name = "interval",
        .value = "SECONDS",
        .help = QT_TRANSLATE_NOOP("Acctl", "time between two readings; 1 by default"),

@@ -16,6 +16,7 @@ struct OptionForm {
   std::function<bool(Arguments&, const std::string&)> take{};
   std::vector<Command> of{};  ///< The commands that have it; empty for all.
   bool isDefault = false;     ///< The environment and the configuration file may give it.
+  bool isForAsking = false;   ///< It is about how projectors are asked.
 
   bool IsOf(Command command) const;
 };

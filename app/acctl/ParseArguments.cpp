@@ -112,6 +112,23 @@ std::optional<Format> AskedFormat(const GivenWords& given, Command command) {
   return asked;
 }
 
+/// What is wrong if an option has no effect because another one is missing or given; else empty.
+std::string WhyIdle(const OptionForm& option, const Arguments& arguments) {
+  const Command command = arguments.command;
+  const auto needs = [&option](const char* other) {
+    //: An option and what must follow it: "--profiles needs FILE".
+    return Message(Acctl::tr("--%1 needs %2"), option.name, other);
+  };
+  const bool asksForWhere = command == Command::List || command == Command::Export;
+  if (asksForWhere && option.isForAsking && arguments.where.empty()) return needs("--where");
+  if (command == Command::Set && option.name == "interval" && !arguments.wait) {
+    return needs("--wait");
+  }
+  const bool isOfList = option.of.empty() || option.name == "list" || option.name == "undo";
+  if (!arguments.list || isOfList) return {};
+  return Message(Acctl::tr("%1 takes no %2"), "undo --list", "--" + std::string(option.name));
+}
+
 std::string TakeOptions(const GivenWords& given, const CommandForm& form, Arguments& arguments) {
   for (const GivenOption& one : given.options) {
     const OptionForm& option = IsFolder(one, form.command) ? *FindOption("folder") : *one.form;
@@ -125,11 +142,16 @@ std::string TakeOptions(const GivenWords& given, const CommandForm& form, Argume
       return Message(Acctl::tr("%1: '%2' is not possible"), name, one.value);
     }
   }
+  for (const GivenOption& one : given.options) {
+    if (std::string error = WhyIdle(*one.form, arguments); !error.empty()) return error;
+  }
   return {};
 }
 
 bool HasFormat(Command command, Format format) {
-  if (command == Command::Export) return format == Format::Text;
+  const bool isOnlyText = command == Command::Export || command == Command::Help ||
+                          command == Command::Man || command == Command::Version;
+  if (isOnlyText) return format == Format::Text;
   const bool hasValues = command == Command::Get || command == Command::Set ||
                          command == Command::Status || command == Command::Reset;
   return hasValues || (format != Format::Tsv && format != Format::Value);
@@ -205,8 +227,10 @@ bool TakeSpecialWords(Arguments& arguments) {
       }
       return false;
     case Command::Undo:
-      if (!words.empty()) arguments.file = words.front();
-      return words.empty() || !arguments.list;
+      if (words.empty()) return true;
+      arguments.file = words.front();
+      arguments.projectors.assign(words.begin() + 1, words.end());
+      return !arguments.list;
     default:
       return true;
   }

@@ -122,6 +122,10 @@ InputsNeeded InputsNeededBy(const Work& work, const Target& target) {
   };
   Report ignored;
   std::vector<const ModelSetting*> shown;
+  if (!work.conditionKeys.empty()) {
+    shown = Chosen(target, kRead, work.conditionKeys, true, ignored);
+    if (std::ranges::any_of(shown, showsInput)) return InputsNeeded::All;
+  }
   switch (arguments.command) {
     case Command::Settings:
       return arguments.brief ? InputsNeeded::None : InputsNeeded::All;

@@ -84,7 +84,8 @@ void Printer::Write(std::string_view text) {
 
 void Printer::AddText(const std::string& name, bool isSimulated, const std::string& text) {
   std::string prefix = ShownName(name, isSimulated);
-  prefix.append(static_cast<std::size_t>(std::max(0, nameWidth_ - DisplayWidth(prefix)) + 2), ' ');
+  const int gap = std::max(0, nameWidth_ - DisplayWidth(prefix)) + 2;
+  prefix.append(static_cast<std::size_t>(gap), ' ');
   std::string lines;
   for (std::size_t begin = 0; begin < text.size();) {
     const std::size_t end = std::min(text.find('\n', begin), text.size() - 1) + 1;
@@ -130,7 +131,10 @@ void Printer::AddValues(const QJsonObject& entry) {
 }
 
 void Printer::Add(const std::string& name, bool isSimulated, const Report& report) {
-  for (const Problem& problem : report.problems) Complain(name + ": " + problem.Line());
+  const std::string shown = ShownName(name, isSimulated);
+  for (const Problem& problem : report.problems) Complain(shown + ": " + problem.Line());
+  // This format has only the texts of the values.
+  if (isSimulated && arguments_.format == Format::Value) Complain(shown);
   const bool isFile = arguments_.command == Command::Save && arguments_.file == "-";
   if (isFile) {
     Write(report.text);
@@ -143,6 +147,10 @@ void Printer::Add(const std::string& name, bool isSimulated, const Report& repor
   } else {
     AddValues(EntryOf(name, isSimulated, report));
   }
+}
+
+void Printer::AddTable(std::string_view text) {
+  if (arguments_.format == Format::Text) Write(text);
 }
 
 void Printer::Add(const Problem& problem) {

@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -28,6 +29,8 @@ class Printer {
       : arguments_(arguments), nameWidth_(nameWidth) {}
 
   void Add(const std::string& name, bool isSimulated, const Report& report);
+  /// Adds the text of all projectors together; other formats have an entry for each.
+  void AddTable(std::string_view text);
   /// Adds an error that is not about a projector.
   void Add(const Problem& problem);
   /// Prints what is left. False if something could not be printed.

@@ -8,7 +8,6 @@
 
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
-#include "app/acctl/Printer.h"
 #include "app/acctl/Signals.h"
 #include "fleet/ProfileCsv.h"
 #include "fleet/ProfileEdits.h"
@@ -151,24 +150,29 @@ int Import(const Arguments& arguments) {
   }
   if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   QJsonArray faults;
+  QJsonArray errors;
   for (const CsvFault& fault : import.faults) {
-    Complain(arguments.file + ':' + std::to_string(fault.line) + ": " + fault.reason.toStdString());
+    const std::string text =
+        arguments.file + ':' + std::to_string(fault.line) + ": " + fault.reason.toStdString();
+    Complain(text);
     faults.append(QJsonObject{{"line", fault.line}, {"text", fault.reason}});
+    errors.append(QJsonObject{{"code", ProblemCode::WrongFile}, {"text", Wide(text)}});
   }
   //: Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.
   const std::string text = Message(Acctl::tr("%1 added, %2 known, %3 wrong"), import.added,
                                    import.changed, import.faults.size()) +
                            '\n';
-  const QJsonObject result{{"added", static_cast<int>(import.added)},
-                           {"changed", static_cast<int>(import.changed)},
-                           {"unused", QJsonArray::fromStringList(import.unused)},
-                           {"faults", faults}};
+  QJsonObject result{{"added", static_cast<int>(import.added)},
+                     {"changed", static_cast<int>(import.changed)},
+                     {"unused", QJsonArray::fromStringList(import.unused)},
+                     {"faults", faults}};
+  if (!errors.isEmpty()) result["errors"] = errors;
   return Finish(arguments, text, result,
                 import.faults.empty() ? ExitCode::Done : ExitCode::Refused);
 }
 
-int Export(const Projectors& projectors) {
+void Export(const Projectors& projectors, Printer& printer) {
   std::vector<FleetProfile> profiles;
   for (const FleetProfile* profile : projectors) profiles.push_back(*profile);
-  return Print(ExportCsv(profiles).toStdString()) ? ExitCode::Done : ExitCode::Refused;
+  printer.AddTable(ExportCsv(profiles).toStdString());
 }

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 
 #include "app/acctl/Completion.h"
 #include "app/acctl/Listing.h"
@@ -92,7 +93,9 @@ class ProgramRun {
  private:
   std::string Prepare();
   std::string PrepareUndo();
+  std::string LimitUndo();
   int RunOnProjectors(const ValueTexts& texts);
+  std::vector<std::string> ConditionKeys() const;
   int ListRecordedRuns() const;
 
   Arguments arguments_;
@@ -109,6 +112,7 @@ class ProgramRun {
   std::vector<Problem> left_;  // what takes no part, and why
   std::string password_;
   ModelCache models_;
+  bool isWhole_ = true;  ///< No projector is left out that could take part.
 };
 
 std::string ProgramRun::PrepareUndo() {
@@ -117,8 +121,22 @@ std::string ProgramRun::PrepareUndo() {
   // The file contains the projector's address, and the options on which its values depend.
   if (arguments_.connecting.address.empty()) arguments_.connecting.address = undone_.address;
   TakeRun(undone_, profiles_, projectors_, files_, left_);
+  if (!arguments_.projectors.empty()) error = LimitUndo();
   arguments_.lenient = true;
-  return {};
+  return error;
+}
+
+/// Leaves out projectors that the user did not name.
+std::string ProgramRun::LimitUndo() {
+  const Selection selection = Select(arguments_.projectors, profiles_);
+  if (!selection.error.empty()) return selection.error;
+  left_.clear();
+  isWhole_ =
+      std::erase_if(projectors_, [&](const FleetProfile* profile) {
+        return std::ranges::find(selection.projectors, profile) == selection.projectors.end();
+      }) == 0;
+  return projectors_.empty() ? Message(Acctl::tr("the run has changed none of these projectors"))
+                             : std::string();
 }
 
 std::string ProgramRun::Prepare() {
@@ -161,6 +179,15 @@ std::string ProgramRun::Prepare() {
   }
 }
 
+std::vector<std::string> ProgramRun::ConditionKeys() const {
+  std::vector<std::string> keys;
+  for (const Condition& condition : conditions_) keys.push_back(condition.key);
+  for (const Condition& until : ParseConditions(arguments_.until).conditions) {
+    keys.push_back(until.key);
+  }
+  return keys;
+}
+
 int ProgramRun::ListRecordedRuns() const {
   Table table;
   QJsonArray json;
@@ -172,9 +199,11 @@ int ProgramRun::ListRecordedRuns() const {
       continue;
     }
     const auto count = static_cast<int>(run.undo.size());
+    const QDateTime time = QDateTime::fromString(Wide(run.time), Qt::ISODate).toLocalTime();
     //: Of a run of the program: somebody has undone it.
-    table.Add({run.name, run.time, CountedProjectors(count),
-               run.isUndone ? Message(Acctl::tr("undone")) : "", run.command});
+    table.Add({run.name, QLocale().toString(time, QLocale::ShortFormat).toStdString(),
+               CountedProjectors(count), run.isUndone ? Message(Acctl::tr("undone")) : "",
+               run.command});
     json.append(QJsonObject{{"run", Wide(run.name)},
                             {"time", Wide(run.time)},
                             {"command", Wide(run.command)},
@@ -206,29 +235,41 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
             .isForSeveral = projectors_.size() > 1,
             .files = std::move(files_),
             .paths = std::move(paths_),
+            .conditionKeys = ConditionKeys(),
             .password = password_,
             .models = &models_,
             .undo = &undo,
             .isInterrupted = [] { return ReceivedSignal() != 0; }};
-  for (const FleetProfile* profile : projectors_) work.ids[profile->name] = FleetIdOf(*profile);
   const bool needsSimulator = std::ranges::any_of(projectors_, [this](const FleetProfile* profile) {
     return IsSimulated(*profile, arguments_);
   });
   if (needsSimulator) work.served = FindServed(Wide(arguments_.profiles));
+  for (const FleetProfile* profile : projectors_) {
+    if (!IsSimulatedHere(*profile, work)) work.undoIds[profile->name] = FleetIdOf(*profile);
+  }
   if (arguments_.command == Command::Diff || arguments_.command == Command::Apply) {
     const auto mistakes = FileMistakes(work, projectors_, models_);
     std::vector<Problem> problems;
+    problems.reserve(mistakes.size());
     for (const std::string& mistake : mistakes) {
       problems.push_back(
           {.code = ProblemCode::WrongFile, .text = mistake, .exitCode = ExitCode::WrongUse});
     }
     if (!problems.empty()) return ReportErrors(arguments_, problems);
   }
-  if (arguments_.command == Command::Watch) return Watch(work, projectors_, models_);
+  if (arguments_.command == Command::Watch) return Watch(work, projectors_, models_, conditions_);
   ProjectorRuns runs(work, projectors_, models_);
   for (const Problem& problem : left_) runs.Add(problem);
-  if (!conditions_.empty()) runs.Filter(conditions_);
-  return runs.Run();
+  isWhole_ = runs.Filter(conditions_) && isWhole_;
+  runs.Run();
+  const bool isUndone = arguments_.command == Command::Undo && !arguments_.dryRun && isWhole_ &&
+                        runs.Code() == ExitCode::Done;
+  const QString error = isUndone ? MarkUndone(undone_) : QString();
+  if (!error.isEmpty()) {
+    runs.Add({ProblemCode::File, Message(Acctl::tr("cannot record in %1 that it is undone: %2"),
+                                         undone_.path, error)});
+  }
+  return runs.Finish();
 }
 
 int ProgramRun::Run() {
@@ -241,32 +282,17 @@ int ProgramRun::Run() {
         return false;
       }};
   switch (arguments_.command) {
-    case Command::List:
-      return List(listing, projectors_);
     case Command::Models:
       return ListModels(listing, models_);
     case Command::Explain:
       return Explain(listing, models_);
-    case Command::Export:
-      return Export(projectors_);
     case Command::Complete:
       return Print(Completions(arguments_.words, profiles_, models_, texts)) ? ExitCode::Done
                                                                              : ExitCode::Refused;
     default:
       break;
   }
-  int code = RunOnProjectors(texts);
-  const bool isUndone =
-      arguments_.command == Command::Undo && !arguments_.dryRun && code == ExitCode::Done;
-  if (isUndone) {
-    const QString error = MarkUndone(undone_);
-    if (!error.isEmpty()) {
-      Complain(
-          Message(Acctl::tr("cannot record in %1 that it is undone: %2"), undone_.path, error));
-      code = ExitCode::Refused;
-    }
-  }
-  return code;
+  return RunOnProjectors(texts);
 }
 
 }  // namespace

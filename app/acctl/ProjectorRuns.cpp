@@ -6,9 +6,11 @@
 #include <utility>
 
 #include "app/acctl/Commands.h"
+#include "app/acctl/Listing.h"
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Password.h"
+#include "app/acctl/ProfileTables.h"
 #include "app/acctl/Signals.h"
 #include "device/Connect.h"
 
@@ -41,12 +43,6 @@ bool IsChanging(const Arguments& arguments) {
   const Command command = arguments.command;
   return !arguments.dryRun && (command == Command::Set || command == Command::Reset ||
                                command == Command::Apply || command == Command::Undo);
-}
-
-/// Whether this program itself simulates the projector, so that no change lasts longer than the
-/// run.
-bool IsSimulatedHere(const FleetProfile& profile, const Work& work) {
-  return IsSimulated(profile, work.arguments) && !work.served.contains(profile.name);
 }
 
 /// The projector's address; nothing if it is simulated here.
@@ -92,6 +88,10 @@ bool IsSimulated(const FleetProfile& profile, const Arguments& arguments) {
   return arguments.connecting.address.empty() && profile.link == ProjectorLink::Simulated;
 }
 
+bool IsSimulatedHere(const FleetProfile& profile, const Work& work) {
+  return IsSimulated(profile, work.arguments) && !work.served.contains(profile.name);
+}
+
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
                                                const std::string& password) {
   auto open = std::make_unique<OpenProjector>();
@@ -112,11 +112,10 @@ ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
                                           const std::string& password) {
   const Arguments& arguments = work_.arguments;
   const auto address = PresentAddress(Profile(number), work_, password);
-  const bool isListed = arguments.command == Command::Settings;  // which asks for inputs at most
   Attempt attempt;
   auto open = open_.Take(number);
   if (!open) open = std::make_unique<OpenProjector>();
-  if (!open->lock && address && !isListed) {
+  if (!open->lock && address && !step.mayBeSilent) {
     open->lock.emplace(*address, arguments.connecting.timeOut, [this] {
       open_.CloseAll();
       return work_.isInterrupted();
@@ -130,7 +129,7 @@ ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
   }
   Connect(work_, Profile(number), address, *open);
   ProjectorAccess& projector = *open->access;
-  if (projector.Channel().IsGone() && !isListed) {
+  if (projector.Channel().IsGone() && !step.mayBeSilent) {
     attempt.report.Add(NoAnswerOf(projector));
   } else {
     attempt.report = step.action(work_, projector);
@@ -174,7 +173,20 @@ void ProjectorRuns::Add(const Problem& problem) {
   printer_.Add(problem);
 }
 
-void ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
+std::optional<Report> ProjectorRuns::NotBegun() const {
+  Report report;
+  if (work_.isInterrupted()) {
+    report.Add(InterruptionOf());
+    return report;
+  }
+  if (!work_.arguments.failFast || !hasFailed_) return {};
+  report.Add({.code = ProblemCode::Stopped,
+              .text = Message(Acctl::tr("not begun, as another projector failed"))});
+  return report;
+}
+
+bool ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
+  if (conditions.empty()) return true;
   constexpr const char* kMeets = "meets";
   const Step step{[&](const Work& work, ProjectorAccess& projector) {
                     Report report;
@@ -185,7 +197,13 @@ void ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
   Projectors meeting;
   std::vector<int> numbers;
   RunParallel(
-      Count(), JobsOf(work_.arguments), meter_, [&](int number) { return Act(number, step); },
+      Count(), JobsOf(work_.arguments), meter_,
+      [&](int number) {
+        if (auto report = NotBegun()) return std::move(*report);
+        Report report = Act(number, step);
+        if (report.code != ExitCode::Done) hasFailed_ = true;
+        return report;
+      },
       [&](int number, Report report) {
         if (report.json[kMeets].toBool()) {
           meeting.push_back(&Profile(number));
@@ -196,20 +214,21 @@ void ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
           printer_.Add(Profile(number).name, IsSimulated(Profile(number), work_.arguments), report);
         }
       });
+  const bool areAll = meeting.size() == projectors_.size();
   open_.Renumber(numbers);
   projectors_ = std::move(meeting);
+  return areAll;
 }
 
 Report ProjectorRuns::RunOne(int number, const std::vector<std::optional<Report>>& checked) {
   const Arguments& arguments = work_.arguments;
-  if (const auto& report = checked[static_cast<std::size_t>(number)]) return *report;
-  Report report;
-  if (arguments.failFast && hasFailed_) {
-    report.Add({.code = ProblemCode::Stopped,
-                .text = Message(Acctl::tr("not begun, as another projector failed"))});
-    return report;
+  if (const auto& report = checked[static_cast<std::size_t>(number)]) {
+    if (report->code != ExitCode::Done) hasFailed_ = true;
+    return *report;
   }
-  report = Act(number, {ActionOf(arguments.command)});
+  if (auto report = NotBegun()) return std::move(*report);
+  const bool isListing = arguments.command == Command::Settings;  // asks for inputs at most
+  Report report = Act(number, {ActionOf(arguments.command), false, isListing});
   // Nothing was sent to this one, but perhaps to others.
   if (work_.isForSeveral && report.code == ExitCode::WrongUse && IsChanging(arguments)) {
     report.code = ExitCode::Refused;
@@ -224,21 +243,37 @@ Report ProjectorRuns::RunOne(int number, const std::vector<std::optional<Report>
   return report;
 }
 
-int ProjectorRuns::Run() {
+void ProjectorRuns::RunOnAll() {
   const Arguments& arguments = work_.arguments;
-  if (Count() > 0) {
-    const auto checked = CheckWords(work_, projectors_, models_, meter_, [&](int number) {
-      return Act(number, {CheckByAsking, true});
-    });
-    RunParallel(
-        Count(), JobsOf(arguments), meter_, [&](int number) { return RunOne(number, checked); },
-        [&](int number, const Report& report) {
-          code_ = std::max(code_, report.code);
-          printer_.Add(Profile(number).name, IsSimulated(Profile(number), arguments), report);
-        });
+  if (Count() == 0) return;
+  const auto checked = CheckWords(work_, projectors_, models_, meter_, [&](int number) {
+    return Act(number, {CheckByAsking, true});
+  });
+  RunParallel(
+      Count(), JobsOf(arguments), meter_, [&](int number) { return RunOne(number, checked); },
+      [&](int number, const Report& report) {
+        code_ = std::max(code_, report.code);
+        printer_.Add(Profile(number).name, IsSimulated(Profile(number), arguments), report);
+      });
+}
+
+void ProjectorRuns::Run() {
+  switch (work_.arguments.command) {
+    case Command::List:
+      List(work_, projectors_, printer_);
+      break;
+    case Command::Export:
+      Export(projectors_, printer_);
+      break;
+    default:
+      RunOnAll();
   }
+}
+
+int ProjectorRuns::Finish() {
+  const int signal = ReceivedSignal();
   const bool isPrinted = printer_.Finish();
-  if (const int signal = ReceivedSignal(); signal != 0) {
+  if (signal != 0) {
     Complain(Message(Acctl::tr("interrupted; what was done is reported above")));
     return ExitCode::Signalled + signal;
   }

@@ -15,6 +15,10 @@
 /// Whether a projector is only simulated: by a simulator program that serves it, or else here.
 bool IsSimulated(const FleetProfile& profile, const Arguments& arguments);
 
+/// Whether this program itself simulates the projector, so that no change lasts longer than the
+/// run.
+bool IsSimulatedHere(const FleetProfile& profile, const Work& work);
+
 /// Opens a projector without waiting for others; null if another run of the program uses it.
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
                                                const std::string& password);
@@ -28,9 +32,13 @@ class ProjectorRuns {
   /// Reports an error that is not about one of the projectors.
   void Add(const Problem& problem);
   /// Leaves out projectors that do not meet the conditions. Those that do not answer are reported.
-  void Filter(const std::vector<Condition>& conditions);
-  /// The exit code.
-  int Run();
+  /// Returns whether all are left.
+  bool Filter(const std::vector<Condition>& conditions);
+  void Run();
+  /// The exit code so far.
+  int Code() const { return code_; }
+  /// Prints what is left, and returns the final exit code.
+  int Finish();
 
  private:
   using Action = std::function<Report(const Work&, ProjectorAccess&)>;
@@ -38,6 +46,7 @@ class ProjectorRuns {
   struct Step {
     Action action;
     bool keepsOpen = false;
+    bool mayBeSilent = false;  ///< It works without a projector's answer, and waits for no run.
   };
   /// The result of one attempt to reach a projector.
   struct Attempt {
@@ -50,6 +59,10 @@ class ProjectorRuns {
   Attempt Try(int number, const Step& step, const std::string& password);
   Attempt TryWithPassword(int number, const Step& step);
   Report RunOne(int number, const std::vector<std::optional<Report>>& checked);
+  void RunOnAll();
+  /// The report of a projector that is not begun because of --fail-fast or because the run was
+  /// interrupted; nothing if it may be begun.
+  std::optional<Report> NotBegun() const;
   const FleetProfile& Profile(int number) const {
     return *projectors_[static_cast<std::size_t>(number)];
   }

@@ -101,7 +101,9 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
   if (progress.goesOn()) {
     reads = projector.Settings().PrepareReads(projector.Connection(), settings);
   }
+  std::size_t done = 0;
   for (const auto& [setting, source] : reads) {
+    ++done;
     CPjtInterface& connection = projector.Connection();
     if (const auto value = projector.Settings().Read(connection, *setting, source)) {
       values.Add(*setting, *value, connection.Power());
@@ -116,6 +118,9 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
       notOffered.emplace_back(setting->key);
     }
     if (!progress.goesOn()) break;
+  }
+  if (work.isInterrupted() && (done < reads.size() || reads.size() < settings.size())) {
+    report.Add(InterruptionOf());
   }
   if (!unread.empty() && !power) power = AskPower(projector);
   ReportUnread(unread, power, NotReadable(), report);

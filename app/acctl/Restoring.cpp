@@ -4,6 +4,7 @@
 #include "app/acctl/FileCheck.h"
 #include "app/acctl/Message.h"
 #include "app/acctl/Reading.h"
+#include "app/acctl/ReplacedValues.h"
 #include "app/acctl/RestoredOutcomes.h"
 #include "app/acctl/Selection.h"
 #include "app/acctl/UndoRuns.h"
@@ -17,6 +18,10 @@ Restoration MakeRestoration(const Work& work, ProjectorAccess& projector) {
 
 void ReportIfGone(const ProjectorAccess& projector, Report& report) {
   if (projector.Channel().IsGone()) report.Add(NoAnswerOf(projector));
+}
+
+void ReportIfCut(const Work& work, const RestoredOutcomes& outcomes, Report& report) {
+  if (work.isInterrupted() && outcomes.Count(Outcome::NotReached) > 0) report.Add(InterruptionOf());
 }
 
 /// With --exit-code, 1 says that something differs, so an error is 2.
@@ -35,6 +40,7 @@ Report RunDiff(const Work& work, ProjectorAccess& projector) {
   ReportIfGone(projector, report);
   const RestoredOutcomes outcomes(work, TargetOf(projector), restoration);
   outcomes.PutInto(report);
+  ReportIfCut(work, outcomes, report);
   report.text = outcomes.Differences() + outcomes.Summary() + '\n';
   if (work.arguments.exitCode) TakeExitCode(outcomes, report);
   return report;
@@ -52,8 +58,8 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   restoration.Send(work.texts.Shown(), progress, [&] {
     const Snapshot undo = restoration.Undo(projector.Name(), work.texts.Shown());
     if (undo.settings.empty() && undo.beforehand.empty()) return true;
-    isKept = work.undo->Keep(work.ids.at(projector.Name()), undo);
-    wasKept = wasKept || isKept;
+    isKept = KeepUndo(work, projector.Name(), undo);
+    wasKept = wasKept || (isKept && work.undoIds.contains(projector.Name()));
     return isKept;
   });
   if (wasKept) report.json["undo"] = work.undo->Path();
@@ -65,6 +71,7 @@ Report RunApply(const Work& work, ProjectorAccess& projector) {
   ReportIfGone(projector, report);
   const RestoredOutcomes outcomes(work, TargetOf(projector), restoration);
   outcomes.PutInto(report);
+  ReportIfCut(work, outcomes, report);
   report.text = outcomes.Differences() + outcomes.Summary() + '\n';
   return report;
 }

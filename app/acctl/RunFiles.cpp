@@ -153,29 +153,28 @@ QString UndoFolderOf(const Arguments& arguments) {
 }
 
 std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
-  if (!arguments.file.empty() && QFileInfo::exists(Wide(arguments.file))) {
+  const bool isLast = arguments.file.empty() || arguments.file == kLastRun;
+  if (!isLast && QFileInfo::exists(Wide(arguments.file))) {
     run = ReadRun(Wide(arguments.file));
     return run.error.toStdString();
   }
   std::vector<RecordedRun> runs = ListRuns(UndoFolderOf(arguments));
   std::ranges::reverse(runs);
-  const auto found = std::ranges::find_if(runs, [&arguments](const RecordedRun& recorded) {
-    if (!arguments.file.empty()) return recorded.name == arguments.file;
+  const auto found = std::ranges::find_if(runs, [&](const RecordedRun& recorded) {
+    if (!isLast) return recorded.name == arguments.file;
     // One that cannot be read may be the last run.
     return !recorded.error.isEmpty() || (!recorded.isUndo && !recorded.isUndone);
   });
   if (found != runs.end() && !found->error.isEmpty()) {
-    return arguments.file.empty()
-               ? Message(Acctl::tr("%1; name an earlier run to undo that one"), found->error)
-               : found->error.toStdString();
+    return isLast ? Message(Acctl::tr("%1; name an earlier run to undo that one"), found->error)
+                  : found->error.toStdString();
   }
   if (found != runs.end()) {
     run = std::move(*found);
     return {};
   }
-  return arguments.file.empty()
-             ? Message(Acctl::tr("there is no run to undo"))
-             : Message(Acctl::tr("there is no run '%1'; --list shows them"), arguments.file);
+  return isLast ? Message(Acctl::tr("there is no run to undo"))
+                : Message(Acctl::tr("there is no run '%1'; --list shows them"), arguments.file);
 }
 
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,

@@ -21,6 +21,9 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
 std::string ChooseSavePaths(const Arguments& arguments, const Projectors& projectors,
                             std::map<std::string, std::string>& paths);
 
+/// The name of the last run.
+inline constexpr const char* kLastRun = "last";
+
 /// The run that `undo` undoes: the named one, or else the last one that was not undone and is not
 /// itself an undo.
 std::string ChooseRun(const Arguments& arguments, RecordedRun& run);

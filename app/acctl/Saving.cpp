@@ -47,7 +47,7 @@ Report RunSave(const Work& work, ProjectorAccess& projector) {
                                    work.texts.Shown(), progress, &unread);
   // An incomplete snapshot would look like a complete one.
   if (!progress.goesOn()) {
-    if (projector.Channel().IsGone()) report.Add(NoAnswerOf(projector));
+    report.Add(projector.Channel().IsGone() ? NoAnswerOf(projector) : InterruptionOf());
     return report;
   }
   std::erase_if(snapshot.settings, [&work](const SavedSetting& setting) {

@@ -7,7 +7,6 @@
 
 #include "app/acctl/Message.h"
 #include "app/acctl/Reading.h"
-#include "app/acctl/UndoRuns.h"
 
 namespace {
 
@@ -32,7 +31,7 @@ std::string BusyText(std::optional<PowerState> power) {
 
 SetRun::SetRun(const Work& work, ProjectorAccess& projector, const std::vector<Change>& changes,
                Report& report)
-    : work_(work), projector_(projector), report_(report) {
+    : work_(work), projector_(projector), report_(report), replaced_(work, projector) {
   for (const Change& change : changes) results_.push_back({.change = &change, .aim = change.aim});
 }
 
@@ -70,31 +69,8 @@ void SetRun::ReadAgain(Result& result) {
   result.before = projector_.Settings().Read(projector_.Connection(), setting, result.source);
 }
 
-/// Records what the change replaces. A run that cannot be undone goes on, and says so.
-bool SetRun::KeepBefore(const Result& result) {
-  const ModelSetting& setting = *result.change->setting;
-  if (!setting.Restorable() || !result.before || result.before == result.aim) return true;
-  const auto saved = [&](int value) {
-    return SavedSetting{.key = std::string(setting.key),
-                        .value = value,
-                        .text = work_.texts.Shown().Value(setting, value),
-                        .source = setting.of != OfSource::None ? result.source : std::nullopt};
-  };
-  if (setting.kind == ModelSetting::Kind::Choice) modes_.push_back(saved(*result.aim));
-  replaced_.insert(replaced_.begin(), saved(*result.before));
-  Snapshot undo = EmptySnapshot(projector_.Name(), projector_.Settings().Model());
-  if (replaced_.size() == 1) {
-    undo.settings = replaced_;
-  } else {
-    undo.beforehand = modes_;
-    undo.beforehand.insert(undo.beforehand.end(), replaced_.begin(), replaced_.end());
-  }
-  return work_.undo->Keep(work_.ids.at(projector_.Name()), undo);
-}
-
 void SetRun::Make() {
   const Progress progress = ProgressOf(work_, projector_);
-  bool isKept = true;
   for (Result& result : results_) {
     if (!progress.goesOn()) break;
     const ModelSetting& setting = *result.change->setting;
@@ -108,15 +84,13 @@ void SetRun::Make() {
                            ExitCode::Refused, report_);
       }
       if (!result.aim) continue;
-      isKept = KeepBefore(result) && isKept;
+      // A run that cannot be undone goes on, and says so.
+      replaced_.Keep(setting, result.before, result.aim, result.source);
       Make(result);
     }
     isForOtherSource_ = isForOtherSource_ || setting.SelectsInput();
   }
-  if (isKept) return;
-  report_.Add({.code = ProblemCode::File,
-               .text = Message(Acctl::tr("this cannot be undone: %1"), work_.undo->Error()),
-               .exitCode = ExitCode::Done});
+  replaced_.ReportFailure(report_);
 }
 
 void SetRun::Make(Result& result) {
@@ -226,7 +200,8 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
     return;
   }
   const Problem failure = FailureOf(projector_, {ProblemCode::Unconfirmed, NotReadable()});
-  Fail(result, "unconfirmed", failure.code, Message(Acctl::tr("accepted, but %1"), failure.text),
+  Fail(result, "unconfirmed", failure.code,
+       Message(Acctl::tr("accepted, but not confirmed: %1"), failure.text),
        isAnswered ? ExitCode::Refused : ExitCode::NoAnswer);
 }
 
@@ -335,6 +310,10 @@ void SetRun::Finish() {
     AddUnknownBefore(result);
     changes.append(Describe(result));
   }
+  const bool isCut = std::ranges::any_of(results_, [](const Result& result) {
+    return std::string_view(result.outcome) == "notDone" && !result.problem;
+  });
+  if (isCut && work_.isInterrupted()) report_.Add(InterruptionOf());
   values.PutInto(report_);
   if (work_.arguments.dryRun) report_.json.remove("settings");
   report_.json["changes"] = changes;

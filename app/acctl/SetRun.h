@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/acctl/Changes.h"
+#include "app/acctl/ReplacedValues.h"
 #include "app/acctl/Values.h"
 
 /// Makes the changes of `set` on one projector, in their order, and reports each.
@@ -40,7 +41,6 @@ class SetRun {
   void Make(Result& result);
   void MakeSteps(Result& result);
   void ReadAgain(Result& result);
-  bool KeepBefore(const Result& result);
   void Judge(Result& result, const CPjtInterface::Tally& before, bool accepted,
              const CPjtInterface::Tally& after);
   void AddUnknownBefore(const Result& result);
@@ -53,7 +53,6 @@ class SetRun {
   ProjectorAccess& projector_;
   Report& report_;
   std::vector<Result> results_;
-  std::vector<SavedSetting> modes_;     ///< Choices that were sent, in order.
-  std::vector<SavedSetting> replaced_;  ///< What was there before, the last one first.
-  bool isForOtherSource_ = false;       ///< The input source was changed.
+  ReplacedValues replaced_;
+  bool isForOtherSource_ = false;  ///< The input source was changed.
 };

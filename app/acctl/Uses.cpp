@@ -105,6 +105,11 @@ Problem NoAnswerOf(const ProjectorAccess& projector) {
   }
 }
 
+Problem InterruptionOf() {
+  //: By Ctrl+C or another signal.
+  return {ProblemCode::Stopped, Message(Acctl::tr("interrupted"))};
+}
+
 Problem FailureOf(const ProjectorAccess& projector, Problem otherwise) {
   const PatientChannel& channel = projector.Channel();
   Problem problem = std::move(otherwise);

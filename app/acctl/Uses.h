@@ -39,6 +39,8 @@ Target TargetOf(const ProjectorAccess& projector);
 
 /// "no answer", with what the connection knows of the reason.
 Problem NoAnswerOf(const ProjectorAccess& projector);
+/// The command was interrupted before it was done with a projector.
+Problem InterruptionOf();
 /// Why the last command for a setting failed: `otherwise`, unless the projector did not answer or
 /// does not have it.
 Problem FailureOf(const ProjectorAccess& projector, Problem otherwise);

@@ -44,6 +44,7 @@ std::string RestingText(const std::string& problem, PowerState power) {
 /// What the threads of all projectors share.
 struct Shared {
   const Work& work;
+  const std::vector<Condition>& conditions;  ///< Of --where.
   std::optional<Condition> until;
   std::optional<Clock::time_point> end;
   std::mutex mutex{};  ///< For the output and the code.
@@ -70,7 +71,8 @@ class ProjectorWatch {
         profile_(profile),
         isSimulated_(IsSimulated(profile, shared.work.arguments)),
         prefix_(ShownName(profile.name, isSimulated_)) {
-    prefix_.append(static_cast<std::size_t>(nameWidth - DisplayWidth(prefix_) + 2), ' ');
+    const int gap = nameWidth - DisplayWidth(prefix_) + 2;
+    prefix_.append(static_cast<std::size_t>(gap), ' ');
   }
 
   void Run() {
@@ -94,6 +96,7 @@ class ProjectorWatch {
  private:
   /// Reads again and again until the projector is gone or there is nothing more to wait for.
   void Follow(ProjectorAccess& projector) {
+    if (!IsChosen(projector)) return;
     const Work& work = shared_.work;
     Report lacks;
     std::vector<std::string> words = work.arguments.words;
@@ -115,7 +118,23 @@ class ProjectorWatch {
       if (projector.Channel().IsGone()) break;
       if (!isFinished_) Wait(work.arguments.interval);
     }
-    if (projector.Channel().IsGone() && !std::exchange(isSilent_, true)) Add(NoAnswerOf(projector));
+    if (projector.Channel().IsGone()) TakeSilence(projector);
+  }
+
+  void TakeSilence(const ProjectorAccess& projector) {
+    if (!std::exchange(isSilent_, true)) Add(NoAnswerOf(projector));
+  }
+
+  /// Whether the projector met the conditions when it first answered. If not, there is nothing to
+  /// watch.
+  bool IsChosen(ProjectorAccess& projector) {
+    if (isChosen_) return true;
+    Report report;
+    isChosen_ = MeetsAll(shared_.conditions, shared_.work.texts, projector, report);
+    const bool isSilent = report.code != ExitCode::Done;
+    if (isSilent) TakeSilence(projector);
+    isFinished_ = !isChosen_ && !isSilent;
+    return isChosen_;
   }
 
   /// What this projector does not have is never reached.
@@ -166,7 +185,7 @@ class ProjectorWatch {
   }
 
   void Add(const Problem& problem) {
-    Complain(profile_.name + ": " + problem.Line());
+    Complain(ShownName(profile_.name, isSimulated_) + ": " + problem.Line());
     if (shared_.work.arguments.format == Format::Text) return;
     const bool isNote = problem.exitCode == ExitCode::Done;
     Write({{isNote ? "note" : "error", Describe(problem)}});
@@ -211,6 +230,7 @@ class ProjectorWatch {
   std::string prefix_;
   std::map<std::string, Seen> last_;
   bool isBegun_ = false;
+  bool isChosen_ = false;
   bool isSilent_ = false;
   bool isFinished_ = false;
 };
@@ -232,9 +252,10 @@ bool HasWrongWords(const Work& work, const Projectors& projectors, ModelCache& m
 
 }  // namespace
 
-int Watch(const Work& work, const Projectors& projectors, ModelCache& models) {
+int Watch(const Work& work, const Projectors& projectors, ModelCache& models,
+          const std::vector<Condition>& conditions) {
   if (HasWrongWords(work, projectors, models)) return ExitCode::WrongUse;
-  Shared shared{.work = work, .until = {}, .end = {}};
+  Shared shared{.work = work, .conditions = conditions, .until = {}, .end = {}};
   if (!work.arguments.until.empty()) {
     const auto fail = [&work](const std::string& error) {
       return ReportError(

@@ -37,10 +37,13 @@ struct Work {
   bool isForSeveral = false;  ///< If so, it is not wrong usage if one of them lacks a setting.
   SettingsFiles files{};
   std::map<std::string, std::string> paths{};  ///< The file to save each projector in, by name.
-  std::map<std::string, std::string> ids{};    ///< What tells a projector from others, by name.
-  ServedAddresses served{};                    ///< Of simulated projectors, by name.
-  std::string password{};                      ///< Of PJLink projectors whose profile has none.
-  ModelCache* models = nullptr;                ///< Null if no projector is asked.
-  UndoRecorder* undo = nullptr;                ///< Null if the command changes nothing.
+  /// What tells a projector from others in undo files, by name. Those that this program simulates
+  /// itself are missing, since no change of them lasts.
+  std::map<std::string, std::string> undoIds{};
+  std::vector<std::string> conditionKeys{};  ///< The settings that --where and --until compare.
+  ServedAddresses served{};                  ///< Of simulated projectors, by name.
+  std::string password{};                    ///< Of PJLink projectors whose profile has none.
+  ModelCache* models = nullptr;              ///< Null if no projector is asked.
+  UndoRecorder* undo = nullptr;              ///< Null if the command changes nothing.
   std::function<bool()> isInterrupted;
 };

@@ -1,19 +1,13 @@
 #pragma once
 
-#include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <thread>
 
 #include <QByteArray>
-#include <QObject>
 #include <QString>
-
-struct mosquitto;
 
 /// How to reach a message broker.
 struct BrokerAddress {
@@ -34,13 +28,19 @@ struct BrokerMessage {
   bool isRetained = false;
 };
 
-/// A connection to a message broker that is made again whenever it breaks, after pauses from half a
-/// second to half a minute. Belongs to the thread that makes it, on which all functions of the
-/// listener are called; the network has a thread of its own.
+/// A connection to a message broker. It is tried again until it is made, after pauses from half a
+/// second to half a minute. Once it breaks it is over, with the messages under way. Belongs to the
+/// thread that makes it, on which all functions of the listener are called; the network has a
+/// thread of its own.
 class Broker {
  public:
+  /// The pause after the first try. Also how long to wait before a connection that broke is
+  /// replaced.
+  static constexpr std::chrono::milliseconds kFirstPause{500};
+
   struct Listener {
     std::function<void()> connected;
+    /// Also after each try that failed.
     std::function<void(const QString& reason)> disconnected;
     std::function<void(int number)> subscribed;
     std::function<void(const BrokerMessage& message)> received;
@@ -49,7 +49,7 @@ class Broker {
 
   /// Begins to connect. The broker sends `will` when the connection breaks.
   Broker(const BrokerAddress& address, const std::optional<BrokerMessage>& will, Listener listener);
-  /// Says good-bye, so that the will is not sent.
+  /// Says good-bye, so that the will is not sent. Does not wait for a broker that does not answer.
   ~Broker();
   Broker(const Broker&) = delete;
   Broker& operator=(const Broker&) = delete;
@@ -61,25 +61,13 @@ class Broker {
 
   /// Sent exactly once, as far as this depends on the sender.
   std::optional<int> Subscribe(const QByteArray& topic);
-  /// Sent at least once. A message passed while the connection is broken is sent when it is
-  /// restored.
+  /// Sent at least once.
   std::optional<int> Publish(const BrokerMessage& message);
 
  private:
-  QString Configure(const BrokerAddress& address, const std::optional<BrokerMessage>& will);
-  void SetCallbacks();
-  void Run();
-  void QueueCall(std::function<void()> what);
+  class Connection;
 
-  const BrokerAddress address_;
-  const Listener listener_;
-  std::unique_ptr<mosquitto, void (*)(mosquitto*)> client_;
-  QString error_;
-  QObject context_;  ///< What is told ends with it.
-  std::mutex mutex_;
-  std::condition_variable ends_;
-  bool isEnding_ = false;  ///< Under the mutex.
-  std::atomic<bool> isConnected_ = false;
-  std::atomic<int> refusal_ = 0;  ///< What the broker said instead of connecting.
+  const std::shared_ptr<Connection> connection_;
+  const QString error_;
   std::thread thread_;
 };

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <QTimer>
 #include <QUuid>
 
 #include "app/bridge/Log.h"
@@ -14,14 +13,23 @@ BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
       topics_(topics),
       services_(std::move(services)),
       instance_(QUuid::createUuid().toByteArray(QUuid::WithoutBraces)),
-      keeper_(instance_.toStdString(), takeover, Now()),
-      publisher_(projectors, std::move(make),
-                 [this](const BrokerMessage& message) { return session_->Publish(message); }) {}
+      takeover_(takeover),
+      ticked_(Now()),
+      keeper_(instance_.toStdString(), takeover, ticked_),
+      publisher_(projectors, std::move(make), [this](const BrokerMessage& message) {
+        return HasHung() ? std::nullopt : session_->Publish(message);
+      }) {
+  connecting_.setSingleShot(true);
+  QObject::connect(&connecting_, &QTimer::timeout, &connecting_, [this] {
+    if (!isClosing_) Connect();
+  });
+}
 
 BrokerLink::~BrokerLink() {
   isClosing_ = true;
   if (!session_ || !session_->IsConnected() || !keeper_.IsSettled()) return;
   publisher_.Stop();
+  if (const auto claim = keeper_.GiveUp()) Publish(*claim);
   session_->SayOffline();
 }
 
@@ -40,42 +48,50 @@ void BrokerLink::Connect() {
   session_ = std::make_unique<BrokerSession>(
       address_, topics_, instance_, holds_,
       BrokerSession::Listener{.connected = [this] { TakeConnected(); },
-                              .disconnected = [this] { TakeDisconnected(); },
+                              .lost = [this] { ConnectAgain(Broker::kFirstPause); },
                               .received = [this](const BrokerMessage& message) { Take(message); },
                               .sent = [this](int number) { publisher_.Sent(number); }});
 }
 
 void BrokerLink::TakeConnected() {
   isSettled_ = false;
-  keeper_.Connected(Now());
+  keeper_.Connected();
   services_.renewed();
 }
 
-void BrokerLink::TakeDisconnected() {
+/// Before the next connection is settled, nothing is sent and no command is taken.
+void BrokerLink::ConnectAgain(std::chrono::milliseconds pause) {
   isSettled_ = false;
   keeper_.Disconnected();
   publisher_.Stop();
+  connecting_.start(pause);
 }
 
 void BrokerLink::Take(const BrokerMessage& message) {
   if (isClosing_) return;
+  if (HasHung()) Tick();
   if (message.topic == topics_.Hello()) {
-    if (message.payload == instance_) {
-      keeper_.TakeHello(Now());
-    } else if (keeper_.IsSettled()) {
-      Log(QStringLiteral("another bridge has the same share, and should stand back"));
-    }
+    TakeHello(message.payload);
   } else if (message.topic == topics_.Holder()) {
-    if (const auto holder = ParseHolder(message.payload)) keeper_.TakeHolder(*holder, Now());
+    if (const auto claim = ParseClaim(message.payload)) keeper_.TakeClaim(*claim);
   } else if (message.topic == topics_.Availability()) {
     const bool isOnline = message.payload == "online";
     keeper_.TakeAvailability(isOnline);
     // This is the late last will of an earlier connection with this share.
-    if (!isOnline && isSettled_) session_->SayOnline();
-  } else {
+    if (!isOnline && keeper_.IsSettled()) session_->SayOnline();
+  } else if (keeper_.IsSettled()) {
     services_.received(message);
   }
-  FollowRole();
+  Tick();
+}
+
+void BrokerLink::TakeHello(const QByteArray& instance) {
+  if (instance == instance_) return keeper_.TakeHello();
+  if (!keeper_.IsSettled()) return;
+  Log(QStringLiteral("another bridge has the same share, and should stand back"));
+  if (!keeper_.TakeOtherHello(instance.toStdString())) return;
+  // Its states are those of the time before it hung.
+  publisher_.Forget(Publisher::Kind::State);
 }
 
 void BrokerLink::FollowRole() {
@@ -88,9 +104,7 @@ void BrokerLink::FollowRole() {
   if (std::exchange(holds_, holds) != holds) {
     publisher_.Stop();
     // Not while the connection is telling something.
-    QTimer::singleShot(0, &context_, [this] {
-      if (!isClosing_) Connect();
-    });
+    connecting_.start(0);
   } else if (keeper_.IsSettled() && !std::exchange(isSettled_, true)) {
     Settle();
   }
@@ -109,11 +123,16 @@ void BrokerLink::Settle() {
 }
 
 void BrokerLink::Tick() {
-  keeper_.Tick(Now());
+  // Another bridge may have the share by now, and commands that came meanwhile are old.
+  if (HasHung() && isSettled_) ConnectAgain({});
+  ticked_ = Now();
+  keeper_.Tick(ticked_);
   if (isSettled_) {
-    if (const auto beat = keeper_.TakeBeat(Now())) {
-      session_->Publish({topics_.Holder(), HolderMessage(*beat, services_.share), true});
-    }
+    if (const auto claim = keeper_.TakeBeat(ticked_)) Publish(*claim);
   }
   FollowRole();
+}
+
+void BrokerLink::Publish(const Claim& claim) {
+  session_->Publish({topics_.Holder(), ClaimMessage(claim, services_.share), true});
 }

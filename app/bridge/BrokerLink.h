@@ -1,12 +1,13 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <vector>
 
 #include <QByteArray>
 #include <QJsonObject>
-#include <QObject>
+#include <QTimer>
 
 #include "app/bridge/BrokerSession.h"
 #include "app/bridge/Publisher.h"
@@ -46,17 +47,23 @@ class BrokerLink {
 
  private:
   static ShareKeeper::Time Now() { return std::chrono::steady_clock::now(); }
+  /// Whether this process has done nothing for so long that another one may have taken over.
+  bool HasHung() const { return Now() - ticked_ >= takeover_; }
   void Connect();
   void TakeConnected();
-  void TakeDisconnected();
+  void ConnectAgain(std::chrono::milliseconds pause);
   void Take(const BrokerMessage& message);
+  void TakeHello(const QByteArray& instance);
   void FollowRole();
   void Settle();
+  void Publish(const Claim& claim);
 
   const BrokerAddress address_;
   const Topics topics_;
   const Services services_;
   const QByteArray instance_;
+  const std::chrono::milliseconds takeover_;
+  ShareKeeper::Time ticked_;
   ShareKeeper keeper_;
   Publisher publisher_;
   bool holds_ = false;      ///< What the present connection is for.
@@ -64,5 +71,5 @@ class BrokerLink {
   bool stoodBack_ = false;
   bool isClosing_ = false;
   std::unique_ptr<BrokerSession> session_;
-  QObject context_;  ///< Ends first, with the connection that is to be made.
+  QTimer connecting_;  ///< Makes the next connection.
 };

@@ -45,8 +45,7 @@ void BrokerSession::TakeConnected() {
 void BrokerSession::TakeDisconnected(const QString& reason) {
   if (isConnected_ || !toldProblem_) Log("not connected to the broker: " + reason);
   toldProblem_ = true;
-  isConnected_ = false;
-  listener_.disconnected();
+  if (std::exchange(isConnected_, false)) listener_.lost();
 }
 
 void BrokerSession::TakeSent(int number) {

@@ -17,7 +17,7 @@ class BrokerSession {
  public:
   struct Listener {
     std::function<void()> connected;
-    std::function<void()> disconnected;
+    std::function<void()> lost;  ///< The connection broke; another session must replace it.
     std::function<void(const BrokerMessage& message)> received;
     std::function<void(int number)> sent;
   };

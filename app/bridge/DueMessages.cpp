@@ -21,6 +21,11 @@ bool DueMessages::Renew(std::size_t projector) {
 
 void DueMessages::Forget() { std::ranges::fill(sent_, std::nullopt); }
 
+void DueMessages::Lose(std::size_t projector) {
+  sent_[projector].reset();
+  Renew(projector);
+}
+
 bool DueMessages::IsSent(const QByteArray& payload) const {
   return sent_[First()] == HashOf(payload);
 }

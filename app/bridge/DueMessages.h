@@ -22,6 +22,8 @@ class DueMessages {
   bool IsEmpty() const { return due_.empty(); }
   /// The projector whose message is next.
   std::size_t First() const { return due_.front(); }
+  /// The broker may not have got the projector's message; it is due again.
+  void Lose(std::size_t projector);
   /// Whether the broker already has this message of that projector.
   bool IsSent(const QByteArray& payload) const;
   /// Its message is no longer due.

@@ -161,7 +161,8 @@ void AddBridge(MetricsText& text, const BridgeCounts& counts) {
   text.Add("result=\"unanswered\"", quint64{counts.visits.unanswered});
   text.Add("result=\"abandoned\"", quint64{counts.visits.abandoned});
   AddAnswers(text, counts.answers);
-  text.Begin("projector_bridge_messages_total", "counter", "Messages to the broker, by kind.");
+  text.Begin("projector_bridge_messages_total", "counter",
+             "Messages that the broker has got, by kind.");
   AddCounts(text, "kind", counts.messages);
   text.Begin("projector_bridge_commands_total", "counter", "Commands received, by outcome.");
   AddCounts(text, "outcome", counts.commands);

@@ -41,11 +41,24 @@ void Publisher::Start() {
 
 void Publisher::Restart() {
   isOpen_ = false;
+  // The first answer comes to the front last.
+  for (auto entry = underWay_.rbegin(); entry != underWay_.rend(); ++entry) {
+    Pending& lost = entry->second;
+    if (lost.kind) {
+      Of(*lost.kind).Lose(lost.projector);
+    } else {
+      answers_.push_front(std::move(lost.answer));
+    }
+  }
   underWay_.clear();
 }
 
 void Publisher::Sent(int number) {
-  if (underWay_.erase(number) > 0) Pump();
+  const auto sent = underWay_.extract(number);
+  if (sent.empty()) return;
+  const std::optional<Kind> kind = sent.mapped().kind;
+  ++counts_[kind ? kNames.at(static_cast<std::size_t>(*kind)) : "answer"];
+  Pump();
 }
 
 bool Publisher::HasDue() const { return !std::ranges::all_of(messages_, &DueMessages::IsEmpty); }
@@ -53,8 +66,7 @@ bool Publisher::HasDue() const { return !std::ranges::all_of(messages_, &DueMess
 void Publisher::Pump() {
   while (isOpen_ && underWay_.size() < kUnderWay) {
     if (!answers_.empty()) {
-      if (!SendMessage(answers_.front(), "answer")) return;
-      answers_.pop_front();
+      if (!SendAnswer()) return;
     } else if (!SendNext(Of(Kind::State).IsEmpty() ? Kind::Discovery : Kind::State)) {
       return;
     }
@@ -70,15 +82,18 @@ bool Publisher::SendNext(Kind kind) {
     messages.Pop();
     return true;
   }
-  if (!SendMessage(message, kNames.at(static_cast<std::size_t>(kind)))) return false;
+  const auto number = send_(message);
+  if (!number) return false;
+  underWay_[*number] = {.kind = kind, .projector = messages.First()};
   messages.Pop(message.payload);
   return true;
 }
 
-bool Publisher::SendMessage(const BrokerMessage& message, const char* kind) {
-  const auto number = send_(message);
+/// Whether it could be sent.
+bool Publisher::SendAnswer() {
+  const auto number = send_(answers_.front());
   if (!number) return false;
-  underWay_.insert(*number);
-  ++counts_[kind];
+  underWay_[*number] = {.answer = std::move(answers_.front())};
+  answers_.pop_front();
   return true;
 }

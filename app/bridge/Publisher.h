@@ -6,7 +6,6 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 
 #include "app/bridge/Broker.h"
@@ -41,28 +40,34 @@ class Publisher {
   /// Starts to send; until then everything waits.
   void Start();
   void Stop() { isOpen_ = false; }
-  /// Another connection sends from the next `Start` on; messages under way may not have arrived.
+  /// Another connection sends from the next `Start` on, at first what was under way.
   void Restart();
   /// The broker has a message.
   void Sent(int number);
 
   std::size_t UnderWay() const { return underWay_.size(); }
   bool IsIdle() const { return underWay_.empty() && answers_.empty() && !HasDue(); }
-  /// How many messages were handed over, by kind.
+  /// How many messages the broker has got, by kind.
   const std::map<std::string, std::uint64_t>& Counts() const { return counts_; }
 
  private:
+  struct Pending {
+    std::optional<Kind> kind{};  ///< Nothing for an answer.
+    std::size_t projector = 0;   ///< Of the others.
+    BrokerMessage answer{};
+  };
+
   bool HasDue() const;
   DueMessages& Of(Kind kind) { return messages_.at(static_cast<std::size_t>(kind)); }
   void Pump();
   bool SendNext(Kind kind);
-  bool SendMessage(const BrokerMessage& message, const char* kind);
+  bool SendAnswer();
 
   const Make make_;
   const Send send_;
   bool isOpen_ = false;
   std::array<DueMessages, kKinds> messages_;
   std::deque<BrokerMessage> answers_{};
-  std::set<int> underWay_{};
+  std::map<int, Pending> underWay_{};  ///< By the connection's number.
   std::map<std::string, std::uint64_t> counts_{};
 };

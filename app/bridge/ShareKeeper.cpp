@@ -1,76 +1,92 @@
 #include "app/bridge/ShareKeeper.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
-QByteArray HolderMessage(const Holder& holder, const QJsonObject& share) {
-  QJsonObject json{{"instance", QString::fromStdString(holder.instance)},
-                   {"beat", static_cast<double>(holder.beat)}};
+namespace {
+
+constexpr int kBeats = 3;          // in the time for a takeover
+constexpr int kTimeToObject = 10;  // a part of it
+constexpr std::chrono::milliseconds kLongestStep{500};
+
+}  // namespace
+
+QByteArray ClaimMessage(const Claim& claim, const QJsonObject& share) {
+  QJsonObject json{{"instance", QString::fromStdString(claim.instance)},
+                   {"term", static_cast<double>(claim.term)},
+                   {"beat", static_cast<double>(claim.beat)}};
+  if (claim.isGivenUp) json["given-up"] = true;
   if (!share.isEmpty()) json["share"] = share;
   return QJsonDocument(json).toJson(QJsonDocument::Compact);
 }
 
-std::optional<Holder> ParseHolder(const QByteArray& message) {
+std::optional<Claim> ParseClaim(const QByteArray& message) {
   const QJsonObject json = QJsonDocument::fromJson(message).object();
   const std::string instance = json["instance"].toString().toStdString();
+  const double term = json["term"].toDouble(-1);
   const double beat = json["beat"].toDouble(-1);
   constexpr double kMost = 1e15;
-  if (instance.empty() || beat < 0 || beat > kMost) return {};
-  return Holder{instance, static_cast<std::uint64_t>(beat)};
+  if (instance.empty() || term < 0 || term > kMost || beat < 0 || beat > kMost) return {};
+  return Claim{.term = static_cast<std::uint64_t>(term),
+               .instance = instance,
+               .beat = static_cast<std::uint64_t>(beat),
+               .isGivenUp = json["given-up"].toBool()};
 }
 
 ShareKeeper::ShareKeeper(std::string instance, std::chrono::milliseconds takeover, Time now)
-    : instance_(std::move(instance)), takeover_(takeover), begun_(now) {}
+    : instance_(std::move(instance)), takeover_(takeover), begun_(now), ticked_(now) {}
 
-void ShareKeeper::Connected(Time now) {
+void ShareKeeper::Connected() {
   isConnected_ = true;
-  isSettled_ = hasClaimed_ = remembers_ = false;
-  isOnline_ = true;
+  isSettled_ = remembers_ = false;
   beaten_.reset();
   // The holder needs time to connect again, too.
-  heard_ = now;
+  silence_ = {};
 }
 
-void ShareKeeper::Disconnected() { isConnected_ = isSettled_ = hasClaimed_ = false; }
-
-void ShareKeeper::TakeHolder(const Holder& holder, Time now) {
-  if (holder.instance == instance_) {
-    // The last one may not have reached the broker before the connection broke.
-    if (!isSettled_) remembers_ = holder.beat + 1 >= beat_;
-    if (isSettled_) hasClaimed_ = true;
+void ShareKeeper::TakeClaim(const Claim& claim) {
+  if (claim.instance == instance_) {
+    // Later ones may not have reached the broker before the connection broke.
+    if (isSettled_) returned_ = claim.beat;
+    if (!isSettled_) remembers_ = claim.beat >= returned_;
     return;
   }
-  if (holder == gone_) return;
-  if (role_ == Role::Holding && hasClaimed_) {
-    beaten_.reset();  // so that the other one hears who was first
+  if (!claim.isGivenUp) claimants_.insert(claim.instance);
+  const bool isNews = claim > other_;
+  if (isNews) other_ = claim;
+  if (hasClaimed_ && claim < Claim{term_, instance_, beat_}) {
+    beaten_.reset();  // so that the other one hears that it was replaced
     return;
   }
-  StandBack(holder, now);
-}
-
-void ShareKeeper::StandBack(const Holder& other, Time now) {
-  holder_ = other;
-  heard_ = now;
-  isSettled_ = false;
+  // A share that was given up is free for a bridge that is about to take it.
+  if (!isNews || (claim.isGivenUp && role_ != Role::StandingBack && !hasClaimed_)) return;
   role_ = Role::StandingBack;
+  isSettled_ = hasClaimed_ = false;
+  silence_ = claim.isGivenUp ? takeover_ : std::chrono::nanoseconds();
 }
 
-void ShareKeeper::TakeAvailability(bool isOnline) { isOnline_ = isOnline; }
+void ShareKeeper::TakeAvailability(bool isOnline) {
+  if (isOnline) return;
+  beaten_.reset();
+  silence_ = std::max<std::chrono::nanoseconds>(silence_, takeover_ - takeover_ / kTimeToObject);
+}
 
-void ShareKeeper::TakeHello(Time now) {
+void ShareKeeper::TakeHello() {
   if (!isConnected_) return;
   if (role_ == Role::Holding) isSettled_ = true;
   if (role_ == Role::Looking) role_ = Role::Holding;
-  Tick(now);
 }
 
 void ShareKeeper::Tick(Time now) {
+  // While this process hung it heard nothing, and the holder's messages may still be waiting.
+  const auto step = std::min<std::chrono::nanoseconds>(now - ticked_, kLongestStep);
+  ticked_ = now;
   if (role_ != Role::StandingBack || !isConnected_) return;
-  if (isOnline_ && now - heard_ < takeover_) return;
-  gone_ = holder_;
-  role_ = Role::Holding;
+  silence_ += step;
+  if (silence_ >= takeover_) role_ = Role::Holding;
 }
 
 bool ShareKeeper::MayAsk(Time now) const {
@@ -78,9 +94,20 @@ bool ShareKeeper::MayAsk(Time now) const {
          (role_ == Role::Looking && !isConnected_ && now - begun_ >= takeover_);
 }
 
-std::optional<Holder> ShareKeeper::TakeBeat(Time now) {
-  constexpr int kBeats = 3;
+Claim ShareKeeper::NextClaim() {
+  if (!std::exchange(hasClaimed_, true)) term_ = other_.term + 1;
+  return {.term = term_, .instance = instance_, .beat = ++beat_};
+}
+
+std::optional<Claim> ShareKeeper::TakeBeat(Time now) {
   if (!IsSettled() || (beaten_ && now - *beaten_ < takeover_ / kBeats)) return {};
   beaten_ = now;
-  return Holder{instance_, ++beat_};
+  return NextClaim();
+}
+
+std::optional<Claim> ShareKeeper::GiveUp() {
+  if (!IsSettled()) return {};
+  Claim last = NextClaim();
+  last.isGivenUp = true;
+  return last;
 }

@@ -1,33 +1,39 @@
 #pragma once
 
 #include <chrono>
+#include <compare>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 
 #include <QByteArray>
 #include <QJsonObject>
 
-/// Who holds a share, and how often they have said so.
-struct Holder {
-  std::string instance{};
-  std::uint64_t beat = 0;
+/// A message with which a bridge claims a share. Of several claims the greatest one counts.
+struct Claim {
+  std::uint64_t term = 0;  ///< One more than that of the holder before.
+  std::string instance{};  ///< This run of the bridge. It decides between claims of one term.
+  std::uint64_t beat = 0;  ///< Grows with each claim of the instance.
+  bool isGivenUp = false;  ///< The last message of a holder that ends.
 
-  friend bool operator==(const Holder&, const Holder&) = default;
+  friend auto operator<=>(const Claim&, const Claim&) = default;
 };
 
 /// `share` describes the share for bridges with other shares.
-QByteArray HolderMessage(const Holder& holder, const QJsonObject& share = {});
+QByteArray ClaimMessage(const Claim& claim, const QJsonObject& share = {});
 /// Nothing for an invalid message.
-std::optional<Holder> ParseHolder(const QByteArray& message);
+std::optional<Claim> ParseClaim(const QByteArray& message);
 
 /// Decides which of several bridges with the same share is active. The holder of the share repeats
-/// a retained message. The others stand back until the broker reports the holder offline, or the
-/// holder has been silent for some time.  A bridge that connects subscribes first and then sends a
-/// hello to a topic of the share. When it receives its own hello, it has received all retained
-/// messages. If two bridges claim the share at the same time, the one whose message reached the
-/// broker first keeps it, because the other one receives that message before its own. This class
-/// has no clock and no connection, so that tests can play any order.
+/// a retained claim. The others stand back until the holder gives the share up, or has been silent
+/// for some time. The last will of a connection leaves the holder a tenth of that time to claim the
+/// share again, as the will may be a late one of an earlier holder. Who takes over claims the share
+/// with a higher term. A holder that hung and returns sees that claim and stands back, and only a
+/// new silence makes anybody take over again, so two bridges cannot take turns. A bridge that
+/// connects subscribes first and then sends a hello to a topic of the share. When it receives its
+/// own hello, it has received the retained claim; it claims nothing before. This class has no clock
+/// and no connection, so that tests can play any order.
 class ShareKeeper {
  public:
   using Time = std::chrono::steady_clock::time_point;
@@ -38,33 +44,38 @@ class ShareKeeper {
   };
 
   /// `instance` identifies this run of the bridge. `takeover` is how long a holder may be silent;
-  /// it repeats its message three times as often.
+  /// it repeats its claim three times as often.
   ShareKeeper(std::string instance, std::chrono::milliseconds takeover, Time now);
 
   // What happens on the connection.
-  void Connected(Time now);
-  void Disconnected();
-  void TakeHolder(const Holder& holder, Time now);
+  void Connected();
+  void Disconnected() { isConnected_ = isSettled_ = false; }
+  void TakeClaim(const Claim& claim);
   void TakeAvailability(bool isOnline);
-  void TakeHello(Time now);
-  /// Must be called regularly.
+  void TakeHello();
+  /// Another bridge has connected. Returns whether it claimed the share before: what it sent then
+  /// may have arrived only now, and replaced this bridge's messages.
+  bool TakeOtherHello(const std::string& instance) { return claimants_.erase(instance) > 0; }
+  /// Must be called several times a second.
   void Tick(Time now);
 
   Role GetRole() const { return role_; }
   /// Whether to ask the projectors. Also true while the broker cannot be reached, once the time for
   /// a takeover has passed.
   bool MayAsk(Time now) const;
-  /// Whether this bridge certainly holds the share and is connected, so that it may send messages
+  /// Whether this bridge holds the share as far as the broker knows, so that it may send messages
   /// and take commands.
   bool IsSettled() const { return role_ == Role::Holding && isSettled_; }
   /// Whether the broker still has what this bridge sent before the connection broke. Only valid
   /// once this bridge is settled.
   bool BrokerRemembers() const { return remembers_; }
-  /// The message to be sent now, if one is due.
-  std::optional<Holder> TakeBeat(Time now);
+  /// The claim to be sent now, if one is due.
+  std::optional<Claim> TakeBeat(Time now);
+  /// The claim to be sent at the end, if this bridge holds the share.
+  std::optional<Claim> GiveUp();
 
  private:
-  void StandBack(const Holder& other, Time now);
+  Claim NextClaim();
 
   const std::string instance_;
   const std::chrono::milliseconds takeover_;
@@ -73,11 +84,13 @@ class ShareKeeper {
   bool isConnected_ = false;
   bool isSettled_ = false;
   bool remembers_ = false;
-  bool hasClaimed_ = false;  ///< Its own message came back.
-  bool isOnline_ = true;     ///< Whether the broker reports the holder as online.
+  bool hasClaimed_ = false;  ///< In this term.
+  std::uint64_t term_ = 0;
   std::uint64_t beat_ = 0;
+  std::uint64_t returned_ = 0;  ///< The last beat that the broker told back.
   std::optional<Time> beaten_{};
-  std::optional<Holder> holder_{};  ///< The last other holder.
-  Time heard_{};                    ///< When it was heard last.
-  std::optional<Holder> gone_{};    ///< The last message of the holder whose share was taken over.
+  Claim other_{};                      ///< The greatest one of any other bridge.
+  std::set<std::string> claimants_{};  ///< The others that have claimed the share.
+  Time ticked_;
+  std::chrono::nanoseconds silence_{};  ///< Of the holder, as far as this bridge was listening.
 };

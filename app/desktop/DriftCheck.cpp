@@ -1,5 +1,6 @@
 #include "app/desktop/DriftCheck.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -25,6 +26,25 @@ DriftCheck::DriftCheck(const ProfileDocument& document, FleetWatch& watch,
     CheckAll();
   });
   timer_.start(kFirst);
+  for (const FleetProfile& profile : document_.Projectors())
+    if (!profile.snapshot.empty()) presets_[FleetIdOf(profile)] = profile.snapshot;
+}
+
+void DriftCheck::TakeProfiles() {
+  auto before = std::exchange(presets_, {});
+  std::set<std::string> changed;
+  for (const FleetProfile& profile : document_.Projectors()) {
+    const std::string id = FleetIdOf(profile);
+    if (!profile.snapshot.empty()) presets_[id] = profile.snapshot;
+    const auto known = before.find(id);
+    if ((known == before.end() ? std::string() : known->second) != profile.snapshot)
+      changed.insert(id);
+  }
+  for (const std::string& id : changed) {
+    watch_.Projectors().LearnDrift(id, {});
+    seen_.erase(id);
+  }
+  Check(changed);
 }
 
 void DriftCheck::CheckAll() {
@@ -60,6 +80,35 @@ void DriftCheck::Check(const std::set<std::string>& ids) {
   part.work = std::move(compare);
   auto* run = new WorkRun(watch_, texts_, {.title = {}, .question = {}, .parts = {std::move(part)}},
                           &window_);
-  connect(run, &WorkRun::Finished, run, &QObject::deleteLater);
+  connect(run, &WorkRun::Finished, this, [this, run] {
+    Keep(*run);
+    run->deleteLater();
+  });
   run->Start();
+}
+
+void DriftCheck::Keep(const WorkRun& run) {
+  const auto& compared = std::get<CompareSnapshots>(run.Plan().parts.front().work).snapshots;
+  for (const WorkLine& line : run.Lines()) {
+    if (!line.differences) continue;
+    Snapshot& seen = seen_[line.id];
+    seen = *compared.at(line.id);
+    for (const SettingDifference& difference : *line.differences) {
+      const auto same = std::ranges::find_if(seen.settings, [&](const SavedSetting& saved) {
+        return saved.key == difference.saved.key && saved.source == difference.saved.source;
+      });
+      if (same == seen.settings.end()) continue;
+      if (difference.here) {
+        same->value = *difference.here;
+      } else {
+        seen.settings.erase(same);  // nobody knows
+      }
+    }
+    Q_EMIT Checked(line.id);
+  }
+}
+
+Snapshot DriftCheck::LastSeen(const std::string& id) const {
+  const auto found = seen_.find(id);
+  return found == seen_.end() ? Snapshot() : found->second;
 }

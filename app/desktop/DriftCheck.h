@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 
@@ -7,6 +8,7 @@
 #include <QTimer>
 
 #include "snapshots/SettingTexts.h"
+#include "snapshots/Snapshot.h"
 
 class FleetWatch;
 class ProfileDocument;
@@ -17,21 +19,37 @@ class WorkRun;
 /// tells the fleet: for all projectors a minute after the start and then every hour, and for some
 /// on request.
 class DriftCheck : public QObject {
+  Q_OBJECT
+
  public:
   /// All arguments must outlive it. Checks under way belong to `window`.
   DriftCheck(const ProfileDocument& document, FleetWatch& watch, const SettingTexts& texts,
              QWidget& window);
 
+  /// Takes over which preset each projector should be like. What is known of the settings of those
+  /// that have another one now is forgotten, and they are checked.
+  void TakeProfiles();
   /// Checks those of these projectors now that have such a preset and are not in standby.
   void Check(const std::set<std::string>& ids);
   void CheckAll();
+  /// The values that the settings of a projector's preset had at its last check; empty if there was
+  /// none.
+  Snapshot LastSeen(const std::string& id) const;
   /// Checks the projectors that the work has changed.
   void CheckAfter(const WorkRun& run);
 
+ Q_SIGNALS:
+  /// The settings of a projector were compared with its preset.
+  void Checked(const std::string& id);
+
  private:
+  void Keep(const WorkRun& run);
+
   const ProfileDocument& document_;
   FleetWatch& watch_;
   const SettingTexts& texts_;
   QWidget& window_;
   QTimer timer_;
+  std::map<std::string, std::string> presets_;  // by identity, of those that have one
+  std::map<std::string, Snapshot> seen_;
 };

@@ -5,10 +5,17 @@
 #include <unordered_set>
 #include <utility>
 
+#include <QAction>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "app/desktop/Mnemonic.h"
 #include "app/desktop/details/DetailsPanel.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/projectors/FleetWatch.h"
@@ -52,8 +59,30 @@ void ListPane::AddDetails(const QList<QAction*>& actions) {
   scrolled->setFrameShape(QFrame::NoFrame);
   scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scrolled->setFocusPolicy(Qt::NoFocus);
+  scrolled->setMinimumWidth(details_->minimumWidth() +
+                            scrolled->verticalScrollBar()->sizeHint().width());
   sides_->addWidget(scrolled);
+  detailsArea_ = scrolled;
   ShowDetails();
+}
+
+void ListPane::OfferRealOnes(const QList<QAction*>& actions) {
+  offer_ = new QFrame;
+  auto* text = new QLabel(tr("All these projectors are simulated, for trying the program."));
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  auto* line = new QHBoxLayout(offer_);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->addWidget(text, 1);
+  const auto add = [line](const QString& caption) {
+    auto* button = new QPushButton(caption);
+    line->addWidget(button);
+    return button;
+  };
+  for (QAction* action : actions)
+    connect(add(WithoutMnemonic(action->text())), &QPushButton::clicked, action, &QAction::trigger);
+  connect(add(tr("Close")), &QPushButton::clicked, offer_, &QWidget::hide);
+  static_cast<QVBoxLayout*>(layout())->insertWidget(0, offer_);
 }
 
 void ListPane::Show(ProjectorRow& row) const {
@@ -75,6 +104,10 @@ void ListPane::SetProfiles(const std::vector<FleetProfile>& profiles) {
     rows.push_back(std::move(row));
   }
   view_->SetRows(std::move(rows));
+  if (offer_ != nullptr && std::ranges::any_of(profiles, [](const FleetProfile& profile) {
+        return profile.link != ProjectorLink::Simulated;
+      }))
+    offer_->hide();
   Count();
 }
 
@@ -142,8 +175,18 @@ QByteArray ListPane::SaveState() const { return sides_->saveState(); }
 
 bool ListPane::RestoreState(const QByteArray& state) { return sides_->restoreState(state); }
 
+int ListPane::UsualWidth() const {
+  constexpr int kGaps = 4 * kGap;  // at both sides and between
+  return groups_->sizeHint().width() + view_->UsualWidth() + DetailsWidth() + kGaps;
+}
+
+int ListPane::DetailsWidth() const {
+  return details_ == nullptr ? 0
+                             : std::max(details_->sizeHint().width(), detailsArea_->minimumWidth());
+}
+
 void ListPane::Spread(int width) {
   const int left = groups_->sizeHint().width();
-  const int right = details_ == nullptr ? 0 : details_->sizeHint().width();
+  const int right = DetailsWidth();
   sides_->setSizes({left, width - left - right, right});
 }

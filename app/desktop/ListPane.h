@@ -26,6 +26,10 @@ class ListPane : public QWidget {
   /// `actions` are the buttons of the details.
   void AddDetails(const QList<QAction*>& actions);
 
+  /// Shows a line above the list that says that all projectors are simulated, with these actions
+  /// as buttons, until the user closes it or a projector is real.
+  void OfferRealOnes(const QList<QAction*>& actions);
+
   void SetProfiles(const std::vector<FleetProfile>& profiles);
   /// Shows the present states of these projectors.
   void Refresh(const std::vector<std::string>& ids);
@@ -39,6 +43,8 @@ class ListPane : public QWidget {
   QByteArray SaveState() const;
   /// False if `state` is none.
   bool RestoreState(const QByteArray& state);
+  /// The width at which the groups, all columns of the list, and the details have room.
+  int UsualWidth() const;
   /// Gives the list the width that the groups and details do not need.
   void Spread(int width);
 
@@ -49,6 +55,7 @@ class ListPane : public QWidget {
  private:
   void Show(ProjectorRow& row) const;
   void ShowDetails();
+  int DetailsWidth() const;
   void Count();
 
   FleetWatch& watch_;
@@ -56,6 +63,8 @@ class ListPane : public QWidget {
   GroupList* groups_;
   ProjectorView* view_;
   DetailsPanel* details_ = nullptr;
+  QWidget* detailsArea_ = nullptr;  ///< Scrolls the details.
+  QWidget* offer_ = nullptr;
   QTimer counting_;
   std::size_t nextFetched_ = 0;  ///< Position of the row whose last answer was fetched last.
 };

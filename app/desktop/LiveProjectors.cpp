@@ -11,11 +11,6 @@ LiveProjectors::LiveProjectors(const FleetPolicy& policy, Observer observer, QOb
         return MakeObserver(id, profile);
       }) {
   connect(&watch_, &FleetWatch::Changed, this, &LiveProjectors::Changed);
-  connect(&service_, &LoopbackService::Ready, this,
-          [this](const std::string& id, const FleetWatch::Served& served) {
-            watch_.SetServed(id, served);
-            Q_EMIT Changed({id});
-          });
 }
 
 // A session may outlive this object, for example that of a dialog that is being closed.
@@ -42,12 +37,11 @@ std::vector<std::shared_ptr<ProjectorSession>> LiveProjectors::SetProfiles(
   watch_.SetProfiles(profiles);
   for (const FleetProfile& profile : profiles) {
     if (profile.link != ProjectorLink::Simulated) continue;
-    if (service_.Count() == LoopbackService::kMost) break;
     const std::string id = FleetIdOf(profile);
     auto& session = served_[id];
     if (session) continue;
     session = sessions_.Get(profile);
-    service_.Serve(id, *session);
+    if (const auto place = service_.Serve(id, *session)) watch_.SetServed(id, *place);
   }
   return gone;
 }

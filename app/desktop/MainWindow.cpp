@@ -24,8 +24,10 @@
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/dialogs/DialogKeeper.h"
 #include "app/desktop/log/CommandLog.h"
+#include "app/desktop/profiles/ProfileActions.h"
 #include "app/desktop/profiles/ProfileEditing.h"
 #include "app/desktop/profiles/ProfileHistory.h"
+#include "app/desktop/profiles/TransferActions.h"
 #include "app/desktop/simulation/Demonstration.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/work/UsualActions.h"
@@ -141,8 +143,10 @@ void MainWindow::Connect() {
           this, &MainWindow::TakeSelection);
   connect(&editing_->History(), &ProfileHistory::Changed, this, [this](int selected) {
     ShowProfiles();
+    presets_->Drift().TakeProfiles();
     if (selected >= 0) pane_->View().Select(selected);
   });
+  connect(&presets_->Drift(), &DriftCheck::Checked, this, &MainWindow::ShowLastSeen);
   const auto setOpen = [this](const ProjectorSession* session, bool isOpen) {
     const int position = pane_->View().Model().Find(live_->IdOf(*session));
     if (position < 0) return;
@@ -150,8 +154,10 @@ void MainWindow::Connect() {
   };
   connect(dialogs_.get(), &DialogKeeper::Opened, this,
           [this, setOpen](const ProjectorSession* session) {
-            live_->Watch().LeaveToDialog(live_->IdOf(*session));
+            const std::string id = live_->IdOf(*session);
+            live_->Watch().LeaveToDialog(id);
             setOpen(session, true);
+            ShowLastSeen(id);
           });
   connect(dialogs_.get(), &DialogKeeper::Closed, this,
           [this, setOpen](const ProjectorSession* session) {
@@ -159,6 +165,14 @@ void MainWindow::Connect() {
             presets_->Drift().Check({live_->IdOf(*session)});
             setOpen(session, false);
           });
+}
+
+void MainWindow::ShowLastSeen(const std::string& id) {
+  const int position = pane_->View().Model().Find(id);
+  if (position < 0) return;
+  const auto place = static_cast<std::size_t>(position);
+  if (!pane_->View().Model().All()[place].isOpen) return;
+  if (CAdvanceDlg* dialog = Dialog(place)) dialog->SetLastSeen(presets_->Drift().LastSeen(id));
 }
 
 void MainWindow::ConnectAlerts() {
@@ -249,6 +263,8 @@ void MainWindow::Demonstrate() {
   }
   ShowDemonstration(simulated);
   for (const auto& session : simulated) live_->TakeSimulation(*session);
+  if (simulated.size() == profiles_.Projectors().size())
+    pane_->OfferRealOnes({editing_->Transfers().Find(), editing_->Projectors().Add()});
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -47,7 +47,8 @@ class MainWindow : public QMainWindow {
   CAdvanceDlg* Dialog(std::size_t projector) const;
   std::shared_ptr<ProjectorSession> Session(std::size_t projector) const;
 
-  /// Brings the simulated projectors into different states.
+  /// Brings the simulated projectors into different states. If there are no others, offers to find
+  /// or add real ones.
   void Demonstrate();
 
  protected:
@@ -55,6 +56,8 @@ class MainWindow : public QMainWindow {
 
  private:
   void Connect();
+  /// What the last comparison saw of a projector, in its dialog if that is open.
+  void ShowLastSeen(const std::string& id);
   void ConnectAlerts();
   void ShowProfiles();
   void OpenSelected();

@@ -69,7 +69,8 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   connect(theme_, &QComboBox::activated, this,
           [this] { Apply(static_cast<Theme>(theme_->SelectedValue().value_or(0))); });
   interval_ = MakeNumber(kShortestInterval, kLongestInterval, Interval(&settings), tr(" s"));
-  lamp_ = MakeNumber(0, 200, rules.lampPercent, tr(" %"));
+  //: Behind a number; with a blank before the sign if the language has one.
+  lamp_ = MakeNumber(0, 200, rules.lampPercent, tr("%"));
   lamp_->setSpecialValueText(tr("never"));
   silent_ = MakeNumber(0, 1440, static_cast<int>(rules.silent.count()), tr(" min"));
   silent_->setSpecialValueText(tr("never"));

@@ -1,7 +1,6 @@
 #include "app/desktop/PresetActions.h"
 
 #include <map>
-#include <set>
 #include <utility>
 
 #include <QAction>
@@ -9,6 +8,7 @@
 
 #include "app/desktop/DriftCheck.h"
 #include "app/desktop/Modal.h"
+#include "app/desktop/PresetEdits.h"
 #include "app/desktop/presets/PresetDialog.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileHistory.h"
@@ -26,7 +26,11 @@ PresetActions::PresetActions(Parts parts)
     : QObject(&parts.window),
       parts_(std::move(parts)),
       presets_(new QAction(tr("P&resets"), this)),
-      drift_(new DriftCheck(parts_.document, parts_.watch, parts_.work.Texts(), parts_.window)) {
+      drift_(new DriftCheck(parts_.document, parts_.watch, parts_.work.Texts(), parts_.window)),
+      edits_(new PresetEdits({.document = parts_.document,
+                              .history = parts_.edits,
+                              .texts = parts_.work.Texts(),
+                              .window = parts_.window})) {
   auto* menu = new QMenu(&parts_.window);
   presets_->setMenu(menu);
   connect(menu, &QMenu::aboutToShow, this, [this, menu] { Fill(*menu); });
@@ -48,6 +52,9 @@ void PresetActions::Fill(QMenu& menu) {
   QAction* save = menu.addAction(tr("&Save as Preset…"));
   save->setEnabled(rows.size() == 1);
   connect(save, &QAction::triggered, this, &PresetActions::Take);
+  QAction* manage = menu.addAction(tr("&Manage Presets…"));
+  manage->setEnabled(!names.isEmpty());
+  connect(manage, &QAction::triggered, edits_, &PresetEdits::Open);
   menu.addSeparator();
   QMenu* wanted = menu.addMenu(tr("Should &Be Like"));
   wanted->setEnabled(parts_.document.HasFile());
@@ -123,11 +130,6 @@ void PresetActions::SetWanted(const QString& name) {
                     name.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(name)});
   });
   if (!error.isEmpty()) return ShowError(parts_.window, tr("Should Be Like"), error);
-  std::set<std::string> ids;
-  for (const int position : positions)
-    ids.insert(FleetIdOf(parts_.document.Projectors()[static_cast<std::size_t>(position)]));
-  for (const std::string& id : ids) parts_.watch.Projectors().LearnDrift(id, {});
-  drift_->Check(ids);
 }
 
 Comparison PresetActions::WithWanted() {

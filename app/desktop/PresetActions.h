@@ -9,6 +9,7 @@
 
 class DriftCheck;
 class FleetWatch;
+class PresetEdits;
 class ProfileDocument;
 class ProfileHistory;
 class QAction;
@@ -57,4 +58,5 @@ class PresetActions : public QObject {
   const Parts parts_;
   QAction* presets_;
   DriftCheck* drift_;
+  PresetEdits* edits_;
 };

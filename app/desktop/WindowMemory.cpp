@@ -42,7 +42,8 @@ void WindowMemory::Restore(QMainWindow& window, ListPane& pane, CommandLog& log)
     log.Columns().restoreState(settings_->value(kLogColumnsKey).toByteArray());
     return;
   }
-  window.resize(kUsualSize.boundedTo(screen.size() - kFrame));
+  const QSize usual = kUsualSize.expandedTo({pane.UsualWidth(), 0});
+  window.resize(usual.boundedTo(screen.size() - kFrame));
   pane.Spread(window.width());
   window.move(screen.right() + 1 - window.width() - kFrame.width(),
               screen.bottom() + 1 - window.height() - kFrame.height());

@@ -18,6 +18,7 @@
 #include "app/desktop/WindowMemory.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
+#include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
 #include "app/profiles/Table.h"
 #include "app/profiles/Translations.h"
@@ -225,6 +226,7 @@ int Run(int argc, char* argv[]) {
 
 int main(int argc, char* argv[]) {
   EndWhenOutOfMemory("advanced-control");
+  RaiseDescriptorLimit();
   try {
     return Run(argc, argv);
   } catch (const std::bad_alloc&) {

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -53,6 +54,16 @@ QString Write(const QString& name, const Snapshot& snapshot) {
   if (!QDir().mkpath(Path()))
     return QCoreApplication::translate("PresetFolder", "cannot create the folder %1").arg(Path());
   return WriteWholeFile(FileOf(name), WriteSnapshot(snapshot));
+}
+
+QString Rename(const QString& from, const QString& to) {
+  QFile file(FileOf(from));
+  return file.rename(FileOf(to)) ? QString() : file.errorString();
+}
+
+QString Remove(const QString& name) {
+  QFile file(FileOf(name));
+  return file.remove() ? QString() : file.errorString();
 }
 
 }  // namespace PresetFolder

@@ -31,5 +31,9 @@ Contents Read(const QString& name);
 /// Writes a preset, and replaces one of the same name. One line that says what is wrong; empty when
 /// all is well.
 QString Write(const QString& name, const Snapshot& snapshot);
+/// Gives a preset another name, which no preset may have yet. Returns as `Write`.
+QString Rename(const QString& from, const QString& to);
+/// Removes a preset. Returns as `Write`.
+QString Remove(const QString& name);
 
 }  // namespace PresetFolder

@@ -15,13 +15,23 @@
 
 namespace {
 
-// Texts that Qt's own translation lacks.
+// Texts that some of Qt's own translations lack.
 [[maybe_unused]] constexpr struct {
   const char* source;
   const char* comment;
 } kFileDialogTexts[] = {
     QT_TRANSLATE_NOOP3("QAbstractFileIconProvider", "Drive", "All other platforms"),
     QT_TRANSLATE_NOOP3("QAbstractFileIconProvider", "Folder", "All other platforms"),
+};
+[[maybe_unused]] constexpr const char* kCommandLineTexts[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Usage: %1"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "[options]"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Options:"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays version information."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown options: %1."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'."),
 };
 
 /// The folder with a file for each language; empty if there is none.
@@ -65,11 +75,11 @@ void InstallTranslations(std::uint32_t languageId) {
   };
   install(english, QStringLiteral("en"), folder);
   if (languageId == kEnglishUnitedStates) return;
-  if (toolkit.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                   QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QCoreApplication::installTranslator(&toolkit);
-  }
-  if (const auto name = FileNameOf(folder, languageId)) install(program, *name, folder);
+  const auto name = FileNameOf(folder, languageId);
+  // A region without a file of its own takes the same language's from Qt as from the program.
+  const QString place = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  install(toolkit, QStringLiteral("qtbase_") + name.value_or(locale.name()), place);
+  if (name) install(program, *name, folder);
 }
 
 std::optional<std::uint32_t> NamedLanguage(const QStringList& arguments) {

@@ -4,7 +4,6 @@
 #include <exception>
 #include <new>
 #include <optional>
-#include <sys/resource.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 #include <utility>
@@ -14,6 +13,7 @@
 #include <QFile>
 #include <QSocketNotifier>
 
+#include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
 #include "app/profiles/SimulatorNotice.h"
 #include "app/profiles/Translations.h"
@@ -65,14 +65,6 @@ std::optional<QString> Choose(std::vector<FleetProfile>& profiles, const QString
     return !names.contains(QString::fromStdString(profile.name));
   });
   return std::nullopt;
-}
-
-// The usual limit of descriptors would allow a fleet only a thousand connections.
-void RaiseDescriptorLimit() {
-  rlimit limit{};
-  if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
-  limit.rlim_cur = limit.rlim_max;
-  setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 // Writes the profiles, prints the addresses, and serves until a signal ends the program.

@@ -21,13 +21,20 @@ constexpr int kMargin = 12;
 constexpr int kFindWidth = 300;
 constexpr int kStripGap = 2;
 
+// Below the usual position if a large font needs more room for the strip and the tabs.
+QPoint PagePosition(const DialogFrame::Parts& parts) {
+  const int strip = parts.strip.fontMetrics().height() + 2 * kStripGap;
+  const int tabs = parts.pages.Tabs()->sizeHint().height();
+  return {kPagePosition.x(), std::max(kPagePosition.y(), strip + tabs + kMargin)};
+}
+
 }  // namespace
 
 void DialogFrame::FitToPages(const Parts& parts) {
   const QSize pages = parts.pages.FitPages();
   const int width = std::max(parts.pages.Tabs()->sizeHint().width() + 2 * kMargin,
                              kPagePosition.x() + pages.width() + kPagePosition.x());
-  const int height = kPagePosition.y() + pages.height() + kPagePosition.x() +
+  const int height = PagePosition(parts).y() + pages.height() + kPagePosition.x() +
                      parts.close.sizeHint().height() + 2 * kMargin;
   wholeSize_ = {width, height};
   dialog_.setMinimumSize(wholeSize_ / 3);
@@ -38,13 +45,12 @@ void DialogFrame::Place(const Parts& parts) const {
   const int width = dialog_.width();
   const int height = dialog_.height();
   CTabCtrl& tabs = *parts.pages.Tabs();
+  const QPoint page = PagePosition(parts);
   const int tabsHeight = tabs.sizeHint().height();
-  tabs.setGeometry(kMargin, kPagePosition.y() - kMargin - tabsHeight, width - 2 * kMargin,
-                   tabsHeight);
+  tabs.setGeometry(kMargin, page.y() - kMargin - tabsHeight, width - 2 * kMargin, tabsHeight);
   const QRect strip(kPagePosition.x(), kStripGap, width - 2 * kPagePosition.x(),
                     tabs.y() - 2 * kStripGap);
   parts.strip.setGeometry(strip);
-  parts.strip.setVisible(strip.height() >= parts.strip.fontMetrics().height());
   const QSize button = parts.close.sizeHint().expandedTo(QSize(90, 0));
   const QRect bottomRight(width - kMargin - button.width(), height - kMargin - button.height(),
                           button.width(), button.height());
@@ -57,8 +63,8 @@ void DialogFrame::Place(const Parts& parts) const {
   line.setLeft(std::max(line.left(), line.right() - kFindWidth));
   if (parts.find != nullptr) place(*parts.find, line);
   parts.pages.Area().setGeometry(
-      QRect(kPagePosition, QPoint(width, bottomRight.top()) -
-                               QPoint(kPagePosition.x() + 1, kMargin + kPagePosition.x() + 1)));
+      QRect(page, QPoint(width, bottomRight.top()) -
+                      QPoint(kPagePosition.x() + 1, kMargin + kPagePosition.x() + 1)));
 }
 
 void DialogFrame::Paint(const Parts& parts) const {

@@ -70,6 +70,7 @@ void DialogPages::InsertTabs() {
     tabs_->addTab(text);
     Page(page).setAccessibleName(text);
   };
+  const CatalogBatch batch;
   const QSignalBlocker quiet(tabs_);  // adding the first tab selects it before the dialog is ready
   insert(Caption::TabStatus, PageId::Status);
   for (const PageTab& tab : TabsOf(model_->DialogType, model_->ModelCode))

@@ -9,6 +9,7 @@
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "toolkit/Icons.h"
+#include "toolkit/IsolatedText.h"
 #include "toolkit/LineLabel.h"
 
 namespace AdvancedControl {
@@ -32,6 +33,7 @@ ProjectorStrip::ProjectorStrip(QWidget* parent, std::function<Age()> age)
       read_(new QLabel),
       again_(new QToolButton) {
   again_->setIcon(ThemedIcon(IconName::Refresh));
+  again_->setIconSize(IconSize(*this));
   again_->setAutoRaise(true);
   again_->setFocusPolicy(Qt::NoFocus);  // F5 does the same
   connect(again_, &QToolButton::clicked, this, &ProjectorStrip::ReadAgain);
@@ -63,27 +65,35 @@ void ProjectorStrip::SetAnswers(bool answers) {
   if (std::exchange(answers_, answers) != answers) ShowProjector();
 }
 
+QString ProjectorStrip::TextOf(const QStringList& parts) const {
+  const QString text = parts.join(QStringLiteral(" \u2014 "));
+  if (!answers_) return text;
+  return CatalogString(kListCategory, *answers_ ? ListText::Answers : ListText::DoesNotAnswer,
+                       text.toStdString());
+}
+
+// In a right-to-left language, name, model and address would change places if drawn as one text.
 void ProjectorStrip::ShowProjector() {
-  QString text = parts_.join(QStringLiteral(" \u2014 "));
-  if (answers_) {
-    text = CatalogString(kListCategory, *answers_ ? ListText::Answers : ListText::DoesNotAnswer,
-                         text.toStdString());
-  }
+  QStringList drawn;
+  for (const QString& part : parts_) drawn += Isolated(part);
+  const QString text = TextOf(drawn);
+  layout()->activate();  // the room depends on the text about the reading
   projector_->setText(
       projector_->fontMetrics().elidedText(text, Qt::ElideRight, projector_->width()));
-  projector_->setToolTip(text);
-  projector_->setAccessibleName(text);
+  projector_->setToolTip(projector_->text() == text ? QString() : text);
+  projector_->setAccessibleName(TextOf(parts_));
 }
 
 void ProjectorStrip::ShowAge() {
   const Age age = age_();
   const QString text = age ? AgeText(*age) : QString();
-  if (text != read_->text()) read_->setText(text);
+  if (text == read_->text()) return;
+  read_->setText(text);
+  ShowProjector();
 }
 
 void ProjectorStrip::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  layout()->activate();
   ShowProjector();
 }
 

@@ -40,6 +40,7 @@ class ProjectorStrip final : public QWidget {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  QString TextOf(const QStringList& parts) const;
   void ShowProjector();
 
   std::function<Age()> age_;

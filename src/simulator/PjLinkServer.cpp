@@ -77,13 +77,17 @@ struct PjLinkServer::State {
   State(std::shared_ptr<ProjectorChannel> projector, Options&& given)
       : options(std::move(given)), responder(std::move(projector), options.served) {}
 
+  Session* Serve(std::unique_ptr<QTcpSocket> socket) {
+    return new Session(std::move(socket), options, responder, fault);
+  }
+
   const Options options;
   PjLinkResponder responder;
   LineFault fault{};
-  TcpListener server{{.connections = options.connections, .readBuffer = kReadBuffer},
-                     [this](std::unique_ptr<QTcpSocket> socket) {
-                       return new Session(std::move(socket), options, responder, fault);
-                     }};
+  QObject others;  ///< Parent of the connections that the port did not accept.
+  TcpListener server{
+      {.connections = options.connections, .readBuffer = kReadBuffer},
+      [this](std::unique_ptr<QTcpSocket> socket) { return Serve(std::move(socket)); }};
 };
 
 PjLinkServer::PjLinkServer(std::shared_ptr<ProjectorChannel> projector, Options options)
@@ -99,7 +103,14 @@ bool PjLinkServer::Listen(const std::string& address, int port) {
 
 int PjLinkServer::Port() const { return state_->server.serverPort(); }
 
-void PjLinkServer::Close() { state_->server.CloseAll(); }
+void PjLinkServer::Serve(std::unique_ptr<QTcpSocket> socket) {
+  state_->Serve(std::move(socket))->setParent(&state_->others);
+}
+
+void PjLinkServer::Close() {
+  state_->server.CloseAll();
+  while (!state_->others.children().isEmpty()) delete state_->others.children().front();
+}
 
 void PjLinkServer::SetFault(const LineFault& fault) { state_->fault = fault; }
 

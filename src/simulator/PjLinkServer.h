@@ -9,6 +9,8 @@
 #include "simulator/FaultyLine.h"
 #include "simulator/PjLinkResponder.h"
 
+class QTcpSocket;
+
 namespace AdvancedControl {
 
 /// Serves a projector over PJLink on a TCP port.
@@ -34,6 +36,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkServer {
   bool Listen(const std::string& address, int port);
   /// The port; 0 while not listening.
   int Port() const;
+  /// Takes a connected socket and serves it until it closes, whatever the number of connections.
+  void Serve(std::unique_ptr<QTcpSocket> socket);
   /// Ends listening and all connections.
   void Close();
 

@@ -9,6 +9,7 @@
 
 #include "toolkit/AccessibleActions.h"
 #include "toolkit/AccessibleLists.h"
+#include "toolkit/AnnouncedLabel.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CurveView.h"
@@ -70,6 +71,17 @@ class CheckInterface final : public QAccessibleWidget {
   QCheckBox& Check() const { return *static_cast<QCheckBox*>(widget()); }
 };
 
+class NotificationInterface final : public QAccessibleWidget {
+ public:
+  explicit NotificationInterface(AnnouncedLabel* label)
+      : QAccessibleWidget(label, QAccessible::Notification) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? static_cast<QLabel*>(widget())->text()
+                                     : QAccessibleWidget::text(kind);
+  }
+};
+
 /// A window; or a page, as the panel of its tab.
 class DialogInterface final : public QAccessibleWidget {
  public:
@@ -111,6 +123,9 @@ QAccessibleInterface* MakeInterface(const QString& className, QObject* object) {
   }
   if (isClass(QCheckBox::staticMetaObject) && qobject_cast<TemplateDialog*>(object->parent())) {
     return new CheckInterface(static_cast<QCheckBox*>(object));
+  }
+  if (isClass(AnnouncedLabel::staticMetaObject)) {
+    return new NotificationInterface(static_cast<AnnouncedLabel*>(object));
   }
   if (isClass(CurveView::staticMetaObject)) {
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);

@@ -11,15 +11,18 @@ class CTabCtrl : public QTabBar {
   explicit CTabCtrl(QWidget* parent = nullptr);
 
   /// Sets the width of every tab, in device-independent pixels. A tab is wider if its caption needs
-  /// it, and narrower if there is too little space.
+  /// it, and narrower if there is too little space. If even the captions have too little space, the
+  /// longest are shortened, and a tool tip shows them whole.
   void SetItemWidth(int width);
 
  protected:
   QSize tabSizeHint(int index) const override;
-  /// With too little space, a tab is as wide as its caption needs.
-  QSize minimumTabSizeHint(int index) const override { return QTabBar::tabSizeHint(index); }
+  QSize minimumTabSizeHint(int index) const override;
+  bool event(QEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  int WidestTab() const;
+
   int itemWidth_ = 0;
 };

@@ -95,7 +95,7 @@ void CurveView::DrawAxes(QPainter& painter) const {
     painter.drawText(QRectF(at.x() - height * 2, plot.bottom() + kAxisGap, height * 4, height),
                      Qt::AlignHCenter | Qt::AlignTop, number);
     painter.drawText(QRectF(0, at.y() - height, plot.left() - kAxisGap, height * 2),
-                     Qt::AlignRight | Qt::AlignVCenter, number);
+                     Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter, number);
   }
   faint.setAlphaF(0.3F);
   painter.setPen(QPen(faint, 1, Qt::DashLine));

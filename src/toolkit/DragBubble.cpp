@@ -1,6 +1,7 @@
 #include "toolkit/DragBubble.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QEvent>
 #include <QLabel>
@@ -21,7 +22,10 @@ constexpr int kGap = 4;
 // it.
 class DragBubble final : public QLabel {
  public:
-  explicit DragBubble(CSliderCtrl& slider) : QLabel(slider.window()), slider_(slider) {
+  using TextOf = std::function<QString(int)>;
+
+  DragBubble(CSliderCtrl& slider, TextOf textOf)
+      : QLabel(slider.window()), slider_(slider), textOf_(std::move(textOf)) {
     setFrameStyle(Box | Plain);
     setPalette(QToolTip::palette());
     setBackgroundRole(QPalette::ToolTipBase);
@@ -46,7 +50,7 @@ class DragBubble final : public QLabel {
 
  private:
   void Follow(int position) {
-    setText(QString::number(position));
+    setText(textOf_(position));
     adjustSize();
     const QPoint handle = slider_.mapTo(parentWidget(), slider_.HandleRect().topLeft());
     const int middle = handle.x() + slider_.HandleRect().width() / 2;
@@ -57,15 +61,17 @@ class DragBubble final : public QLabel {
   }
 
   const CSliderCtrl& slider_;
+  const TextOf textOf_;
 };
 
 }  // namespace
 
-void AttachDragBubble(CSliderCtrl& slider) {
-  const auto show = [&slider, bubble = QPointer<QWidget>()](bool goesOn) mutable {
+void AttachDragBubble(CSliderCtrl& slider, std::function<QString(int position)> textOf) {
+  const auto show = [&slider, textOf = std::move(textOf),
+                     bubble = QPointer<QWidget>()](bool goesOn) mutable {
     if (!goesOn) return;
     // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new): Qt ends without memory
-    if (bubble == nullptr || !bubble->isVisible()) bubble = new DragBubble(slider);
+    if (bubble == nullptr || !bubble->isVisible()) bubble = new DragBubble(slider, textOf);
   };
   QObject::connect(&slider, &CSliderCtrl::Scrolling, &slider, show);
 }

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QStyle>
 
 #include "toolkit/PaintedIcon.h"
 
@@ -118,6 +119,12 @@ QIcon ThemedIcon(IconName name) {
   // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): owned by the icon
   const QIcon own(new DrawnIcon(name));
   return theme.isEmpty() || !QIcon::hasThemeIcon(theme) ? own : QIcon::fromTheme(theme);
+}
+
+QSize IconSize(const QWidget& beside) {
+  const int usual = beside.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &beside);
+  const int side = std::max(usual, beside.fontMetrics().ascent());
+  return {side, side};
 }
 
 void RemoveForeignButtonIcons(QWidget& dialog) {

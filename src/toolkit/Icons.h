@@ -13,6 +13,9 @@ namespace AdvancedControl {
 
 enum class IconName : std::uint8_t { Reset, Refresh, Information, Question, Warning, Stop };
 
+/// The size of an icon beside text: larger than usual for a large font.
+QSize IconSize(const QWidget& beside);
+
 /// The icon of the platform's theme, or our own drawing if the theme has none. Our drawings follow
 /// the application's palette and are sharp in every size. `Reset` is always our own.
 /// User-interface thread only.

@@ -4,17 +4,30 @@
 
 namespace AdvancedControl {
 
+namespace {
+
+constexpr int kMarginPart = 6;  // of the font's height
+
+}  // namespace
+
+void LineLabel::SetMargin() {
+  const int margin = fontMetrics().height() / kMarginPart;
+  setContentsMargins(margin, margin, margin, margin);
+}
+
 QSize LineLabel::sizeHint() const {
   if (measured_.isValid() && text() == measuredText_) return measured_;
   measuredText_ = text();
   const bool asQLabel = measuredText_.isEmpty() || measuredText_.contains(QLatin1Char('&'));
-  measured_ = asQLabel ? QLabel::sizeHint() : fontMetrics().size(0, measuredText_);
+  measured_ = asQLabel ? QLabel::sizeHint()
+                       : fontMetrics().size(0, measuredText_).grownBy(contentsMargins());
   return measured_;
 }
 
 void LineLabel::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
     measured_ = {};
+    SetMargin();
   }
   if (event->type() == QEvent::LayoutDirectionChange) AlignToStart(*this);
   QLabel::changeEvent(event);

@@ -7,12 +7,14 @@
 namespace AdvancedControl {
 
 /// A one-line label that measures its text once; QLabel would lay it out three times. Its text
-/// starts at the side where the layout starts, whatever the text's own direction. User-interface
+/// starts at the side where the layout starts, whatever the text's own direction. It has a margin,
+/// because letters may be higher than their font says, or begin left of their place. User-interface
 /// thread only.
 class LineLabel : public QLabel {
  public:
   LineLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
     setTextFormat(Qt::PlainText);
+    SetMargin();
     if (isRightToLeft()) AlignToStart(*this);
   }
 
@@ -27,6 +29,8 @@ class LineLabel : public QLabel {
   void changeEvent(QEvent* event) override;
 
  private:
+  void SetMargin();
+
   mutable QString measuredText_;
   mutable QSize measured_;
 };

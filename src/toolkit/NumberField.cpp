@@ -12,8 +12,9 @@ namespace {
 // In pixels.
 constexpr int kAround = 16;   // at both sides of a number
 constexpr int kMargins = 12;  // the least around a number with a unit
-constexpr int kUnitGap = 4;
-constexpr int kUnitMargin = 2;
+constexpr int kUnitMargin = 4;
+
+int UnitGap(const QFontMetrics& metrics) { return metrics.horizontalAdvance(QLatin1Char(' ')); }
 
 }  // namespace
 
@@ -27,7 +28,7 @@ NumberField::NumberField(QWidget* parent) : QLineEdit(parent) {
 void NumberField::SetUnit(const QString& unit, const QString& widest) {
   unit_ = unit;
   const QFontMetrics metrics = fontMetrics();
-  const int room = kUnitGap + metrics.horizontalAdvance(unit);
+  const int room = UnitGap(metrics) + metrics.horizontalAdvance(unit);
   // In a mirrored layout the number stays at the right, and the unit is drawn at its left.
   if (!isRightToLeft()) setTextMargins(0, 0, room, 0);
   setFixedWidth(std::max(width(), metrics.horizontalAdvance(widest) + room + kMargins));
@@ -42,11 +43,12 @@ void NumberField::paintEvent(QPaintEvent* event) {
                      ->subElementRect(QStyle::SE_LineEditContents, &option, this)
                      .adjusted(kUnitMargin, 0, -kUnitMargin, 0);
   if (isRightToLeft()) {
-    inside.setRight(inside.right() - fontMetrics().horizontalAdvance(text()) - kUnitGap);
+    inside.setRight(inside.right() - fontMetrics().horizontalAdvance(text()) -
+                    UnitGap(fontMetrics()));
   }
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::Text));
-  painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight, unit_);
+  painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight | Qt::AlignAbsolute, unit_);
 }
 
 }  // namespace AdvancedControl

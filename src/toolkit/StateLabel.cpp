@@ -59,13 +59,14 @@ void StateLabel::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const int line = fontMetrics().height();
-  const auto place = [this](double left, double width, double height) {
-    return QRectF(isRightToLeft() ? this->width() - left - width : left,
-                  (this->height() - height) / 2, width, height);
+  const QRectF inside = contentsRect();
+  const auto place = [&](double left, double width, double height) {
+    return QRectF(inside.left() + (isRightToLeft() ? inside.width() - left - width : left),
+                  inside.center().y() - height / 2, width, height);
   };
   if (mark_ != Mark::None) {
     const double side = line * 0.6;
-    const QRectF at = place(1, side, side);
+    const QRectF at = place(0, side, side);
     const QColor color = ColorOf(mark_, palette());
     painter.save();
     painter.setPen(mark_ == Mark::Idle ? QPen(color, 1.5) : QPen(Qt::NoPen));

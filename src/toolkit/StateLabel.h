@@ -40,7 +40,7 @@ class StateLabel final : public LineLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  int TextWidth() const { return LineLabel::sizeHint().width(); }
+  int TextWidth() const { return LineLabel::sizeHint().shrunkBy(contentsMargins()).width(); }
 
   Mark mark_ = Mark::None;
   std::optional<double> share_;

@@ -11,7 +11,6 @@
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CTabCtrl.h"
-#include "toolkit/DragBubble.h"
 #include "toolkit/LineLabel.h"
 #include "toolkit/NumberField.h"
 #include "toolkit/StateLabel.h"
@@ -108,7 +107,6 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
     case ControlKind::Slider: {
       auto* slider = new CSliderCtrl(parent);
       slider->setMinimumWidth(kSliderMinimumWidth);
-      AttachDragBubble(*slider);
       return slider;
     }
     case ControlKind::Field:

@@ -226,7 +226,8 @@ TEST(AcctlPjLink, TellsPendingBusyAndUnconfirmedApart) {
   expect(ProjectorBut("AVMT 21", "ERR3"), 1, "refused, the projector is busy\n", "busy");
   expect(ProjectorBut("AVMT 21", "ERR2"), 1, "refused, it is Off\n", "refused");
   expect(dies, 3, ", it may have been changed\n", "unconfirmed");
-  expect(fallsSilent, 3, "accepted, but no answer (connection lost)\n", "unconfirmed");
+  expect(fallsSilent, 3, "accepted, but not confirmed: no answer (connection lost)\n",
+         "unconfirmed");
   runs.emplace_back([&] {
     ScriptedPjLink losing(loses);
     EXPECT_THAT(any.Run(losing, set, kTimeOut), Ends(0, ""));

@@ -14,7 +14,7 @@ inline const QString kRoom = "Projector 5-30";
 inline const std::string kSimulated = "Projector 5-30 (simulated)  ";
 /// What a change of it is noted with.
 inline const std::string kNothingLasting =
-    "acctl: Projector 5-30: simulated by acctl itself, nothing lasting was changed\n";
+    "acctl: Projector 5-30 (simulated): simulated by acctl itself, nothing lasting was changed\n";
 
 /// What the program keeps is gone with the tests, whose ports the next ones use.
 inline const QTemporaryDir kCache;

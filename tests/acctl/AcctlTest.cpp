@@ -39,6 +39,13 @@ TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
       {{"reset", kRoom, "picture.gamma"}, "picture.gamma: this cannot be reset"},
       {{"reset", kRoom, "status.*"}, "status.*: this cannot be reset"},
       {{"--dry-run", "get", kRoom}, "get takes no --dry-run"},
+      {{"watch", kRoom, "picture.tint", "--jobs", "3"}, "watch takes no --jobs"},
+      {{"watch", kRoom, "picture.tint", "--retries", "3"}, "watch takes no --retries"},
+      {{"watch", kRoom, "picture.tint", "--fail-fast"}, "watch takes no --fail-fast"},
+      {{"models", "--timeout", "3"}, "models takes no --timeout"},
+      {{"list", "--timeout", "3"}, "--timeout needs --where"},
+      {{"set", kRoom, "picture.tint=1", "--interval", "3"}, "--interval needs --wait"},
+      {{"undo", "--list", "--where", "power=on"}, "undo --list takes no --where"},
       {{"list", "-o", "tsv"}, "list has no such --format"},
       {{"save", kRoom, "x", "--only", "zzz"}, "zzz: this model has no such setting"},
       {{"save", "Projector 5-*", "x"}, "one file is for one projector, not"},
@@ -193,7 +200,8 @@ TEST(Acctl, LeavesNothingHalfWritten) {
 
   QFile::remove(file);
   SaveOthers(file);
-  const Outcome noUndo = Acctl({"apply", "--undo", "/proc", file, kRoom});
+  const Simulator simulator;
+  const Outcome noUndo = Acctl(simulator.At({"apply", "--undo", "/proc", file, kRoom}));
   EXPECT_THAT(noUndo, Ends(1, HasSubstr("nothing was sent")));
   EXPECT_THAT(noUndo.output, HasSubstr(" different, "));
   EXPECT_THAT(Acctl({"save", kRoom, "/proc/kept.json"}),

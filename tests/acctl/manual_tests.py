@@ -28,6 +28,8 @@ class LookingUp(Building):
         self.assertIn("Lecture hall", csv)
         (self.folder / "new.csv").write_text("name,address,tags\nA,192.0.2.7,x\nB,nonsense:nonsense:1,y\n")
         self.check(["--profiles", "new.json", "import", "new.csv"], 1, "^1 added, 0 known, 1 wrong", "new.csv:3: ")
+        faults = self.json("--profiles", "new.json", "import", "new.csv", code=1)["errors"]
+        self.assertEqual([(fault["code"], fault["text"][:9]) for fault in faults], [("wrong-file", "new.csv:3")])
         self.check(["--profiles", "new.json", "list", "@x", "--brief"], 0, "^A\n$")
         run = self.acctl("import", "new.csv", ACCTL_PROFILES="")
         self.assertEqual((run.returncode, run.stderr), (2, "acctl: name the profile file with --profiles\n"))
@@ -43,11 +45,14 @@ class LookingUp(Building):
             warnings = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z"], input=page, text=True,
                                       capture_output=True, check=True).stderr
             self.assertEqual(warnings, "", command)
+        built = re.search(r"set\(commands ([^)]*)", (SOURCES / "app/acctl/CMakeLists.txt").read_text())[1].split()
+        self.assertEqual(built, [command for command in commands if command != "help"])
 
     COMPLETED = (("acctl exp", ["explain", "export"]), ("acctl get @buil", ["@building-1", "@building-3"]),
                  ("acctl set Office contr", ["contrast"]), ("acctl list --for", ["--format"]),
                  ("acctl get Office power -o js", ["json", "jsonl"]), ("acctl save Office -o sav", ["saved"]),
-                 ("acctl set Office power=st", ["standby"]), ("acctl set Office input s", ["s-video"]),
+                 ("acctl undo last Off", ["Office"]), ("acctl set Office power=st", ["standby"]),
+                 ("acctl set Office input s", ["s-video"]),
                  ("acctl reset Office status.", ["status.filter-time", "status.lamp-time"]))
 
     def completed(self, shell, line):
@@ -106,6 +111,8 @@ class Integrations(Building):
             with self.subTest(words=words):
                 self.assertEqual(run.returncode, code, run.stdout)
                 self.assertRegex(run.stdout, output)
+        simulated = self.run_program("check_projector", "Office", ACCTL_PROFILES="rooms.json")
+        self.assertRegex(simulated.stdout, "OK - Office \\(simulated\\): On \\| 'Office \\(simulated\\)'=")
         self.stop(self.simulator)
         run = self.run_program("check_projector", "Office")
         self.assertEqual(run.returncode, 2)
@@ -137,6 +144,10 @@ class Integrations(Building):
         self.assertTrue(self.module()["changed"])
         self.assertFalse(self.module()["changed"])
         self.assertFalse(self.module("check_mode")["changed"])
+        self.assertFalse(self.module(settings={"contrast": 5}, where="power=standby")["changed"])
+        simulated = self.module("diff", projectors="Office", profiles="rooms.json")
+        self.assertEqual(simulated["warnings"], ["only simulated: Office"])
+        self.assertIn("Office (simulated): main.contrast=-3", simulated["diff"]["after"])
         failed = self.module(settings={"contrast": 99})
         self.assertTrue(failed["failed"])
         self.assertIn("'99' is not one of", failed["msg"])
@@ -158,13 +169,12 @@ class Integrations(Building):
         self.assertEqual(run.stderr, "")
 
     def test_a_playbook_changes_nothing_the_second_time(self):
-        (self.folder / "library").mkdir()
-        shutil.copy(SOURCES / "integrations/ansible/plugins/modules/settings.py", self.folder / "library")
-        (self.folder / "play.yml").write_text(
-            "- hosts: localhost\n  gather_facts: false\n  tasks:\n    - settings:\n        projectors: '@building-3'\n"
-            "        settings: {contrast: -3, blank: 'on'}\n        where: brightness<100\n")
+        collection = SOURCES / "integrations/ansible"
+        shutil.copytree(collection, self.folder / "ansible_collections/advancedcontrol/projectors")
+        (self.folder / "play.yml").write_text(re.search("```yaml\n(.*?)```", (collection / "README.md").read_text(),
+                                                        re.DOTALL)[1])
         for changed in (1, 0):
             run = self.run_program("ansible-playbook", "-i", "localhost,", "-c", "local", "play.yml",
-                                   LC_ALL="C.UTF-8")
+                                   LC_ALL="C.UTF-8", ANSIBLE_COLLECTIONS_PATH=str(self.folder))
             self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
             self.assertRegex(run.stdout, f"ok=1 +changed={changed} ")

@@ -10,6 +10,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import jsonschema
+
 PROGRAMS = Path(os.environ["PROGRAMS"])
 SOURCES = Path(__file__).resolve().parents[2]
 sys.path.append(str(SOURCES / "scripts"))
@@ -17,6 +19,25 @@ from rig import free_port  # noqa: E402,F401
 
 ROOMS = {"Lecture hall": ("Projector 5-30", ["building-3", "hall"]), "Seminar 1": ("Projector 5-31", ["building-3"]),
          "Seminar 2": ("Projector 4-24", ["building-3"]), "Office": ("Projector 2-6", ["building-1"])}
+
+SCHEMA = json.loads((SOURCES / "app/acctl/acctl.schema.json").read_text())
+
+
+def strict(schema):
+    """The schema without room for members that it does not name."""
+    if isinstance(schema, list):
+        return [strict(part) for part in schema]
+    if not isinstance(schema, dict):
+        return schema
+    closed = {name: strict(part) for name, part in schema.items()}
+    if "properties" in schema and "allOf" not in schema and schema.get("title") is None:
+        closed["additionalProperties"] = False
+    return closed
+
+
+VALIDATOR = jsonschema.Draft202012Validator(
+    {**strict(SCHEMA), "$defs": {name: part if name in ("description", "line") else strict(part)
+                                 for name, part in SCHEMA["$defs"].items()}})
 
 
 def write_rooms(path):

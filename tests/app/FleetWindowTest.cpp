@@ -64,7 +64,7 @@ TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
   EXPECT_EQ(dialog->findChild<QTreeWidget*>()->topLevelItemCount(), 500);
   Button(*dialog, "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), silent);
-  Find<QLabel>(*dialog, "475 of 500 done, 25 failed");
+  Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 
   QTcpSocket control;
@@ -80,6 +80,22 @@ TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
   Button(*dialog, "Undo All").click();
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == off + silent; }))
       << "those that were on are on again";
+}
+
+TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {
+  std::vector<FleetProfile> profiles;
+  for (int i = 0; i < 250; ++i) profiles.push_back(Profile(std::to_string(i).c_str()));
+  MainWindow window(profiles, kOften);
+  window.show();
+  window.Session(249)->Simulator().SetValue(SettingId::ErrorStatus, 4);
+  ASSERT_TRUE(AreWatched(window));
+  EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Problems) == 1; }));
+  EXPECT_EQ(HealthOf(Rows(window)[249]), Health::Error);
+  EXPECT_EQ(CountIn(window, ProjectorGroup::Kind::Unreachable), 0);
+  Table(window).selectAll();
+  Find<QAction>(window, "Switch Off").trigger();
+  Button(*window.findChild<WorkDialog*>(), "Switch Off").click();
+  EXPECT_EQ(Failed(Done(window)), 0);
 }
 
 TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {

@@ -6,7 +6,9 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
@@ -14,7 +16,9 @@
 
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/presets/PresetDialog.h"
+#include "app/desktop/presets/PresetManager.h"
 #include "app/profiles/PresetFolder.h"
+#include "host/CAdvanceDlg.h"
 #include "tests/app/Work.h"
 
 namespace {
@@ -125,6 +129,10 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
   Select({a});
   Choose("day", "Should Be Like");
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; }));
+  const CAdvanceDlg& dialog = *window->OpenDialog(a, 0);
+  const int value = window->Session(a)->Simulator().Value(SettingId::Brightness);
+  EXPECT_TRUE(Soon([&] { return dialog.LastSeen("picture.brightness") == value; }))
+      << "the dialog counts what differed";
   const auto& alerts = *window->findChild<AlertList*>();
   const auto hasAlert = [&] {
     return std::ranges::any_of(alerts.Open(), [&](const Alert& alert) {
@@ -136,6 +144,54 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0; }));
   EXPECT_EQ(window->Session(a)->Simulator().Value(SettingId::Brightness), 140);
   EXPECT_TRUE(Soon([&] { return !hasAlert(); }));
+}
+
+TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
+  Snapshot day = EmptySnapshot("any", Row(a).profile.model->data);
+  day.settings = {{.key = "picture.brightness", .value = 140, .text = {}}};
+  for (const char* name : {"day", "other"}) ASSERT_EQ(PresetFolder::Write(name, day), "");
+  Select({a});
+  Choose("day", "Should Be Like");
+  Choose("Manage Presets");
+  QApplication::processEvents();  // the list takes what "Should Be Like" has changed
+  auto& manager = *window->findChild<PresetManager*>();
+  auto& list = *manager.findChild<QListWidget*>();
+  EXPECT_THAT(Lines(*manager.findChild<QTreeWidget*>()), testing::Contains("  Brightness|12"));
+  const auto rename = [&](const char* name) {
+    QTest::keyClick(&list, Qt::Key_F2);
+    auto* field = list.findChildren<QLineEdit*>().last();
+    field->clear();
+    QTest::keyClicks(field, name);
+    QTest::keyClick(field, Qt::Key_Return);
+    QApplication::processEvents();
+  };
+  for (const char* wrong : {"../day", "other"}) {
+    rename(wrong);
+    auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(said, nullptr) << wrong;
+    said->close();
+    EXPECT_EQ(list.currentItem()->text(), "day");
+  }
+  rename("night");
+  EXPECT_EQ(PresetFolder::Names(), (QStringList{"night", "other"}));
+  EXPECT_EQ(Row(a).profile.snapshot, "night");
+  EXPECT_TRUE(Soon([&] { return list.currentItem() && list.currentItem()->text() == "night"; }));
+
+  manager.activateWindow();
+  ASSERT_TRUE(Soon([&] { return list.hasFocus(); }));
+  QTest::keyClick(&list, Qt::Key_Delete);
+  auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_NE(question, nullptr);
+  EXPECT_TRUE(question->informativeText().contains("Projector 5-30"));
+  Find<QPushButton>(*question, "Remove").click();
+  EXPECT_EQ(PresetFolder::Names(), QStringList{"other"});
+  EXPECT_EQ(Row(a).profile.snapshot, "");
+  Find<QAction>(*window, "Undo Remove Preset").trigger();
+  Find<QAction>(*window, "Undo Rename Preset").trigger();
+  EXPECT_EQ(PresetFolder::Names(), (QStringList{"day", "other"}));
+  EXPECT_EQ(Row(a).profile.snapshot, "day");
+  Find<QAction>(*window, "Redo Rename Preset").trigger();
+  EXPECT_EQ(PresetFolder::Names(), (QStringList{"night", "other"}));
 }
 
 }  // namespace

@@ -123,4 +123,20 @@ TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
   InstallTranslations(kEnglishUnitedStates);
 }
 
+TEST(ProgramTexts, OfQtAreInTheLanguageOfTheProgramForARegionToo) {
+  const auto inQt = [](const char* context, const char* text) {
+    return QCoreApplication::translate(context, text).toStdString();
+  };
+  for (const auto& [tag, cancel] : {std::pair("de-AT", "Abbrechen"),
+                                    {"pt-PT", "Cancelar"},
+                                    {"zh-HK", "取消"},
+                                    {"he", "ביטול"}}) {
+    SCOPED_TRACE(tag);
+    InstallTranslations(LanguageIdOf(tag).value());
+    EXPECT_EQ(inQt("QPlatformTheme", "Cancel"), cancel);
+    EXPECT_NE(inQt("QCommandLineParser", "Options:"), "Options:");
+  }
+  InstallTranslations(kEnglishUnitedStates);
+}
+
 }  // namespace

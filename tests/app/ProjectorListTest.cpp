@@ -201,6 +201,22 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(inFile().size(), before.size() + 1);
 }
 
+TEST(ProjectorList, OffersToAddRealOnesWhileAllAreSimulated) {
+  const QTemporaryDir folder;
+  MainWindow window(Shipped(folder));
+  window.Demonstrate();
+  window.show();
+  const auto& text =
+      Find<QLabel>(window, "All these projectors are simulated, for trying the program.");
+  EXPECT_TRUE(text.isVisible());
+  Find<QPushButton>(window, "Add").click();
+  auto* editor = window.findChild<ProfileEditor*>();
+  ASSERT_NE(editor, nullptr);
+  Fill(*editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}, {"Address", "192.0.2.7"}});
+  EXPECT_TRUE(Accept(*editor));
+  EXPECT_FALSE(text.isVisible());
+}
+
 TEST(ProjectorList, AFileThatCannotBeWrittenIsSaidBeforeAnybodyTypes) {
   auto gone = std::make_unique<QTemporaryDir>();
   MainWindow window(Shipped(*gone));

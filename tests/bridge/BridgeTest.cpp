@@ -1,20 +1,16 @@
 // The program between simulated projectors, Debian's message broker and clients that others wrote.
 
-#include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <gmock/gmock.h>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
-#include "tests/bridge/Daemons.h"
+#include "tests/bridge/BridgeProgram.h"
 #include "tests/bridge/Subscriber.h"
 
 namespace {
@@ -22,73 +18,6 @@ namespace {
 using testing::HasSubstr;
 
 constexpr int kCount = 500;
-
-class BridgeProgram : public testing::Test {
- protected:
-  void SetUp() override { ASSERT_TRUE(folder_.isValid()); }
-
-  void StartProjectors(int count, const QStringList& more = {}) {
-    profiles_ = folder_.filePath("projectors.json");
-    simulator_ = std::make_unique<SimulatorProcess>(
-        QStringList{"--fleet", QString::number(count), "--control", "0", "--write-profiles",
-                    profiles_, "--warm-up", "0", "--cool-down", "0"} +
-        more);
-  }
-  /// A line for the simulator, and its answer.
-  std::string Control(const QByteArray& line) {
-    QTcpSocket control;
-    control.connectToHost(QHostAddress::LocalHost,
-                          simulator_->Address("control").section(':', 1).toUShort());
-    control.write(line + '\n');
-    EXPECT_TRUE(Soon([&] { return control.waitForReadyRead(10) || control.canReadLine(); }));
-    return control.readLine().trimmed().toStdString();
-  }
-  std::unique_ptr<Daemon> Bridge(const QStringList& more, quint16 port = 0) {
-    return std::make_unique<Daemon>(
-        BRIDGE_PROGRAM, QStringList{"--profiles", profiles_, "--interval", "5", "--listen",
-                                    port == 0 ? "none" : QString("127.0.0.1:%1").arg(port)} +
-                            more);
-  }
-  static QStringList At(const MosquittoBroker& broker) {
-    return {"--broker", QString("127.0.0.1:%1").arg(broker.port)};
-  }
-  static void Publish(const MosquittoBroker& broker, const QStringList& arguments,
-                      const QByteArray& input = {}) {
-    QProcess publish;
-    publish.start("mosquitto_pub",
-                  QStringList{"-p", QString::number(broker.port), "-q", "1"} + arguments);
-    publish.write(input);
-    publish.closeWriteChannel();
-    const Outcome outcome = Finish(publish);
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors;
-  }
-  static double Metric(quint16 port, const QByteArray& sample) {
-    const QByteArray text = '\n' + Get(port, "/metrics");
-    const auto at = text.indexOf('\n' + sample + ' ');
-    return at < 0 ? -1 : text.mid(at + sample.size() + 2).split('\n').first().toDouble();
-  }
-  static QByteArray NameOf(int number) {
-    return "Projector " + QByteArray::number(number).rightJustified(5, '0');
-  }
-  static QByteArray Probe(int number) {
-    return "/probe?target=" + NameOf(number).replace(' ', '+');
-  }
-  /// The number of a projector that is on.
-  static int OneThatIsOn(quint16 port) {
-    const QRegularExpression sample(
-        "_power_state\\{projector=\"Projector (\\d+)\",state=\"on\"\\} 1\n");
-    return sample.match(QString::fromUtf8(Get(port, "/metrics"))).captured(1).toInt();
-  }
-  /// The changes that all projectors together have made.
-  std::string Changes() {
-    const QString counts = QString::fromStdString(Control("* count"));
-    return counts.section("changes ", 1).section(' ', 0, 0).toStdString();
-  }
-
-  QTemporaryDir folder_;
-  QString profiles_;
-  std::unique_ptr<SimulatorProcess> simulator_;
-};
 
 TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   StartProjectors(kCount, {"--fault", "silent 5%", "--link", "mixed"});
@@ -130,10 +59,11 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   EXPECT_TRUE(second->Says("another bridge has the same share"));
 
   // A broker that remembers gets nothing twice, and what has changed meanwhile.
-  ASSERT_TRUE(Soon([&] {
-    return Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}") == projectors;
-  }));
-  const double sent = Metric(port, "projector_bridge_messages_total{kind=\"state\"}");
+  const auto hasSent = [&](double states) {
+    return Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}") == projectors &&
+           Metric(port, "projector_bridge_messages_total{kind=\"state\"}") == states;
+  };
+  ASSERT_TRUE(Soon([&] { return hasSent(projectors); }));
   broker.Stop();
   EXPECT_TRUE(Soon([&] { return Metric(port, "projector_bridge_broker_connected") == 0; }));
   EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
@@ -147,9 +77,8 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
       std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
   EXPECT_TRUE(
       Soon([&] { return isComplete() && subscriber->With("/availability", "online") == 2; }));
-  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"state\"}"), sent + 1);
+  EXPECT_TRUE(Soon([&] { return hasSent(projectors + 1); }));
   EXPECT_EQ(subscriber->StateOf(NameOf(on))["power"], "standby");
-  EXPECT_EQ(Metric(port, "projector_bridge_messages_total{kind=\"discovery\"}"), projectors);
 
   // A bridge dies. The broker says so, and the one that stood back takes over.
   const int before = subscriber->Count("projectors/bridge/2-of-2/availability");
@@ -159,11 +88,73 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
     return subscriber->Count("projectors/bridge/2-of-2/availability") >= before + 2 &&
            isComplete() && subscriber->With("/availability", "online") == 2;
   }));
+  EXPECT_TRUE(hasSent(projectors + 1)) << "still nothing twice";
   EXPECT_FALSE(subscriber->Saw("never-asked")) << "what the dead bridge knew holds until the visit";
   const QRegularExpression most("at-once (\\d+)");
   EXPECT_LE(most.match(QString::fromStdString(Control("* count"))).captured(1).toInt(), 1)
       << "never two connections to a projector";
   EXPECT_EQ(Changes(), "0") << "without --allow-commands";
+}
+
+TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
+  StartProjectors(20);
+  MosquittoBroker broker(folder_.path());
+  const quint16 ports[] = {FreePort(), FreePort()};
+  const QStringList options =
+      At(broker) + QStringList{"--takeover", "3", "--allow-commands", "power"};
+  const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};
+  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
+  const auto holds = [&](int which) {
+    return Metric(ports[which], "projector_bridge_holds_share") == 1;
+  };
+  for (const bool isCutOff : {false, true}) {
+    int holder = 0;
+    ASSERT_TRUE(Soon([&] {
+      holder = holds(0) ? 0 : 1;
+      return holds(holder) && !holds(1 - holder) && subscriber.With("/state", "\"answers\"") == 20;
+    }));
+    int on = 1;
+    while (on < 20 && subscriber.StateOf(NameOf(on))["power"] != "on") ++on;
+    const auto id = static_cast<pid_t>(bridges[holder]->Id());
+    kill(id, SIGSTOP);
+    Publish(broker, {"-t", "projectors/" + subscriber.Find("on", {}) + "/set/power", "-m", "off"});
+    EXPECT_TRUE(Soon([&] { return holds(1 - holder); })) << bridges[1 - holder]->Said().data();
+    EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
+    const auto isTold = [&] { return subscriber.StateOf(NameOf(on))["power"] == "standby"; };
+    EXPECT_TRUE(Soon(isTold));
+    if (isCutOff) {
+      broker.Stop();
+      broker.Start();
+    }
+    kill(id, SIGCONT);
+    EXPECT_TRUE(Soon([&] { return holds(0) != holds(1); })) << bridges[holder]->Said().data();
+    EXPECT_TRUE(holds(1 - holder));
+    EXPECT_TRUE(isTold()) << "not what the one that hung knew";
+    EXPECT_FALSE(Get(ports[holder], "/metrics").contains("_commands_total{"))
+        << "the command that came meanwhile is old";
+  }
+}
+
+TEST_F(BridgeProgram, EndsWhileTheBrokersHostAnswersNothing) {
+  StartProjectors(1);
+  QTcpServer server;
+  server.setListenBacklogSize(0);
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  server.pauseAccepting();
+  const auto connecting = [end = QByteArray::number(server.serverPort(), 16).toUpper() + " 02 "] {
+    return Contents("/proc/net/tcp").count(end);
+  };
+  std::vector<std::unique_ptr<QTcpSocket>> others;
+  while (connecting() == 0) {
+    others.push_back(std::make_unique<QTcpSocket>());
+    others.back()->connectToHost(QHostAddress::LocalHost, server.serverPort());
+    QCoreApplication::processEvents();
+  }
+  const auto before = connecting();
+  Daemon bridge(BRIDGE_PROGRAM, {"--profiles", profiles_, "--listen", "none", "--broker",
+                                 QString("127.0.0.1:%1").arg(server.serverPort())});
+  EXPECT_TRUE(Soon([&] { return connecting() > before; }));
+  bridge.Stop();  // the system would try for two minutes
 }
 
 TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
@@ -181,93 +172,6 @@ TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
   const auto other = Bridge(At(broker) + options + QStringList{"--share", "1/2"});
   EXPECT_TRUE(bridge->Says("the bridge with the share 1-of-2 has "));
   EXPECT_TRUE(other->Says("the bridge with the share 1-of-1 has "));
-}
-
-TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
-  StartProjectors(40, {"--link", "network"});
-  MosquittoBroker broker(folder_.path());
-  auto bridge =
-      Bridge(At(broker) + QStringList{"--allow-commands", "power,picture.*,setup.auto-keystone"});
-  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
-  QByteArray id;
-  ASSERT_TRUE(Soon([&] {
-    id = subscriber.Find("on", {"picture.brightness", "setup.auto-keystone"});
-    return !id.isEmpty();
-  })) << bridge->Said().data();
-  const QByteArray answer = "projectors/" + id + "/answer";
-  std::string last;
-  const auto outcomeOf = [&](const QString& topic, const QStringList& what,
-                             const QByteArray& input = {}) {
-    const int before = subscriber.Count(answer);
-    Publish(broker, QStringList{"-t", "projectors/" + QString(id) + topic} + what, input);
-    EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; })) << topic.toStdString();
-    last = subscriber.Last().at(answer).left(300).toStdString();
-    return subscriber.Json(answer)["outcome"].toString().toStdString();
-  };
-  const std::string changes = Changes();
-  EXPECT_EQ(outcomeOf("/set", {"-m", "{\"key\":"}), "error");
-  EXPECT_EQ(outcomeOf("/set/no.such-key", {"-m", "1"}), "error");
-  EXPECT_EQ(outcomeOf("/set/setup.whisper", {"-m", "1"}), "error") << "not allowed";
-  EXPECT_EQ(outcomeOf("/set/picture.brightness", {"-m", "99999"}), "error");
-  EXPECT_EQ(outcomeOf("/set/picture.brightness", {"-s"}, QByteArray(1 << 20, '1')), "error");
-  EXPECT_EQ(Changes(), changes) << "nothing of it reached a projector";
-
-  EXPECT_EQ(outcomeOf("/set", {"-m", R"({"key":"picture.brightness","value":-3,"id":"mine"})"}),
-            "accepted");
-  EXPECT_EQ(subscriber.Json(answer)["id"], "mine");
-  EXPECT_EQ(outcomeOf("/set/setup.auto-keystone", {"-m", "run"}), "accepted") << last;
-  EXPECT_NE(Changes(), changes);
-  EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "accepted");
-  EXPECT_TRUE(Soon([&] {
-    return subscriber.Json("projectors/" + id + "/state")["power"] == "standby";
-  })) << "what a command tells is published";
-
-  // Both kill switches.
-  const std::string now = Changes();
-  Publish(broker, {"-t", "projectors/bridge/commands", "-r", "-m", "off"});
-  EXPECT_TRUE(bridge->Says("commands are switched off"));
-  EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "error");
-  Publish(broker, {"-t", "projectors/bridge/commands", "-r", "-m", "on"});
-  EXPECT_TRUE(bridge->Says("takes commands"));
-  kill(static_cast<pid_t>(bridge->Id()), SIGUSR1);
-  EXPECT_TRUE(bridge->Says("a signal switched commands off"));
-  EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "error");
-  EXPECT_EQ(Changes(), now);
-  kill(static_cast<pid_t>(bridge->Id()), SIGUSR2);
-  EXPECT_TRUE(bridge->Says("a signal switched commands on"));
-  EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "accepted");
-
-  // The projector refuses, and falls silent.
-  EXPECT_TRUE(
-      Soon([&] { return subscriber.Json("projectors/" + id + "/state")["power"] == "on"; }));
-  EXPECT_EQ(Control("* refuse"), "ok");
-  EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "refused");
-  EXPECT_EQ(Control("* silent"), "ok");
-  EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "no-answer");
-
-  // A command that lies there when the bridge comes is an old one.
-  bridge.reset();
-  Publish(broker, {"-t", "projectors/" + QString(id) + "/set/power", "-r", "-m", "off"});
-  const int before = subscriber.Count(answer);
-  bridge = Bridge(At(broker) + QStringList{"--allow-commands", "power"});
-  EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > before; }));
-  EXPECT_EQ(subscriber.Json(answer)["outcome"], "error");
-}
-
-TEST_F(BridgeProgram, TellsThatAProjectorIsInStandby) {
-  StartProjectors(40);  // over PJLink, which refuses then
-  MosquittoBroker broker(folder_.path());
-  const auto bridge = Bridge(At(broker) + QStringList{"--allow-commands", "other.*"});
-  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
-  QByteArray id;
-  ASSERT_TRUE(Soon([&] {
-    id = subscriber.Find("standby", {"other.mute"});
-    return !id.isEmpty();
-  })) << bridge->Said().data();
-  Publish(broker, {"-t", "projectors/" + QString(id) + "/set/other.mute", "-m", "1"});
-  const QByteArray answer = "projectors/" + id + "/answer";
-  EXPECT_TRUE(Soon([&] { return subscriber.Count(answer) > 0; }));
-  EXPECT_EQ(subscriber.Json(answer)["outcome"], "standby") << subscriber.Last().at(answer).data();
 }
 
 TEST_F(BridgeProgram, ProvesWhoItIs) {

@@ -70,7 +70,7 @@ TEST(OtherShares, AreToldWhereTheyOverlap) {
   OtherShares::Time now{1h};
   const auto take = [&](const Share& share, bool isRetained = false) {
     return others
-        .Take({"p/bridge/" + share.Name() + "/holder", HolderMessage({"x", 1}, JsonOf(share)),
+        .Take({"p/bridge/" + share.Name() + "/holder", ClaimMessage({1, "x", 1}, JsonOf(share)),
                isRetained},
               now)
         .toStdString();

@@ -1,6 +1,7 @@
 // A dialog on a simulated projector, for use by an assistive technology: BusHost TYPE CODE. First
 // writes how each setting should be presented, from the model's list of settings. Then writes every
-// command, and a line "-" for each line that it reads.
+// command, and a line "-" for each byte that it reads; after a "!" the projector refuses to reset
+// the brightness, after a "." it does not.
 
 #include <cstdio>
 #include <cstdlib>
@@ -15,6 +16,7 @@
 #include "device/channels/LoggingChannel.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/Rows.h"
+#include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "snapshots/SettingTexts.h"
 #include "tests/support/DialogDriver.h"
@@ -50,7 +52,8 @@ int main(int argc, char** argv) {
   if (argc != 3) return EXIT_FAILURE;
   std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
   const CModelInfo2 model = FullModel(std::atoi(argv[1]), std::atoi(argv[2]));
-  const auto projector = std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model)));
+  const auto projector = std::make_shared<FaultChannel>(
+      std::make_shared<SimulatedProjector>(DescribeModel(MakeModelData(model))));
   CAdvanceDlg dialog;
   dialog.CopyData(&model, 0);
   dialog.Projector().SetChannel(projector);
@@ -62,9 +65,12 @@ int main(int argc, char** argv) {
   dialog.show();
 
   QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
-  QObject::connect(&input, &QSocketNotifier::activated, &dialog, [&dialog] {
+  QObject::connect(&input, &QSocketNotifier::activated, &dialog, [&dialog, &projector] {
     char byte = 0;
     if (read(STDIN_FILENO, &byte, 1) != 1) return QApplication::quit();
+    if (byte == '!')
+      projector->SetFault(PjtOperation::ExecBrightnessReset, {.kind = Fault::Kind::Refuse});
+    if (byte == '.') projector->Clear();
     QTimer::singleShot(0, &dialog, [] { WriteLine("-"); });  // after all work in progress
   });
   return QApplication::exec();

@@ -14,7 +14,7 @@ os.environ.update(DISPLAY=":" + os.fdopen(reader).readline().strip(), QT_QPA_PLA
 
 import gi  # noqa: E402 (the bus is found by the display)
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 SECONDS = 60  # for what must come; nothing waits that long
 
@@ -64,6 +64,26 @@ def program_of(process):
          if child is not None and child.get_process_id() == process.pid), None))
     program.set_cache_mask(Atspi.Cache.NONE)
     return program
+
+
+class Announcements:
+    """Texts that have appeared as notifications, which is what screen readers read at once."""
+
+    def __init__(self):
+        self.texts = []
+        self.listener = Atspi.EventListener.new(self.take)
+        self.listener.register("object:state-changed:showing")
+
+    def take(self, event, *_):
+        if event.detail1 and event.source.get_role() == Atspi.Role.NOTIFICATION:
+            self.texts.append(event.source.get_name())
+
+    def next(self):
+        """All since the last call, at least one."""
+        until("an announcement", lambda: GLib.MainContext.default().iteration(False)
+              or self.texts)
+        texts, self.texts = self.texts, []
+        return texts
 
 
 class Keyboard:

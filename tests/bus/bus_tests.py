@@ -11,7 +11,7 @@ import subprocess
 import sys
 import unittest
 
-from bus import (SECONDS, DISPLAY, Atspi, children, has, labels, press, program_of, shown_in, text,
+from bus import (SECONDS, DISPLAY, Announcements, Atspi, Keyboard, children, has, labels, press, program_of, shown_in, text,
                  until)
 import window_tests
 from window_tests import WindowTest  # noqa: F401 (unittest looks for it here)
@@ -46,6 +46,11 @@ class Dialog:
         lines = self.lines.decode().splitlines()[:-1]
         self.lines = b""
         return lines
+
+    def refuse_reset(self, refuse):
+        self.process.stdin.write(b"!" if refuse else b".")
+        self.read(lambda: self.lines.endswith(b"-\n"))
+        self.lines = b""
 
     def read(self, enough):
         while not enough():
@@ -176,6 +181,41 @@ class BusTest(unittest.TestCase):
         self.operate(dialog, popup, "IR Remote Front", None, ["SetIRFront(0)"])
         press(next(node for node in children(popup) if node.get_name() == "Close"))
         until("an end of the pop-up", lambda: len(children(program)) == 1)
+        self.assertEqual(dialog.close(), 0)
+
+    def test_the_projector_a_refusal_and_the_reset_of_a_row_are_told(self):
+        announced = Announcements()
+        dialog = Dialog(5, 30)
+        page = dialog.show(next(tab for tab in dialog.tabs if tab.get_name() == "Picture"))
+        strip = [node.get_name() for node in shown_in(dialog.window)]
+        self.assertIn("Model — COM1 — answers", strip)
+        self.assertIn("Read again (F5)", strip)
+
+        # The button of a row appears when the keyboard reaches the row.
+        named = lambda name: next((n for n in shown_in(page) if n.get_name() == name), None)
+        self.assertIsNone(named("Reset: Brightness"))
+        Keyboard().give_to(dialog.window)
+        Atspi.Component.grab_focus(next(node for node in children(page)
+                                        if node.get_name() == "Brightness"
+                                        and node.get_role() == Atspi.Role.SLIDER))
+        reset = until("the button of the row", lambda: named("Reset: Brightness"))
+        press(reset)
+        self.assertEqual(dialog.commands(1)[:2], ["ExecBrightnessReset()", "Get 0x2003"])
+        self.assertEqual(announced.next(), ["Brightness reset"])
+
+        dialog.refuse_reset(True)
+        refusal = "Not accepted: Reset Brightness."
+        for _ in range(2):
+            press(reset)
+            dialog.commands(1)
+            self.assertEqual(announced.next(), [refusal])
+        self.assertIn(refusal, [node.get_name() for node in shown_in(dialog.window)])
+        told = lambda: named("Reset Execute").get_description()
+        self.assertEqual(told(), refusal)
+        dialog.refuse_reset(False)
+        press(reset)
+        dialog.commands(1)
+        self.assertEqual(told(), "")
         self.assertEqual(dialog.close(), 0)
 
 

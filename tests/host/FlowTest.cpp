@@ -11,7 +11,7 @@ namespace {
 using namespace std::chrono_literals;
 using testing::IsEmpty;
 
-constexpr int kPictureTab = 1;
+constexpr int kPictureTab = 1, kOptionTab = 7, kAutoOff = 20369;
 constexpr int kAudioTab = 5;
 constexpr int kIris = 20293;
 constexpr int kIrisCaption = 20621;
@@ -277,6 +277,10 @@ TEST_F(FlowTest, ADragShowsTheNumberThatReleasingWouldSend) {
   ASSERT_EQ(bubbles().size(), 1);
   EXPECT_EQ(bubbles().first()->text(), QString::number(slider.value()));
   QTest::keyRelease(&slider, Qt::Key_Left);
+  ClickTab(kOptionTab);
+  Page().Item<CSliderCtrl>(kAutoOff).DragTo(60);
+  ASSERT_TRUE(Soon([&] { return bubbles().size() == 1; }));
+  EXPECT_EQ(bubbles().first()->text(), QStringLiteral("60\u00a0min"));
 }
 
 }  // namespace

@@ -1,14 +1,17 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QTabBar>
 #include <QTest>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include "pages/common/CTabPage.h"
 #include "resources/AdvancedControlResources.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
+#include "toolkit/CTabCtrl.h"
 #include "toolkit/ResourceModule.h"
 
 namespace {
@@ -34,6 +37,24 @@ TEST(Tabs, PagesWithoutATabExist) {
   EXPECT_NE(hidden.Template(), nullptr);
   EXPECT_EQ(hidden.mapTo(&open.Dialog(), QPoint()), QPoint(20, 64));
   EXPECT_EQ(open.Dialog().Page(PageId::Main).Template(), nullptr) << "of another page set";
+}
+
+TEST(Tabs, AreAllInSightOnANarrowScreen) {
+  CTabCtrl tabs;
+  for (const char* text : {"Bild", "Automatische Einstellungen", "Ton"}) tabs.addTab(text);
+  tabs.show();
+  const QFontMetrics metrics = tabs.fontMetrics();
+  tabs.resize(metrics.horizontalAdvance("Bild, Automatische, Ton") + 80, 30);
+  const QRect longest = tabs.tabRect(1);
+  EXPECT_LT(longest.width(), metrics.horizontalAdvance(tabs.tabText(1)));
+  EXPECT_LE(tabs.tabRect(2).right(), tabs.width());
+  for (const int whole : {0, 2}) {
+    EXPECT_GE(tabs.tabRect(whole).width(), metrics.horizontalAdvance(tabs.tabText(whole)) + 8);
+  }
+  QHelpEvent help(QEvent::ToolTip, longest.center(), tabs.mapToGlobal(longest.center()));
+  QApplication::sendEvent(&tabs, &help);
+  EXPECT_EQ(QToolTip::text(), tabs.tabText(1));
+  QToolTip::hideText();
 }
 
 TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {

@@ -29,7 +29,7 @@ constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteRes
 constexpr int kVolumeField = 20133;
 
 std::string StripText(CAdvanceDlg& dialog) {
-  return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->toolTip().toStdString();
+  return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->accessibleName().toStdString();
 }
 
 QMenu* MenuOf(QWidget& control) {
@@ -79,6 +79,22 @@ TEST(Projector, IsNamedOverTheTabsAndInBoxes) {
   dialog.Projector().SetChannel(std::make_shared<SilentChannel>());
   dialog.DispTabScreen();
   EXPECT_TRUE(StripText(dialog).ends_with("does not answer")) << StripText(dialog);
+}
+
+TEST(Projector, ItsLineIsCutOffWhereTheAgeOfTheReadingBegins) {
+  ProjectorStrip::Age age;
+  ProjectorStrip strip(nullptr, [&age] { return age; });
+  strip.SetProjector({QStringLiteral("Lecture hall 2"), QStringLiteral("10.0.0.7")});
+  const auto& label = *strip.findChild<QLabel*>();
+  const int whole = label.fontMetrics().horizontalAdvance(label.text());
+  strip.resize(whole + 60, strip.sizeHint().height());
+  strip.show();
+  EXPECT_TRUE(label.toolTip().isEmpty());
+  age = std::chrono::minutes(5);
+  strip.ShowAge();
+  EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width());
+  EXPECT_TRUE(label.text().contains(QChar(0x2026))) << label.text().toStdString();
+  EXPECT_FALSE(label.toolTip().isEmpty());
 }
 
 TEST(ReadAgain, F5ReadsThePageUnlessAHandlerRuns) {

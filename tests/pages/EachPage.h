@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <QApplication>
 #include <QTabBar>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -35,6 +36,8 @@ inline void ForEachPopup(const std::function<void(CDialog&)>& check) {
     popUp->setParent(nullptr, popUp->windowFlags());  // as created by its page
     SCOPED_TRACE(popUp->metaObject()->className());
     QTimer::singleShot(0, popUp.get(), [&] {
+      // The letters of mnemonics may make a button wider, and that button all others.
+      for (int pass = 0; pass < 2; ++pass) QApplication::processEvents();
       check(*popUp);
       popUp->reject();
     });

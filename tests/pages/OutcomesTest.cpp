@@ -93,6 +93,8 @@ constexpr Case kCases[] = {
      "SetAutoPowerOff", "Not accepted: Auto Off 5\u00a0min. The projector has 0\u00a0min.", 20369},
     {"only shown", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21061, 1); }, nullptr,
      "This setting is only shown here. A choice is not sent."},
+    {"only shown on Video", 4, 9, 3, [](const DialogDriver& page) { page.Choose(20221, 1); },
+     nullptr, "This setting is only shown here. A choice is not sent."},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, Outcomes, testing::ValuesIn(kCases));

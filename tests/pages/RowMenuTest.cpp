@@ -2,20 +2,23 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "pages/common/RowDialog.h"
+#include "pages/common/RowMenu.h"
 #include "tests/support/DialogDriver.h"
+#include "toolkit/Contrast.h"
 
 namespace {
 
 using Strings = std::vector<std::string>;
 
 constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
-constexpr int kVolume = 20317, kIrFront = 20375, kPositionV = 20205;
+constexpr int kVolume = 20317, kIrFront = 20375, kPositionV = 20205, kAutoOff = 20369;
 
 // The lines of a control's menu, with disabled ones in brackets. Chooses `choice`, which must not
 // act before the menu is closed, because it may wait for the projector.
@@ -104,6 +107,27 @@ TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
   QTest::keyClick(question, Qt::Key_Return);
   EXPECT_EQ(open.Projector().Take(), Strings{"SetBrightness 119"});
   EXPECT_EQ(driver.SliderAt(kBrightness), -9) << "this page's refused drags stay";
+}
+
+TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
+  OpenDialog open(FullModel(5, 51), 7);
+  const RowMenu menu(RowMenu::Row(), &open.Page());
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    EXPECT_GE(ContrastOf(menu.palette().color(QPalette::Disabled, role),
+                         menu.palette().color(QPalette::Disabled, QPalette::Base)),
+              3);
+  }
+  Menu(open.Page(), kAutoOff, "Enter a value…");
+  auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+  ASSERT_NE(question, nullptr);
+  const auto* field = question->findChild<QLineEdit*>();
+  const auto* unit = field->findChild<QLabel*>();
+  ASSERT_NE(unit, nullptr);
+  EXPECT_EQ(unit->text(), QStringLiteral("min"));
+  EXPECT_TRUE(field->rect().contains(unit->geometry()));
+  EXPECT_GE(field->textMargins().right(), field->width() - unit->x() - 1)
+      << "the number ends there";
+  question->reject();
 }
 
 TEST(RowMenu, TheOpeningValueBelongsToTheInputSource) {

@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr int kButtonsInRow = 3;
+constexpr int kButtonsInRow = 2;
 constexpr int kSignSize = 16;
 constexpr int kBarHeight = 6;
 constexpr int kPercent = 100;
@@ -141,7 +141,8 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
   layout->addSpacing(6);
   layout->addWidget(body_, 1);
   layout->addStretch();  // while the body is hidden
-  setMinimumWidth(std::max(kUsualWidth * 3 / 4, body_->minimumSizeHint().width()));
+  setMinimumWidth(std::max(
+      {kUsualWidth * 3 / 4, body_->minimumSizeHint().width(), buttons->minimumSize().width()}));
 }
 
 void DetailsPanel::Show(const ProjectorRow* row, std::size_t count,
@@ -168,13 +169,13 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
   if (state.blank.value_or(false)) switches += tr("blank");
   if (state.mute.value_or(false)) switches += tr("muted");
   if (state.freeze.value_or(false)) switches += tr("frozen");
-  QString switched = switches.join(QStringLiteral(", "));
+  QString switched = switches.join(QStringLiteral(" · "));
   if (switched.isEmpty() && state.blank) switched = tr("shown");
   const int hours = LampHoursOf(state);
   const int rated = row.profile.ratedLampHours;
   QStringList lamps;
   for (const LampState& lamp : state.lamps) lamps += StateTexts::Hours(lamp.hours);
-  QString lampText = lamps.join(QStringLiteral(", "));
+  QString lampText = lamps.join(QStringLiteral(" · "));
   if (hours >= 0 && rated > 0) lampText = tr("%1 of %2").arg(lampText, StateTexts::Hours(rated));
   lamp_->setVisible(hours >= 0 && rated > 0);
   lamp_->setValue(rated > 0 ? std::min(kPercent, hours * kPercent / rated) : 0);

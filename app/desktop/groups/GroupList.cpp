@@ -15,7 +15,8 @@ namespace {
 
 using Kind = ProjectorGroup::Kind;
 
-constexpr int kUsualWidth = 160;
+constexpr int kLeastWidth = 160;
+constexpr int kMostWidth = 240;
 constexpr int kRowGap = 8;
 constexpr int kIconSize = 16;
 constexpr std::array kKinds{Kind::All, Kind::Problems, Kind::Off, Kind::Unreachable};
@@ -30,7 +31,13 @@ GroupList::GroupList(QWidget* parent) : QListWidget(parent) {
   });
 }
 
-QSize GroupList::sizeHint() const { return {kUsualWidth, QListWidget::sizeHint().height()}; }
+QSize GroupList::sizeHint() const {
+  constexpr int kAround = kIconSize + 24;  // the icon, margins, and a digit more
+  int text = 0;
+  for (int row = 0; row < count(); ++row)
+    text = std::max(text, fontMetrics().horizontalAdvance(item(row)->text()));
+  return {std::clamp(text + kAround, kLeastWidth, kMostWidth), QListWidget::sizeHint().height()};
+}
 
 void GroupList::Show(const std::vector<ProjectorRow>& rows) {
   std::array<int, kKinds.size()> counts{};

@@ -1,6 +1,5 @@
 #include "app/desktop/presets/PresetDialog.h"
 
-#include <map>
 #include <utility>
 
 #include <QDialogButtonBox>
@@ -14,6 +13,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "app/desktop/presets/PresetTree.h"
 #include "app/profiles/PresetFolder.h"
 #include "toolkit/Icons.h"
 #include "toolkit/IsolatedText.h"
@@ -22,9 +22,6 @@ namespace {
 
 constexpr QSize kUsualSize{520, 560};
 constexpr QSize kFrame{10, 40};  // a guess until it is shown
-constexpr int kPlaceRole = Qt::UserRole;
-
-QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
 }  // namespace
 
@@ -87,23 +84,12 @@ void PresetDialog::MakeLayout() {
 }
 
 void PresetDialog::Fill(const ModelSettings& model, const SettingTexts& texts) {
-  std::map<int, QTreeWidgetItem*> pages;  // by the numbers of their captions
-  for (std::size_t i = 0; i < taken_->settings.size(); ++i) {
-    const SavedSetting& saved = taken_->settings[i];
-    const ModelSetting& setting = *model.Find(saved.key);
-    QTreeWidgetItem*& page = pages[setting.tab];
-    if (page == nullptr) {
-      page = new QTreeWidgetItem(tree_, {Wide(texts.Tab(setting))});
-      page->setFlags(page->flags() | Qt::ItemIsAutoTristate);
-    }
-    auto* leaf = new QTreeWidgetItem(page, {Wide(texts.Name(model, setting, saved.source)),
-                                            Wide(texts.Value(setting, saved.value))});
-    leaf->setCheckState(0, Qt::Checked);
-    leaf->setData(0, kPlaceRole, static_cast<int>(i));
+  FillPresetTree(*tree_, *taken_, model, texts);
+  for (int i = 0; i < tree_->topLevelItemCount(); ++i) {
+    QTreeWidgetItem* page = tree_->topLevelItem(i);
+    page->setFlags(page->flags() | Qt::ItemIsAutoTristate);
+    for (int j = 0; j < page->childCount(); ++j) page->child(j)->setCheckState(0, Qt::Checked);
   }
-  tree_->expandAll();
-  tree_->resizeColumnToContents(0);
-  tree_->setCurrentItem(tree_->topLevelItem(0));
 }
 
 void PresetDialog::CheckPages(const std::function<bool(const QTreeWidgetItem*)>& isChecked) {

@@ -16,24 +16,31 @@ constexpr int kMostUndone = 50;
 
 }  // namespace
 
-/// The text of the file before and after an edit.
+/// The text of the file before and after an edit, and what changes other files.
 class ProfileHistory::TextEdit : public QUndoCommand {
  public:
-  TextEdit(ProfileHistory& history, const QString& title, QByteArray before, QByteArray after)
+  TextEdit(ProfileHistory& history, const QString& title, QByteArray before, QByteArray after,
+           Beside beside)
       : QUndoCommand(title),
         history_(history),
         before_(std::move(before)),
-        after_(std::move(after)) {}
+        after_(std::move(after)),
+        beside_(std::move(beside)) {}
 
-  void undo() override { Put(before_); }
+  void undo() override { Put(before_, beside_.undo, beside_.redo); }
   void redo() override {
-    if (std::exchange(isDone_, true)) Put(after_);
+    if (std::exchange(isDone_, true)) Put(after_, beside_.redo, beside_.undo);
   }
 
  private:
   // If it cannot be written, it is not tried again.
-  void Put(const QByteArray& text) {
-    const QString error = history_.document_.Write(text);
+  void Put(const QByteArray& text, const std::function<QString()>& change,
+           const std::function<QString()>& changeBack) {
+    QString error = change ? change() : QString();
+    if (error.isEmpty()) {
+      error = history_.document_.Write(text);
+      if (!error.isEmpty() && changeBack) changeBack();
+    }
     setObsolete(!error.isEmpty());
     history_.Report(this->text(), error);
     if (error.isEmpty()) Q_EMIT history_.Changed(-1);
@@ -42,6 +49,7 @@ class ProfileHistory::TextEdit : public QUndoCommand {
   ProfileHistory& history_;
   const QByteArray before_;
   const QByteArray after_;
+  const Beside beside_;
   bool isDone_ = false;
 };
 
@@ -57,13 +65,13 @@ ProfileHistory::ProfileHistory(ProfileDocument& document, QWidget& window)
   redo_->setShortcut(QKeySequence::Redo);
 }
 
-QString ProfileHistory::Do(const QString& title, int selected,
-                           const std::function<QString()>& edit) {
+QString ProfileHistory::Do(const QString& title, int selected, const std::function<QString()>& edit,
+                           const Beside& beside) {
   const QByteArray before = document_.Text();
   const QString error = edit();
   if (!error.isEmpty()) return error;
-  if (before != document_.Text())
-    stack_->push(new TextEdit(*this, title, before, document_.Text()));
+  if (before != document_.Text() || beside.undo)
+    stack_->push(new TextEdit(*this, title, before, document_.Text(), beside));
   Q_EMIT Changed(selected);
   return {};
 }

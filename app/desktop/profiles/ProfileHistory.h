@@ -21,9 +21,17 @@ class ProfileHistory : public QObject {
   QAction* Undo() const { return undo_; }
   QAction* Redo() const { return redo_; }
 
+  /// Changes of other files that undo an edit, and do it again. A text as a result is an error.
+  struct Beside {
+    std::function<QString()> undo;
+    std::function<QString()> redo;
+  };
+
   /// Carries out an edit of the document and emits `Changed`, unless it returns an error, which is
-  /// then the result. `title` is the name of the edit in the menu; `selected` as in `Changed`.
-  QString Do(const QString& title, int selected, const std::function<QString()>& edit);
+  /// then the result. `title` is the name of the edit in the menu; `selected` as in `Changed`. If
+  /// the edit changes other files too, `beside` has both functions.
+  QString Do(const QString& title, int selected, const std::function<QString()>& edit,
+             const Beside& beside = {});
   /// As `Do`, but shows the error.
   void DoAndReport(const QString& title, int selected, const std::function<QString()>& edit);
 

@@ -9,7 +9,6 @@ namespace {
 
 constexpr std::chrono::seconds kTending{5};
 constexpr std::chrono::seconds kUse{30};
-constexpr const char* kLoopback = "127.0.0.1";
 
 bool IsSimulated(const FleetProfile& profile) { return profile.link == ProjectorLink::Simulated; }
 
@@ -66,8 +65,8 @@ void FleetWatch::Watch(const FleetProfile& profile) {
   if (IsSimulated(profile)) {
     const auto served = served_.find(target.id);
     if (served == served_.end()) return;
-    target.address =
-        PjLinkAddress{.host = kLoopback, .port = served->second.pjLinkPort, .password = {}};
+    target.address = PjLinkAddress{
+        .host = served->second.host, .port = served->second.pjLinkPort, .password = {}};
     target.model = nullptr;  // PJLink has other numbers for the inputs
   }
   const auto known = watched_.find(target.id);
@@ -79,7 +78,7 @@ void FleetWatch::Watch(const FleetProfile& profile) {
 FleetTarget FleetWatch::TargetOf(const FleetProfile& profile) const {
   FleetTarget target = AdvancedControl::TargetOf(profile);
   if (const auto served = served_.find(target.id); IsSimulated(profile) && served != served_.end())
-    target.address = TcpAddress{.host = kLoopback, .port = served->second.wirePort};
+    target.address = TcpAddress{.host = served->second.host, .port = served->second.wirePort};
   return target;
 }
 

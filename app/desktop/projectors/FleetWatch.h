@@ -25,6 +25,7 @@ class FleetWatch : public QObject {
  public:
   /// Where a simulated projector is served.
   struct Served {
+    std::string host{};
     std::uint16_t wirePort = 0;
     std::uint16_t pjLinkPort = 0;
   };

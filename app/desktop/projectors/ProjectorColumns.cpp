@@ -3,8 +3,6 @@
 #include <array>
 #include <chrono>
 
-#include <QStringList>
-
 #include "app/desktop/projectors/StateTexts.h"
 
 namespace {
@@ -21,6 +19,26 @@ constexpr std::array<const char*, ProjectorColumns::ColumnCount> kTitles{
     QT_TRANSLATE_NOOP("ProjectorColumns", "Settings"),
     QT_TRANSLATE_NOOP("ProjectorColumns", "Last answer"),
     QT_TRANSLATE_NOOP("ProjectorColumns", "Address")};
+
+constexpr int kManyHours = 12'345;
+
+QStringList StateSamples() {
+  QStringList samples;
+  ProjectorRow row{.id = {}, .profile = {}};
+  row.isWatched = true;
+  for (const auto reachability : {Reachability::NeverAsked, Reachability::Silent,
+                                  Reachability::WrongPassword, Reachability::NotUnderstood}) {
+    row.state.reachability = reachability;
+    samples += ProjectorColumns::Text(row, ProjectorColumns::State);
+  }
+  row.state.reachability = Reachability::Answers;
+  row.isOpen = true;
+  for (const auto grade : {ProblemGrade::None, ProblemGrade::Warning, ProblemGrade::Error}) {
+    row.state.problems = PartProblems{grade};
+    samples += ProjectorColumns::Text(row, ProjectorColumns::State);
+  }
+  return samples;
+}
 
 }  // namespace
 
@@ -80,5 +98,43 @@ QString ProjectorColumns::Text(const ProjectorRow& row, int column) {
       return ConnectionText(row.profile.connection);
     default:
       return {};
+  }
+}
+
+// What users write themselves is as in the profiles that come with the program.
+QStringList ProjectorColumns::Samples(int column) {
+  using namespace std::chrono_literals;
+  switch (column) {
+    case Name:
+      return {QStringLiteral("Lecture Hall 12")};
+    case State:
+      return StateSamples();
+    case Power: {
+      QStringList samples;
+      for (const auto power :
+           {PowerState::Standby, PowerState::On, PowerState::CoolingDown, PowerState::WarmingUp})
+        samples += StateTexts::Power(power);
+      return samples;
+    }
+    case Source:
+      return {QStringLiteral("Component")};
+    case Lamp:
+      return {StateTexts::Hours(kManyHours)};
+    case Problem: {
+      QStringList samples;
+      for (std::size_t part = 0; part < PartProblems().size(); ++part)
+        samples += StateTexts::Part(static_cast<ProjectorPart>(part));
+      return samples;
+    }
+    case Model:
+      return {QStringLiteral("Model 5-30")};
+    case Place:
+      return {QStringLiteral("Building A, Libra")};
+    case Settings:
+      return {StateTexts::Drift({.drift = 0}), StateTexts::Drift({.drift = 12})};
+    case Answered:
+      return {StateTexts::Ago(59s), StateTexts::Ago(59min), StateTexts::Ago(23h)};
+    default:
+      return {QStringLiteral("192.168.100.100:4352")};
   }
 }

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 #include "app/desktop/projectors/ProjectorRow.h"
 
@@ -29,6 +30,8 @@ class ProjectorColumns {
 
   static QString Title(int column);
   static QString Text(const ProjectorRow& row, int column);
+  /// Usual texts of the column, of which the longest should have room.
+  static QStringList Samples(int column);
   /// A number to sort by; nothing for a column of texts.
   static std::optional<double> Number(const ProjectorRow& row, int column);
   /// Whether the column shows what the projector reports, and not only its profile.

@@ -1,7 +1,6 @@
 #include "app/desktop/projectors/ProjectorView.h"
 
 #include <algorithm>
-#include <array>
 #include <set>
 #include <utility>
 
@@ -22,14 +21,7 @@ namespace {
 
 constexpr int kColumnGap = 14;
 constexpr int kIconWidth = 24;
-constexpr int kManyHours = 12'345;
 constexpr int kMinimumWidth = 170;
-
-// The widest usual text of each column.
-constexpr std::array<const char*, ProjectorColumns::ColumnCount> kWidthSamples{
-    "Lecture Hall 12",     "Wrong pass", "Cooling down",      "Component",       "",
-    "Temperature",         "Model 5-30", "Building A, Libra", "As it should be", "12 min ago",
-    "192.168.100.100:4352"};
 
 }  // namespace
 
@@ -74,7 +66,7 @@ ProjectorView::ProjectorView(QWidget* parent)
   connect(search_, &QLineEdit::textChanged, this, &ProjectorView::TakeSearch);
   connect(search_, &QLineEdit::returnPressed, this, [this] {
     if (model_->rowCount() == 0) return;
-    if (!table_->currentIndex().isValid()) SelectOnly(model_->index(0, 0));
+    SelectOnly(model_->index(0, 0));
     Q_EMIT Activated();
   });
   // Not the signal `activated`, which some desktops emit for a single click.
@@ -99,12 +91,9 @@ void ProjectorView::MakeColumns() {
   const QFontMetrics metrics = table_->fontMetrics();
   for (int column = 0; column < ProjectorColumns::ColumnCount; ++column) {
     const QString title = model_->headerData(column, Qt::Horizontal).toString();
-    const QString sample =
-        column == ProjectorColumns::Lamp
-            ? StateTexts::Hours(kManyHours)
-            : QString::fromLatin1(kWidthSamples[static_cast<std::size_t>(column)]);
-    const int text =
-        std::max(metrics.horizontalAdvance(sample), metrics.horizontalAdvance(title) + kColumnGap);
+    int text = metrics.horizontalAdvance(title) + kColumnGap;
+    for (const QString& sample : ProjectorColumns::Samples(column))
+      text = std::max(text, metrics.horizontalAdvance(sample));
     table_->setColumnWidth(
         column, text + kColumnGap + (column == ProjectorColumns::State ? kIconWidth : 0));
   }
@@ -219,6 +208,13 @@ std::vector<int> ProjectorView::InSight() const {
   for (int row = std::max(0, table_->rowAt(0)); row < end; ++row)
     positions.push_back(model_->PositionAt(row));
   return positions;
+}
+
+int ProjectorView::UsualWidth() const {
+  int columns = 0;
+  for (int column = 0; column < ProjectorColumns::ColumnCount; ++column)
+    columns += table_->columnWidth(column);  // 0 if it is hidden
+  return columns + table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
 }
 
 void ProjectorView::FocusSearch() {

@@ -36,6 +36,9 @@ class ProjectorView : public QWidget {
   /// Selects one projector. Shows all of them first if it is hidden.
   void Select(int position);
 
+  /// The width at which all shown columns have room.
+  int UsualWidth() const;
+
   void FocusSearch();
   void FocusTable();
 

@@ -11,6 +11,7 @@
 #include "snapshots/SettingTexts.h"
 
 QStringList TabNames(const CModelInfo2& model) {
+  const CatalogBatch batch;
   QStringList names{CatalogString(kCaptionCategory, Caption::TabStatus)};
   for (const PageTab& tab : TabsOf(model.DialogType, model.ModelCode)) {
     names += CatalogString(kCaptionCategory, tab.caption);

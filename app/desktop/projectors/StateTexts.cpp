@@ -142,7 +142,7 @@ QString StateTexts::Problems(const LiveState& state) {
     const QString part = Part(static_cast<ProjectorPart>(i));
     all += grade == ProblemGrade::Error ? part : tr("%1 (warning)").arg(part);
   }
-  return all.join(QStringLiteral(", "));
+  return all.join(QStringLiteral(" · "));
 }
 
 QString StateTexts::Hours(int hours) { return tr("%1 h").arg(QLocale().toString(hours)); }

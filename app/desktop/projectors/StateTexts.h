@@ -21,7 +21,7 @@ class StateTexts {
   static QString Power(PowerState power);
   /// The name of the source, else its number.
   static QString Source(const LiveState& state);
-  /// "Lamp: error, Filter: warning"
+  /// "Lamp · Filter (warning)"
   static QString Problems(const LiveState& state);
   /// "1234 h"
   static QString LampHours(const LiveState& state);

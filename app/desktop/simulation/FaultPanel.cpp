@@ -216,8 +216,8 @@ void FaultPanel::FillTargets() {
   }
   for (std::size_t i = 0; i < kOperationCount; ++i) {
     const auto operation = static_cast<PjtOperation>(i);
-    const bool generic = FormOf(operation).isGeneric;
-    add(Text(OperationName(operation)) + (generic ? tr(" (any code)") : QString()), operation);
+    const QString name = Text(OperationName(operation));
+    add(FormOf(operation).isGeneric ? tr("%1 (any code)").arg(name) : name, operation);
   }
   target_->setEditable(true);
   target_->setInsertPolicy(QComboBox::NoInsert);

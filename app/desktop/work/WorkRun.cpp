@@ -146,11 +146,10 @@ QString WorkRun::Summary() const {
   const int pending =
       count([](const WorkLine& line) { return line.outcome == WorkOutcome::Pending; });
   const int failed = count([](const WorkLine& line) { return line.HasFailed(); });
-  QString text =
-      tr("%1 of %n done", "projectors", static_cast<int>(lines_.size())).arg(done + pending);
-  if (pending > 0) text += tr(", of these %n still under way", "projectors", pending);
-  if (failed > 0) text += tr(", %n failed", "projectors", failed);
-  return text;
+  QStringList parts{tr("%1 of %n done", "projectors", static_cast<int>(lines_.size())).arg(done)};
+  if (pending > 0) parts += tr("%n still under way", "projectors", pending);
+  if (failed > 0) parts += tr("%n failed", "projectors", failed);
+  return parts.join(QStringLiteral(" · "));
 }
 
 std::optional<WorkPart> WorkRun::PowerUndo(bool on) const {

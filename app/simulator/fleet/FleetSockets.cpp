@@ -2,18 +2,17 @@
 
 #include <arpa/inet.h>
 #include <array>
-#include <cerrno>
 #include <cstring>
 #include <netinet/in.h>
-#include <netinet/tcp.h>
 #include <sys/socket.h>
 #include <unistd.h>
+
+#include "app/profiles/LoopbackSocket.h"
 
 namespace FleetSockets {
 
 namespace {
 
-constexpr int kWaiting = 4096;  // connections; the system may hold fewer
 constexpr int kReceiveBuffer = 1 << 20;
 
 sockaddr_in MakeAddress(std::uint32_t address, std::uint16_t port) {
@@ -32,42 +31,16 @@ bool SetOption(int socket, int level, int option, int value) {
   return setsockopt(socket, level, option, &value, sizeof value) == 0;
 }
 
-/// A socket that is bound to every address of the loopback interface, and to no other.
-int OpenBound(int type, std::uint16_t port) {
-  const int made = socket(AF_INET, type | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-  if (made < 0) return made;
-  constexpr char kLoopback[] = "lo";
-  const sockaddr_in address = MakeAddress(INADDR_ANY, port);
-  if (setsockopt(made, SOL_SOCKET, SO_BINDTODEVICE, kLoopback, sizeof kLoopback) == 0 &&
-      SetOption(made, SOL_SOCKET, SO_REUSEADDR, 1) &&
-      bind(made, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
-    return made;
-  }
-  const int error = errno;
-  close(made);
-  errno = error;
-  return -1;
-}
-
 }  // namespace
 
-int Listen(std::uint16_t port) {
-  const int made = OpenBound(SOCK_STREAM, port);
-  if (made < 0) return made;
-  SetOption(made, IPPROTO_TCP, TCP_NODELAY, 1);  // connections inherit it
-  if (listen(made, kWaiting) == 0) return made;
-  const int error = errno;
-  close(made);
-  errno = error;
-  return -1;
-}
+int Listen(std::uint16_t port) { return LoopbackSocket::Listen(port); }
 
 int Accept(int listener) {
   return accept4(listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
 }
 
 int OpenDatagrams(std::uint16_t port) {
-  const int made = OpenBound(SOCK_DGRAM, port);
+  const int made = LoopbackSocket::Open(SOCK_DGRAM, port);
   if (made < 0) return made;
   SetOption(made, IPPROTO_IP, IP_PKTINFO, 1);
   SetOption(made, SOL_SOCKET, SO_RCVBUF, kReceiveBuffer);

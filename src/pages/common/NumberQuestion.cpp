@@ -1,6 +1,7 @@
 #include "pages/common/NumberQuestion.h"
 
 #include <QAccessible>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -9,6 +10,12 @@
 #include "toolkit/Icons.h"
 
 namespace AdvancedControl {
+
+namespace {
+
+constexpr int kUnitMargin = 6;  // in pixels
+
+}  // namespace
 
 NumberQuestion::NumberQuestion(const QString& caption, Range range, int present, QWidget* parent)
     : QInputDialog(parent), range_(range) {
@@ -23,6 +30,19 @@ NumberQuestion::NumberQuestion(const QString& caption, Range range, int present,
   setOkButtonText(CatalogString(kCaptionCategory, Caption::Ok));
   setCancelButtonText(CatalogString(kCaptionCategory, Caption::Cancel));
   RemoveForeignButtonIcons(*this);
+}
+
+void NumberQuestion::SetUnit(const QString& unit) {
+  auto* field = findChild<QLineEdit*>();
+  auto* label = new QLabel(unit);
+  auto* inside = new QHBoxLayout(field);
+  inside->setContentsMargins(kUnitMargin, 0, kUnitMargin, 0);
+  inside->addStretch(1);
+  inside->addWidget(label);
+  const int room = label->sizeHint().width() + kUnitMargin;
+  field->isRightToLeft() ? field->setTextMargins(room, 0, 0, 0)
+                         : field->setTextMargins(0, 0, room, 0);
+  field->setAccessibleDescription(unit);
 }
 
 void NumberQuestion::done(int result) {

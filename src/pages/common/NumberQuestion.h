@@ -16,6 +16,9 @@ class NumberQuestion final : public QInputDialog {
   /// The question is modal to the window `parent`, and deletes itself when it is closed.
   NumberQuestion(const QString& caption, Range range, int present, QWidget* parent);
 
+  /// Shows a unit in the field, behind the number.
+  void SetUnit(const QString& unit);
+
   void done(int result) override;
 
  Q_SIGNALS:

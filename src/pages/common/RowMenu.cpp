@@ -5,6 +5,7 @@
 
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
+#include "toolkit/Contrast.h"
 
 namespace AdvancedControl {
 
@@ -16,6 +17,7 @@ QString ListString(int number) { return CatalogString(kListCategory, number); }
 
 RowMenu::RowMenu(const Row& row, QWidget* parent) : QMenu(parent) {
   connect(this, &QMenu::aboutToHide, this, &QObject::deleteLater);
+  setPalette(WithReadableDisabledTexts(palette()));
   for (const QString& note : row.notes.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) AddText(note);
   if (!row.opened.isEmpty()) {
     AddText(CatalogString(kListCategory, ListText::WhenOpened, row.opened.toStdString()));

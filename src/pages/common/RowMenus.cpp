@@ -101,6 +101,7 @@ void RowMenus::AskForNumber(RowView& row) {
   auto* question =
       new NumberQuestion(CaptionText(row.Row()), range, row.Position().value_or(range.minimum),
                          host_.Dialog().window());
+  if (const QString unit = UnitText(row.Row()); !unit.isEmpty()) question->SetUnit(unit);
   question->setWindowTitle(NamedTitle(host_.Dialog(), question->windowTitle()));
   connect(question, &NumberQuestion::Entered, &host_.Dialog(),
           [this, &row](int position) { MoveTo(row, position); });

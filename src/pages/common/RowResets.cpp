@@ -109,6 +109,7 @@ QToolButton* RowResets::ButtonOf(RowView& row) {
   auto* button = new QToolButton(&dialog);
   button->setAutoRaise(true);
   button->setIcon(ThemedIcon(IconName::Reset));
+  button->setIconSize(IconSize(dialog));
   button->setFocusPolicy(Qt::TabFocus);
   const RowTemplate& list = TemplateRowOf(dialog, ControlOf(resets->Row()));
   const QString name =

@@ -2,13 +2,12 @@
 
 #include <utility>
 
-#include <QAccessible>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
+#include "toolkit/AnnouncedLabel.h"
 
 namespace AdvancedControl {
 
@@ -42,7 +41,7 @@ QString ProblemText(ConnectionState connection) {
 }
 
 StatusLine::StatusLine(QWidget* parent)
-    : QWidget(parent), text_(new QLabel), retry_(new QPushButton) {
+    : QWidget(parent), text_(new AnnouncedLabel), retry_(new QPushButton) {
   retry_->setAutoDefault(false);
   retry_->hide();
   hide();  // hidden from screen readers too while it is empty
@@ -80,13 +79,9 @@ void StatusLine::Show(const QString& text, Tone tone, bool canRetry) {
     retry_->setText(CatalogString(kListCategory, ListText::Retry));
   }
   retry_->setVisible(canRetry);
+  const bool isNews = text != text_->text() || (tone == Tone::Alert && !canRetry);
+  if (isNews) tone == Tone::Alert && !text.isEmpty() ? text_->Announce(text) : text_->setText(text);
   setVisible(!text.isEmpty());
-  if (text == text_->text() && (tone == Tone::Quiet || canRetry)) return;
-  text_->setText(text);
-  if (text.isEmpty()) return;
-  QAccessibleEvent changed(text_,
-                           tone == Tone::Alert ? QAccessible::Alert : QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&changed);
 }
 
 }  // namespace AdvancedControl

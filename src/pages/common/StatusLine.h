@@ -8,10 +8,11 @@
 #include "Namespace.h"
 #include "device/CPjtInterface.h"
 
-class QLabel;
 class QPushButton;
 
 namespace AdvancedControl {
+
+class AnnouncedLabel;
 
 /// The text of a problem of the connection.
 QString ProblemText(ConnectionState connection);
@@ -55,7 +56,7 @@ class StatusLine final : public QWidget {
   enum class Tone : std::uint8_t { Quiet, Alert };
   void Show(const QString& text, Tone tone, bool canRetry = false);
 
-  QLabel* text_;
+  AnnouncedLabel* text_;
   QPushButton* retry_;
   QString said_;
   QString shown_;  // what was said last; empty if the line shows something more important

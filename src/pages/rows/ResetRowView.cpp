@@ -22,6 +22,7 @@ void ResetRowView::Bind() { list_ = &Dialog().Item<CComboBox>(row_.list); }
 
 void ResetRowView::Prepare() {
   list_->clear();
+  const CatalogBatch batch;
   for (std::size_t i = 0; i < row_.entries.size(); ++i) {
     const ResetEntry& entry = row_.entries[i];
     const RowView* of = Host().RowOf(Dialog().GetDlgItem(entry.of));

@@ -18,10 +18,15 @@ QString CaptionText(const PageRow& row) {
   return PlainText(KeyOf(row)).section(QLatin1Char('.'), -1).toUpper();
 }
 
-QString WithUnit(const QString& text, const PageRow& row) {
+QString UnitText(const PageRow& row) {
   const auto* number = std::get_if<ValueRow>(&row);
-  if (number == nullptr || number->unit == 0) return text;
-  return text + QChar(QChar::Nbsp) + CatalogString(kListCategory, number->unit);
+  return number == nullptr || number->unit == 0 ? QString()
+                                                : CatalogString(kListCategory, number->unit);
+}
+
+QString WithUnit(const QString& text, const PageRow& row) {
+  const QString unit = UnitText(row);
+  return unit.isEmpty() ? text : text + QChar(QChar::Nbsp) + unit;
 }
 
 QString TextOf(const ListEntry& entry) {

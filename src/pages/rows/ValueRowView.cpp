@@ -5,6 +5,7 @@
 #include "pages/rows/RowOutcomes.h"
 #include "pages/rows/RowTexts.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/DragBubble.h"
 #include "toolkit/NumberField.h"
 
 namespace AdvancedControl {
@@ -32,15 +33,19 @@ std::vector<OperatedControl> ValueRowView::OperatedControls() const {
   return operated;
 }
 
-void ValueRowView::Bind() { controls_ = NumberControls(Dialog(), row_.ids); }
+void ValueRowView::Bind() {
+  controls_ = NumberControls(Dialog(), row_.ids);
+  if (auto* slider = controls_.Slider()) {
+    AttachDragBubble(*slider, [this](int position) { return TextAt(position); });
+  }
+}
 
 void ValueRowView::Prepare() {
   const Range range = SliderRange(row_, Model());
   const int ticks = row_.ticks != 0 ? row_.ticks : range.maximum / 8;
   if (auto* slider = controls_.Slider()) slider->SetRange(range.minimum, range.maximum, ticks);
   if (row_.unit != 0) {
-    controls_.Field().SetUnit(CatalogString(kListCategory, row_.unit),
-                              QString::number(range.maximum));
+    controls_.Field().SetUnit(UnitText(Row()), QString::number(range.maximum));
   }
   if (!row_.initial) return;
   remembered_ = Word(*row_.initial);

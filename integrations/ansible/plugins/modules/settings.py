@@ -13,6 +13,7 @@ short_description: Bring settings of projectors into a state
 version_added: 1.0.0
 description:
   - Reads settings of projectors with C(acctl) and changes those that differ.
+  - Warns of projectors that are only simulated.
 author:
   - Advanced Control maintainers (@advancedcontrol)
 options:
@@ -127,13 +128,23 @@ def differs(change):
     return after is None or before is None or before['code'] != after['code']
 
 
+def shown_name(projector):
+    return projector['name'] + (' (simulated)' if projector['simulated'] else '')
+
+
 def state_of(projectors, member):
     lines = []
     for projector in projectors:
         for change in projector['changes']:
             value = change.get(member) or {}
-            lines.append('%s: %s=%s\n' % (projector['name'], change['key'], value.get('code', '?')))
+            lines.append('%s: %s=%s\n' % (shown_name(projector), change['key'], value.get('code', '?')))
     return ''.join(lines)
+
+
+def warn_of_simulations(module, projectors):
+    names = [projector['name'] for projector in projectors if projector['simulated']]
+    if names:
+        module.warn('only simulated: ' + ', '.join(names))
 
 
 def main():
@@ -159,6 +170,7 @@ def main():
         projectors = after
     else:
         diff = dict(before=state_of(projectors, 'before'), after=state_of(projectors, 'aim'))
+    warn_of_simulations(module, projectors)
     result = dict(changed=changed, projectors=projectors)
     if module._diff:
         result['diff'] = diff

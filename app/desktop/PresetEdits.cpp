@@ -1,0 +1,110 @@
+#include "app/desktop/PresetEdits.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <QAction>
+
+#include "app/desktop/presets/PresetManager.h"
+#include "app/desktop/profiles/ProfileDocument.h"
+#include "app/desktop/profiles/ProfileHistory.h"
+#include "app/profiles/PresetFolder.h"
+#include "device/ModelDataIntake.h"
+#include "fleet/WholeFile.h"
+
+namespace {
+
+constexpr qsizetype kMostBytes = 64 << 20;
+
+}  // namespace
+
+PresetEdits::PresetEdits(const Parts& parts) : QObject(&parts.window), parts_(parts) {
+  // Not at once: the list may just be taking a name.
+  connect(
+      &parts_.history, &ProfileHistory::Changed, this,
+      [this] {
+        if (manager_ != nullptr) manager_->Fill();
+      },
+      Qt::QueuedConnection);
+}
+
+void PresetEdits::Open() {
+  manager_ = new PresetManager(
+      {.users =
+           [this](const QString& preset) {
+             QStringList names;
+             for (const int position : UsersOf(preset))
+               names += QString::fromStdString(
+                   parts_.document.Projectors()[static_cast<std::size_t>(position)].name);
+             return names;
+           },
+       .model = [this](const Snapshot& preset) { return ModelOf(preset); },
+       .rename = [this](const QString& from, const QString& to) { return Rename(from, to); },
+       .remove = [this](const QString& preset) { return Remove(preset); },
+       .texts = parts_.texts},
+      &parts_.window);
+  manager_->setAttribute(Qt::WA_DeleteOnClose);
+  manager_->addActions({parts_.history.Undo(), parts_.history.Redo()});  // for their keys
+  manager_->open();
+}
+
+std::vector<int> PresetEdits::UsersOf(const QString& preset) const {
+  std::vector<int> positions;
+  const auto& all = parts_.document.Projectors();
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    if (QString::fromStdString(all[i].snapshot) == preset) positions.push_back(static_cast<int>(i));
+  }
+  return positions;
+}
+
+// A projector of the same model knows the names of its inputs.
+ModelSettings PresetEdits::ModelOf(const Snapshot& preset) const {
+  const auto& all = parts_.document.Projectors();
+  const auto same = std::ranges::find_if(all, [&preset](const FleetProfile& profile) {
+    const CModelInfo2& model = profile.model->info;
+    return model.DialogType == preset.dialogType && model.ModelCode == preset.modelCode;
+  });
+  if (same != all.end()) return ModelSettings(same->model->data);
+  CModelInfo2 info;
+  info.ModelName = preset.model;
+  info.DialogType = preset.dialogType;
+  info.ModelCode = preset.modelCode;
+  return ModelSettings(MakeModelData(info));
+}
+
+QString PresetEdits::Rename(const QString& from, const QString& to) {
+  const std::vector<int> users = UsersOf(from);
+  const auto rename = [from, to] { return PresetFolder::Rename(from, to); };
+  const auto renameBack = [from, to] { return PresetFolder::Rename(to, from); };
+  return parts_.history.Do(
+      tr("Rename Preset"), -1,
+      [&] {
+        QString error = rename();
+        if (!error.isEmpty() || users.empty()) return error;
+        error = parts_.document.SetMember(users, {QStringLiteral("snapshot"), to});
+        if (!error.isEmpty()) renameBack();
+        return error;
+      },
+      {.undo = renameBack, .redo = rename});
+}
+
+QString PresetEdits::Remove(const QString& preset) {
+  const std::vector<int> users = UsersOf(preset);
+  const FileBytes file = ReadToEnd(PresetFolder::FileOf(preset), kMostBytes);
+  if (!file.error.isEmpty()) return file.error;
+  const auto remove = [preset] { return PresetFolder::Remove(preset); };
+  const auto writeBack = [preset, bytes = file.bytes] {
+    return WriteWholeFile(PresetFolder::FileOf(preset), bytes);
+  };
+  return parts_.history.Do(tr("Remove Preset"), -1,
+                           [&] {
+                             QString error = remove();
+                             if (!error.isEmpty() || users.empty()) return error;
+                             error = parts_.document.SetMember(
+                                 users,
+                                 {QStringLiteral("snapshot"), QJsonValue(QJsonValue::Undefined)});
+                             if (!error.isEmpty()) writeBack();
+                             return error;
+                           },
+                           {.undo = writeBack, .redo = remove});
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <vector>
+
+#include <QObject>
+#include <QPointer>
+
+#include "snapshots/SettingTexts.h"
+#include "snapshots/Snapshot.h"
+
+class PresetManager;
+class ProfileDocument;
+class ProfileHistory;
+class QWidget;
+
+/// Renames and removes presets. The projectors that should be like such a preset change with it,
+/// and all of it can be undone.
+class PresetEdits : public QObject {
+  Q_OBJECT
+
+ public:
+  struct Parts {
+    ProfileDocument& document;
+    ProfileHistory& history;
+    const SettingTexts& texts;
+    QWidget& window;
+  };
+
+  /// The window owns it, and it must not outlive the others.
+  explicit PresetEdits(const Parts& parts);
+
+  /// Opens the window of the presets.
+  void Open();
+
+ private:
+  /// The positions of the projectors that should be like a preset.
+  std::vector<int> UsersOf(const QString& preset) const;
+  ModelSettings ModelOf(const Snapshot& preset) const;
+  QString Rename(const QString& from, const QString& to);
+  QString Remove(const QString& preset);
+
+  const Parts parts_;
+  QPointer<PresetManager> manager_;
+};

@@ -1,0 +1,10 @@
+#include "app/profiles/DescriptorLimit.h"
+
+#include <sys/resource.h>
+
+void RaiseDescriptorLimit() {
+  rlimit limit{};
+  if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+  limit.rlim_cur = limit.rlim_max;
+  setrlimit(RLIMIT_NOFILE, &limit);
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+#include "tests/bridge/Daemons.h"
+
+/// Simulated projectors, and bridges that visit them.
+class BridgeProgram : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(folder_.isValid()); }
+
+  void StartProjectors(int count, const QStringList& more = {}) {
+    profiles_ = folder_.filePath("projectors.json");
+    simulator_ = std::make_unique<SimulatorProcess>(
+        QStringList{"--fleet", QString::number(count), "--control", "0", "--write-profiles",
+                    profiles_, "--warm-up", "0", "--cool-down", "0"} +
+        more);
+  }
+  /// A line for the simulator, and its answer.
+  std::string Control(const QByteArray& line) {
+    QTcpSocket control;
+    control.connectToHost(QHostAddress::LocalHost,
+                          simulator_->Address("control").section(':', 1).toUShort());
+    control.write(line + '\n');
+    EXPECT_TRUE(Soon([&] { return control.waitForReadyRead(10) || control.canReadLine(); }));
+    return control.readLine().trimmed().toStdString();
+  }
+  std::unique_ptr<Daemon> Bridge(const QStringList& more, quint16 port = 0) {
+    return std::make_unique<Daemon>(
+        BRIDGE_PROGRAM, QStringList{"--profiles", profiles_, "--interval", "5", "--listen",
+                                    port == 0 ? "none" : QString("127.0.0.1:%1").arg(port)} +
+                            more);
+  }
+  static QStringList At(const MosquittoBroker& broker) {
+    return {"--broker", QString("127.0.0.1:%1").arg(broker.port)};
+  }
+  static void Publish(const MosquittoBroker& broker, const QStringList& arguments,
+                      const QByteArray& input = {}) {
+    QProcess publish;
+    publish.start("mosquitto_pub",
+                  QStringList{"-p", QString::number(broker.port), "-q", "1"} + arguments);
+    publish.write(input);
+    publish.closeWriteChannel();
+    const Outcome outcome = Finish(publish);
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors;
+  }
+  static double Metric(quint16 port, const QByteArray& sample) {
+    const QByteArray text = '\n' + Get(port, "/metrics");
+    const auto at = text.indexOf('\n' + sample + ' ');
+    return at < 0 ? -1 : text.mid(at + sample.size() + 2).split('\n').first().toDouble();
+  }
+  static QByteArray NameOf(int number) {
+    return "Projector " + QByteArray::number(number).rightJustified(5, '0');
+  }
+  static QByteArray Probe(int number) {
+    return "/probe?target=" + NameOf(number).replace(' ', '+');
+  }
+  /// The number of a projector that is on.
+  static int OneThatIsOn(quint16 port) {
+    const QRegularExpression sample(
+        "_power_state\\{projector=\"Projector (\\d+)\",state=\"on\"\\} 1\n");
+    return sample.match(QString::fromUtf8(Get(port, "/metrics"))).captured(1).toInt();
+  }
+  /// The changes that all projectors together have made.
+  std::string Changes() {
+    const QString counts = QString::fromStdString(Control("* count"));
+    return counts.section("changes ", 1).section(' ', 0, 0).toStdString();
+  }
+
+  QTemporaryDir folder_;
+  QString profiles_;
+  std::unique_ptr<SimulatorProcess> simulator_;
+};

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -159,6 +160,18 @@ TEST_F(CatalogTest, TheTextsOfAllModulesNameTheModuleThatIsMissing) {
   Touch("mcschn.dll");
   EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(),
             "./mcschn.dll is damaged or cannot be read; its texts are missing");
+  fs::create_directory("second");
+  TestModule({{2052, {{kFirst, {Unicode(u"a")}}}}}).Save("second/mcschn.dll");
+  const std::string both[] = {".", "second"};
+  EXPECT_FALSE(CatalogTexts(both).Find(2052, 4, 1)) << "the first file counts";
+  EXPECT_TRUE(CatalogTexts(std::span(both).last(1)).Find(2052, 4, 1));
+}
+
+TEST_F(CatalogTest, ModulesAreLookedForBesideTheLibraryAndInItsShare) {
+  const auto folders = CatalogFolders();
+  for (const char* share : {"/../share/advanced-control", "/../../share/advanced-control"}) {
+    EXPECT_EQ(std::ranges::count(folders, folders.front() + share), 1) << share;
+  }
 }
 
 TEST_F(CatalogTest, EachCallUsesThePresentLanguage) {

@@ -234,9 +234,7 @@ TEST(Dialog, SaysAtOnceWhyThereIsNoAnswer) {
     if (state != WrongParameters) dialog.Projector().SetChannel(channel);
     ASSERT_TRUE(dialog.Create());
     const auto labels = dialog.findChildren<QLabel*>();
-    EXPECT_TRUE(std::ranges::any_of(labels, [text](const QLabel* label) {
-      return label->text() == text;
-    })) << text;
+    EXPECT_TRUE(std::ranges::count(labels, QString(text), &QLabel::text)) << text;
   }
 }
 

@@ -1,3 +1,4 @@
+#include <array>
 #include <atomic>
 #include <functional>
 #include <optional>
@@ -165,7 +166,7 @@ TEST(WireChannelTest, GivesUpEarlierWhenAsked) {
 
 TEST(WireChannelTest, EachStateHasATextOfItsOwn) {
   std::set<std::string_view> texts;
-  static constexpr auto kStates = {
+  static constexpr std::array kStates{
       None,         Unused,   Connecting, Connected,     WrongParameters, NameUnknown,
       NotReachable, NoAnswer, Lost,       NotUnderstood, OtherVersion,    PasswordRequired};
   for (const ConnectionState state : kStates) texts.insert(ConnectionStateText(state));

@@ -12,9 +12,11 @@
 #include "app/acctl/Preflight.h"
 #include "app/acctl/Printer.h"
 
-/// Opens a projector without waiting for others; null if another run of the program uses it.
+/// Opens a projector without waiting for other runs of the program. While other work of this run
+/// uses its address, it waits in the loop; null if `goesOn` returns false meanwhile, which is
+/// called again after each `JobLoop::WakeAll`.
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
-                                               const std::string& password);
+                                               const std::function<bool()>& goesOn);
 
 /// Runs a command on its projectors: checks the words first, then works on several at once, and
 /// prints the reports in the order of the projectors.

@@ -70,7 +70,10 @@ void JobLoop::WakeAll() {
 
 void JobLoop::Pause(SessionTime until) {
   if (running == nullptr) return std::this_thread::sleep_until(until);
+  const Number own = running->present_;
+  running->pausing_.insert(own);
   running->Suspend(until);
+  running->pausing_.erase(own);
 }
 
 JobLoop::Peer JobLoop::Add(Receiver& receiver) {
@@ -99,11 +102,10 @@ void JobLoop::Wait(Peer peer, SessionTime until) {
 }
 
 bool JobLoop::Continue() {
-  const bool wakesAll = wakesAll_.exchange(false);
-  std::vector<Number> due;
-  for (Number i = 0; wakesAll && i < works_.size(); ++i) {
-    if (works_[i]) timers_.Set(i, SessionTime::min());
+  if (wakesAll_.exchange(false)) {
+    for (const Number work : pausing_) timers_.Set(work, SessionTime::min());
   }
+  std::vector<Number> due;
   while (const auto next = timers_.TakeDue(Now())) due.push_back(*next);
   for (const Number next : due) {
     present_ = next;

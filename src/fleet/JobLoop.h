@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -75,7 +76,8 @@ class PROJECTOR_FLEET_EXPORT JobLoop {
   std::vector<Connection> connections_;  ///< By peer.
   std::vector<Peer> free_;
   std::vector<std::unique_ptr<Fiber>> works_;
-  PeerTimers timers_;  ///< Of works.
+  PeerTimers timers_;         ///< Of works.
+  std::set<Number> pausing_;  ///< Works in `Pause`.
   std::size_t unfinished_ = 0;
   Number present_ = 0;  ///< The work that runs.
   std::atomic<bool> wakesAll_ = false;

@@ -65,7 +65,7 @@ int Listen(std::uint16_t& port) {
     epoll_ctl(epoll, EPOLL_CTL_ADD, file, &event);
   };
   for (std::size_t i = 0; i < listeners.size(); ++i) {
-    // The system accepts for one that nobody watches.
+    // The system accepts connections to one that is not watched, but nothing answers.
     if (silentOne == 0 || i % static_cast<std::size_t>(silentOne) != 0) watch(listeners[i], true);
   }
   Device device;

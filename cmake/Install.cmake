@@ -46,7 +46,8 @@ public_headers(ProjectorCommon
   device/ProjectorChannel.h
   device/protocol/WireFrame.h
   simulator/PowerSwitch.h
-  simulator/SettingsTable.h
+  simulator/Setting.h
+  simulator/SimulatedModel.h
   simulator/SimulatedValues.h)
 # The catalog.
 public_headers(ProjectorSettings

@@ -1,4 +1,4 @@
-// Any bytes as what a client of the bridge sends, in parts; as a topic, and as a holder's message.
+// Any bytes as what a client of the bridge sends, in parts; as a topic, and as a claim.
 
 #include <cstddef>
 #include <cstdint>
@@ -25,6 +25,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Check(id.isEmpty() || topics.Set(id, key) == bytes);
   const QByteArray level = TopicLevel(text);
   Check(!level.isEmpty() && !level.contains('/') && !level.contains('+') && !level.contains('#'));
-  if (const auto holder = ParseHolder(bytes)) Check(ParseHolder(HolderMessage(*holder)) == holder);
+  if (const auto claim = ParseClaim(bytes)) Check(ParseClaim(ClaimMessage(*claim)) == claim);
   return 0;
 }

@@ -5,6 +5,7 @@ and prints a table. Usage: scripts/bridge-load.py FOLDER [PROJECTORS]
 FOLDER holds the programs of an optimised build."""
 
 import re
+import shutil
 import socket
 import subprocess
 import sys
@@ -130,3 +131,4 @@ finally:
         process.terminate()
     for process in started:
         process.wait()
+    shutil.rmtree(folder)

@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 """clang-tidy over src/ and app/: scripts/tidy.py [--since COMMIT | --deep | FILE...].
 
-With --since, only over the files that were changed since the commit, or whose header was, and of many only over those
-changed last. The compiler also reads each of these by itself, which shows whether it includes what it uses: the builds
-of the other checks combine files. With --deep, over the tests too, and with the checks of the analyzer, which take a
-minute for a large file.
+With --since, over the files of src/, app/ and tests/ that were changed since the commit, or whose header was, and of many
+only over those changed last. The few that were changed last are also looked at with the checks of the analyzer, which
+take up to half a minute for a file. The compiler also reads each changed file by itself, which shows whether it includes
+what it uses: the builds of the other checks combine files. With --deep, over all tests too, and everything with the
+checks of the analyzer.
 
 Most of the time goes into the headers that the files share. So a few files of a folder are looked at as if they were
 one. Where that finds anything, also that they do not go together, each of them is looked at alone, and only that
@@ -22,12 +23,14 @@ ROOT = Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/tidy"
 TOGETHER = 6
 MOST_CHANGED = 24
+MOST_ANALYZED = 6
 # Every table of rows and templates defines its own `kRows`, so these files cannot be combined. They
 # include little.
 ALONE = ("src/resources", "src/settings/")
 FOLDERS = ("src/", "app/")
-DEEP = ("tests/",)
-ANALYZER = "clang-analyzer-*"
+TESTS = ("tests/",)
+# The analyzer takes a Qt object that its parent owns for a leak.
+ANALYZER = "clang-analyzer-*,-clang-analyzer-cplusplus.NewDeleteLeaks"
 
 
 def read_commands():
@@ -83,17 +86,17 @@ def tidy_together(number, files, commands, checks):
 
 
 def changed_since(commit, files):
-    """Those of the files that were changed since the commit, the latest first; all if the clone does not reach back so
-    far. No more than a check for every change has time for."""
-    log = subprocess.run(["git", "log", "--format=", "--name-only", f"{commit}..", "--", *FOLDERS], cwd=ROOT,
+    """Those of the files that were changed since the commit, the latest first; all of src/ and app/ if the clone does not
+    reach back so far. No more than a check for every change has time for."""
+    log = subprocess.run(["git", "log", "--format=", "--name-only", f"{commit}..", "--", *FOLDERS, *TESTS], cwd=ROOT,
                          capture_output=True, text=True)
     if log.returncode != 0:
-        return files
+        return [name for name in files if name.startswith(FOLDERS)]
     stems = {os.path.splitext(name)[0]: name for name in files}
     changed = dict.fromkeys(stem for stem in (os.path.splitext(name)[0] for name in log.stdout.split()) if stem in stems)
     if len(changed) > MOST_CHANGED:
         print(f"{len(changed) - MOST_CHANGED} more files were changed: scripts/tidy.py looks at all")
-    return sorted(stems[stem] for stem in list(changed)[:MOST_CHANGED])
+    return [stems[stem] for stem in list(changed)[:MOST_CHANGED]]
 
 
 def main():
@@ -101,14 +104,17 @@ def main():
     (BUILD / "together").mkdir(exist_ok=True)
     deep = sys.argv[1:] == ["--deep"]
     since = sys.argv[1:2] == ["--since"]
-    files = sorted(name for name in commands if name.startswith(FOLDERS + DEEP if deep else FOLDERS))
+    files = sorted(name for name in commands if name.startswith(FOLDERS + TESTS if deep or since else FOLDERS))
+    analyzed = files if deep else []
     if since:
         files = changed_since(sys.argv[2], files)
+        analyzed = files[:MOST_ANALYZED]
     elif sys.argv[1:] and not deep:
         files = sys.argv[1:]
+    jobs = [(batch, ANALYZER) for batch in batches(sorted(analyzed))]
+    jobs += [(batch, "") for batch in batches(sorted(set(files) - set(analyzed)))]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        found = "".join(pool.map(lambda job: tidy_together(*job, commands, ANALYZER if deep else ""),
-                                 enumerate(batches(files))))
+        found = "".join(pool.map(lambda job: tidy_together(job[0], job[1][0], commands, job[1][1]), enumerate(jobs)))
         if since:
             found += "".join(pool.map(lambda file: read_alone(file, commands[file]), files))
     print(found, end="")

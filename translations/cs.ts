@@ -51,7 +51,7 @@
         <translation>„%1“ není jedna z možností: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>„%1“ není krok jako +1 nebo -1 a PJLink umí tuto hodnotu měnit jen po krocích</translation>
     </message>
     <message numerus="yes">
@@ -1256,19 +1256,19 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>název</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>„%1“ není doba od %2 sekund do jednoho dne</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>„%1“ není téma</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>„%1“ není podíl jako 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>„%1“ není číselná adresa s portem</translation>
     </message>
     <message>
@@ -1284,7 +1284,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>--%1 vyžaduje --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>„%1“ není počítač s portem</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>--cert-file a --key-file je třeba zadat společně</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: „%1“ není nastavení, které lze měnit příkazem</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>„%1“ není číslo od 1 do %2</translation>
     </message>
     <message>
@@ -1316,11 +1316,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>chybí --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>„%1“ není číselná adresa</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>„%1“ není složka</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Sériový port</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 není adresa.</translation>
     </message>
 </context>
@@ -2304,11 +2304,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny tyto projektory jsou simulované, k vyzkoušení programu.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zavřít</translation>
+        <translation>Zavřít</translation>
     </message>
 </context>
 <context>
@@ -2669,7 +2669,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Správa předvoleb…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Všechny s %1</translation>
     </message>
 </context>
 <context>
@@ -2743,11 +2747,11 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovat předvolbu</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat předvolbu</translation>
     </message>
 </context>
 <context>
@@ -2761,51 +2765,51 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Předvolby</translation>
+        <translation>Předvolby</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Nastavení</translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Hodnota</translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Nastavení předvolby</translation>
+        <translation>Nastavení předvolby</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přejmenovat</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Zrušit</translation>
+        <translation>&amp;Odebrat</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Zatím žádné předvolby</translation>
+        <translation>Zatím žádné předvolby</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle ní mají být: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
+        <translation>Takto předvolbu pojmenovat nelze: vynechte lomítka a tečku na začátku.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolba %1 už existuje.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat předvolbu %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Odebrat</translation>
+        <translation>Odebrat</translation>
     </message>
 </context>
 <context>
@@ -2886,11 +2890,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>„%1“ není adresa MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>„%1“ není druh spojení</translation>
     </message>
     <message>
@@ -2898,7 +2902,7 @@ a minus in front takes a tag away:</source>
         <translation>„%1“ je název jiného projektoru, s identifikátorem %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>„%1“ není počet hodin</translation>
     </message>
     <message>
@@ -2987,7 +2991,7 @@ a minus in front takes a tag away:</source>
         <translation>chybí projektory</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>je zde uvedeno dvakrát</translation>
     </message>
     <message>
@@ -3477,14 +3481,14 @@ a minus in front takes a tag away:</source>
         <translation>standardní vstup</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 je zde uvedeno dvakrát</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: port nelze získat</translation>
     </message>
     <message>
@@ -3495,15 +3499,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>„%1“ není port.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>„%1“ není číslo od %2 do %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>„%1“ není doba do jedné hodiny.</translation>
     </message>
     <message>
@@ -3631,7 +3635,7 @@ a minus in front takes a tag away:</source>
         <translation>--%1 vyžaduje --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>„%1“ není adresa.</translation>
     </message>
     <message>
@@ -3647,7 +3651,7 @@ a minus in front takes a tag away:</source>
         <translation>--fleet nemá sériové linky.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>„%1“ není adresa zpětné smyčky IPv4.</translation>
     </message>
     <message>
@@ -3659,7 +3663,7 @@ a minus in front takes a tag away:</source>
         <translation>Po portu „%1“ nezbývá žádný pro PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>„%1“ není adresa zpětné smyčky IPv4 s portem.</translation>
     </message>
     <message>
@@ -3694,7 +3698,7 @@ a minus in front takes a tag away:</source>
         <translation>má více než %1 položek</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>toto není soubor uloženého nastavení</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ a minus in front takes a tag away:</source>
         <translation>známa je jen verze %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>„%1“ je zde uvedeno dvakrát</translation>
     </message>
     <message>

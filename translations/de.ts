@@ -51,7 +51,7 @@
         <translation>„%1“ ist nicht möglich; möglich sind: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>„%1“ ist kein Schritt wie +1 oder -1, und PJLink kann nur schrittweise verstellen</translation>
     </message>
     <message numerus="yes">
@@ -157,7 +157,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Prints values, and then every change until it is interrupted, until nobody reads its output any more, or until all projectors have the value of --until. A projector that falls silent is tried again and again.</source>
-        <translation>Gibt Werte aus und danach jede Änderung, bis es unterbrochen wird, bis niemand mehr die Ausgabe liest oder bis alle Projektoren den Wert von --until haben. Ein Projektor, der verstummt, wird immer wieder versucht.</translation>
+        <translation>Gibt Werte aus und danach jede Änderung, bis es unterbrochen wird, bis niemand mehr die Ausgabe liest oder bis alle Projektoren den Wert von --until haben. Bei einem Projektor, der verstummt, wird es immer wieder versucht.</translation>
     </message>
     <message>
         <source>search the network for projectors</source>
@@ -238,7 +238,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The projectors are those of a profile file.</source>
-        <translation>Liest, ändert, speichert und stellt die Einstellungen von Projektoren wieder her, die der Dialog „Erweiterte Steuerung“ zeigt. Die Projektoren stehen in einer Profildatei.</translation>
+        <translation>Liest, ändert und speichert die Einstellungen von Projektoren, die der Dialog „Erweiterte Steuerung“ zeigt, und stellt sie wieder her. Die Projektoren stehen in einer Profildatei.</translation>
     </message>
     <message>
         <source>P selects projectors: a name, a pattern such as &apos;Lecture*&apos;, @TAG, or model=PATTERN. Several are separated by commas, and !P leaves projectors out. KEY is the key of a setting, a pattern such as &apos;picture.*&apos;, or a short name such as brightness, input or power, which is the same on all models. VALUE is a number as the dialog shows it, the text of an entry in any language of the dialog, or its code.</source>
@@ -466,7 +466,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>try a projector that does not answer N more times; 0 by default</source>
-        <translation>einen Projektor, der nicht antwortet, N-mal erneut versuchen; Standard ist 0</translation>
+        <translation>es bei einem Projektor, der nicht antwortet, N-mal erneut versuchen; Standard ist 0</translation>
     </message>
     <message>
         <source>begin no other projector after the first error</source>
@@ -1236,19 +1236,19 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Name</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>„%1“ ist keine Zeit von %2 Sekunden bis zu einem Tag</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>„%1“ ist kein Topic</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>„%1“ ist kein Anteil wie 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>„%1“ ist keine numerische Adresse mit Port</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>--%1 braucht --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>„%1“ ist kein Host mit Port</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>--cert-file und --key-file gehen nur zusammen</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: „%1“ ist keine Einstellung, die per Befehl geändert werden darf</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>„%1“ ist keine Zahl von 1 bis %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>--profiles fehlt</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>„%1“ ist keine numerische Adresse</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>„%1“ ist kein Ordner</translation>
     </message>
     <message>
@@ -1489,7 +1489,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>abandoned</source>
-        <translation>verlassen</translation>
+        <translation>abgebrochen</translation>
     </message>
     <message>
         <source>no answer</source>
@@ -1627,7 +1627,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Serielle Schnittstelle</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 ist keine Adresse.</translation>
     </message>
 </context>
@@ -1647,7 +1647,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>A serial line is tried when its dialog opens.</source>
-        <translation>Eine serielle Leitung wird versucht, wenn der Dialog sich öffnet.</translation>
+        <translation>Eine serielle Leitung wird erst erprobt, wenn ihr Dialog geöffnet wird.</translation>
     </message>
     <message>
         <source>Asking…</source>
@@ -2270,11 +2270,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle diese Projektoren sind simuliert, um das Programm auszuprobieren.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>V&amp;orgaben verwalten …</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Alle mit %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe umbenennen</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe entfernen</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Vorgaben</translation>
+        <translation>Vorgaben</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Einstellung</translation>
+        <translation>Einstellung</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wert</translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Einstellungen der Vorgabe</translation>
+        <translation>Einstellungen der Vorgabe</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Entfernen</translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Noch keine Vorgaben</translation>
+        <translation>Noch keine Vorgaben</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll dieser Vorgabe entsprechen: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
+        <translation>So kann eine Vorgabe nicht heißen: keine Schrägstriche und kein Punkt am Anfang.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon eine Vorgabe %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe %1 entfernen?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Entfernen</translation>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>„%1“ ist keine MAC-Adresse</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>„%1“ ist keine Verbindungsart</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>„%1“ heißt ein anderer Projektor, mit der Kennung %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>„%1“ ist keine Stundenzahl</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>es gibt keinen Projektor</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>steht hier zweimal</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>Standardeingabe</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 steht hier zweimal</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: der Port ist nicht verfügbar</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>„%1“ ist kein Port.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>„%1“ ist keine Zahl von %2 bis %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>„%1“ ist keine Zeit bis zu einer Stunde.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>--%1 braucht --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>„%1“ ist keine Adresse.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>--fleet hat keine seriellen Leitungen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>„%1“ ist keine IPv4-Loopback-Adresse.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>„%1“ lässt keinen Port für PJLink übrig.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>„%1“ ist keine IPv4-Loopback-Adresse mit Port.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>hat mehr als %1 Einträge</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>das ist keine Datei mit gespeicherten Einstellungen</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>nur Version %1 ist bekannt</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>„%1“ steht hier zweimal</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>«%1» no es posible; valores posibles: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>«%1» no es un paso como +1 o -1, y PJLink solo puede cambiar este ajuste paso a paso</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>nombre</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>«%1» no es un tiempo de %2 segundos a un día</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>«%1» no es un tema</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>«%1» no es una parte como 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>«%1» no es una dirección numérica con puerto</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>--%1 necesita --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>«%1» no es un equipo con puerto</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>--cert-file y --key-file se necesitan mutuamente</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: «%1» no es un ajuste que se pueda ordenar</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>«%1» no es un número de 1 a %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>falta --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>«%1» no es una dirección numérica</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>«%1» no es una carpeta</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Puerto serie</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 no es una dirección.</translation>
     </message>
 </context>
@@ -2270,11 +2270,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos estos proyectores son simulados, para probar el programa.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Cerrar</translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Administrar preajustes…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Todos los de %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre del preajuste</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar preajuste</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Preajustes</translation>
+        <translation>Preajustes</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ajuste</translation>
+        <translation>Ajuste</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valor</translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Ajustes del preajuste</translation>
+        <translation>Ajustes del preajuste</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar nombre</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Quitar</translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Aún no hay preajustes</translation>
+        <translation>Aún no hay preajustes</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Deben coincidir con él: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
+        <translation>Un preajuste no se puede llamar así: sin barras, ni un punto al principio.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un preajuste %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar el preajuste %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Eliminar</translation>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ un signo menos delante quita una etiqueta:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>«%1» no es una dirección MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>«%1» no es un tipo de conexión</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>«%1» es el nombre de otro proyector, con la identidad %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>«%1» no es un número de horas</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>no hay ningún proyector</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>aparece aquí dos veces</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>entrada estándar</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 aparece aquí dos veces</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: el puerto no está disponible</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ un signo menos delante quita una etiqueta:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>«%1» no es un puerto.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>«%1» no es un número de %2 a %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>«%1» no es un tiempo de hasta una hora.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>--%1 necesita --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>«%1» no es una dirección.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>--fleet no tiene líneas serie.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>«%1» no es una dirección IPv4 de bucle.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>«%1» no deja ningún puerto para PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>«%1» no es una dirección IPv4 de bucle con puerto.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>tiene más de %1 entradas</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>esto no es un archivo de ajustes guardados</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>solo se conoce la versión %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>«%1» aparece aquí dos veces</translation>
     </message>
     <message>

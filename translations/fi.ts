@@ -51,7 +51,7 @@
         <translation>”%1” ei ole mikään näistä: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>”%1” ei ole askel kuten +1 tai -1, ja PJLinkillä voi vain askeltaa</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>nimi</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>”%1” ei ole aika %2 sekunnista vuorokauteen</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>”%1” ei ole aihe</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>”%1” ei ole osuus kuten 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>”%1” ei ole numeerinen osoite ja portti</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--%1 vaatii valitsimen --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>”%1” ei ole isäntä ja portti</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--cert-file ja --key-file vaativat toisensa</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: ”%1” ei ole ohjattavissa oleva asetus</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>”%1” ei ole luku 1–%2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>--profiles puuttuu</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>”%1” ei ole numeerinen osoite</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>”%1” ei ole kansio</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Sarjaportti</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 ei ole osoite.</translation>
     </message>
 </context>
@@ -2270,11 +2270,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaikki nämä projektorit ovat simuloituja, ohjelman kokeilua varten.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Sulje</translation>
+        <translation>Sulje</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hallitse esiasetuksia…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Kaikki: %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimeä esiasetus uudelleen</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Poista esiasetus</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Esiasetukset</translation>
+        <translation>Esiasetukset</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Asetus</translation>
+        <translation>Asetus</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Arvo</translation>
+        <translation>Arvo</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Esiasetuksen asetukset</translation>
+        <translation>Esiasetuksen asetukset</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nimeä uudelleen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Poista</translation>
+        <translation>&amp;Poista</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Esiasetuksia ei vielä ole</translation>
+        <translation>Esiasetuksia ei vielä ole</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tavoitteena projektoreilla: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
+        <translation>Esiasetuksen nimi ei kelpaa: siinä ei saa olla vinoviivoja eikä alussa pistettä.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiasetus %1 on jo olemassa.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Poistetaanko esiasetus %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Poista</translation>
+        <translation>Poista</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>”%1” ei ole MAC-osoite</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>”%1” ei ole yhteyslaji</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>”%1” on toisen projektorin nimi, jonka tunnus on %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>”%1” ei ole tuntimäärä</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>projektoria ei ole</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>esiintyy tässä kahdesti</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>vakiosyöte</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 esiintyy tässä kahdesti</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: porttia ei saada käyttöön</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>”%1” ei ole portti.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>”%1” ei ole luku %2–%3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>”%1” ei ole enintään tunnin pituinen aika.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>--%1 vaatii valitsimen --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>”%1” ei ole osoite.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>--fleet ei käytä sarjaliitäntöjä.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>”%1” ei ole IPv4-silmukkaosoite.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>Portin ”%1” jälkeen ei jää porttia PJLinkille.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>”%1” ei ole IPv4-silmukkaosoite ja portti.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>sisältää enemmän kuin %1 kohtaa</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>tämä ei ole tallennettujen asetusten tiedosto</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>vain versio %1 tunnetaan</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>”%1” esiintyy tässä kahdesti</translation>
     </message>
     <message>

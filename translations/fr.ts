@@ -51,7 +51,7 @@
         <translation>«&#xa0;%1&#xa0;» n’est pas possible&#xa0;; valeurs possibles&#xa0;: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un pas comme +1 ou -1, et PJLink ne peut modifier ce réglage que pas à pas</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>nom</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une durée de %2 secondes à un jour</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un sujet</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une part comme 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse numérique avec un port</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>--%1 demande --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un hôte avec un port</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>--cert-file et --key-file vont ensemble</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands&#xa0;: «&#xa0;%1&#xa0;» n’est pas un réglage qui peut être commandé</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de 1 à %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>il manque --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse numérique</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un dossier</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Port série</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 n’est pas une adresse.</translation>
     </message>
 </context>
@@ -1879,7 +1879,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>On</source>
-        <translation>Activé</translation>
+        <translation>Allumé</translation>
     </message>
     <message>
         <source>Cooling down</source>
@@ -2270,11 +2270,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous ces projecteurs sont simulés, pour essayer le programme.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Fermer</translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Gérer &amp;les préréglages…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Tous ceux de %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer un préréglage</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer un préréglage</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Préréglages</translation>
+        <translation>Préréglages</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Réglage</translation>
+        <translation>Réglage</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valeur</translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Réglages du préréglage</translation>
+        <translation>Réglages du préréglage</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Supprimer</translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Aucun préréglage pour l’instant</translation>
+        <translation>Aucun préréglage pour l’instant</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Doivent y correspondre&#xa0;: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Un préréglage ne peut pas s’appeler ainsi&#xa0;: pas de barre oblique, ni de point au début.</translation>
+        <translation>Un préréglage ne peut pas s’appeler ainsi&#xa0;: pas de barre oblique, ni de point au début.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il existe déjà un préréglage %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le préréglage %1&#xa0;?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Supprimer</translation>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un type de liaison</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>«&#xa0;%1&#xa0;» est le nom d’un autre projecteur, d’identité %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre d’heures</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>il n’y a aucun projecteur</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>figure ici deux fois</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>entrée standard</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 figure ici deux fois</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control&#xa0;: le port n’est pas disponible</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un port.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un nombre de %2 à %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’une heure au plus.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>--%1 demande --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>--fleet n’a pas de lignes série.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de bouclage IPv4.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>«&#xa0;%1&#xa0;» ne laisse pas de port pour PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de bouclage IPv4 avec un port.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>a plus de %1 éléments</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>ce n’est pas un fichier de réglages enregistrés</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>seule la version %1 est connue</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>«&#xa0;%1&#xa0;» figure ici deux fois</translation>
     </message>
     <message>

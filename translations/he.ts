@@ -51,7 +51,7 @@
         <translation>&quot;%1&quot; אינו אחד מאלה: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>&quot;%1&quot; אינו צעד כגון +1 או -1, וב־PJLink אפשר לשנות ערך זה רק בצעדים</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>שם</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>&quot;%1&quot; אינו זמן מ־%2 שניות ועד יממה</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>&quot;%1&quot; אינו נושא</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>&quot;%1&quot; אינו חלק כגון 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>&quot;%1&quot; אינו כתובת מספרית עם פתחה</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>--%1 דורשת --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>&quot;%1&quot; אינו מארח עם פתחה</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>--cert-file ו־--key-file דורשות זו את זו</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: &quot;%1&quot; אינה הגדרה שאפשר לפקד עליה</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>&quot;%1&quot; אינו מספר מ־1 עד %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>חסרה --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>&quot;%1&quot; אינו כתובת מספרית</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>&quot;%1&quot; אינו תיקייה</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>פתחה טורית</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 אינו כתובת.</translation>
     </message>
 </context>
@@ -2270,11 +2270,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>כל המקרנים האלה הם הדמיה, להתנסות בתוכנה.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">סגירה</translation>
+        <translation>סגירה</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ניהול ערכות…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>כל אלה של %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>שינוי שם של ערכה</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>הסרת ערכה</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">ערכות</translation>
+        <translation>ערכות</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">הגדרה</translation>
+        <translation>הגדרה</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">ערך</translation>
+        <translation>ערך</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">ההגדרות שבערכה</translation>
+        <translation>ההגדרות שבערכה</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;שינוי שם</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">ה&amp;סרה</translation>
+        <translation>ה&amp;סרה</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">אין עדיין ערכות</translation>
+        <translation>אין עדיין ערכות</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>זו הערכה הרצויה של: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
+        <translation>שם הערכה אינו מתאים: אין להשתמש בלוכסנים או בנקודה בתחילת השם.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>כבר קיימת ערכה %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>להסיר את הערכה %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">הסרה</translation>
+        <translation>הסרה</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>&quot;%1&quot; אינו מספר MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>&quot;%1&quot; אינו סוג חיבור</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ a minus in front takes a tag away:</source>
         <translation>&quot;%1&quot; הוא שם של מקרן אחר, שהמזהה שלו %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>&quot;%1&quot; אינו מספר שעות</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ a minus in front takes a tag away:</source>
         <translation>אין מקרן</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>מופיע כאן פעמיים</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ a minus in front takes a tag away:</source>
         <translation>הקלט התקני</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 מופיע כאן פעמיים</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: הפתחה אינה זמינה</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>&quot;%1&quot; אינו פתחה.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>&quot;%1&quot; אינו מספר מ־%2 עד %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>&quot;%1&quot; אינו זמן של עד שעה.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ a minus in front takes a tag away:</source>
         <translation>--%1 דורשת --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>&quot;%1&quot; אינו כתובת.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ a minus in front takes a tag away:</source>
         <translation>ל־--fleet אין קווים טוריים.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>&quot;%1&quot; אינו כתובת לולאה חוזרת של IPv4.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ a minus in front takes a tag away:</source>
         <translation>אחרי &quot;%1&quot; לא נשארת פתחה ל־PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>&quot;%1&quot; אינו כתובת לולאה חוזרת של IPv4 עם פתחה.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ a minus in front takes a tag away:</source>
         <translation>מכיל יותר מ־%1 רשומות</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>זה אינו קובץ של הגדרות שמורות</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ a minus in front takes a tag away:</source>
         <translation>רק גרסה %1 מוכרת</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>&quot;%1&quot; מופיע כאן פעמיים</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>„%1” nem szerepel a lehetőségek között: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>„%1” nem olyan lépés, mint a +1 vagy a -1, és a PJLink csak léptetni tudja</translation>
     </message>
     <message numerus="yes">
@@ -1216,19 +1216,19 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>név</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>„%1” nem %2 másodperc és egy nap közötti idő</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>„%1” nem téma</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>„%1” nem olyan rész, mint a 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>„%1” nem numerikus cím porttal</translation>
     </message>
     <message>
@@ -1244,7 +1244,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>a --%1 kapcsolóhoz --broker is szükséges</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>„%1” nem gépnév porttal</translation>
     </message>
     <message>
@@ -1256,11 +1256,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>a --cert-file és a --key-file csak együtt használható</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: „%1” nem paranccsal módosítható beállítás</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>„%1” nem 1 és %2 közötti szám</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>hiányzik: --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>„%1” nem numerikus cím</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>„%1” nem mappa</translation>
     </message>
     <message>
@@ -1603,7 +1603,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>Soros port</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>Ez nem cím: %1.</translation>
     </message>
 </context>
@@ -2236,11 +2236,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ezek mind szimulált projektorok, a program kipróbálásához.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Bezárás</translation>
+        <translation>Bezárás</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2597,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítások &amp;kezelése…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Összes: %1</translation>
     </message>
 </context>
 <context>
@@ -2669,11 +2673,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítás átnevezése</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Előbeállítás eltávolítása</translation>
     </message>
 </context>
 <context>
@@ -2687,51 +2691,51 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Előbeállítások</translation>
+        <translation>Előbeállítások</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Beállítás</translation>
+        <translation>Beállítás</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Érték</translation>
+        <translation>Érték</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Az előbeállítás tartalma</translation>
+        <translation>Az előbeállítás tartalma</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Átnevezés</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Megszüntetés</translation>
+        <translation>E&amp;ltávolítás</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Még nincs előbeállítás</translation>
+        <translation>Még nincs előbeállítás</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ilyennek kell lennie: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
+        <translation>Az előbeállításnak nem lehet ez a neve: hagyja el a perjeleket és a kezdő pontot.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Már van ilyen előbeállítás: %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eltávolítja ezt az előbeállítást: %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Eltávolítás</translation>
+        <translation>Eltávolítás</translation>
     </message>
 </context>
 <context>
@@ -2806,11 +2810,11 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>„%1” nem MAC-cím</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>„%1” nem kapcsolatfajta</translation>
     </message>
     <message>
@@ -2818,7 +2822,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>„%1” egy másik projektor neve, amelynek azonosítója %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>„%1” nem óraszám</translation>
     </message>
     <message>
@@ -2907,7 +2911,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>nincs benne projektor</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>kétszer szerepel itt</translation>
     </message>
     <message>
@@ -3385,14 +3389,14 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>szabványos bemenet</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 kétszer szerepel itt</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: a port nem használható</translation>
     </message>
     <message>
@@ -3403,15 +3407,15 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>„%1” nem port.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>„%1” nem %2 és %3 közötti szám.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>„%1” nem legfeljebb egyórás idő.</translation>
     </message>
     <message>
@@ -3539,7 +3543,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>A --%1 kapcsolóhoz --fleet is szükséges.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>„%1” nem cím.</translation>
     </message>
     <message>
@@ -3555,7 +3559,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>A --fleet nem használ soros vonalat.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>„%1” nem IPv4-es visszacsatolási cím.</translation>
     </message>
     <message>
@@ -3567,7 +3571,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>„%1” után nem marad port a PJLinknek.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>„%1” nem IPv4-es visszacsatolási cím porttal.</translation>
     </message>
     <message>
@@ -3602,7 +3606,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>több mint %1 eleme van</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>ez nem mentett beállítások fájlja</translation>
     </message>
     <message>
@@ -3610,7 +3614,7 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <translation>csak ez a verzió ismert: %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>„%1” kétszer szerepel itt</translation>
     </message>
     <message>

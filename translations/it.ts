@@ -51,7 +51,7 @@
         <translation>«%1» non è possibile; valori possibili: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>«%1» non è un passo come +1 o -1, e PJLink può cambiare questa impostazione solo a passi</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>nome</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>«%1» non è un tempo da %2 secondi a un giorno</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>«%1» non è un argomento</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>«%1» non è una parte come 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>«%1» non è un indirizzo numerico con porta</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>--%1 richiede --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>«%1» non è un host con porta</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>--cert-file e --key-file vanno usati insieme</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: «%1» non è un’impostazione che può essere comandata</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>«%1» non è un numero da 1 a %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>manca --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>«%1» non è un indirizzo numerico</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>«%1» non è una cartella</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Porta seriale</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 non è un indirizzo.</translation>
     </message>
 </context>
@@ -2270,11 +2270,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti questi proiettori sono simulati, per provare il programma.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Chiudi</translation>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gestisci preimpostazioni…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Tutti quelli di %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina preimpostazione</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi preimpostazione</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Preimpostazioni</translation>
+        <translation>Preimpostazioni</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Impostazione</translation>
+        <translation>Impostazione</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valore</translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Impostazioni della preimpostazione</translation>
+        <translation>Impostazioni della preimpostazione</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;inomina</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Rimuovi</translation>
+        <translation>&amp;Rimuovi</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Ancora nessuna preimpostazione</translation>
+        <translation>Ancora nessuna preimpostazione</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vi devono corrispondere: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
+        <translation>Nome non valido per una preimpostazione: non usare barre né un punto iniziale.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esiste già una preimpostazione %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovere la preimpostazione %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Rimuovi</translation>
+        <translation>Rimuovi</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ un segno meno davanti toglie un’etichetta:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>«%1» non è un indirizzo MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>«%1» non è un tipo di collegamento</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>«%1» è il nome di un altro proiettore, con identità %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>«%1» non è un numero di ore</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>non c’è alcun proiettore</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>compare qui due volte</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>input standard</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 compare qui due volte</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: la porta non è disponibile</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ un segno meno davanti toglie un’etichetta:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>«%1» non è una porta.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>«%1» non è un numero da %2 a %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>«%1» non è un tempo fino a un’ora.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>--%1 richiede --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>«%1» non è un indirizzo.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>--fleet non ha linee seriali.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>«%1» non è un indirizzo IPv4 di loopback.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>«%1» non lascia porte per PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>«%1» non è un indirizzo IPv4 di loopback con porta.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>ha più di %1 voci</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>questo non è un file di impostazioni salvate</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>è nota solo la versione %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>«%1» compare qui due volte</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>「%1」は次のいずれでもありません: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>「%1」は +1 や -1 のような増減ではありません。PJLink では増減しか指定できません</translation>
     </message>
     <message numerus="yes">
@@ -1216,19 +1216,19 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>名前</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>「%1」は %2 秒から 1 日までの時間ではありません</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>「%1」はトピックではありません</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>「%1」は 2/5 のような担当の指定ではありません</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>「%1」は数値アドレスとポートではありません</translation>
     </message>
     <message>
@@ -1244,7 +1244,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>--%1 には --broker が必要です</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>「%1」はホストとポートではありません</translation>
     </message>
     <message>
@@ -1256,11 +1256,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>--cert-file と --key-file は両方とも指定する必要があります</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: 「%1」はコマンドで変更できる設定ではありません</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>「%1」は 1 から %2 までの数値ではありません</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>--profiles が指定されていません</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>「%1」は数値アドレスではありません</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>「%1」はフォルダーではありません</translation>
     </message>
     <message>
@@ -1603,7 +1603,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>シリアルポート</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 はアドレスではありません。</translation>
     </message>
 </context>
@@ -2236,11 +2236,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらのプロジェクターはすべて、プログラムを試すためのシミュレーションです。</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">閉じる</translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2597,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの管理(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>%1 のすべて</translation>
     </message>
 </context>
 <context>
@@ -2669,11 +2673,11 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット名の変更</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの削除</translation>
     </message>
 </context>
 <context>
@@ -2687,51 +2691,51 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">プリセット</translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">設定</translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">値</translation>
+        <translation>値</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">プリセットの設定</translation>
+        <translation>プリセットの設定</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前の変更(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">解除(&amp;R)</translation>
+        <translation>削除(&amp;R)</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">プリセットはまだありません</translation>
+        <translation>プリセットはまだありません</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>これを基準とするプロジェクター: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">この名前はプリセットに使用できません。スラッシュと先頭のピリオドを除いてください。</translation>
+        <translation>この名前はプリセットに使用できません。スラッシュと先頭のピリオドを除いてください。</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット %1 は既に存在します。</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット %1 を削除しますか?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">削除</translation>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
@@ -2806,11 +2810,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>「%1」は MAC アドレスではありません</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>「%1」は接続方法ではありません</translation>
     </message>
     <message>
@@ -2818,7 +2822,7 @@ a minus in front takes a tag away:</source>
         <translation>「%1」は、識別情報が %2 の別のプロジェクターの名前です</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>「%1」は時間数ではありません</translation>
     </message>
     <message>
@@ -2907,7 +2911,7 @@ a minus in front takes a tag away:</source>
         <translation>プロジェクターがありません</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>重複しています</translation>
     </message>
     <message>
@@ -3385,14 +3389,14 @@ a minus in front takes a tag away:</source>
         <translation>標準入力</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 が重複しています</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: ポートを確保できません</translation>
     </message>
     <message>
@@ -3403,15 +3407,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>「%1」はポートではありません。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>「%1」は %2 から %3 までの数値ではありません。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>「%1」は 1 時間以内の時間ではありません。</translation>
     </message>
     <message>
@@ -3539,7 +3543,7 @@ a minus in front takes a tag away:</source>
         <translation>--%1 には --fleet が必要です。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>「%1」はアドレスではありません。</translation>
     </message>
     <message>
@@ -3555,7 +3559,7 @@ a minus in front takes a tag away:</source>
         <translation>--fleet ではシリアル接続を使用できません。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>「%1」は IPv4 ループバックアドレスではありません。</translation>
     </message>
     <message>
@@ -3567,7 +3571,7 @@ a minus in front takes a tag away:</source>
         <translation>「%1」では PJLink 用のポートが残りません。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>「%1」は IPv4 ループバックアドレスとポートではありません。</translation>
     </message>
     <message>
@@ -3602,7 +3606,7 @@ a minus in front takes a tag away:</source>
         <translation>要素が %1 個を超えています</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>保存された設定のファイルではありません</translation>
     </message>
     <message>
@@ -3610,7 +3614,7 @@ a minus in front takes a tag away:</source>
         <translation>対応しているバージョンは %1 だけです</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>「%1」が重複しています</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>‘%1’은(는) 다음 중 하나가 아닙니다: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>‘%1’은(는) +1이나 -1 같은 증감값이 아닙니다. PJLink에서는 증감만 할 수 있습니다</translation>
     </message>
     <message numerus="yes">
@@ -1216,19 +1216,19 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>이름</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>‘%1’은(는) %2초에서 하루 사이의 시간이 아닙니다</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>‘%1’은(는) 토픽이 아닙니다</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>‘%1’은(는) 2/5와 같은 담당분 표기가 아닙니다</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>‘%1’은(는) 포트가 있는 숫자 주소가 아닙니다</translation>
     </message>
     <message>
@@ -1244,7 +1244,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>--%1에는 --broker가 필요합니다</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>‘%1’은(는) 포트가 있는 호스트가 아닙니다</translation>
     </message>
     <message>
@@ -1256,11 +1256,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>--cert-file과 --key-file은 함께 지정해야 합니다</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: ‘%1’은(는) 명령으로 변경할 수 있는 설정이 아닙니다</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>‘%1’은(는) 1에서 %2 사이의 숫자가 아닙니다</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>--profiles가 없습니다</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>‘%1’은(는) 숫자 주소가 아닙니다</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>‘%1’은(는) 폴더가 아닙니다</translation>
     </message>
     <message>
@@ -1603,7 +1603,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>직렬 포트</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1은(는) 주소가 아닙니다.</translation>
     </message>
 </context>
@@ -2236,11 +2236,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프로젝터는 모두 프로그램을 시험해 보기 위한 시뮬레이션입니다.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">닫기</translation>
+        <translation>닫기</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2597,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 관리(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>%1 전체</translation>
     </message>
 </context>
 <context>
@@ -2669,11 +2673,11 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 이름 바꾸기</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 제거</translation>
     </message>
 </context>
 <context>
@@ -2687,51 +2691,51 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">프리셋</translation>
+        <translation>프리셋</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">설정</translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">값</translation>
+        <translation>값</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">프리셋의 설정</translation>
+        <translation>프리셋의 설정</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 바꾸기(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">제거(&amp;R)</translation>
+        <translation>제거(&amp;R)</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">프리셋이 아직 없음</translation>
+        <translation>프리셋이 아직 없음</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>이 프리셋을 기준으로 하는 프로젝터: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
+        <translation>프리셋에 사용할 수 없는 이름입니다. 슬래시와 맨 앞의 마침표를 빼십시오.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 %1이(가) 이미 있습니다.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>프리셋 %1을(를) 제거하시겠습니까?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">제거</translation>
+        <translation>제거</translation>
     </message>
 </context>
 <context>
@@ -2806,11 +2810,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>‘%1’은(는) MAC 주소가 아닙니다</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>‘%1’은(는) 연결 방법이 아닙니다</translation>
     </message>
     <message>
@@ -2818,7 +2822,7 @@ a minus in front takes a tag away:</source>
         <translation>‘%1’은(는) 식별자가 %2인 다른 프로젝터의 이름입니다</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>‘%1’은(는) 시간 수가 아닙니다</translation>
     </message>
     <message>
@@ -2907,7 +2911,7 @@ a minus in front takes a tag away:</source>
         <translation>프로젝터가 없습니다</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>중복되어 있습니다</translation>
     </message>
     <message>
@@ -3385,14 +3389,14 @@ a minus in front takes a tag away:</source>
         <translation>표준 입력</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1이(가) 중복되어 있습니다</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: 포트를 사용할 수 없습니다</translation>
     </message>
     <message>
@@ -3403,15 +3407,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>‘%1’은(는) 포트가 아닙니다.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>‘%1’은(는) %2에서 %3 사이의 숫자가 아닙니다.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>‘%1’은(는) 한 시간 이내의 시간이 아닙니다.</translation>
     </message>
     <message>
@@ -3539,7 +3543,7 @@ a minus in front takes a tag away:</source>
         <translation>--%1에는 --fleet이 필요합니다.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>‘%1’은(는) 주소가 아닙니다.</translation>
     </message>
     <message>
@@ -3555,7 +3559,7 @@ a minus in front takes a tag away:</source>
         <translation>--fleet에서는 직렬 연결을 사용할 수 없습니다.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>‘%1’은(는) IPv4 루프백 주소가 아닙니다.</translation>
     </message>
     <message>
@@ -3567,7 +3571,7 @@ a minus in front takes a tag away:</source>
         <translation>‘%1’을(를) 사용하면 PJLink용 포트가 남지 않습니다.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>‘%1’은(는) 포트가 있는 IPv4 루프백 주소가 아닙니다.</translation>
     </message>
     <message>
@@ -3602,7 +3606,7 @@ a minus in front takes a tag away:</source>
         <translation>항목이 %1개를 넘습니다</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>저장된 설정 파일이 아닙니다</translation>
     </message>
     <message>
@@ -3610,7 +3614,7 @@ a minus in front takes a tag away:</source>
         <translation>버전 %1만 지원합니다</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>‘%1’이(가) 중복되어 있습니다</translation>
     </message>
     <message>

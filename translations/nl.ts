@@ -51,7 +51,7 @@
         <translation>‘%1’ is niet mogelijk; mogelijk zijn: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>‘%1’ is geen stap zoals +1 of -1, en PJLink kan dit alleen stapsgewijs wijzigen</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>naam</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>‘%1’ is geen tijd van %2 seconden tot een dag</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>‘%1’ is geen topic</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>‘%1’ is geen aandeel zoals 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>‘%1’ is geen numeriek adres met poort</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--%1 vereist --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>‘%1’ is geen host met poort</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--cert-file en --key-file horen bij elkaar</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: ‘%1’ is geen instelling die met opdrachten gewijzigd mag worden</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>‘%1’ is geen getal van 1 tot %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>--profiles ontbreekt</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>‘%1’ is geen numeriek adres</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>‘%1’ is geen map</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Seriële poort</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 is geen adres.</translation>
     </message>
 </context>
@@ -2270,11 +2270,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al deze projectors zijn gesimuleerd, om het programma uit te proberen.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Sluiten</translation>
+        <translation>Sluiten</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstellingen &amp;beheren…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Alle van %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstelling hernoemen</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorinstelling verwijderen</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Voorinstellingen</translation>
+        <translation>Voorinstellingen</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Instelling</translation>
+        <translation>Instelling</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Waarde</translation>
+        <translation>Waarde</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Instellingen van de voorinstelling</translation>
+        <translation>Instellingen van de voorinstelling</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hernoemen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">Ve&amp;rwijderen</translation>
+        <translation>Ve&amp;rwijderen</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Nog geen voorinstellingen</translation>
+        <translation>Nog geen voorinstellingen</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Moet ermee overeenkomen: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
+        <translation>Deze naam is niet toegestaan: gebruik geen slashes en begin niet met een punt.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er is al een voorinstelling %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>De voorinstelling %1 verwijderen?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Verwijderen</translation>
+        <translation>Verwijderen</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>‘%1’ is geen MAC-adres</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>‘%1’ is geen soort verbinding</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>‘%1’ is de naam van een andere projector, met identiteit %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>‘%1’ is geen aantal uren</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>er is geen projector</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>staat hier twee keer</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>standaardinvoer</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 staat hier twee keer</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: de poort is niet beschikbaar</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>‘%1’ is geen poort.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>‘%1’ is geen getal van %2 tot %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>‘%1’ is geen tijd van hoogstens een uur.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>--%1 vereist --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>‘%1’ is geen adres.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>--fleet heeft geen seriële lijnen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>‘%1’ is geen IPv4-loopback-adres.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>‘%1’ laat geen poort over voor PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>‘%1’ is geen IPv4-loopback-adres met poort.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>heeft meer dan %1 onderdelen</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>dit is geen bestand met opgeslagen instellingen</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>alleen versie %1 is bekend</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>‘%1’ staat hier twee keer</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>„%1” nie jest jedną z wartości: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>„%1” nie jest krokiem takim jak +1 lub -1, a przez PJLink można zmieniać tylko krokami</translation>
     </message>
     <message numerus="yes">
@@ -1256,19 +1256,19 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>nazwa</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>„%1” nie jest czasem od %2 sekund do doby</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>„%1” nie jest tematem</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>„%1” nie jest częścią taką jak 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>„%1” nie jest adresem liczbowym z portem</translation>
     </message>
     <message>
@@ -1284,7 +1284,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>--%1 wymaga --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>„%1” nie jest hostem z portem</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>--cert-file i --key-file wymagają się wzajemnie</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: „%1” nie jest ustawieniem, które można zmieniać poleceniami</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>„%1” nie jest liczbą od 1 do %2</translation>
     </message>
     <message>
@@ -1316,11 +1316,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>brak --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>„%1” nie jest adresem liczbowym</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>„%1” nie jest folderem</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Port szeregowy</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 nie jest adresem.</translation>
     </message>
 </context>
@@ -2304,11 +2304,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie te projektory są symulowane, do wypróbowania programu.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Zamknij</translation>
+        <translation>Zamknij</translation>
     </message>
 </context>
 <context>
@@ -2669,7 +2669,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;arządzaj zestawami…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Wszystkie z %1</translation>
     </message>
 </context>
 <context>
@@ -2743,11 +2747,11 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmiana nazwy zestawu</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwanie zestawu</translation>
     </message>
 </context>
 <context>
@@ -2761,51 +2765,51 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Zestawy</translation>
+        <translation>Zestawy</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ustawienie</translation>
+        <translation>Ustawienie</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Wartość</translation>
+        <translation>Wartość</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Ustawienia zestawu</translation>
+        <translation>Ustawienia zestawu</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zmień nazwę</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">U&amp;suń</translation>
+        <translation>U&amp;suń</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Nie ma jeszcze zestawów</translation>
+        <translation>Nie ma jeszcze zestawów</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wzorzec dla: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
+        <translation>Niedozwolona nazwa zestawu: pomiń ukośniki i kropkę na początku.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zestaw %1 już istnieje.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunąć zestaw %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Usuń</translation>
+        <translation>Usuń</translation>
     </message>
 </context>
 <context>
@@ -2886,11 +2890,11 @@ minus przed tagiem go usuwa:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>„%1” nie jest adresem MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>„%1” nie jest rodzajem połączenia</translation>
     </message>
     <message>
@@ -2898,7 +2902,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>„%1” to nazwa innego projektora, o identyfikatorze %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>„%1” nie jest liczbą godzin</translation>
     </message>
     <message>
@@ -2987,7 +2991,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>nie ma żadnego projektora</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>występuje dwa razy</translation>
     </message>
     <message>
@@ -3477,14 +3481,14 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>standardowe wejście</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 występuje dwa razy</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: nie można zająć portu</translation>
     </message>
     <message>
@@ -3495,15 +3499,15 @@ minus przed tagiem go usuwa:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>„%1” nie jest portem.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>„%1” nie jest liczbą od %2 do %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>„%1” nie jest czasem do jednej godziny.</translation>
     </message>
     <message>
@@ -3631,7 +3635,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>--%1 wymaga --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>„%1” nie jest adresem.</translation>
     </message>
     <message>
@@ -3647,7 +3651,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>--fleet nie ma łączy szeregowych.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>„%1” nie jest adresem pętli zwrotnej IPv4.</translation>
     </message>
     <message>
@@ -3659,7 +3663,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>Po „%1” nie zostaje port dla PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>„%1” nie jest adresem pętli zwrotnej IPv4 z portem.</translation>
     </message>
     <message>
@@ -3694,7 +3698,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>ma więcej niż %1 elementów</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>to nie jest plik zapisanych ustawień</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ minus przed tagiem go usuwa:</numerusform>
         <translation>znana jest tylko wersja %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>„%1” występuje dwa razy</translation>
     </message>
     <message>

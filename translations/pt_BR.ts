@@ -51,7 +51,7 @@
         <translation>“%1” não é possível; valores possíveis: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>“%1” não é um passo como +1 ou -1, e o PJLink só pode alterar este ajuste passo a passo</translation>
     </message>
     <message numerus="yes">
@@ -1236,19 +1236,19 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>nome</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>“%1” não é um tempo de %2 segundos a um dia</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>“%1” não é um tópico</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>“%1” não é uma parte como 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>“%1” não é um endereço numérico com porta</translation>
     </message>
     <message>
@@ -1264,7 +1264,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>--%1 precisa de --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>“%1” não é um host com porta</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>--cert-file e --key-file precisam um do outro</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: “%1” não é um ajuste que pode ser comandado</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>“%1” não é um número de 1 a %2</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>falta --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>“%1” não é um endereço numérico</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>“%1” não é uma pasta</translation>
     </message>
     <message>
@@ -1627,7 +1627,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Porta serial</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 não é um endereço.</translation>
     </message>
 </context>
@@ -2270,11 +2270,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos estes projetores são simulados, para experimentar o programa.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Fechar</translation>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
@@ -2633,7 +2633,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gerenciar predefinições…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Todos de %1</translation>
     </message>
 </context>
 <context>
@@ -2706,11 +2710,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Renomear predefinição</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover predefinição</translation>
     </message>
 </context>
 <context>
@@ -2724,51 +2728,51 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Predefinições</translation>
+        <translation>Predefinições</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Ajuste</translation>
+        <translation>Ajuste</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Valor</translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Ajustes da predefinição</translation>
+        <translation>Ajustes da predefinição</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;enomear</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Remover</translation>
+        <translation>&amp;Remover</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Ainda não há predefinições</translation>
+        <translation>Ainda não há predefinições</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Devem corresponder a ela: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Nome inválido para uma predefinição: não use barras nem comece com um ponto.</translation>
+        <translation>Nome inválido para uma predefinição: não use barras nem comece com um ponto.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Já existe uma predefinição %1.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover a predefinição %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Remover</translation>
+        <translation>Remover</translation>
     </message>
 </context>
 <context>
@@ -2846,11 +2850,11 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>“%1” não é um endereço MAC</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>“%1” não é um tipo de conexão</translation>
     </message>
     <message>
@@ -2858,7 +2862,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>“%1” é o nome de outro projetor, com a identidade %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>“%1” não é um número de horas</translation>
     </message>
     <message>
@@ -2947,7 +2951,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>não há projetor</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>aparece aqui duas vezes</translation>
     </message>
     <message>
@@ -3431,14 +3435,14 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>entrada padrão</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 aparece aqui duas vezes</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: a porta não está disponível</translation>
     </message>
     <message>
@@ -3449,15 +3453,15 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>“%1” não é uma porta.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>“%1” não é um número de %2 a %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>“%1” não é um tempo de até uma hora.</translation>
     </message>
     <message>
@@ -3585,7 +3589,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>--%1 precisa de --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>“%1” não é um endereço.</translation>
     </message>
     <message>
@@ -3601,7 +3605,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>--fleet não tem linhas seriais.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>“%1” não é um endereço IPv4 de loopback.</translation>
     </message>
     <message>
@@ -3613,7 +3617,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>“%1” não deixa nenhuma porta para o PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>“%1” não é um endereço IPv4 de loopback com porta.</translation>
     </message>
     <message>
@@ -3648,7 +3652,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>tem mais de %1 itens</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>este não é um arquivo de ajustes salvos</translation>
     </message>
     <message>
@@ -3656,7 +3660,7 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>só a versão %1 é conhecida</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>“%1” aparece aqui duas vezes</translation>
     </message>
     <message>

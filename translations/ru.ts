@@ -51,7 +51,7 @@
         <translation>«%1» не входит в число допустимых: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>«%1» — не шаг вида +1 или -1, а по PJLink возможны только шаги</translation>
     </message>
     <message numerus="yes">
@@ -1256,19 +1256,19 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>название</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>«%1» — не время в пределах от %2 секунд до суток</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>«%1» — не тема</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>«%1» — не доля вида 2/5</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>«%1» — не числовой адрес с портом</translation>
     </message>
     <message>
@@ -1284,7 +1284,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>для --%1 нужен --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>«%1» — не узел с портом</translation>
     </message>
     <message>
@@ -1296,11 +1296,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>--cert-file и --key-file указываются только вместе</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands: «%1» — не настройка, которую можно менять командами</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>«%1» — не число от 1 до %2</translation>
     </message>
     <message>
@@ -1316,11 +1316,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>не указан --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>«%1» — не числовой адрес</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>«%1» — не папка</translation>
     </message>
     <message>
@@ -1651,7 +1651,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Последовательный порт</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 — не адрес.</translation>
     </message>
 </context>
@@ -2304,11 +2304,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Все эти проекторы имитируются, чтобы можно было опробовать программу.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Закрыть</translation>
+        <translation>Закрыть</translation>
     </message>
 </context>
 <context>
@@ -2669,7 +2669,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Управление пресетами…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>Все с тегом %1</translation>
     </message>
 </context>
 <context>
@@ -2743,11 +2747,11 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Переименование пресета</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Удаление пресета</translation>
     </message>
 </context>
 <context>
@@ -2761,51 +2765,51 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">Пресеты</translation>
+        <translation>Пресеты</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">Настройка</translation>
+        <translation>Настройка</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">Значение</translation>
+        <translation>Значение</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">Настройки пресета</translation>
+        <translation>Настройки пресета</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Переименовать</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">&amp;Убрать</translation>
+        <translation>&amp;Удалить</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">Пресетов пока нет</translation>
+        <translation>Пресетов пока нет</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Эталон для: %1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
+        <translation>Недопустимое имя пресета: уберите косые черты и точку в начале.</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Пресет %1 уже есть.</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Удалить пресет %1?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">Удалить</translation>
+        <translation>Удалить</translation>
     </message>
 </context>
 <context>
@@ -2886,11 +2890,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>«%1» — не MAC-адрес</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>«%1» — не вид связи</translation>
     </message>
     <message>
@@ -2898,7 +2902,7 @@ a minus in front takes a tag away:</source>
         <translation>«%1» — имя другого проектора, с идентификатором %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>«%1» — не число часов</translation>
     </message>
     <message>
@@ -2987,7 +2991,7 @@ a minus in front takes a tag away:</source>
         <translation>нет ни одного проектора</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>указано дважды</translation>
     </message>
     <message>
@@ -3477,14 +3481,14 @@ a minus in front takes a tag away:</source>
         <translation>стандартный ввод</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 указано дважды</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control: не удалось занять порт</translation>
     </message>
     <message>
@@ -3495,15 +3499,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>«%1» — не порт.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>«%1» — не число от %2 до %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>«%1» — не время в пределах часа.</translation>
     </message>
     <message>
@@ -3631,7 +3635,7 @@ a minus in front takes a tag away:</source>
         <translation>Для --%1 нужен --fleet.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>«%1» — не адрес.</translation>
     </message>
     <message>
@@ -3647,7 +3651,7 @@ a minus in front takes a tag away:</source>
         <translation>У --fleet нет последовательных портов.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>«%1» — не петлевой адрес IPv4.</translation>
     </message>
     <message>
@@ -3659,7 +3663,7 @@ a minus in front takes a tag away:</source>
         <translation>После «%1» не остаётся порта для PJLink.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>«%1» — не петлевой адрес IPv4 с портом.</translation>
     </message>
     <message>
@@ -3694,7 +3698,7 @@ a minus in front takes a tag away:</source>
         <translation>больше %1 элементов</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>это не файл сохранённых настроек</translation>
     </message>
     <message>
@@ -3702,7 +3706,7 @@ a minus in front takes a tag away:</source>
         <translation>известна только версия %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>«%1» указано дважды</translation>
     </message>
     <message>

@@ -51,7 +51,7 @@
         <translation>「%1」不在下列各項之中：%2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no step such as +1 or -1, and PJLink can only step it</source>
+        <source>&apos;%1&apos; is not a step such as +1 or -1, and PJLink can only step it</source>
         <translation>「%1」不是 +1 或 -1 這樣的增減量，而 PJLink 只能逐級調整</translation>
     </message>
     <message numerus="yes">
@@ -1216,19 +1216,19 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>名稱</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time from %2 seconds to a day</source>
+        <source>&apos;%1&apos; is not a time from %2 seconds to a day</source>
         <translation>「%1」不是 %2 秒到一天之間的時間</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no topic</source>
+        <source>&apos;%1&apos; is not a topic</source>
         <translation>「%1」不是主題</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no share such as 2/5</source>
+        <source>&apos;%1&apos; is not a share such as 2/5</source>
         <translation>「%1」不是 2/5 這樣的份額</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address with a port</source>
+        <source>&apos;%1&apos; is not a numeric address with a port</source>
         <translation>「%1」不是含連接埠的數字位址</translation>
     </message>
     <message>
@@ -1244,7 +1244,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>--%1 需要 --broker</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no host with a port</source>
+        <source>&apos;%1&apos; is not a host with a port</source>
         <translation>「%1」不是含連接埠的主機</translation>
     </message>
     <message>
@@ -1256,11 +1256,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>--cert-file 與 --key-file 必須同時使用</translation>
     </message>
     <message>
-        <source>--allow-commands: &apos;%1&apos; is no setting that may be commanded</source>
+        <source>--allow-commands: &apos;%1&apos; is not a setting that may be commanded</source>
         <translation>--allow-commands：「%1」不是可用命令變更的設定</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from 1 to %2</source>
+        <source>&apos;%1&apos; is not a number from 1 to %2</source>
         <translation>「%1」不是 1 到 %2 之間的數字</translation>
     </message>
     <message>
@@ -1276,11 +1276,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>缺少 --profiles</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no numeric address</source>
+        <source>&apos;%1&apos; is not a numeric address</source>
         <translation>「%1」不是數字位址</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no folder</source>
+        <source>&apos;%1&apos; is not a folder</source>
         <translation>「%1」不是資料夾</translation>
     </message>
     <message>
@@ -1603,7 +1603,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>序列埠</translation>
     </message>
     <message>
-        <source>%1 is no address.</source>
+        <source>%1 is not an address.</source>
         <translation>%1 不是位址。</translation>
     </message>
 </context>
@@ -2236,11 +2236,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <name>ListPane</name>
     <message>
         <source>All these projectors are simulated, for trying the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>這些投影機都是模擬的，供試用本程式。</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">關閉</translation>
+        <translation>關閉</translation>
     </message>
 </context>
 <context>
@@ -2597,7 +2597,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
     <message>
         <source>&amp;Manage Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>管理預設集(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>All of %1</source>
+        <translation>%1 的全部</translation>
     </message>
 </context>
 <context>
@@ -2669,11 +2673,11 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <name>PresetEdits</name>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>重新命名預設集</translation>
     </message>
     <message>
         <source>Remove Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>移除預設集</translation>
     </message>
 </context>
 <context>
@@ -2687,51 +2691,51 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <name>PresetManager</name>
     <message>
         <source>Presets</source>
-        <translation type="unfinished">預設集</translation>
+        <translation>預設集</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished">設定</translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished">值</translation>
+        <translation>值</translation>
     </message>
     <message>
         <source>Settings of the preset</source>
-        <translation type="unfinished">預設集的設定</translation>
+        <translation>預設集的設定</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>重新命名(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished">移除(&amp;R)</translation>
+        <translation>移除(&amp;R)</translation>
     </message>
     <message>
         <source>No presets yet</source>
-        <translation type="unfinished">尚無預設集</translation>
+        <translation>尚無預設集</translation>
     </message>
     <message>
         <source>Should be like it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>應符合此預設集的投影機：%1</translation>
     </message>
     <message>
         <source>This name is not allowed: no slashes, and no dot in front.</source>
-        <translation type="unfinished">預設集不能使用這個名稱：請勿使用斜線，也不要以句點開頭。</translation>
+        <translation>預設集不能使用這個名稱：請勿使用斜線，也不要以句點開頭。</translation>
     </message>
     <message>
         <source>There is already a preset %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>預設集 %1 已存在。</translation>
     </message>
     <message>
         <source>Remove the preset %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>要移除預設集 %1 嗎？</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished">移除</translation>
+        <translation>移除</translation>
     </message>
 </context>
 <context>
@@ -2806,11 +2810,11 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileCsv</name>
     <message>
-        <source>&quot;%1&quot; is no MAC number</source>
+        <source>&quot;%1&quot; is not a MAC address</source>
         <translation>「%1」不是 MAC 位址</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no link</source>
+        <source>&quot;%1&quot; is not a kind of link</source>
         <translation>「%1」不是連線方式</translation>
     </message>
     <message>
@@ -2818,7 +2822,7 @@ a minus in front takes a tag away:</source>
         <translation>「%1」是另一台投影機的名稱，其識別碼為 %2</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no number of hours</source>
+        <source>&quot;%1&quot; is not a number of hours</source>
         <translation>「%1」不是時數</translation>
     </message>
     <message>
@@ -2907,7 +2911,7 @@ a minus in front takes a tag away:</source>
         <translation>沒有投影機</translation>
     </message>
     <message>
-        <source>stands here twice</source>
+        <source>is here twice</source>
         <translation>在此重複出現</translation>
     </message>
     <message>
@@ -3385,14 +3389,14 @@ a minus in front takes a tag away:</source>
         <translation>標準輸入</translation>
     </message>
     <message>
-        <source>%1 stands here twice</source>
+        <source>%1 is here twice</source>
         <translation>%1 在此重複出現</translation>
     </message>
 </context>
 <context>
     <name>Simulator</name>
     <message>
-        <source>--control: the port cannot be had</source>
+        <source>--control: the port is not available</source>
         <translation>--control：無法使用該連接埠</translation>
     </message>
     <message>
@@ -3403,15 +3407,15 @@ a minus in front takes a tag away:</source>
 <context>
     <name>SimulatorArguments</name>
     <message>
-        <source>&apos;%1&apos; is no port.</source>
+        <source>&apos;%1&apos; is not a port.</source>
         <translation>「%1」不是連接埠。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no number from %2 to %3.</source>
+        <source>&apos;%1&apos; is not a number from %2 to %3.</source>
         <translation>「%1」不是 %2 到 %3 的數字。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no time up to an hour.</source>
+        <source>&apos;%1&apos; is not a time up to an hour.</source>
         <translation>「%1」不是一小時以內的時間。</translation>
     </message>
     <message>
@@ -3539,7 +3543,7 @@ a minus in front takes a tag away:</source>
         <translation>--%1 需要 --fleet。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no address.</source>
+        <source>&apos;%1&apos; is not an address.</source>
         <translation>「%1」不是位址。</translation>
     </message>
     <message>
@@ -3555,7 +3559,7 @@ a minus in front takes a tag away:</source>
         <translation>--fleet 不支援序列連線。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address.</source>
         <translation>「%1」不是 IPv4 迴路位址。</translation>
     </message>
     <message>
@@ -3567,7 +3571,7 @@ a minus in front takes a tag away:</source>
         <translation>「%1」之後沒有可供 PJLink 使用的連接埠。</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no IPv4 loopback address with a port.</source>
+        <source>&apos;%1&apos; is not an IPv4 loopback address with a port.</source>
         <translation>「%1」不是含連接埠的 IPv4 迴路位址。</translation>
     </message>
     <message>
@@ -3602,7 +3606,7 @@ a minus in front takes a tag away:</source>
         <translation>超過 %1 個項目</translation>
     </message>
     <message>
-        <source>this is no file of saved settings</source>
+        <source>this is not a file of saved settings</source>
         <translation>這不是儲存設定的檔案</translation>
     </message>
     <message>
@@ -3610,7 +3614,7 @@ a minus in front takes a tag away:</source>
         <translation>僅支援版本 %1</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; stands here twice</source>
+        <source>&quot;%1&quot; is here twice</source>
         <translation>「%1」在此重複出現</translation>
     </message>
     <message>

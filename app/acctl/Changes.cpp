@@ -34,7 +34,8 @@ std::optional<Change> ChangeOf(const Work& work, const Target& target, const std
   if (target.OnlySteps(*setting) && !typed->relative) {
     return fail(
         ProblemCode::OutOfRange,
-        Message(Acctl::tr("'%1' is no step such as +1 or -1, and PJLink can only step it"), word));
+        Message(Acctl::tr("'%1' is not a step such as +1 or -1, and PJLink can only step it"),
+                word));
   }
   if (typed->relative && IsUnbounded(target, *setting) && std::abs(typed->amount) > kMostSteps) {
     return fail(ProblemCode::OutOfRange,
@@ -66,7 +67,7 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
     const ModelSetting& setting = *change.setting;
     isForOtherSource = isForOtherSource || setting.SelectsInput();
     if (isForOtherSource && setting.IsPerSource()) continue;
-    if (target.OnlySteps(setting)) continue;  // nobody knows where to
+    if (target.OnlySteps(setting)) continue;  // its value is unknown
     std::optional<int>& value = expected[&setting];
     if (!change.typed.relative && !IsUnbounded(target, setting)) {
       value = change.typed.amount;

@@ -62,8 +62,8 @@ constexpr CommandForm kCommands[] = {
      QT_TRANSLATE_NOOP("Acctl",
          "Resets settings to the projector's own standard and prints what they are then. 'acctl undo' restores what "
      "was there before. Hour counters are reset only by their exact keys, because this cannot be undone."),
-     "acctl reset 'Lecture hall' picture.tint\n"
-     "acctl reset 'Lecture hall' status.lamp-time",
+     "acctl reset 'Lecture hall' status.lamp-time\n"
+     "acctl reset 'Lecture hall' picture.tint",
      2, kMany},
     {Command::Status, "status", Words::Projectors, "[P...]",
      QT_TRANSLATE_NOOP("Acctl", "print power, input, errors and hours"),
@@ -102,7 +102,7 @@ constexpr CommandForm kCommands[] = {
      "file, or 'last'; without it, the last run is undone. With P or --where, only these projectors are restored, and "
      "the rest of the run can be undone later. An undo can itself be undone by its name."),
      "acctl undo --list\n"
-     "acctl undo last 'Lecture hall'\n"
+     "acctl undo last 'Lecture hall' --dry-run\n"
      "acctl undo",
      0, kMany},
     {Command::Watch, "watch", Words::ProjectorWords, "P KEY...",

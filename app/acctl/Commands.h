@@ -4,7 +4,7 @@
 #include "app/acctl/Work.h"
 #include "app/profiles/ProjectorAccess.h"
 
-// What a command does with one projector, on a thread of its own.
+// What a command does with one projector, while others are waited for.
 
 Report RunSettings(const Work& work, ProjectorAccess& projector);
 Report RunGet(const Work& work, ProjectorAccess& projector);

@@ -119,7 +119,7 @@ std::string ImpossibleValue(const std::vector<Condition>& conditions, const Valu
       lacking = setting;
       const bool isListed =
           setting->kind == ModelSetting::Kind::Choice && !setting->entries.empty();
-      if (!isListed && !IsPower(*setting)) return true;
+      if (!isListed && !setting->IsPower()) return true;
       return texts.Parse(*setting, condition.value) || IsPowerCode(condition.value);
     });
     if (isPossible || lacking == nullptr) continue;

@@ -172,7 +172,7 @@ std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents
       add(saved, path + ".key", NoSuchKey(saved.key, keys));
       return;
     }
-    // Without the file's own model, nobody knows what it allows.
+    // What the file's model allows is unknown if there is no such model.
     if (!isOwn && !other) return;
     const Entry entry(work.texts.Shown(), saved, model, other ? &*other : nullptr);
     add(saved, path + ".source", entry.SourceMistake());
@@ -192,7 +192,7 @@ std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents
 
 Report CheckFile(const Work& work, const ProjectorAccess& projector) {
   Report report;
-  if (work.arguments.lenient || !projector.TellsInputs()) return report;
+  if (work.arguments.lenient || !projector.ReportsInputs()) return report;
   for (std::string& mistake : MistakesIn(work, work.files.Of(projector.Name()),
                                          projector.Settings(), InputNames::OfProjector)) {
     report.Add({.code = ProblemCode::WrongFile,

@@ -10,8 +10,8 @@
 #include "app/acctl/Describing.h"
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
-#include "app/acctl/ProjectorRuns.h"
 #include "app/acctl/Selection.h"
+#include "app/acctl/Simulated.h"
 
 namespace {
 

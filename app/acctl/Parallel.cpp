@@ -13,6 +13,7 @@
 
 #include "app/acctl/Message.h"
 #include "app/profiles/OutOfMemory.h"
+#include "fleet/RunOnEach.h"
 
 void Meter::Draw(int done) {
   constexpr int kWidth = 30;
@@ -71,33 +72,25 @@ void AllowFilesFor(int jobs) {
   setrlimit(RLIMIT_NOFILE, &limit);
 }
 
-void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(int)>& run,
-                 const std::function<void(int, Report)>& handOver) {
+void RunParallel(JobLoop& loop, const std::vector<VisitQueue::Address>& addresses, int jobs,
+                 Meter& meter, const ParallelWork& work) {
   std::mutex mutex;
   std::condition_variable ready;
-  std::vector<std::optional<Report>> reports(static_cast<std::size_t>(count));
-  int taken = 0;
+  std::vector<std::optional<Report>> reports(addresses.size());
   int done = 0;
-  const auto work = [&] {
-    std::unique_lock lock(mutex);
-    while (taken < count) {
-      const int number = taken++;
-      lock.unlock();
-      Report report = Guarded(run, number);
-      lock.lock();
-      reports[static_cast<std::size_t>(number)] = std::move(report);
+  const std::jthread thread([&] {
+    RunOnEach(loop, addresses, static_cast<std::size_t>(jobs), [&](std::size_t number) {
+      Report report = Guarded(work.run, static_cast<int>(number));
+      const std::lock_guard lock(mutex);
+      reports[number] = std::move(report);
       ++done;
       ready.notify_one();
-    }
-  };
-  const int threadCount = std::min(jobs, count);
-  std::vector<std::jthread> threads;
-  threads.reserve(static_cast<std::size_t>(threadCount));
-  for (int i = 0; i < threadCount; ++i) threads.emplace_back(work);
+    });
+  });
 
   std::unique_lock lock(mutex);
-  for (int next = 0; next < count; ++next) {
-    std::optional<Report>& report = reports[static_cast<std::size_t>(next)];
+  for (std::size_t next = 0; next < addresses.size(); ++next) {
+    std::optional<Report>& report = reports[next];
     while (!report) {
       meter.Draw(done);
       ready.wait(lock);
@@ -106,7 +99,7 @@ void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(i
     *report = {};  // so that a large list is not kept twice
     lock.unlock();
     meter.Clear();
-    handOver(next, std::move(finished));
+    work.handOver(static_cast<int>(next), std::move(finished));
     lock.lock();
   }
 }

@@ -5,6 +5,8 @@
 
 #include "app/acctl/Arguments.h"
 #include "app/acctl/Report.h"
+#include "fleet/JobLoop.h"
+#include "fleet/VisitQueue.h"
 
 /// Shows a person at a terminal how many projectors are done, as a bar on standard error.
 class Meter {
@@ -29,7 +31,14 @@ int JobsOf(const Arguments& arguments);
 /// it.
 void AllowFilesFor(int jobs);
 
-/// Calls `run` for the numbers 0 to `count` − 1 on at most `jobs` threads. Passes each report to
-/// `handOver`, on the calling thread and in the order of the numbers, as soon as it can.
-void RunParallel(int count, int jobs, Meter& meter, const std::function<Report(int)>& run,
-                 const std::function<void(int, Report)>& handOver);
+/// What `RunParallel` does for each projector, by number.
+struct ParallelWork {
+  std::function<Report(int)> run;
+  /// Gets the report, on the calling thread and in the order of the numbers, as soon as it can.
+  std::function<void(int, Report)> handOver;
+};
+
+/// Runs the work for projectors at these addresses in the loop: at most `jobs` of them at the same
+/// time, and one at each address. The loop has one thread, however many they are.
+void RunParallel(JobLoop& loop, const std::vector<VisitQueue::Address>& addresses, int jobs,
+                 Meter& meter, const ParallelWork& work);

@@ -26,7 +26,7 @@ bool CheckWithoutAsking(const Work& work, const Target& target, Report& report) 
       Chosen(target, kSaved, arguments.only, work.isForSeveral, report);
       return true;
     default:
-      return !HasFile(arguments.command) || !target.TellsInputs();
+      return !HasFile(arguments.command) || !target.ReportsInputs();
   }
 }
 
@@ -76,8 +76,7 @@ std::vector<std::string> FileMistakes(const Work& work, const Projectors& projec
 }
 
 std::vector<std::optional<Report>> CheckWords(const Work& work, const Projectors& projectors,
-                                              ModelCache& models, Meter& meter,
-                                              const std::function<Report(int)>& ask) {
+                                              ModelCache& models, const AskEach& askEach) {
   std::vector<std::optional<Report>> results(projectors.size());
   std::vector<Report> reports(projectors.size());
   std::vector<int> asked;
@@ -92,17 +91,14 @@ std::vector<std::optional<Report>> CheckWords(const Work& work, const Projectors
   }
   if (work.isForSeveral) RejectCommonLacks(reports, results);
   if (!std::ranges::any_of(results, IsWrong)) {
-    RunParallel(
-        static_cast<int>(asked.size()), JobsOf(work.arguments), meter,
-        [&](int turn) { return ask(asked[static_cast<std::size_t>(turn)]); },
-        [&](int turn, Report report) {
-          if (!StopsChanges(report)) return;
-          const auto number = static_cast<std::size_t>(asked[static_cast<std::size_t>(turn)]);
-          results[number] = std::move(report);
-        });
+    askEach(asked, [&results](int number, Report report) {
+      if (StopsChanges(report)) results[static_cast<std::size_t>(number)] = std::move(report);
+    });
   }
   if (std::ranges::any_of(results, IsWrong)) {
-    for (std::optional<Report>& report : results) report = report.value_or(Report());
+    for (std::size_t i = 0; i < results.size(); ++i) {
+      if (!results[i]) results[i] = std::move(reports[i]);
+    }
   }
   return results;
 }
@@ -115,7 +111,7 @@ Report CheckByAsking(const Work& work, ProjectorAccess& projector) {
 }
 
 InputsNeeded InputsNeededBy(const Work& work, const Target& target) {
-  if (!target.TellsInputs()) return InputsNeeded::None;
+  if (!target.ReportsInputs()) return InputsNeeded::None;
   const Arguments& arguments = work.arguments;
   const auto showsInput = [](const ModelSetting* setting) {
     return setting->key == "status.input-source" || setting->SelectsInput();

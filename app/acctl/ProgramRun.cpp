@@ -18,6 +18,7 @@
 #include "app/acctl/RunFiles.h"
 #include "app/acctl/Selection.h"
 #include "app/acctl/Signals.h"
+#include "app/acctl/Simulated.h"
 #include "app/acctl/Watching.h"
 #include "device/Connect.h"
 #include "fleet/WholeFile.h"
@@ -228,6 +229,7 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
   // A condition may apply to projectors of many kinds, so this is no error.
   const std::string note = ImpossibleValue(conditions_, texts, projectors_, models_);
   if (!note.empty()) Complain("--where " + note);
+  JobLoop loop;
   UndoRecorder undo(UndoFolderOf(arguments_), arguments_.undoDays, recorded_);
   Work work{.arguments = arguments_,
             .texts = texts,
@@ -239,6 +241,7 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
             .password = password_,
             .models = &models_,
             .undo = &undo,
+            .loop = &loop,
             .isInterrupted = [] { return ReceivedSignal() != 0; }};
   const bool needsSimulator = std::ranges::any_of(projectors_, [this](const FleetProfile* profile) {
     return IsSimulated(*profile, arguments_);

@@ -4,13 +4,14 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <thread>
 #include <unistd.h>
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+
+#include "fleet/JobLoop.h"
 
 namespace {
 
@@ -53,7 +54,7 @@ ProjectorLock::ProjectorLock(const ProjectorAddress& address, std::chrono::milli
     const auto left = end - std::chrono::steady_clock::now();
     isHeld_ = left > left.zero() && !isInterrupted();
     if (!isHeld_) return;
-    std::this_thread::sleep_for(std::min<std::chrono::nanoseconds>(left, kPause));
+    JobLoop::Pause(std::min(end, std::chrono::steady_clock::now() + kPause));
   }
 }
 

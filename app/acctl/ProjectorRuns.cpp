@@ -1,7 +1,7 @@
 #include "app/acctl/ProjectorRuns.h"
 
 #include <algorithm>
-#include <thread>
+#include <numeric>
 #include <unistd.h>
 #include <utility>
 
@@ -12,7 +12,10 @@
 #include "app/acctl/Password.h"
 #include "app/acctl/ProfileTables.h"
 #include "app/acctl/Signals.h"
+#include "app/acctl/Simulated.h"
 #include "device/Connect.h"
+#include "fleet/JobChannel.h"
+#include "fleet/MakeVisit.h"
 
 namespace {
 
@@ -59,8 +62,8 @@ std::optional<ProjectorAddress> PresentAddress(const FleetProfile& profile, cons
 
 std::shared_ptr<ProjectorChannel> ChannelTo(const FleetProfile& profile,
                                             const std::optional<ProjectorAddress>& address,
-                                            std::chrono::milliseconds timeOut) {
-  if (address) return MakeUnboundedChannel(*address, timeOut);
+                                            const Work& work) {
+  if (address) return MakeJobChannel(*work.loop, *address, work.arguments.connecting.timeOut);
   return std::make_shared<SimulatedProjector>(SimulatedModelOf(profile));
 }
 
@@ -68,7 +71,7 @@ void Connect(const Work& work, const FleetProfile& profile,
              const std::optional<ProjectorAddress>& address, OpenProjector& open) {
   const auto timeOut = work.arguments.connecting.timeOut;
   if (open.access) return;
-  open.access.emplace(profile, ChannelTo(profile, address, timeOut), timeOut,
+  open.access.emplace(profile, ChannelTo(profile, address, work), timeOut,
                       work.models->Share(profile));
   open.access->AskForInputs(InputsNeededBy(work, TargetOf(*open.access)));
 }
@@ -83,14 +86,6 @@ int NameWidth(const Projectors& projectors, const Arguments& arguments) {
 }
 
 }  // namespace
-
-bool IsSimulated(const FleetProfile& profile, const Arguments& arguments) {
-  return arguments.connecting.address.empty() && profile.link == ProjectorLink::Simulated;
-}
-
-bool IsSimulatedHere(const FleetProfile& profile, const Work& work) {
-  return IsSimulated(profile, work.arguments) && !work.served.contains(profile.name);
-}
 
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
                                                const std::string& password) {
@@ -162,10 +157,27 @@ Report ProjectorRuns::Act(int number, const Step& step) {
   for (int retry = 0; retry < work_.arguments.connecting.retries; ++retry) {
     const bool isSilent = attempt.report.code == ExitCode::NoAnswer && !attempt.lacksPassword;
     if (!isSilent || !attempt.mayRepeat || work_.isInterrupted()) break;
-    std::this_thread::sleep_for(kPause);
+    JobLoop::Pause(std::chrono::steady_clock::now() + kPause);
     attempt = TryWithPassword(number, step);
   }
   return std::move(attempt.report);
+}
+
+std::vector<int> ProjectorRuns::All() const {
+  std::vector<int> numbers(projectors_.size());
+  std::iota(numbers.begin(), numbers.end(), 0);
+  return numbers;
+}
+
+void ProjectorRuns::RunOn(const std::vector<int>& numbers, const ParallelWork& work) {
+  std::vector<VisitQueue::Address> addresses;
+  for (const int number : numbers) {
+    const auto address = PresentAddress(Profile(number), work_, {});
+    // Those that are simulated here have no address; each can be worked on.
+    addresses.push_back(address ? PlaceOf({.id = {}, .address = *address})
+                                : VisitQueue::Address{'#' + std::to_string(number), 0});
+  }
+  RunParallel(*work_.loop, addresses, JobsOf(work_.arguments), meter_, work);
 }
 
 void ProjectorRuns::Add(const Problem& problem) {
@@ -196,24 +208,23 @@ bool ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
                   true};
   Projectors meeting;
   std::vector<int> numbers;
-  RunParallel(
-      Count(), JobsOf(work_.arguments), meter_,
-      [&](int number) {
-        if (auto report = NotBegun()) return std::move(*report);
-        Report report = Act(number, step);
-        if (report.code != ExitCode::Done) hasFailed_ = true;
-        return report;
-      },
-      [&](int number, Report report) {
-        if (report.json[kMeets].toBool()) {
-          meeting.push_back(&Profile(number));
-          numbers.push_back(number);
-        } else if (report.code != ExitCode::Done) {
-          report.json.remove(kMeets);
-          code_ = std::max(code_, report.code);
-          printer_.Add(Profile(number).name, IsSimulated(Profile(number), work_.arguments), report);
-        }
-      });
+  RunOn(All(), {[&](int number) {
+                  if (auto report = NotBegun()) return std::move(*report);
+                  Report report = Act(number, step);
+                  if (report.code != ExitCode::Done) hasFailed_ = true;
+                  return report;
+                },
+                [&](int number, Report report) {
+                  if (report.json[kMeets].toBool()) {
+                    meeting.push_back(&Profile(number));
+                    numbers.push_back(number);
+                  } else if (report.code != ExitCode::Done) {
+                    report.json.remove(kMeets);
+                    code_ = std::max(code_, report.code);
+                    printer_.Add(Profile(number).name,
+                                 IsSimulated(Profile(number), work_.arguments), report);
+                  }
+                }});
   const bool areAll = meeting.size() == projectors_.size();
   open_.Renumber(numbers);
   projectors_ = std::move(meeting);
@@ -246,15 +257,21 @@ Report ProjectorRuns::RunOne(int number, const std::vector<std::optional<Report>
 void ProjectorRuns::RunOnAll() {
   const Arguments& arguments = work_.arguments;
   if (Count() == 0) return;
-  const auto checked = CheckWords(work_, projectors_, models_, meter_, [&](int number) {
-    return Act(number, {CheckByAsking, true});
-  });
-  RunParallel(
-      Count(), JobsOf(arguments), meter_, [&](int number) { return RunOne(number, checked); },
-      [&](int number, const Report& report) {
-        code_ = std::max(code_, report.code);
-        printer_.Add(Profile(number).name, IsSimulated(Profile(number), arguments), report);
+  const auto checked = CheckWords(
+      work_, projectors_, models_, [&](const std::vector<int>& numbers, const auto& handOver) {
+        const auto numberOf = [&](int turn) { return numbers[static_cast<std::size_t>(turn)]; };
+        RunOn(numbers,
+              {[&](int turn) {
+                 return Act(numberOf(turn), {CheckByAsking, true});
+               },
+               [&](int turn, Report report) { handOver(numberOf(turn), std::move(report)); }});
       });
+  RunOn(All(), {[&](int number) { return RunOne(number, checked); },
+                [&](int number, const Report& report) {
+                  code_ = std::max(code_, report.code);
+                  printer_.Add(Profile(number).name, IsSimulated(Profile(number), arguments),
+                               report);
+                }});
 }
 
 void ProjectorRuns::Run() {

@@ -12,13 +12,6 @@
 #include "app/acctl/Preflight.h"
 #include "app/acctl/Printer.h"
 
-/// Whether a projector is only simulated: by a simulator program that serves it, or else here.
-bool IsSimulated(const FleetProfile& profile, const Arguments& arguments);
-
-/// Whether this program itself simulates the projector, so that no change lasts longer than the
-/// run.
-bool IsSimulatedHere(const FleetProfile& profile, const Work& work);
-
 /// Opens a projector without waiting for others; null if another run of the program uses it.
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
                                                const std::string& password);
@@ -58,6 +51,9 @@ class ProjectorRuns {
   Report Act(int number, const Step& step);
   Attempt Try(int number, const Step& step, const std::string& password);
   Attempt TryWithPassword(int number, const Step& step);
+  std::vector<int> All() const;
+  /// Works on the projectors with these numbers at once; the work gets their places in the list.
+  void RunOn(const std::vector<int>& numbers, const ParallelWork& work);
   Report RunOne(int number, const std::vector<std::optional<Report>>& checked);
   void RunOnAll();
   /// The report of a projector that is not begun because of --fail-fast or because the run was

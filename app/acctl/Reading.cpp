@@ -107,7 +107,7 @@ void ReadInto(const Work& work, ProjectorAccess& projector,
     CPjtInterface& connection = projector.Connection();
     if (const auto value = projector.Settings().Read(connection, *setting, source)) {
       values.Add(*setting, *value, connection.Power());
-      if (IsPower(*setting)) power = StateOf(*value, projector);
+      if (setting->IsPower()) power = StateOf(*value, projector);
     } else if (const auto& channel = projector.Channel();
                !channel.HasAnswered() || (!channel.IsOffered() && IsNamed(work, *setting))) {
       report.Add(FailureOf(projector,

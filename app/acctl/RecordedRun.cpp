@@ -58,9 +58,6 @@ RecordedRun ParseRun(const QByteArray& text, const QString& path) {
     run.undo = std::move(job.undo);
     if (!job.error.isEmpty()) run.error = path + QStringLiteral(": ") + job.error;
   }
-  if (run.error.isEmpty() && run.undo.empty()) {
-    run.error = Acctl::tr("%1: there is nothing to undo").arg(path);
-  }
   return run;
 }
 

@@ -14,7 +14,7 @@ struct RecordedRun {
   std::string time{};     ///< ISO 8601, UTC.
   std::string command{};  ///< As it was typed, without passwords.
   std::string address{};  ///< Of --connect; empty without.
-  SnapshotsById undo{};
+  SnapshotsById undo{};   ///< Empty if nothing that the run changed can be restored.
   bool isUndo = false;    ///< The run was itself an undo.
   bool isUndone = false;  ///< The whole run was undone.
   bool isOfJob = false;   ///< The host application wrote the file.

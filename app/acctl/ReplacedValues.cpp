@@ -8,9 +8,17 @@ bool KeepUndo(const Work& work, const std::string& projector, const Snapshot& un
   return id == work.undoIds.end() || work.undo->Keep(id->second, undo);
 }
 
+void KeepRun(const Work& work, const std::string& projector) {
+  if (work.undoIds.contains(projector)) work.undo->KeepRun();
+}
+
 void ReplacedValues::Keep(const ModelSetting& setting, std::optional<int> before,
                           std::optional<int> aim, std::optional<int> source) {
-  if (!setting.Restorable() || !before || before == aim) return;
+  if (before && before == aim) return;
+  if (!setting.Restorable() || !before) {
+    KeepRun(work_, projector_.Name());
+    return;
+  }
   const auto saved = [&](int value) {
     return SavedSetting{.key = std::string(setting.key),
                         .value = value,

@@ -33,3 +33,6 @@ class ReplacedValues {
 /// Records what a run replaces on a projector. Returns whether that is on the disk, or need not be
 /// because the change does not outlast the run.
 bool KeepUndo(const Work& work, const std::string& projector, const Snapshot& undo);
+
+/// Records that a run changes something on a projector that cannot be restored.
+void KeepRun(const Work& work, const std::string& projector);

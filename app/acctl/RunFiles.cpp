@@ -104,6 +104,12 @@ std::string PathIn(const QDir& folder, const std::string& projector,
   }
 }
 
+/// Why a run cannot be undone; empty if it can.
+QString ObstacleOf(const RecordedRun& run) {
+  const bool isEmpty = run.error.isEmpty() && run.undo.empty();
+  return isEmpty ? Acctl::tr("%1: there is nothing to undo").arg(run.path) : run.error;
+}
+
 }  // namespace
 
 std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
@@ -156,7 +162,7 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
   const bool isLast = arguments.file.empty() || arguments.file == kLastRun;
   if (!isLast && QFileInfo::exists(Wide(arguments.file))) {
     run = ReadRun(Wide(arguments.file));
-    return run.error.toStdString();
+    return ObstacleOf(run).toStdString();
   }
   std::vector<RecordedRun> runs = ListRuns(UndoFolderOf(arguments));
   std::ranges::reverse(runs);
@@ -165,16 +171,15 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run) {
     // One that cannot be read may be the last run.
     return !recorded.error.isEmpty() || (!recorded.isUndo && !recorded.isUndone);
   });
-  if (found != runs.end() && !found->error.isEmpty()) {
-    return isLast ? Message(Acctl::tr("%1; name an earlier run to undo that one"), found->error)
-                  : found->error.toStdString();
+  if (found == runs.end()) {
+    return isLast ? Message(Acctl::tr("there is no run to undo"))
+                  : Message(Acctl::tr("there is no run '%1'; --list shows them"), arguments.file);
   }
-  if (found != runs.end()) {
-    run = std::move(*found);
-    return {};
-  }
-  return isLast ? Message(Acctl::tr("there is no run to undo"))
-                : Message(Acctl::tr("there is no run '%1'; --list shows them"), arguments.file);
+  run = std::move(*found);
+  const QString obstacle = ObstacleOf(run);
+  return isLast && !obstacle.isEmpty()
+             ? Message(Acctl::tr("%1; name an earlier run to undo that one"), obstacle)
+             : obstacle.toStdString();
 }
 
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,

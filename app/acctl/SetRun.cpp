@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <thread>
 #include <utility>
 
 #include "app/acctl/Message.h"
@@ -111,6 +110,7 @@ void SetRun::Make(Result& result) {
 
 void SetRun::MakeSteps(Result& result) {
   const int wanted = result.change->typed.amount;
+  KeepRun(work_, projector_.Name());
   const CPjtInterface::Tally before = projector_.Connection().Sent();
   const int done = projector_.StepUnread(*result.change->setting, wanted,
                                          [this] { return !work_.isInterrupted(); });
@@ -160,7 +160,7 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
                 ExitCode::Done);
   }
   const bool isAnswered = projector_.Channel().HasAnswered();
-  // If it does not answer any more, nobody knows.
+  // If the projector does not answer any more, the outcome is unknown.
   if (after.pending > before.pending && isAnswered) {
     return Fail(result, "pending", ProblemCode::Pending,
                 result.now ? Message(Acctl::tr("accepted, but not so yet, it is %1"), now)
@@ -224,7 +224,7 @@ void SetRun::WaitForEffect(std::chrono::milliseconds time) {
     return mayCome && result.change->setting->readable && !IsInEffect(result);
   };
   while (progress.goesOn() && std::ranges::any_of(results_, isAwaited) && Clock::now() < end) {
-    std::this_thread::sleep_for(kStep);
+    JobLoop::Pause(Clock::now() + kStep);
     if (Clock::now() < next) continue;
     next = Clock::now() + work_.arguments.interval;
     for (Result& result : results_) {

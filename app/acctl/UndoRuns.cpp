@@ -93,6 +93,11 @@ bool UndoRecorder::Keep(const std::string& id, const Snapshot& undo) {
   return file_ < 0 ? Create(line) : Append(line);
 }
 
+void UndoRecorder::KeepRun() {
+  const std::lock_guard lock(mutex_);
+  if (file_ < 0) Create({});
+}
+
 bool UndoRecorder::Create(const QByteArray& line) {
   QDir().mkpath(folder_);
   RemoveOlder(folder_, days_);

@@ -33,6 +33,9 @@ class UndoRecorder {
   /// Keeps what a change of the projector with the identity `id` replaces. Returns whether it is on
   /// the disk.
   bool Keep(const std::string& id, const Snapshot& undo);
+  /// Makes the file of a run that changes what cannot be restored, so that `undo` does not take an
+  /// earlier run for the last one.
+  void KeepRun();
 
   /// Empty while nothing is kept.
   QString Path() const;

@@ -54,7 +54,7 @@ bool Target::OnlySteps(const ModelSetting& setting) const {
 }
 
 bool Target::LacksEntries(const ModelSetting& setting) const {
-  return TellsInputs() && setting.kind == ModelSetting::Kind::Choice && setting.entries.empty();
+  return ReportsInputs() && setting.kind == ModelSetting::Kind::Choice && setting.entries.empty();
 }
 
 bool IsPjLink(const FleetProfile& profile, const Arguments& arguments) {

@@ -24,7 +24,7 @@ struct Target {
   bool isPjLink = false;
 
   /// Whether only the projector itself can say which inputs it has.
-  bool TellsInputs() const { return isPjLink && settings.Model().MySourceList.Size() == 0; }
+  bool ReportsInputs() const { return isPjLink && settings.Model().MySourceList.Size() == 0; }
   /// Whether the protocol has what this use of the setting needs.
   bool Carries(const Use& use, const ModelSetting& setting) const;
   /// Whether the protocol can step the setting, but neither read nor set it.

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cctype>
 
-#include "device/CommandCode.h"
-
 namespace {
 
 bool IsAsciiLetterOrDigit(unsigned char letter) { return letter < 0x80 && std::isalnum(letter); }
@@ -29,11 +27,6 @@ bool IsNumber(std::string_view text) {
 }
 
 }  // namespace
-
-bool IsPower(const ModelSetting& setting) {
-  const auto* const state = std::get_if<StateRow>(setting.row);
-  return state != nullptr && state->read.code == CommandCode::RunningState;
-}
 
 const char* CodeOf(PowerState power) {
   switch (power) {
@@ -61,7 +54,7 @@ std::string ValueTexts::EntryCode(const ModelSetting& setting, const ListEntry& 
 
 std::string ValueTexts::Code(const ModelSetting& setting, int value,
                              std::optional<PowerState> power) const {
-  if (IsPower(setting)) return WordOf(english_.Value(setting, value, power));
+  if (setting.IsPower()) return WordOf(english_.Value(setting, value, power));
   const auto entry = std::ranges::find(setting.entries, value, &ListEntry::value);
   if (entry != setting.entries.end()) return EntryCode(setting, *entry);
   const std::string word = WordOf(english_.Value(setting, value));
@@ -73,7 +66,7 @@ std::string ValueTexts::Code(const ModelSetting& setting, int value,
 std::optional<TypedValue> ValueTexts::Parse(const ModelSetting& setting,
                                             std::string_view text) const {
   if (auto typed = shown_.Parse(setting, text)) return typed;
-  if (IsPower(setting) && text == "off") return TypedValue{0};
+  if (setting.IsPower() && text == "off") return TypedValue{0};
   for (const ListEntry& entry : setting.entries) {
     if (EntryCode(setting, entry) == text) return TypedValue{entry.value};
   }

@@ -31,8 +31,5 @@ class ValueTexts {
   const SettingTexts& english_;
 };
 
-/// Whether this is the power state, as a state or as a switch.
-bool IsPower(const ModelSetting& setting);
-
 /// The code of a power state: "standby", "on", "cooling-down" or "warming-up".
 const char* CodeOf(PowerState power);

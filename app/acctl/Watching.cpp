@@ -1,10 +1,7 @@
 #include "app/acctl/Watching.h"
 
 #include <algorithm>
-#include <atomic>
 #include <map>
-#include <mutex>
-#include <thread>
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -14,6 +11,7 @@
 #include "app/acctl/Output.h"
 #include "app/acctl/ProjectorRuns.h"
 #include "app/acctl/Reading.h"
+#include "app/acctl/Simulated.h"
 
 namespace {
 
@@ -41,27 +39,22 @@ std::string RestingText(const std::string& problem, PowerState power) {
              : Message(Acctl::tr("%1, the projector is cooling down"), problem);
 }
 
-/// What the threads of all projectors share.
+/// What the watches of all projectors share.
 struct Shared {
   const Work& work;
   const std::vector<Condition>& conditions;  ///< Of --where.
   std::optional<Condition> until;
   std::optional<Clock::time_point> end;
-  std::mutex mutex{};  ///< For the output and the code.
-  std::atomic<bool> isReaderGone = false;
+  bool isReaderGone = false;
   int code = ExitCode::Done;
 
   bool GoesOn() const {
     return !work.isInterrupted() && !isReaderGone && (!end || Clock::now() < *end);
   }
   void Write(const std::string& text) {
-    const std::lock_guard lock(mutex);
     if (!isReaderGone && !Print(text)) isReaderGone = true;
   }
-  void Fail(int exitCode) {
-    const std::lock_guard lock(mutex);
-    code = std::max(code, exitCode);
-  }
+  void Fail(int exitCode) { code = std::max(code, exitCode); }
 };
 
 class ProjectorWatch {
@@ -104,7 +97,7 @@ class ProjectorWatch {
         !shared_.until || std::ranges::find(words, shared_.until->key) != words.end();
     if (!isWatched) words.push_back(shared_.until->key);
     const auto chosen = Chosen(TargetOf(projector), kRead, words, work.isForSeveral, lacks);
-    if (!std::exchange(isBegun_, true)) TellLacks(lacks);
+    if (!std::exchange(isBegun_, true)) ReportLacks(lacks);
     isFinished_ = isFinished_ || chosen.empty();
     if (isFinished_) return;
     const Progress progress = ProgressOf(work, projector);
@@ -138,7 +131,7 @@ class ProjectorWatch {
   }
 
   /// What this projector does not have is never reached.
-  void TellLacks(const Report& lacks) {
+  void ReportLacks(const Report& lacks) {
     for (const Problem& problem : lacks.problems) {
       Add(problem);
       if (shared_.until && problem.key == shared_.until->key) isFinished_ = true;
@@ -216,11 +209,9 @@ class ProjectorWatch {
   }
 
   void Wait(std::chrono::milliseconds time) const {
-    constexpr std::chrono::milliseconds kStep{20};
     const auto end = Clock::now() + time;
     while (shared_.GoesOn() && Clock::now() < end) {
-      std::this_thread::sleep_for(kStep);
-      if (!HasReader()) shared_.isReaderGone = true;
+      JobLoop::Pause(shared_.end ? std::min(end, *shared_.end) : end);
     }
   }
 
@@ -237,9 +228,8 @@ class ProjectorWatch {
 
 /// Reports words that are wrong for a projector. Returns whether there are any.
 bool HasWrongWords(const Work& work, const Projectors& projectors, ModelCache& models) {
-  Meter meter(false, 0);
   Printer printer(work.arguments, 0);
-  const auto checked = CheckWords(work, projectors, models, meter, [](int) { return Report(); });
+  const auto checked = CheckWords(work, projectors, models, [](const auto&, const auto&) {});
   bool isWrong = false;
   for (std::size_t i = 0; i < projectors.size(); ++i) {
     if (!checked[i]) continue;
@@ -277,12 +267,19 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models,
     width = std::max(width,
                      DisplayWidth(ShownName(profile->name, IsSimulated(*profile, work.arguments))));
   }
-  {
-    std::vector<std::jthread> threads;
-    for (const FleetProfile* profile : projectors) {
-      threads.emplace_back(
-          [&shared, profile, width] { ProjectorWatch(shared, *profile, width).Run(); });
+  constexpr std::chrono::milliseconds kLook{20};
+  std::size_t watched = projectors.size();
+  work.loop->Run(projectors.size() + 1, [&](std::size_t number) {
+    if (number < projectors.size()) {
+      ProjectorWatch(shared, *projectors[number], width).Run();
+      --watched;
+      return;
     }
-  }
+    while (watched > 0 && shared.GoesOn()) {
+      JobLoop::Pause(Clock::now() + kLook);
+      if (!HasReader()) shared.isReaderGone = true;
+    }
+    work.loop->WakeAll();
+  });
   return shared.isReaderGone ? ExitCode::Refused : shared.code;
 }

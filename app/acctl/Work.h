@@ -12,6 +12,7 @@
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/SimulatorNotice.h"
 #include "fleet/FleetProfile.h"
+#include "fleet/JobLoop.h"
 #include "snapshots/Snapshot.h"
 
 class ModelCache;
@@ -45,5 +46,6 @@ struct Work {
   std::string password{};                    ///< Of PJLink projectors whose profile has none.
   ModelCache* models = nullptr;              ///< Null if no projector is asked.
   UndoRecorder* undo = nullptr;              ///< Null if the command changes nothing.
+  JobLoop* loop = nullptr;                   ///< Waits for the projectors; null as `models`.
   std::function<bool()> isInterrupted;
 };

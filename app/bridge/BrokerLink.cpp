@@ -6,6 +6,12 @@
 
 #include "app/bridge/Log.h"
 
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+}  // namespace
+
 BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
                        std::chrono::milliseconds takeover, Publisher::Make make,
                        std::size_t projectors, Services services)
@@ -13,11 +19,10 @@ BrokerLink::BrokerLink(const BrokerAddress& address, const Topics& topics,
       topics_(topics),
       services_(std::move(services)),
       instance_(QUuid::createUuid().toByteArray(QUuid::WithoutBraces)),
-      takeover_(takeover),
-      ticked_(Now()),
-      keeper_(instance_.toStdString(), takeover, ticked_),
+      hang_(takeover, Clock::now()),
+      keeper_(instance_.toStdString(), takeover, Clock::now()),
       publisher_(projectors, std::move(make), [this](const BrokerMessage& message) {
-        return HasHung() ? std::nullopt : session_->Publish(message);
+        return hang_.HasHung(Clock::now()) ? std::nullopt : session_->Publish(message);
       }) {
   connecting_.setSingleShot(true);
   QObject::connect(&connecting_, &QTimer::timeout, &connecting_, [this] {
@@ -37,6 +42,8 @@ QString BrokerLink::Start() {
   Connect();
   return session_->Error();
 }
+
+bool BrokerLink::MayAsk() const { return keeper_.MayAsk(Clock::now()); }
 
 /// Makes a connection for the present role, in place of the one that is there.
 void BrokerLink::Connect() {
@@ -69,9 +76,15 @@ void BrokerLink::ConnectAgain(std::chrono::milliseconds pause) {
 
 void BrokerLink::Take(const BrokerMessage& message) {
   if (isClosing_) return;
-  if (HasHung()) Tick();
+  if (hang_.HasHung(Clock::now())) Tick();
   if (message.topic == topics_.Hello()) {
-    TakeHello(message.payload);
+    if (message.payload == instance_) {
+      keeper_.TakeHello();
+    } else if (keeper_.IsSettled()) {
+      Log(QStringLiteral("another bridge has the same share, and should stand back"));
+      const bool sentBefore = keeper_.TakeOtherHello(message.payload.toStdString());
+      if (sentBefore) publisher_.Forget(Publisher::Kind::State);
+    }
   } else if (message.topic == topics_.Holder()) {
     if (const auto claim = ParseClaim(message.payload)) keeper_.TakeClaim(*claim);
   } else if (message.topic == topics_.Availability()) {
@@ -83,15 +96,6 @@ void BrokerLink::Take(const BrokerMessage& message) {
     services_.received(message);
   }
   Tick();
-}
-
-void BrokerLink::TakeHello(const QByteArray& instance) {
-  if (instance == instance_) return keeper_.TakeHello();
-  if (!keeper_.IsSettled()) return;
-  Log(QStringLiteral("another bridge has the same share, and should stand back"));
-  if (!keeper_.TakeOtherHello(instance.toStdString())) return;
-  // Its states are those of the time before it hung.
-  publisher_.Forget(Publisher::Kind::State);
 }
 
 void BrokerLink::FollowRole() {
@@ -110,7 +114,7 @@ void BrokerLink::FollowRole() {
   }
 }
 
-/// The share is ours, and the broker has told what it knows.
+/// Called when the share is ours and the broker has sent its retained messages.
 void BrokerLink::Settle() {
   session_->SayOnline();
   for (const QByteArray& topic : services_.topics) session_->Subscribe(topic);
@@ -124,11 +128,12 @@ void BrokerLink::Settle() {
 
 void BrokerLink::Tick() {
   // Another bridge may have the share by now, and commands that came meanwhile are old.
-  if (HasHung() && isSettled_) ConnectAgain({});
-  ticked_ = Now();
-  keeper_.Tick(ticked_);
+  const auto now = Clock::now();
+  if (hang_.HasHung(now) && isSettled_) ConnectAgain({});
+  hang_.Live(now);
+  keeper_.Tick(now);
   if (isSettled_) {
-    if (const auto claim = keeper_.TakeBeat(ticked_)) Publish(*claim);
+    if (const auto claim = keeper_.TakeBeat(now)) Publish(*claim);
   }
   FollowRole();
 }

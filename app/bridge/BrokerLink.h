@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include "app/bridge/BrokerSession.h"
+#include "app/bridge/HangWatch.h"
 #include "app/bridge/Publisher.h"
 #include "app/bridge/ShareKeeper.h"
 #include "app/bridge/Topics.h"
@@ -41,19 +42,14 @@ class BrokerLink {
   void Tick();
 
   Publisher& Messages() { return publisher_; }
-  const Publisher& Messages() const { return publisher_; }
   bool IsConnected() const { return session_->IsConnected(); }
-  bool MayAsk() const { return keeper_.MayAsk(Now()); }
+  bool MayAsk() const;
 
  private:
-  static ShareKeeper::Time Now() { return std::chrono::steady_clock::now(); }
-  /// Whether this process has done nothing for so long that another one may have taken over.
-  bool HasHung() const { return Now() - ticked_ >= takeover_; }
   void Connect();
   void TakeConnected();
   void ConnectAgain(std::chrono::milliseconds pause);
   void Take(const BrokerMessage& message);
-  void TakeHello(const QByteArray& instance);
   void FollowRole();
   void Settle();
   void Publish(const Claim& claim);
@@ -62,8 +58,7 @@ class BrokerLink {
   const Topics topics_;
   const Services services_;
   const QByteArray instance_;
-  const std::chrono::milliseconds takeover_;
-  ShareKeeper::Time ticked_;
+  HangWatch hang_;  ///< For so long that another bridge may have taken over.
   ShareKeeper keeper_;
   Publisher publisher_;
   bool holds_ = false;      ///< What the present connection is for.

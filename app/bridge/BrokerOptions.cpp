@@ -23,7 +23,7 @@ std::optional<BrokerAddress> BrokerOptions::Read(const QCommandLineParser& parse
   if (broker.usesTls) broker.port = kTlsPort;
   const auto place = HostAndPort(parser.value(broker_), static_cast<quint16>(broker.port));
   if (!place || place->second == 0)
-    ThrowWrong(parser, broker_, BridgeOptions::tr("'%1' is no host with a port"));
+    ThrowWrong(parser, broker_, BridgeOptions::tr("'%1' is not a host with a port"));
   broker.host = place->first;
   broker.port = place->second;
   const QString version = parser.value(mqtt_);

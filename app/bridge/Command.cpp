@@ -88,7 +88,7 @@ QString CheckCommand(const Command& command, const ModelSettings& settings,
   using Kind = ModelSetting::Kind;
   const bool isAction = setting->kind == Kind::Action;
   if (isAction && setting->entries.empty()) return {};
-  // A PJLink projector tells its inputs when it is asked.
+  // The inputs of a PJLink projector are only known after asking it.
   if (setting->SelectsInput() && setting->entries.empty()) return {};
   if (!isAction && !setting->changeable) return key + " cannot be set";
   const auto typed = texts.Parse(*setting, command.value);

@@ -33,6 +33,7 @@ void CommandRunner::Begin() {
     waiting_.erase(next);
     FleetJob::Options options;
     options.atOnce = 1;
+    options.turn = AddressHold::Turn::Next;
     // Called on the job's thread.
     options.onProgress = [this, projector = begun.projector] {
       QMetaObject::invokeMethod(

@@ -12,7 +12,7 @@
 #include "snapshots/SettingTexts.h"
 
 /// Checks once a day how many settings of each projector differ from its snapshot, a few projectors
-/// at a time, and tells the fleet. Lives on the main thread.
+/// at a time, and reports it to the fleet. Lives on the main thread.
 class DriftCheck {
  public:
   /// The snapshot that a profile names "good" is `folder`/good.json. `fleet` and `texts` must

@@ -88,7 +88,7 @@ std::chrono::milliseconds Reader::Seconds(const QCommandLineOption& option, doub
   const double seconds = parser_.value(option).toDouble(&isNumber);
   if (!isNumber || !(seconds >= least && seconds <= kLongest)) {
     ThrowWrong(parser_, option,
-               BridgeOptions::tr("'%1' is no time from %2 seconds to a day")
+               BridgeOptions::tr("'%1' is not a time from %2 seconds to a day")
                    .arg(QStringLiteral("%1"), QString::number(least)));
   }
   return std::chrono::milliseconds(std::lround(1000 * seconds));
@@ -99,7 +99,7 @@ QByteArray Reader::Prefix(const QCommandLineOption& option) const {
   const QString text = parser_.value(option);
   for (const QString& level : text.split('/')) {
     if (level.isEmpty() || level.contains('+') || level.contains('#')) {
-      ThrowWrong(parser_, option, BridgeOptions::tr("'%1' is no topic"));
+      ThrowWrong(parser_, option, BridgeOptions::tr("'%1' is not a topic"));
     }
   }
   return text.toUtf8();
@@ -107,7 +107,7 @@ QByteArray Reader::Prefix(const QCommandLineOption& option) const {
 
 Share Reader::ReadShare() const {
   auto share = ParseShare(parser_.value(share_).toStdString());
-  if (!share) ThrowWrong(parser_, share_, BridgeOptions::tr("'%1' is no share such as 2/5"));
+  if (!share) ThrowWrong(parser_, share_, BridgeOptions::tr("'%1' is not a share such as 2/5"));
   for (const QString& tag : parser_.values(tags_)) share->tags.push_back(tag.toStdString());
   return *share;
 }
@@ -118,7 +118,7 @@ void Reader::ReadListener(Options& options) const {
   if (!options.listens) return;
   const auto place = HostAndPort(parser_.value(listen_), options.listenPort);
   if (!place || !options.listenAddress.setAddress(place->first)) {
-    ThrowWrong(parser_, listen_, BridgeOptions::tr("'%1' is no numeric address with a port"));
+    ThrowWrong(parser_, listen_, BridgeOptions::tr("'%1' is not a numeric address with a port"));
   }
   options.listenPort = place->second;
 }
@@ -132,7 +132,7 @@ CommandDesk::Rules Reader::ReadCommands() const {
       const auto allows = [&rules](std::string_view known) { return rules.Allows(known); };
       if (rules.Allows(kPowerKey) || std::ranges::any_of(AllKeys(), allows)) continue;
       throw WrongOption{
-          BridgeOptions::tr("--allow-commands: '%1' is no setting that may be commanded")
+          BridgeOptions::tr("--allow-commands: '%1' is not a setting that may be commanded")
               .arg(key.trimmed())};
     }
   }
@@ -140,7 +140,7 @@ CommandDesk::Rules Reader::ReadCommands() const {
   const int perMinute = parser_.value(perMinute_).toInt();
   if (perMinute < 1 || perMinute > kMost) {
     ThrowWrong(parser_, perMinute_,
-               BridgeOptions::tr("'%1' is no number from 1 to %2")
+               BridgeOptions::tr("'%1' is not a number from 1 to %2")
                    .arg(QStringLiteral("%1"), QString::number(kMost)));
   }
   return {.keys = KeyRules(std::move(keys)),
@@ -170,11 +170,11 @@ Options Reader::Read(const QStringList& arguments) {
   constexpr double kShortestInterval = 5;
   options.interval = Seconds(interval_, kShortestInterval);
   if (parser_.isSet(notices_) && !options.notices.setAddress(parser_.value(notices_))) {
-    ThrowWrong(parser_, notices_, BridgeOptions::tr("'%1' is no numeric address"));
+    ThrowWrong(parser_, notices_, BridgeOptions::tr("'%1' is not a numeric address"));
   }
   options.snapshots = parser_.value(compare_);
   if (parser_.isSet(compare_) && !QDir(options.snapshots).exists()) {
-    ThrowWrong(parser_, compare_, BridgeOptions::tr("'%1' is no folder"));
+    ThrowWrong(parser_, compare_, BridgeOptions::tr("'%1' is not a folder"));
   }
   ReadListener(options);
   options.broker = broker_.Read(parser_);

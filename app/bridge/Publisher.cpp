@@ -61,7 +61,10 @@ void Publisher::Sent(int number) {
   Pump();
 }
 
-bool Publisher::HasDue() const { return !std::ranges::all_of(messages_, &DueMessages::IsEmpty); }
+bool Publisher::IsIdle() const {
+  return underWay_.empty() && answers_.empty() &&
+         std::ranges::all_of(messages_, &DueMessages::IsEmpty);
+}
 
 void Publisher::Pump() {
   while (isOpen_ && underWay_.size() < kUnderWay) {

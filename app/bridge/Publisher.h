@@ -46,7 +46,7 @@ class Publisher {
   void Sent(int number);
 
   std::size_t UnderWay() const { return underWay_.size(); }
-  bool IsIdle() const { return underWay_.empty() && answers_.empty() && !HasDue(); }
+  bool IsIdle() const;
   /// How many messages the broker has got, by kind.
   const std::map<std::string, std::uint64_t>& Counts() const { return counts_; }
 
@@ -57,7 +57,6 @@ class Publisher {
     BrokerMessage answer{};
   };
 
-  bool HasDue() const;
   DueMessages& Of(Kind kind) { return messages_.at(static_cast<std::size_t>(kind)); }
   void Pump();
   bool SendNext(Kind kind);

@@ -37,7 +37,7 @@ std::optional<Claim> ParseClaim(const QByteArray& message) {
 }
 
 ShareKeeper::ShareKeeper(std::string instance, std::chrono::milliseconds takeover, Time now)
-    : instance_(std::move(instance)), takeover_(takeover), begun_(now), ticked_(now) {}
+    : takeover_(takeover), begun_(now), own_{.instance = std::move(instance)}, ticked_(now) {}
 
 void ShareKeeper::Connected() {
   isConnected_ = true;
@@ -48,7 +48,7 @@ void ShareKeeper::Connected() {
 }
 
 void ShareKeeper::TakeClaim(const Claim& claim) {
-  if (claim.instance == instance_) {
+  if (claim.instance == own_.instance) {
     // Later ones may not have reached the broker before the connection broke.
     if (isSettled_) returned_ = claim.beat;
     if (!isSettled_) remembers_ = claim.beat >= returned_;
@@ -57,7 +57,7 @@ void ShareKeeper::TakeClaim(const Claim& claim) {
   if (!claim.isGivenUp) claimants_.insert(claim.instance);
   const bool isNews = claim > other_;
   if (isNews) other_ = claim;
-  if (hasClaimed_ && claim < Claim{term_, instance_, beat_}) {
+  if (hasClaimed_ && claim < own_) {
     beaten_.reset();  // so that the other one hears that it was replaced
     return;
   }
@@ -94,20 +94,17 @@ bool ShareKeeper::MayAsk(Time now) const {
          (role_ == Role::Looking && !isConnected_ && now - begun_ >= takeover_);
 }
 
-Claim ShareKeeper::NextClaim() {
-  if (!std::exchange(hasClaimed_, true)) term_ = other_.term + 1;
-  return {.term = term_, .instance = instance_, .beat = ++beat_};
-}
-
 std::optional<Claim> ShareKeeper::TakeBeat(Time now) {
   if (!IsSettled() || (beaten_ && now - *beaten_ < takeover_ / kBeats)) return {};
   beaten_ = now;
-  return NextClaim();
+  if (!std::exchange(hasClaimed_, true)) own_.term = other_.term + 1;
+  ++own_.beat;
+  return own_;
 }
 
 std::optional<Claim> ShareKeeper::GiveUp() {
-  if (!IsSettled()) return {};
-  Claim last = NextClaim();
-  last.isGivenUp = true;
+  beaten_.reset();
+  std::optional<Claim> last = TakeBeat(ticked_);
+  if (last) last->isGivenUp = true;
   return last;
 }

@@ -17,6 +17,7 @@ struct Claim {
   std::uint64_t beat = 0;  ///< Grows with each claim of the instance.
   bool isGivenUp = false;  ///< The last message of a holder that ends.
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): there is no pointer
   friend auto operator<=>(const Claim&, const Claim&) = default;
 };
 
@@ -75,9 +76,6 @@ class ShareKeeper {
   std::optional<Claim> GiveUp();
 
  private:
-  Claim NextClaim();
-
-  const std::string instance_;
   const std::chrono::milliseconds takeover_;
   const Time begun_;
   Role role_ = Role::Looking;
@@ -85,8 +83,7 @@ class ShareKeeper {
   bool isSettled_ = false;
   bool remembers_ = false;
   bool hasClaimed_ = false;  ///< In this term.
-  std::uint64_t term_ = 0;
-  std::uint64_t beat_ = 0;
+  Claim own_;
   std::uint64_t returned_ = 0;  ///< The last beat that the broker told back.
   std::optional<Time> beaten_{};
   Claim other_{};                      ///< The greatest one of any other bridge.

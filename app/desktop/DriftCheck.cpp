@@ -8,7 +8,7 @@
 
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/projectors/FleetWatch.h"
-#include "app/desktop/work/WorkRun.h"
+#include "app/desktop/work/WorkActions.h"
 #include "app/profiles/PresetFolder.h"
 
 namespace {
@@ -18,9 +18,9 @@ constexpr std::chrono::hours kEvery{1};
 
 }  // namespace
 
-DriftCheck::DriftCheck(const ProfileDocument& document, FleetWatch& watch,
-                       const SettingTexts& texts, QWidget& window)
-    : QObject(&window), document_(document), watch_(watch), texts_(texts), window_(window) {
+DriftCheck::DriftCheck(const ProfileDocument& document, FleetWatch& watch, const WorkActions& work,
+                       QWidget& window)
+    : QObject(&window), document_(document), watch_(watch), work_(work), window_(window) {
   connect(&timer_, &QTimer::timeout, this, [this] {
     timer_.setInterval(kEvery);
     CheckAll();
@@ -78,8 +78,8 @@ void DriftCheck::Check(const std::set<std::string>& ids) {
   }
   if (part.targets.empty()) return;
   part.work = std::move(compare);
-  auto* run = new WorkRun(watch_, texts_, {.title = {}, .question = {}, .parts = {std::move(part)}},
-                          &window_);
+  auto* run = new WorkRun(watch_, work_.Texts(),
+                          {.title = {}, .question = {}, .parts = {std::move(part)}}, &window_);
   connect(run, &WorkRun::Finished, this, [this, run] {
     Keep(*run);
     run->deleteLater();

@@ -7,23 +7,23 @@
 #include <QObject>
 #include <QTimer>
 
-#include "snapshots/SettingTexts.h"
 #include "snapshots/Snapshot.h"
 
 class FleetWatch;
 class ProfileDocument;
 class QWidget;
+class WorkActions;
 class WorkRun;
 
 /// Checks how many settings of the projectors differ from the presets that they should have, and
-/// tells the fleet: for all projectors a minute after the start and then every hour, and for some
-/// on request.
+/// reports it to the fleet: for all projectors a minute after the start and then every hour, and
+/// for some on request.
 class DriftCheck : public QObject {
   Q_OBJECT
 
  public:
   /// All arguments must outlive it. Checks under way belong to `window`.
-  DriftCheck(const ProfileDocument& document, FleetWatch& watch, const SettingTexts& texts,
+  DriftCheck(const ProfileDocument& document, FleetWatch& watch, const WorkActions& work,
              QWidget& window);
 
   /// Takes over which preset each projector should be like. What is known of the settings of those
@@ -47,7 +47,7 @@ class DriftCheck : public QObject {
 
   const ProfileDocument& document_;
   FleetWatch& watch_;
-  const SettingTexts& texts_;
+  const WorkActions& work_;
   QWidget& window_;
   QTimer timer_;
   std::map<std::string, std::string> presets_;  // by identity, of those that have one

@@ -41,7 +41,7 @@ ListPane::ListPane(FleetWatch& watch, QWidget* parent)
   // A splitter does not mirror its own margins, so a widget around it has them.
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(kGap, kGap, kGap, kGap);
-  layout->addWidget(sides_);
+  layout->addWidget(sides_, 1);
   connect(groups_, &GroupList::Chosen, this,
           [this](const ProjectorGroup& group) { view_->Model().SetGroup(group); });
   connect(view_, &ProjectorView::GroupLeft, this, [this] { groups_->Choose({}); });
@@ -189,4 +189,5 @@ void ListPane::Spread(int width) {
   const int left = groups_->sizeHint().width();
   const int right = DetailsWidth();
   sides_->setSizes({left, width - left - right, right});
+  view_->FitColumns(view_->UsualWidth() - (UsualWidth() - width));
 }

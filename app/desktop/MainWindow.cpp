@@ -40,7 +40,7 @@
 namespace {
 
 constexpr std::size_t kOpenedUnasked = 8;
-constexpr int kToldFor = 10'000;  // milliseconds
+constexpr int kMessageTime = 10'000;  // milliseconds
 
 /// The position of the projector that was selected last, or else of one that has settings on every
 /// tab; −1 if there is none.
@@ -77,6 +77,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
       editing_(new ProfileEditing(
           profiles_, [this] { return pane_->View().Selected(); }, *this)),
       presets_(new PresetActions({.selected = [this] { return pane_->Selected(); },
+                                  .tag = [this] { return pane_->View().Model().Group().tag; },
                                   .watch = live_->Watch(),
                                   .work = *work_,
                                   .document = profiles_,
@@ -132,7 +133,7 @@ void MainWindow::Connect() {
   statusBar()->addPermanentWidget(status);
   connect(pane_, &ListPane::Counted, status, &FleetSummary::Show);
   connect(work_, &WorkActions::Reported, this,
-          [this](const QString& text) { statusBar()->showMessage(text, kToldFor); });
+          [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
   connect(log_, &CommandLog::Updated, faults_, &FaultPanel::RefreshStates);
   connect(faults_, &FaultPanel::Changed, this,
           [this](const ProjectorSession* session) { live_->TakeSimulation(*session); });

@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QSettings>
 #include <QSpinBox>
 #include <QTimeEdit>
@@ -84,6 +85,11 @@ Preferences::Preferences(QSettings& settings, QWidget* parent)
   notifies_ = makeCheck(tr("Notify on the &desktop"), rules.notifies);
   quietFrom_ = new QTimeEdit(rules.quietFrom.isValid() ? rules.quietFrom : QTime(0, 0));
   quietTo_ = new QTimeEdit(rules.quietTo.isValid() ? rules.quietTo : QTime(0, 0));
+  // From right to left, minutes would stand before hours.
+  for (QTimeEdit* time : {quietFrom_, quietTo_}) {
+    time->setLayoutDirection(Qt::LeftToRight);
+    time->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
+  }
   quietFrom_->setAccessibleName(tr("Quiet from"));
   quietTo_->setAccessibleName(tr("Quiet until"));
 

@@ -26,10 +26,10 @@ PresetActions::PresetActions(Parts parts)
     : QObject(&parts.window),
       parts_(std::move(parts)),
       presets_(new QAction(tr("P&resets"), this)),
-      drift_(new DriftCheck(parts_.document, parts_.watch, parts_.work.Texts(), parts_.window)),
+      drift_(new DriftCheck(parts_.document, parts_.watch, parts_.work, parts_.window)),
       edits_(new PresetEdits({.document = parts_.document,
                               .history = parts_.edits,
-                              .texts = parts_.work.Texts(),
+                              .work = parts_.work,
                               .window = parts_.window})) {
   auto* menu = new QMenu(&parts_.window);
   presets_->setMenu(menu);
@@ -58,14 +58,22 @@ void PresetActions::Fill(QMenu& menu) {
   menu.addSeparator();
   QMenu* wanted = menu.addMenu(tr("Should &Be Like"));
   wanted->setEnabled(parts_.document.HasFile());
-  connect(wanted->addAction(tr("Nothing")), &QAction::triggered, this, [this] { SetWanted({}); });
-  for (const QString& name : names)
-    connect(wanted->addAction(EntryText(name)), &QAction::triggered, this,
-            [this, name] { SetWanted(name); });
+  FillWanted(*wanted, [this](const QString& name) { SetWanted(name); });
+  if (const QString tag = parts_.tag(); !tag.isEmpty()) {
+    wanted->addSeparator();
+    FillWanted(*wanted->addMenu(tr("All of %1").arg(EntryText(tag))),
+               [this, tag](const QString& name) { SetWantedOfTag(tag, name); });
+  }
   connect(menu.addAction(tr("&Compare with What It Should Be")), &QAction::triggered, this,
           [this] { CompareWithWanted(); });
   connect(menu.addAction(tr("&Put Back What It Should Be")), &QAction::triggered, this,
           [this] { PutBack(); });
+}
+
+void PresetActions::FillWanted(QMenu& menu, const std::function<void(const QString& name)>& set) {
+  connect(menu.addAction(tr("Nothing")), &QAction::triggered, this, [set] { set({}); });
+  for (const QString& name : PresetFolder::Names())
+    connect(menu.addAction(EntryText(name)), &QAction::triggered, this, [set, name] { set(name); });
 }
 
 void PresetActions::Take() {
@@ -130,6 +138,11 @@ void PresetActions::SetWanted(const QString& name) {
                     name.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(name)});
   });
   if (!error.isEmpty()) return ShowError(parts_.window, tr("Should Be Like"), error);
+}
+
+void PresetActions::SetWantedOfTag(const QString& tag, const QString& name) {
+  parts_.edits.DoAndReport(tr("Should Be Like"), -1,
+                           [&] { return parts_.document.SetTagPreset(tag, name); });
 }
 
 Comparison PresetActions::WithWanted() {

@@ -26,6 +26,7 @@ class PresetActions : public QObject {
 
   struct Parts {
     std::function<Rows()> selected;
+    std::function<QString()> tag;  ///< The one whose projectors are shown; empty for none.
     FleetWatch& watch;
     WorkActions& work;
     ProfileDocument& document;
@@ -48,7 +49,9 @@ class PresetActions : public QObject {
   void AskWhatToSave(Snapshot taken, const ModelData& model);
   void Apply(const QString& name);
   void Preview(Comparison comparison);
+  void FillWanted(QMenu& menu, const std::function<void(const QString& name)>& set);
   void SetWanted(const QString& name);
+  void SetWantedOfTag(const QString& tag, const QString& name);
   /// Those of the selected projectors that have a preset that they should match. If there are none,
   /// tells the user and returns none.
   Comparison WithWanted();

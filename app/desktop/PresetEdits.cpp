@@ -1,13 +1,13 @@
 #include "app/desktop/PresetEdits.h"
 
 #include <algorithm>
-#include <vector>
 
 #include <QAction>
 
 #include "app/desktop/presets/PresetManager.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/profiles/ProfileHistory.h"
+#include "app/desktop/work/WorkActions.h"
 #include "app/profiles/PresetFolder.h"
 #include "device/ModelDataIntake.h"
 #include "fleet/WholeFile.h"
@@ -30,31 +30,24 @@ PresetEdits::PresetEdits(const Parts& parts) : QObject(&parts.window), parts_(pa
 
 void PresetEdits::Open() {
   manager_ = new PresetManager(
-      {.users =
-           [this](const QString& preset) {
-             QStringList names;
-             for (const int position : UsersOf(preset))
-               names += QString::fromStdString(
-                   parts_.document.Projectors()[static_cast<std::size_t>(position)].name);
-             return names;
-           },
+      {.users = [this](const QString& preset) { return UsersOf(preset); },
        .model = [this](const Snapshot& preset) { return ModelOf(preset); },
        .rename = [this](const QString& from, const QString& to) { return Rename(from, to); },
        .remove = [this](const QString& preset) { return Remove(preset); },
-       .texts = parts_.texts},
+       .texts = parts_.work.Texts()},
       &parts_.window);
   manager_->setAttribute(Qt::WA_DeleteOnClose);
   manager_->addActions({parts_.history.Undo(), parts_.history.Redo()});  // for their keys
   manager_->open();
 }
 
-std::vector<int> PresetEdits::UsersOf(const QString& preset) const {
-  std::vector<int> positions;
-  const auto& all = parts_.document.Projectors();
-  for (std::size_t i = 0; i < all.size(); ++i) {
-    if (QString::fromStdString(all[i].snapshot) == preset) positions.push_back(static_cast<int>(i));
+QStringList PresetEdits::UsersOf(const QString& preset) const {
+  QStringList names;
+  for (const FleetProfile& profile : parts_.document.Projectors()) {
+    if (QString::fromStdString(profile.snapshot) == preset)
+      names += QString::fromStdString(profile.name);
   }
-  return positions;
+  return names;
 }
 
 // A projector of the same model knows the names of its inputs.
@@ -73,23 +66,22 @@ ModelSettings PresetEdits::ModelOf(const Snapshot& preset) const {
 }
 
 QString PresetEdits::Rename(const QString& from, const QString& to) {
-  const std::vector<int> users = UsersOf(from);
+  const bool hasFile = parts_.document.HasFile();
   const auto rename = [from, to] { return PresetFolder::Rename(from, to); };
   const auto renameBack = [from, to] { return PresetFolder::Rename(to, from); };
-  return parts_.history.Do(
-      tr("Rename Preset"), -1,
-      [&] {
-        QString error = rename();
-        if (!error.isEmpty() || users.empty()) return error;
-        error = parts_.document.SetMember(users, {QStringLiteral("snapshot"), to});
-        if (!error.isEmpty()) renameBack();
-        return error;
-      },
-      {.undo = renameBack, .redo = rename});
+  return parts_.history.Do(tr("Rename Preset"), -1,
+                           [&] {
+                             QString error = rename();
+                             if (!error.isEmpty() || !hasFile) return error;
+                             error = parts_.document.ReplacePreset(from, to);
+                             if (!error.isEmpty()) renameBack();
+                             return error;
+                           },
+                           {.undo = renameBack, .redo = rename});
 }
 
 QString PresetEdits::Remove(const QString& preset) {
-  const std::vector<int> users = UsersOf(preset);
+  const bool hasFile = parts_.document.HasFile();
   const FileBytes file = ReadToEnd(PresetFolder::FileOf(preset), kMostBytes);
   if (!file.error.isEmpty()) return file.error;
   const auto remove = [preset] { return PresetFolder::Remove(preset); };
@@ -99,10 +91,8 @@ QString PresetEdits::Remove(const QString& preset) {
   return parts_.history.Do(tr("Remove Preset"), -1,
                            [&] {
                              QString error = remove();
-                             if (!error.isEmpty() || users.empty()) return error;
-                             error = parts_.document.SetMember(
-                                 users,
-                                 {QStringLiteral("snapshot"), QJsonValue(QJsonValue::Undefined)});
+                             if (!error.isEmpty() || !hasFile) return error;
+                             error = parts_.document.ReplacePreset(preset, {});
                              if (!error.isEmpty()) writeBack();
                              return error;
                            },

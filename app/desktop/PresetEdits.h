@@ -1,9 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 
 #include "snapshots/SettingTexts.h"
 #include "snapshots/Snapshot.h"
@@ -12,6 +11,7 @@ class PresetManager;
 class ProfileDocument;
 class ProfileHistory;
 class QWidget;
+class WorkActions;
 
 /// Renames and removes presets. The projectors that should be like such a preset change with it,
 /// and all of it can be undone.
@@ -22,7 +22,7 @@ class PresetEdits : public QObject {
   struct Parts {
     ProfileDocument& document;
     ProfileHistory& history;
-    const SettingTexts& texts;
+    const WorkActions& work;
     QWidget& window;
   };
 
@@ -33,8 +33,8 @@ class PresetEdits : public QObject {
   void Open();
 
  private:
-  /// The positions of the projectors that should be like a preset.
-  std::vector<int> UsersOf(const QString& preset) const;
+  /// The names of the projectors that should be like a preset.
+  QStringList UsersOf(const QString& preset) const;
   ModelSettings ModelOf(const Snapshot& preset) const;
   QString Rename(const QString& from, const QString& to);
   QString Remove(const QString& preset);

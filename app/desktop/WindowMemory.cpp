@@ -9,6 +9,7 @@
 #include "app/desktop/ListPane.h"
 #include "app/desktop/Modal.h"
 #include "app/desktop/log/CommandLog.h"
+#include "app/desktop/log/LogTable.h"
 
 namespace {
 
@@ -39,7 +40,7 @@ void WindowMemory::Restore(QMainWindow& window, ListPane& pane, CommandLog& log)
     window.restoreState(settings_->value(kStateKey).toByteArray());
     if (!pane.RestoreState(settings_->value(kSidesKey).toByteArray())) pane.Spread(window.width());
     pane.View().Columns().restoreState(settings_->value(kProjectorColumnsKey).toByteArray());
-    log.Columns().restoreState(settings_->value(kLogColumnsKey).toByteArray());
+    log.Table().RestoreColumns(settings_->value(kLogColumnsKey).toByteArray());
     return;
   }
   const QSize usual = kUsualSize.expandedTo({pane.UsualWidth(), 0});
@@ -56,7 +57,7 @@ void WindowMemory::Store(const QMainWindow& window, const ListPane& pane, const 
   settings_->setValue(kStateKey, window.saveState());
   settings_->setValue(kSidesKey, pane.SaveState());
   settings_->setValue(kProjectorColumnsKey, pane.View().Columns().saveState());
-  settings_->setValue(kLogColumnsKey, log.Columns().saveState());
+  settings_->setValue(kLogColumnsKey, log.Table().SaveColumns());
   settings_->setValue(kFolderKey, LastFolder());
   if (file != firstFile_) settings_->setValue(kProfilesKey, QFileInfo(file).absoluteFilePath());
   if (const ProjectorRow* current = pane.View().Current())

@@ -55,7 +55,7 @@ QStringList ProfileFilePlaces() {
 }
 
 /// Reads the file named by --profiles, else the one opened last, else the one that comes with the
-/// program; `areShipped` tells whether it is the last of these.
+/// program; `areShipped` says whether it is the last of these.
 QString ReadProfiles(const CommandLine& line, ProfileDocument& document, bool& areShipped) {
   if (!line.profiles.isEmpty()) return document.Load(line.profiles);
   if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {

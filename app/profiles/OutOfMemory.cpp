@@ -22,7 +22,7 @@ struct sigaction otherFaults {};
 
 iovec Bytes(const char* text) { return {const_cast<char*>(text), std::strlen(text)}; }
 
-// In some places Qt uses memory before it checks whether it was allocated.
+// Qt uses some memory without checking whether it was allocated.
 void OnFault(int signal, siginfo_t* fault, void*) {
   constexpr std::uintptr_t kNearNull = 65536;
   const bool isNearNull =

@@ -3,16 +3,16 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <thread>
 #include <utility>
 
 #include "device/channels/ForwardingChannel.h"
+#include "fleet/JobLoop.h"
 
 /// The clock and the pauses of a channel. A test steps them.
 struct PatientTime {
   using Point = std::chrono::steady_clock::time_point;
   std::function<Point()> now = [] { return std::chrono::steady_clock::now(); };
-  std::function<void(Point)> sleepUntil = [](Point end) { std::this_thread::sleep_until(end); };
+  std::function<void(Point)> sleepUntil = &JobLoop::Pause;
 };
 
 /// Repeats unanswered commands, and detects that a projector is gone. A projector that has neither

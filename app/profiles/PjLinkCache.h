@@ -11,5 +11,5 @@
 /// What is remembered of the projector at an address, given as in `PjLinkChannel::Address`.
 PjLinkFacts ReadPjLinkCache(const std::string& address);
 
-/// Remembers it, or does nothing if the file cannot be written.
+/// Remembers these facts; does nothing if the file cannot be written.
 void WritePjLinkCache(const std::string& address, const PjLinkFacts& facts);

@@ -7,14 +7,14 @@
 
 #include "snapshots/Snapshot.h"
 
-/// The presets: files of saved settings in one folder of the user's, `advanced-control/presets`
-/// below `~/.local/share` (or XDG_DATA_HOME). A preset is called like its file.
+/// The presets: files of saved settings in the user's folder `advanced-control/presets` below
+/// `~/.local/share` (or XDG_DATA_HOME). A preset has the name of its file. Any thread.
 namespace PresetFolder {
 
 QString Path();
 /// The names of all presets, sorted.
 QStringList Names();
-/// Whether a preset can be called so.
+/// Whether a preset can have this name.
 bool IsName(const QString& name);
 /// The file of a preset, whether or not it exists.
 QString FileOf(const QString& name);
@@ -28,8 +28,8 @@ struct Contents {
 };
 Contents Read(const QString& name);
 
-/// Writes a preset, and replaces one of the same name. One line that says what is wrong; empty when
-/// all is well.
+/// Writes a preset, and replaces one of the same name. Returns one line with what went wrong; empty
+/// on success.
 QString Write(const QString& name, const Snapshot& snapshot);
 /// Gives a preset another name, which no preset may have yet. Returns as `Write`.
 QString Rename(const QString& from, const QString& to);

@@ -6,6 +6,7 @@
 
 #include "app/profiles/PjLinkCache.h"
 #include "device/channels/WireChannel.h"
+#include "fleet/WireJobChannel.h"
 
 SimulatedModel SimulatedModelOf(const FleetProfile& profile) {
   SimulatedModel model = DescribeModel(profile.model->data);
@@ -19,6 +20,9 @@ namespace {
 bool HasGreeted(const ProjectorChannel& channel) {
   if (const auto* const pjLink = dynamic_cast<const PjLinkChannel*>(&channel)) {
     return pjLink->HasGreeted();
+  }
+  if (const auto* const job = dynamic_cast<const WireJobChannel*>(&channel)) {
+    return job->HasGreeted();
   }
   const auto* const wire = dynamic_cast<const WireChannel*>(&channel);
   return wire != nullptr && wire->HasGreeted();
@@ -36,7 +40,7 @@ ProjectorAccess::ProjectorAccess(const FleetProfile& profile,
       pjLink_(std::dynamic_pointer_cast<PjLinkChannel>(channel)),
       channel_(std::make_shared<PatientChannel>(
           channel, timeOut, [&channel = *channel] { return HasGreeted(channel); })) {
-  tellsInputs_ = pjLink_ != nullptr && settings_->Model().MySourceList.Size() == 0;
+  reportsInputs_ = pjLink_ != nullptr && settings_->Model().MySourceList.Size() == 0;
   connection_.SetChannel(channel_);
   if (!pjLink_) return;
   remembered_ = ReadPjLinkCache(pjLink_->Address());

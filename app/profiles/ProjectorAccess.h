@@ -37,13 +37,13 @@ class ProjectorAccess {
 
   /// Asks a PJLink projector for its inputs, unless the profile names them or they are remembered.
   void AskForInputs(InputsNeeded needed = InputsNeeded::All);
-  /// Whether an answer about inputs got lost. Then settings that choose an input lack entries, and
-  /// inputs are shown by number or kind instead of by name.
+  /// Whether an answer about inputs got lost. If so, settings that choose an input lack entries,
+  /// and inputs are shown by number or kind instead of by name.
   bool LacksInputs() const { return lacksInputs_; }
 
   bool IsPjLink() const { return pjLink_ != nullptr; }
   /// Whether the inputs come from the projector, because the profile names none.
-  bool TellsInputs() const { return tellsInputs_; }
+  bool ReportsInputs() const { return reportsInputs_; }
 
   /// Steps a setting that cannot be read, such as the volume over PJLink: up `steps` times, or down
   /// if it is negative. Stops at the first step that is refused, or when `goesOn` returns false.
@@ -65,5 +65,5 @@ class ProjectorAccess {
   CPjtInterface connection_;
   PjLinkFacts remembered_;
   bool lacksInputs_ = false;
-  bool tellsInputs_ = false;
+  bool reportsInputs_ = false;
 };

@@ -51,7 +51,7 @@ SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& na
   SnapshotContents read = ReadSnapshot(text);
   if (!read.error.isEmpty()) return wrong(lines.LineOf(read.path), read.error);
   if (const auto twice = lines.RepeatedKey()) {
-    const QString what = QCoreApplication::translate("SettingsFile", "%1 stands here twice");
+    const QString what = QCoreApplication::translate("SettingsFile", "%1 is here twice");
     return wrong(twice->line, KeyAt(read.snapshot, twice->path) + what.arg(twice->path));
   }
   contents.snapshot = std::move(read.snapshot);

@@ -31,7 +31,7 @@ struct flock Lock() {
   return lock;
 }
 
-/// The file, locked by this process; −1 if it cannot be had.
+/// The file, locked by this process; −1 if that fails.
 int OpenLocked(const QString& path) {
   while (true) {
     const int file = open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
@@ -41,7 +41,7 @@ int OpenLocked(const QString& path) {
     const bool isHeld = fcntl(file, F_SETLK, &lock) == 0 && fstat(file, &status) == 0;
     if (isHeld && status.st_nlink > 0) return file;
     close(file);
-    if (!isHeld) return -1;  // else the one before has just removed it
+    if (!isHeld) return -1;  // otherwise, the previous simulator has just removed it
   }
 }
 

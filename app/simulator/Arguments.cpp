@@ -41,7 +41,7 @@ class Reader {
   }
   std::uint16_t PortOf(const QCommandLineOption& option) const {
     const auto port = Port(Value(option));
-    if (!port) ThrowWrong(option, Texts::tr("'%1' is no port."));
+    if (!port) ThrowWrong(option, Texts::tr("'%1' is not a port."));
     return *port;
   }
   std::uint64_t Number(const QCommandLineOption& option, std::uint64_t least,
@@ -50,14 +50,14 @@ class Reader {
     const std::uint64_t number = Value(option).toULongLong(&isNumber);
     if (isNumber && number >= least && number <= most) return number;
     ThrowWrong(option,
-               Texts::tr("'%1' is no number from %2 to %3.")
+               Texts::tr("'%1' is not a number from %2 to %3.")
                    .arg(QStringLiteral("%1"), QString::number(least), QString::number(most)));
   }
   std::chrono::milliseconds Seconds(const QCommandLineOption& option) const {
     bool isNumber = false;
     const double seconds = Value(option).toDouble(&isNumber);
     if (!isNumber || !(seconds >= 0 && seconds <= kLongestSwitching)) {
-      ThrowWrong(option, Texts::tr("'%1' is no time up to an hour."));
+      ThrowWrong(option, Texts::tr("'%1' is not a time up to an hour."));
     }
     return std::chrono::milliseconds(std::lround(1000 * seconds));
   }
@@ -170,7 +170,7 @@ Arguments Reader::Read(const QStringList& arguments) {
 ServiceOptions Reader::Service() const {
   ServiceOptions service;
   if (!service.address.setAddress(Value(address_))) {
-    ThrowWrong(address_, Texts::tr("'%1' is no address."));
+    ThrowWrong(address_, Texts::tr("'%1' is not an address."));
   }
   service.password = Value(password_).toStdString();
   if (constexpr std::size_t most = NameSlot{}.size(); service.password.size() > most) {
@@ -198,7 +198,7 @@ FleetOptions Reader::Fleet(const ServiceOptions& service) const {
   projectors.count = Number(fleet_, 1, kMostProjectors);
   if (parser_.isSet(address_)) {
     if (!service.address.isLoopback() || service.address.protocol() != QHostAddress::IPv4Protocol) {
-      ThrowWrong(address_, Texts::tr("'%1' is no IPv4 loopback address."));
+      ThrowWrong(address_, Texts::tr("'%1' is not an IPv4 loopback address."));
     }
     projectors.firstAddress = service.address.toIPv4Address();
   }
@@ -217,7 +217,7 @@ FleetOptions Reader::Fleet(const ServiceOptions& service) const {
     const QHostAddress host(Value(notices_).section(QLatin1Char(':'), 0, -2));
     const auto port = Port(Value(notices_).section(QLatin1Char(':'), -1));
     if (!port || host.protocol() != QHostAddress::IPv4Protocol || !host.isLoopback()) {
-      ThrowWrong(notices_, Texts::tr("'%1' is no IPv4 loopback address with a port."));
+      ThrowWrong(notices_, Texts::tr("'%1' is not an IPv4 loopback address with a port."));
     }
     fleet.server.notices = FleetSockets::Endpoint{host.toIPv4Address(), *port};
   }

@@ -82,7 +82,7 @@ int Serve(Projectors& projectors, const Arguments& arguments, int endingSignals)
   ControlServer control(projectors, arguments.service.seed);
   if (arguments.control) {
     const int port = control.Listen(arguments.controlPort);
-    if (port == 0) return Fail(Program::tr("--control: the port cannot be had"));
+    if (port == 0) return Fail(Program::tr("--control: the port is not available"));
     std::printf("control: 127.0.0.1:%d\n", port);
   }
   std::puts("ready");

@@ -27,9 +27,21 @@ Fleet::Fleet(const FleetPolicy& policy, std::function<void()> onChanges)
     : onChanges_(std::move(onChanges)),
       states_(std::make_unique<FleetStates>(clock_, policy.history)),
       watcher_(std::make_unique<FleetWatcher>(WithinLimits(policy), network_, clock_, *states_)),
-      thread_([this] { Run(); }) {}
+      thread_([this] { Run(); }) {
+  if (!policy.avoidsHeld) return;
+  held_.emplace([this](const AddressHold::Address& address, bool isHeld) {
+    Change([&] {
+      if (isHeld) {
+        watcher_->Hold(address);
+      } else {
+        watcher_->Release(address);
+      }
+    });
+  });
+}
 
 Fleet::~Fleet() {
+  held_.reset();
   Change([this] { ends_ = true; });
   thread_.join();
 }
@@ -42,7 +54,7 @@ void Fleet::Run() {
       return watcher_->Tick();
     });
     if (!next) return;
-    if (states_->MustTell()) onChanges_();
+    if (states_->MustNotify()) onChanges_();
     network_.Wait(*next);
   }
 }
@@ -94,7 +106,7 @@ std::vector<StateChange> Fleet::History(const std::string& id) const {
 }
 FleetChanges Fleet::TakeChanges() {
   FleetChanges taken = states_->TakeChanges();
-  network_.Wake();  // to tell of the rest
+  network_.Wake();  // so that `onChanges` is called again if there are more
   return taken;
 }
 

@@ -11,6 +11,7 @@
 
 #include "Namespace.h"
 #include "ProjectorFleetExport.h"
+#include "fleet/AddressHold.h"
 #include "fleet/CallersFirst.h"
 #include "fleet/FleetClock.h"
 #include "fleet/FleetEvents.h"
@@ -82,11 +83,13 @@ class PROJECTOR_FLEET_EXPORT Fleet {
   mutable CallersFirst lock_;
   const std::unique_ptr<FleetWatcher> watcher_;  ///< Under the lock.
   bool ends_ = false;                            ///< Under the lock.
+  std::optional<AddressHold::Observer> held_;
   std::thread thread_;
 };
 
-/// While an object of this class exists, the fleet visits nothing at the projector's address, so
-/// that another connection can be used. It must not outlive the fleet.
+/// While an object of this class exists, the fleet visits nothing at the projector's address. It
+/// must not outlive the fleet. It keeps nobody else away: a connection needs an
+/// `AddressHold`.
 class PROJECTOR_FLEET_EXPORT Fleet::Pause {
  public:
   [[nodiscard]] Pause(Fleet& fleet, std::string id);

@@ -8,6 +8,7 @@
 #include "fleet/JobChannel.h"
 #include "fleet/MakeVisit.h"
 #include "fleet/ProjectorWork.h"
+#include "fleet/RunOnEach.h"
 
 namespace AdvancedControl {
 
@@ -19,15 +20,11 @@ FleetJob::FleetJob(Fleet* fleet, std::vector<FleetTarget> targets, FleetWork wor
       texts_(texts),
       options_(std::move(options)),
       results_(targets_.size()) {
-  const std::size_t atOnce =
-      std::min(std::clamp<std::size_t>(options_.atOnce, 1, kMostAtOnce), targets_.size());
-  for (std::size_t i = 0; i < targets_.size(); ++i) {
-    queue_.Add(static_cast<VisitQueue::Peer>(i), PlaceOf(targets_[i]));
-  }
-  thread_ = std::thread([this, atOnce] {
-    loop_.Run(static_cast<JobLoop::Peer>(atOnce), [this](JobLoop::Peer peer) {
-      while (const auto index = Next()) WorkOn(*index, peer);
-    });
+  std::vector<VisitQueue::Address> addresses;
+  for (const FleetTarget& target : targets_) addresses.push_back(PlaceOf(target));
+  thread_ = std::thread([this, addresses = std::move(addresses)] {
+    const std::size_t atOnce = std::clamp<std::size_t>(options_.atOnce, 1, kMostAtOnce);
+    RunOnEach(loop_, addresses, atOnce, [this](std::size_t index) { WorkOn(index); });
   });
 }
 
@@ -36,7 +33,10 @@ FleetJob::~FleetJob() {
   thread_.join();
 }
 
-void FleetJob::Cancel() { isCancelled_ = true; }
+void FleetJob::Cancel() {
+  isCancelled_ = true;
+  loop_.WakeAll();
+}
 
 FleetJob::Progress FleetJob::HowFar() const {
   const std::lock_guard lock(mutex_);
@@ -64,44 +64,47 @@ SnapshotsById FleetJob::Undo() const {
   return undo;
 }
 
-/// If there is none, those who work at an address go on with the others there.
-std::optional<std::size_t> FleetJob::Next() {
+void FleetJob::Change(std::size_t index, const auto& change) {
   const std::lock_guard lock(mutex_);
-  return queue_.Next();
+  change(results_[index]);
 }
 
-void FleetJob::WorkOn(std::size_t index, JobLoop::Peer peer) {
+void FleetJob::WorkOn(std::size_t index) {
   const FleetTarget& target = targets_[index];
-  const auto put = [&](const auto& change) {
-    const std::lock_guard lock(mutex_);
-    change(results_[index]);
-  };
-  WorkResult result{.outcome = WorkOutcome::Stopped};
-  if (!isCancelled_) {
-    put([](WorkResult& now) { now.outcome = WorkOutcome::Working; });
-    std::optional<Fleet::Pause> pause;
-    if (fleet_) pause.emplace(*fleet_, target.id);
-    const auto told = [&](const PjtCommand& command, const PjtReply& reply,
-                          std::optional<PowerState> power) {
-      if (fleet_) fleet_->Learn(target.id, command, reply, power);
-    };
-    const std::function<bool()> goesOn = [this] { return !isCancelled_; };
-    const auto channel = MakeJobChannel(loop_, peer, target, options_.timeOut);
-    ProjectorWork work(target, channel, texts_, goesOn, told);
-    result = work.Do(work_,
-                     [&](const Snapshot& undo) { put([&](WorkResult& now) { now.undo = undo; }); });
-    const auto* const compare = std::get_if<CompareSnapshots>(&work_);
-    if (fleet_ && result.differing && compare->areWanted)
-      fleet_->LearnDrift(target.id, result.differing);
-  }
+  std::optional<AddressHold> hold;
+  if (!isCancelled_) hold.emplace(PlaceOf(target), options_.turn, [this] { loop_.WakeAll(); });
+  while (!isCancelled_ && !hold->IsHeld()) JobLoop::Pause(SessionTime::max());
+  WorkResult result = isCancelled_ ? WorkResult{.outcome = WorkOutcome::Stopped} : ResultOf(index);
+  hold.reset();
   {
     const std::lock_guard lock(mutex_);
     results_[index] = std::move(result);
-    queue_.Leave(static_cast<VisitQueue::Peer>(index));
     ++finished_;
   }
   finishes_.notify_all();
   options_.onProgress();
+}
+
+WorkResult FleetJob::ResultOf(std::size_t index) {
+  Change(index, [](WorkResult& now) { now.outcome = WorkOutcome::Working; });
+  const FleetTarget& target = targets_[index];
+  std::optional<Fleet::Pause> pause;
+  if (fleet_) pause.emplace(*fleet_, target.id);
+  const auto told = [&](const PjtCommand& command, const PjtReply& reply,
+                        std::optional<PowerState> power) {
+    if (fleet_) fleet_->Learn(target.id, command, reply, power);
+  };
+  const std::function<bool()> goesOn = [this] { return !isCancelled_; };
+  ProjectorWork work(target, MakeJobChannel(loop_, target.address, options_.timeOut), texts_,
+                     goesOn, told);
+  WorkResult result = work.Do(work_, [&](const Snapshot& undo) {
+    Change(index, [&](WorkResult& now) { now.undo = undo; });
+  });
+  const auto* const compare = std::get_if<CompareSnapshots>(&work_);
+  if (fleet_ && result.differing && compare != nullptr && compare->areWanted) {
+    fleet_->LearnDrift(target.id, result.differing);
+  }
+  return result;
 }
 
 }  // namespace AdvancedControl

@@ -7,17 +7,16 @@
 #include <functional>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "Namespace.h"
 #include "ProjectorFleetExport.h"
+#include "fleet/AddressHold.h"
 #include "fleet/FleetTarget.h"
 #include "fleet/FleetWork.h"
 #include "fleet/JobLoop.h"
-#include "fleet/VisitQueue.h"
 #include "snapshots/SettingTexts.h"
 
 namespace AdvancedControl {
@@ -25,20 +24,24 @@ namespace AdvancedControl {
 class Fleet;
 
 /// The same work on many projectors, several at a time but one at each address, on one thread of
-/// its own. While it works on one, the fleet keeps away and learns from it. Its functions may be
+/// its own. It holds the address of each that it works on, so that nobody else connects, and waits
+/// until others have released it. The fleet keeps away and learns from it. Its functions may be
 /// called from any thread, and all but `Wait` return at once.
 class PROJECTOR_FLEET_EXPORT FleetJob {
  public:
   /// Bounds `Options::atOnce`.
   static constexpr std::size_t kMostAtOnce = 512;
-  /// A program that starts a job for each command runs at most so many at a time.
-  static constexpr std::size_t kMostThreads = 12;
+  /// A program that starts a job for each command runs at most so many at a time, so that with its
+  /// other threads it has no more than 16.
+  static constexpr std::size_t kMostThreads = 10;
 
   struct Options {
     std::size_t atOnce = 64;
     std::chrono::milliseconds timeOut{2000};  ///< For connecting, and for each answer.
     /// Called on the thread of the job after each projector.
     std::function<void()> onProgress = [] {};
+    /// Among those who wait for a projector.
+    AddressHold::Turn turn = AddressHold::Turn::Last;
   };
   struct Progress {
     std::size_t finished = 0;
@@ -70,9 +73,9 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
   SnapshotsById Undo() const;
 
  private:
-  /// One whose address is free.
-  std::optional<std::size_t> Next();
-  void WorkOn(std::size_t index, JobLoop::Peer peer);
+  void WorkOn(std::size_t index);
+  WorkResult ResultOf(std::size_t index);
+  void Change(std::size_t index, const auto& change);
 
   Fleet* const fleet_;
   const std::vector<FleetTarget> targets_;
@@ -83,9 +86,8 @@ class PROJECTOR_FLEET_EXPORT FleetJob {
 
   mutable std::mutex mutex_;
   std::condition_variable finishes_;
-  std::vector<WorkResult> results_;  ///< Under the mutex, as is what follows.
-  VisitQueue queue_;                 ///< Of indexes.
-  std::size_t finished_ = 0;
+  std::vector<WorkResult> results_;  ///< Under the mutex.
+  std::size_t finished_ = 0;         ///< Under the mutex.
   JobLoop loop_;
   std::thread thread_;
 };

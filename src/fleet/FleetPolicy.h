@@ -23,7 +23,9 @@ struct FleetPolicy {
   std::chrono::milliseconds connect{2000};  ///< Time for connecting, until the projector greets.
   std::chrono::milliseconds answer{2000};   ///< Time for each answer.
   std::size_t history = 16;                 ///< Changes kept for each projector.
-  std::uint32_t seed = 1;                   ///< For the random part of the pauses.
+  /// Visits no address that somebody holds. False for an owner that holds the addresses itself.
+  bool avoidsHeld = true;
+  std::uint32_t seed = 1;  ///< For the random part of the pauses.
 };
 
 }  // namespace AdvancedControl

@@ -13,7 +13,7 @@
 #include "device/Connect.h"
 #include "device/ModelData.h"
 #include "fleet/FleetTarget.h"
-#include "simulator/SettingsTable.h"
+#include "simulator/Setting.h"
 
 namespace AdvancedControl {
 

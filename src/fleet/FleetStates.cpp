@@ -67,7 +67,7 @@ std::vector<StateChange> FleetStates::History(const std::string& id) const {
 
 FleetChanges FleetStates::TakeChanges() {
   const std::lock_guard lock(mutex_);
-  hasTold_ = false;
+  hasNotified_ = false;
   const auto end =
       changes_.begin() + static_cast<std::ptrdiff_t>(std::min(changes_.size(), kMostTaken));
   FleetChanges taken{.areMissing = std::exchange(areMissing_, false)};
@@ -76,9 +76,9 @@ FleetChanges FleetStates::TakeChanges() {
   return taken;
 }
 
-bool FleetStates::MustTell() {
+bool FleetStates::MustNotify() {
   const std::lock_guard lock(mutex_);
-  return !changes_.empty() && !std::exchange(hasTold_, true);
+  return !changes_.empty() && !std::exchange(hasNotified_, true);
 }
 
 void FleetStates::Apply(const std::string& id, Known& known, LiveState state) {

@@ -51,8 +51,8 @@ class FleetStates {
 
   /// The oldest changes that were not taken yet, up to `kMostTaken`.
   FleetChanges TakeChanges();
-  /// Whether the owner must be told that there are changes; true once after each `TakeChanges`.
-  bool MustTell();
+  /// Whether to notify the owner of changes; true once after each `TakeChanges`.
+  bool MustNotify();
 
  private:
   struct Known {
@@ -71,7 +71,7 @@ class FleetStates {
   std::unordered_map<std::string, Known> known_;
   std::deque<FleetChange> changes_;
   bool areMissing_ = false;
-  bool hasTold_ = false;
+  bool hasNotified_ = false;
 };
 
 }  // namespace AdvancedControl

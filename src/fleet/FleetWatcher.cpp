@@ -55,7 +55,7 @@ void FleetWatcher::Set(FleetTarget target) {
   }
   roster_.Replace(*known, std::move(target));
   if (!hasMoved) return;
-  for (int i = 0; i < watched.pauses; ++i) Hold(*known);
+  for (int i = 0; i < watched.pauses; ++i) Hold(roster_.At(*known).address);
   watched.memory = {};
   schedule_.Reset(*known);
   StartTimer(*known);
@@ -97,7 +97,7 @@ void FleetWatcher::Pause(const std::string& id) {
   const auto peer = roster_.Find(id);
   if (!peer) return;
   ++roster_.At(*peer).pauses;
-  Hold(*peer);
+  Hold(roster_.At(*peer).address);
 }
 
 void FleetWatcher::Resume(const std::string& id) {
@@ -204,8 +204,8 @@ void FleetWatcher::Abandon(Peer peer) {
   queue_.Leave(peer);
 }
 
-void FleetWatcher::Hold(Peer peer) {
-  const auto visited = queue_.Hold(roster_.At(peer).address);
+void FleetWatcher::Hold(const VisitQueue::Address& address) {
+  const auto visited = queue_.Hold(address);
   if (!visited) return;
   Abandon(*visited);
   StartTimer(*visited);

@@ -35,6 +35,11 @@ class FleetWatcher final : private VisitsUnderWay::Owner {
   void SetAsking(bool asks);
   void SetInterval(std::chrono::milliseconds interval);
 
+  /// Ends the visit under way at the address, and begins none there until `Release` has been called
+  /// as often as `Hold`.
+  void Hold(const VisitQueue::Address& address);
+  void Release(const VisitQueue::Address& address) { queue_.Release(address); }
+
   // These do nothing for a projector that is not in the fleet.
 
   /// Ends the visit under way at the projector's address, even if it is another projector's, and
@@ -58,7 +63,6 @@ class FleetWatcher final : private VisitsUnderWay::Owner {
 
   void Begin(Peer peer);
   void Abandon(Peer peer);
-  void Hold(Peer peer);
   void AskPeerSoon(Peer peer);
   void StartTimer(Peer peer);
 

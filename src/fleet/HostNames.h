@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -21,6 +22,8 @@ class HostNames {
   bool IsKnown(const std::string& name) const;
   /// The address to connect to, for a known name; nothing where no host has the name.
   std::optional<SocketAddress> AddressOf(const std::string& name, std::uint16_t port) const;
+  /// How many addresses a known name has.
+  std::size_t Count(const std::string& name) const { return known_.at(name).addresses.size(); }
   /// Reports that the address could not be connected to. `AddressOf` then returns the next one.
   void TakeFailure(const std::string& name);
 

@@ -1,64 +1,123 @@
 #include "fleet/JobLoop.h"
 
-#include <algorithm>
+#include <thread>
+#include <utility>
 
 namespace AdvancedControl {
 
 namespace {
 
+/// The loop that runs on this thread, if any.
+thread_local JobLoop* running = nullptr;
+
 SessionTime Now() { return std::chrono::steady_clock::now(); }
 
 }  // namespace
 
-void JobLoop::Run(Peer count, const std::function<void(Peer)>& work) {
-  works_.resize(count);
-  for (Peer peer = 0; peer < count; ++peer) {
-    works_[peer].fiber = std::make_unique<Fiber>([&work, peer] { work(peer); });
+/// Tells the receivers of connections what happened, and continues the work that waits for it.
+class JobLoop::Events final : public FleetNetwork::Listener {
+ public:
+  explicit Events(JobLoop& loop) : loop_(loop) {}
+
+  void Connected(Peer peer) override {
+    Tell(peer, [](Receiver& receiver) { receiver.Connected(); });
   }
-  const auto isFinished = [](const Work& one) { return one.fiber->IsFinished(); };
-  while (true) {
-    const SessionTime next = Continue();
-    if (std::ranges::all_of(works_, isFinished)) return;
-    network_.Wait(next);
-    network_.Pass(*this);
+  void NotConnected(Peer peer, ConnectionState problem) override {
+    Tell(peer, [&](Receiver& receiver) { receiver.NotConnected(problem, Now()); });
   }
+  void InUse(Peer peer) override { NotConnected(peer, ConnectionState::NotReachable); }
+  void Received(Peer peer, std::string_view bytes) override {
+    Tell(peer, [&](Receiver& receiver) { receiver.Received(bytes, Now()); });
+  }
+  void Closed(Peer peer) override {
+    Tell(peer, [](Receiver& receiver) { receiver.Closed(Now()); });
+  }
+  void Noticed(const FleetNetwork::Notice&) override {}
+
+ private:
+  void Tell(Peer peer, const auto& what) {
+    const Connection connection = loop_.connections_[peer];
+    if (connection.isAwaited) loop_.timers_.Set(connection.work, SessionTime::min());
+    if (connection.receiver != nullptr) what(*connection.receiver);
+  }
+
+  JobLoop& loop_;
+};
+
+JobLoop::JobLoop() = default;
+JobLoop::~JobLoop() = default;
+
+void JobLoop::Run(std::size_t count, const std::function<void(std::size_t)>& work) {
+  JobLoop* const outer = std::exchange(running, this);
+  for (std::size_t i = 0; i < count; ++i) {
+    works_.push_back(std::make_unique<Fiber>([&work, i] { work(i); }));
+    timers_.Set(static_cast<Number>(i), SessionTime::min());
+  }
+  unfinished_ = count;
+  Events events(*this);
+  while (Continue()) {
+    network_.Wait(timers_.First());
+    network_.Pass(events);
+  }
+  works_.clear();
+  running = outer;
 }
 
-SessionTime JobLoop::Continue() {
-  SessionTime next = SessionTime::max();
-  for (Work& work : works_) {
-    if (work.fiber->IsFinished()) continue;
-    if (work.goesOn || work.until <= Now()) {
-      work.goesOn = false;
-      work.fiber->Resume();
-      if (work.fiber->IsFinished()) continue;
-    }
-    next = std::min(next, work.until);
+void JobLoop::WakeAll() {
+  wakesAll_ = true;
+  network_.Wake();
+}
+
+void JobLoop::Pause(SessionTime until) {
+  if (running == nullptr) return std::this_thread::sleep_until(until);
+  running->Suspend(until);
+}
+
+JobLoop::Peer JobLoop::Add(Receiver& receiver) {
+  auto peer = static_cast<Peer>(connections_.size());
+  if (free_.empty()) {
+    connections_.emplace_back();
+  } else {
+    peer = free_.back();
+    free_.pop_back();
   }
-  return next;
+  connections_[peer].receiver = &receiver;
+  return peer;
+}
+
+void JobLoop::Remove(Peer peer) {
+  network_.Close(peer);
+  connections_[peer] = {};
+  free_.push_back(peer);
 }
 
 void JobLoop::Wait(Peer peer, SessionTime until) {
-  works_[peer].until = until;
-  works_[peer].fiber->Suspend();
+  connections_[peer].isAwaited = true;
+  connections_[peer].work = present_;
+  Suspend(until);
+  connections_[peer].isAwaited = false;
 }
 
-void JobLoop::Notify(Peer peer, const auto& what) {
-  if (Receiver* const receiver = works_[peer].receiver) what(*receiver);
-  works_[peer].goesOn = true;
+bool JobLoop::Continue() {
+  const bool wakesAll = wakesAll_.exchange(false);
+  std::vector<Number> due;
+  for (Number i = 0; wakesAll && i < works_.size(); ++i) {
+    if (works_[i]) timers_.Set(i, SessionTime::min());
+  }
+  while (const auto next = timers_.TakeDue(Now())) due.push_back(*next);
+  for (const Number next : due) {
+    present_ = next;
+    works_[next]->Resume();
+    if (!works_[next]->IsFinished()) continue;
+    works_[next].reset();
+    --unfinished_;
+  }
+  return unfinished_ > 0;
 }
 
-void JobLoop::Connected(Peer peer) {
-  Notify(peer, [](Receiver& receiver) { receiver.Connected(); });
-}
-void JobLoop::NotConnected(Peer peer, ConnectionState problem) {
-  Notify(peer, [&](Receiver& receiver) { receiver.NotConnected(problem, Now()); });
-}
-void JobLoop::Received(Peer peer, std::string_view bytes) {
-  Notify(peer, [&](Receiver& receiver) { receiver.Received(bytes, Now()); });
-}
-void JobLoop::Closed(Peer peer) {
-  Notify(peer, [](Receiver& receiver) { receiver.Closed(Now()); });
+void JobLoop::Suspend(SessionTime until) {
+  if (until != SessionTime::max()) timers_.Set(present_, until);
+  works_[present_]->Suspend();
 }
 
 }  // namespace AdvancedControl

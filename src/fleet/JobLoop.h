@@ -1,24 +1,28 @@
 #pragma once
 
+#include <atomic>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "device/protocol/SessionStep.h"
 #include "fleet/Fiber.h"
+#include "fleet/PeerTimers.h"
 #include "fleet/SocketNetwork.h"
 
 namespace AdvancedControl {
 
 /// Works on several projectors at the same time on one thread. Each of them has a fiber for its
-/// work, which waits for the projector in a `JobChannel` while the other fibers go on.
-class JobLoop final : private FleetNetwork::Listener {
+/// work, which waits for the projector in a `JobConnection` while the other fibers go on.
+class PROJECTOR_FLEET_EXPORT JobLoop {
  public:
   using Peer = FleetNetwork::Peer;
 
-  /// Receives the events of a work's connection.
+  /// Receives the events of a connection.
   class Receiver {
    public:
     virtual ~Receiver() = default;
@@ -28,40 +32,53 @@ class JobLoop final : private FleetNetwork::Listener {
     virtual void Closed(SessionTime now) = 0;
   };
 
+  JobLoop();
+  ~JobLoop();
+  JobLoop(const JobLoop&) = delete;
+  JobLoop& operator=(const JobLoop&) = delete;
+
   /// Calls `work` with the numbers from 0 up to `count`, all at the same time, and returns when all
-  /// have returned. `work` must not throw.
-  void Run(Peer count, const std::function<void(Peer)>& work);
+  /// have returned. `work` must not throw. May be called again, also on another thread.
+  void Run(std::size_t count, const std::function<void(std::size_t)>& work);
+  /// Continues all work that is in `Pause`. Any thread.
+  void WakeAll();
 
-  // For channels, in a work:
+  /// In the work of a loop, lets other work go on until then, or until `WakeAll`. Elsewhere, the
+  /// thread sleeps.
+  static void Pause(SessionTime until);
 
-  /// Sets who gets the events of the work's connection; null for none.
-  void SetReceiver(Peer peer, Receiver* receiver) { works_[peer].receiver = receiver; }
-  FleetNetwork& Network() { return network_; }
-  /// Waits for an event of the connection, or until the time `until`. Always checks the network at
-  /// least once.
+  // For connections. One may outlive the work that made it, but not the loop.
+
+  Peer Add(Receiver& receiver);
+  void Remove(Peer peer);
+  SocketNetwork& Network() { return network_; }
+  /// In a work, waits for an event of the connection, or until the time `until`. Always checks the
+  /// network at least once.
   void Wait(Peer peer, SessionTime until);
 
  private:
-  struct Work {
-    std::unique_ptr<Fiber> fiber;
+  using Number = PeerTimers::Peer;  ///< A work's.
+
+  struct Connection {
     Receiver* receiver = nullptr;
-    SessionTime until{};  ///< Waits until then.
-    bool goesOn = true;   ///< There was an event for it.
+    bool isAwaited = false;  ///< A work waits for an event.
+    Number work = 0;         ///< The one that waits.
   };
 
-  void Connected(Peer peer) override;
-  void NotConnected(Peer peer, ConnectionState problem) override;
-  void InUse(Peer peer) override { NotConnected(peer, ConnectionState::NotReachable); }
-  void Received(Peer peer, std::string_view bytes) override;
-  void Closed(Peer peer) override;
-  void Noticed(const FleetNetwork::Notice&) override {}
-  /// Tells a work's receiver what happened.
-  void Notify(Peer peer, const auto& what);
-  /// Resumes all work that has waited long enough. Returns when the next one is due.
-  SessionTime Continue();
+  class Events;
+
+  /// Resumes all work that has waited long enough. Returns whether any is left.
+  bool Continue();
+  void Suspend(SessionTime until);
 
   SocketNetwork network_;
-  std::vector<Work> works_;
+  std::vector<Connection> connections_;  ///< By peer.
+  std::vector<Peer> free_;
+  std::vector<std::unique_ptr<Fiber>> works_;
+  PeerTimers timers_;  ///< Of works.
+  std::size_t unfinished_ = 0;
+  Number present_ = 0;  ///< The work that runs.
+  std::atomic<bool> wakesAll_ = false;
 };
 
 }  // namespace AdvancedControl

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Namespace.h"
+#include "ProjectorFleetExport.h"
 #include "fleet/FleetNetwork.h"
 #include "fleet/Visit.h"
 
@@ -23,6 +24,6 @@ void ConnectTo(const FleetTarget& target, FleetNetwork& network, FleetNetwork::P
 /// Where a projector is: host and port, or a serial port's path and 0.
 std::pair<std::string, std::uint16_t> HostOf(const FleetTarget& target);
 /// The same, but equal for all ways to write an IP address.
-std::pair<std::string, std::uint16_t> PlaceOf(const FleetTarget& target);
+PROJECTOR_FLEET_EXPORT std::pair<std::string, std::uint16_t> PlaceOf(const FleetTarget& target);
 
 }  // namespace AdvancedControl

@@ -30,57 +30,74 @@ std::vector<SocketAddress> AddressesOf(const std::string& name) {
 
 }  // namespace
 
-struct NameResolver::Shared {
-  std::mutex mutex;
-  std::condition_variable comes;
-  std::deque<std::pair<std::uint32_t, std::string>> wanted;
-  std::vector<Found> found;
+/// What one resolver wants, and what was found for it.
+struct NameResolver::Client {
+  ~Client() { close(wakes); }
+
+  // Protected by the mutex of the lookups.
+  std::deque<std::pair<std::uint32_t, std::string>> wanted{};
+  std::vector<Found> found{};
   bool ends = false;
   int wakes = -1;
+};
 
-  ~Shared() { close(wakes); }
+/// The threads that look names up, and the resolvers that wait for them, which take turns.
+struct NameResolver::Lookups {
+  std::mutex mutex;
+  std::condition_variable comes;
+  // Protected by the mutex.
+  std::deque<std::shared_ptr<Client>> waiting;
+  int threads = 0;
+
+  // Never destroyed: a lookup may outlive `main`.
+  static Lookups& All() {
+    static auto* const all = new Lookups;
+    return *all;
+  }
 
   void Work() {
     std::unique_lock lock(mutex);
     while (true) {
-      comes.wait(lock, [this] { return ends || !wanted.empty(); });
-      if (ends) return;
-      auto [asker, name] = std::move(wanted.front());
-      wanted.pop_front();
+      comes.wait(lock, [this] { return !waiting.empty(); });
+      const auto client = std::move(waiting.front());
+      waiting.pop_front();
+      if (client->ends) continue;
+      auto [asker, name] = std::move(client->wanted.front());
+      client->wanted.pop_front();
+      if (!client->wanted.empty()) waiting.push_back(client);
       lock.unlock();
       auto addresses = AddressesOf(name);
       lock.lock();
-      found.push_back({asker, std::move(name), std::move(addresses)});
+      client->found.push_back({asker, std::move(name), std::move(addresses)});
       const std::uint64_t one = 1;
-      static_cast<void>(!write(wakes, &one, sizeof one));
+      static_cast<void>(!write(client->wakes, &one, sizeof one));
     }
   }
 };
 
-NameResolver::NameResolver(int wakes) : shared_(std::make_shared<Shared>()) {
-  shared_->wakes = dup(wakes);
+NameResolver::NameResolver(int wakes) : client_(std::make_shared<Client>()) {
+  client_->wakes = dup(wakes);
 }
 
 NameResolver::~NameResolver() {
-  const std::lock_guard lock(shared_->mutex);
-  shared_->ends = true;
-  shared_->comes.notify_all();
+  const std::lock_guard lock(Lookups::All().mutex);
+  client_->ends = true;
 }
 
 void NameResolver::LookUp(std::uint32_t asker, const std::string& name) {
-  {
-    const std::lock_guard lock(shared_->mutex);
-    shared_->wanted.emplace_back(asker, name);
-  }
-  shared_->comes.notify_one();
-  if (threads_ == kThreads) return;
-  ++threads_;
-  std::thread([shared = shared_] { shared->Work(); }).detach();
+  Lookups& all = Lookups::All();
+  const std::lock_guard lock(all.mutex);
+  client_->wanted.emplace_back(asker, name);
+  if (client_->wanted.size() == 1) all.waiting.push_back(client_);
+  all.comes.notify_one();
+  if (all.threads == kThreads) return;
+  ++all.threads;
+  std::thread([&all] { all.Work(); }).detach();
 }
 
 std::vector<NameResolver::Found> NameResolver::Take() {
-  const std::lock_guard lock(shared_->mutex);
-  return std::exchange(shared_->found, {});
+  const std::lock_guard lock(Lookups::All().mutex);
+  return std::exchange(client_->found, {});
 }
 
 }  // namespace AdvancedControl

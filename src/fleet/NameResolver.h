@@ -10,9 +10,9 @@
 
 namespace AdvancedControl {
 
-/// Looks up host names on two threads of its own, which start with the first name. The system
-/// function for it cannot be interrupted: a lookup that is running at the end continues by itself,
-/// and its result is dropped.
+/// Looks up host names on two threads, which all resolvers of the process share and which start
+/// with the first names. The system function for it cannot be interrupted: a lookup that is running
+/// at the end continues by itself, and its result is dropped.
 class NameResolver {
  public:
   struct Found {
@@ -31,9 +31,9 @@ class NameResolver {
   std::vector<Found> Take();
 
  private:
-  struct Shared;
-  const std::shared_ptr<Shared> shared_;
-  int threads_ = 0;
+  struct Client;
+  struct Lookups;
+  const std::shared_ptr<Client> client_;
 };
 
 }  // namespace AdvancedControl

@@ -26,7 +26,7 @@ std::span<const Question> Questions();
 /// The question of a command, in any case; null if there is none.
 const Question* FindQuestion(std::string_view command);
 
-/// Updates the state with the answer to a question. Items that the answer does not tell become
+/// Updates the state with the answer to a question. Items that the answer does not contain become
 /// unknown. `model` may be null; `inputs` are those with known names.
 void Take(LiveState& state, const Question& question, std::string_view answer,
           const ModelData* model, std::span<const PjLinkInput> inputs);

@@ -25,7 +25,7 @@ SessionStep PjLinkVisit::Next(SessionTime now) {
     SessionStep step = session_.Next(now);
     if (step.kind == SessionStep::Kind::Send) TakeSending(now);
     if (step.kind != SessionStep::Kind::Finished) return step;
-    if (asking_ != Asking::Nothing) TakeTold(now);
+    if (asking_ != Asking::Nothing) TakeResult(now);
     isFinished_ = isFinished_ || !Ask(now);
   }
   return {};
@@ -64,26 +64,26 @@ bool PjLinkVisit::Ask(SessionTime now) {
   return true;
 }
 
-void PjLinkVisit::TakeTold(SessionTime now) {
-  const PjLinkResult& told = session_.Result();
+void PjLinkVisit::TakeResult(SessionTime now) {
+  const PjLinkResult& result = session_.Result();
   memory_.protocolClass = session_.ProtocolClass();
-  if (told.kind == PjLinkResult::Kind::Lost) return GiveUp();
+  if (result.kind == PjLinkResult::Kind::Lost) return GiveUp();
   TakeAnswering(now);
   if (asking_ == Asking::Name) {
-    TakeName(told.text);
+    TakeName(result.text);
   } else {
-    TakeStatusText(told);
+    TakeStatusText(result);
     ++question_;
   }
 }
 
-void PjLinkVisit::TakeStatusText(const PjLinkResult& told) {
+void PjLinkVisit::TakeStatusText(const PjLinkResult& result) {
   const PjLinkStatus::Question& question = PjLinkStatus::Questions()[question_];
-  const bool isAnswer = told.kind == PjLinkResult::Kind::Text;
-  if (isAnswer) PjLinkStatus::Take(state_, question, told.text, model_.get(), memory_.inputs);
+  const bool isAnswer = result.kind == PjLinkResult::Kind::Text;
+  if (isAnswer) PjLinkStatus::Take(state_, question, result.text, model_.get(), memory_.inputs);
   for (const StatusItem item : question.items) {
     if (!isAnswer) ForgetStatus(state_, item);
-    SetLacks(item, told.kind == PjLinkResult::Kind::None);
+    SetLacks(item, result.kind == PjLinkResult::Kind::None);
   }
 }
 

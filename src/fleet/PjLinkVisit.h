@@ -26,8 +26,8 @@ class PjLinkVisit final : public Visit {
 
   /// Begins the next question; false when there is none.
   bool Ask(SessionTime now);
-  void TakeTold(SessionTime now);
-  void TakeStatusText(const PjLinkResult& told);
+  void TakeResult(SessionTime now);
+  void TakeStatusText(const PjLinkResult& result);
   void TakeName(const std::string& name);
   bool LacksName() const { return state_.source && state_.source->name.empty(); }
   /// Ends the visit. Items that were not asked for become unknown.

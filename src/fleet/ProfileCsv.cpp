@@ -30,7 +30,7 @@ struct WrongRow {
   QString reason;
 };
 
-/// The cells of a row by their meaning; empty ones tell nothing. Several columns may be tags.
+/// The cells of a row by their meaning; an empty cell changes nothing. Several columns may be tags.
 using Cells = std::map<CsvColumn, QStringList>;
 
 QString One(const Cells& cells, CsvColumn column) {
@@ -48,7 +48,7 @@ QString Identity(const Cells& cells) {
   mac.replace(QLatin1Char('-'), QLatin1Char(':'));
   static const QRegularExpression kMac(QStringLiteral("^([0-9a-f]{2}:){5}[0-9a-f]{2}$"));
   if (!kMac.match(mac).hasMatch()) {
-    throw WrongRow{ProfileCsv::tr("\"%1\" is no MAC number").arg(One(cells, CsvColumn::Mac))};
+    throw WrongRow{ProfileCsv::tr("\"%1\" is not a MAC address").arg(One(cells, CsvColumn::Mac))};
   }
   return QStringLiteral("mac:") + mac;
 }
@@ -75,7 +75,7 @@ Reached Reach(const Cells& cells) {
   QString link;
   if (const QString text = One(cells, CsvColumn::Link); !text.isEmpty()) {
     const auto known = LinkOf(text);
-    if (!known) throw WrongRow{ProfileCsv::tr("\"%1\" is no link").arg(text)};
+    if (!known) throw WrongRow{ProfileCsv::tr("\"%1\" is not a kind of link").arg(text)};
     link = *known;
   }
   QString text = address;
@@ -201,7 +201,7 @@ JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
   if (const QString hours = One(cells, CsvColumn::RatedLampHours); !hours.isEmpty()) {
     bool isNumber = false;
     const int number = hours.toInt(&isNumber);
-    if (!isNumber) throw WrongRow{ProfileCsv::tr("\"%1\" is no number of hours").arg(hours)};
+    if (!isNumber) throw WrongRow{ProfileCsv::tr("\"%1\" is not a number of hours").arg(hours)};
     members.push_back({"ratedLampHours", number});
   }
   tell("snapshot", One(cells, CsvColumn::Snapshot));
@@ -231,7 +231,7 @@ bool Importer::Take(const Cells& cells) {
     throw WrongRow{ProfileCsv::tr("\"%1\" is the name of another projector").arg(newName)};
   }
   if (!known) {
-    edits_.Add(members);
+    edits_.Add(WithIdentity(members));
     Remember(entry);
     return true;
   }

@@ -1,5 +1,8 @@
 #include "fleet/ProfileEdits.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QJsonObject>
 
 namespace AdvancedControl {
@@ -52,6 +55,14 @@ QByteArray ProfileEdits::Text() const {
     isFirst = false;
   }
   return text + tail_;
+}
+
+JsonEdit::Members WithIdentity(JsonEdit::Members members) {
+  const QString key = QStringLiteral("identity");
+  if (std::ranges::find(members, key, &JsonEdit::Member::key) == members.end()) {
+    members.push_back({key, QString::fromStdString(MakeIdentity())});
+  }
+  return members;
 }
 
 QJsonValue ConnectionValue(const ProfileConnection& connection) {

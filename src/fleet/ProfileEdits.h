@@ -48,6 +48,8 @@ class PROJECTOR_FLEET_EXPORT ProfileEdits {
   std::vector<Entry> entries_;
 };
 
+/// The members of a new entry, with an identity of its own if they have none.
+PROJECTOR_FLEET_EXPORT JsonEdit::Members WithIdentity(JsonEdit::Members members);
 /// A connection as a profile file has it.
 PROJECTOR_FLEET_EXPORT QJsonValue ConnectionValue(const ProfileConnection& connection);
 /// The name of a link in a profile file.

@@ -152,15 +152,30 @@ class Unique {
   std::unordered_map<std::string, int> entries_;
 };
 
+/// The presets that the projectors with a tag should be like, by tag.
+std::map<std::string, std::string> TagPresets(const QJsonObject& tags) {
+  std::map<std::string, std::string> presets;
+  for (const QString& tag : tags.keys()) {
+    const QString path = At("tags", tag);
+    const QJsonObject settings = Object(tags[tag], path);
+    CheckKeys(settings, path, {"snapshot"});
+    if (settings.contains("snapshot"))
+      presets[tag.toStdString()] = String(settings["snapshot"], At(path, "snapshot"));
+  }
+  return presets;
+}
+
 std::vector<FleetProfile> Profiles(const QJsonDocument& document) {
   if (!document.isObject()) throw WrongValue{{}, ProfileFile::tr("the file must hold an object")};
   const QJsonObject file = document.object();
-  CheckKeys(file, {}, {"families", "projectors"});
+  CheckKeys(file, {}, {"families", "projectors", "tags"});
   ProfileReader reader(file.contains("families") ? Object(file["families"], "families")
                                                  : QJsonObject());
   if (!file.contains("projectors"))
     throw WrongValue{{}, ProfileFile::tr("\"projectors\" is missing")};
   const QJsonArray entries = Array(file["projectors"], "projectors", kMaximumProjectors);
+  const auto presets =
+      TagPresets(file.contains("tags") ? Object(file["tags"], "tags") : QJsonObject());
 
   std::vector<FleetProfile> profiles;
   profiles.reserve(static_cast<std::size_t>(entries.size()));
@@ -169,8 +184,14 @@ std::vector<FleetProfile> Profiles(const QJsonDocument& document) {
   for (int i = 0; i < entries.size(); ++i) {
     const QString path = At(QStringLiteral("projectors"), i);
     profiles.push_back(reader.Read(Object(entries[i], path), path));
-    names.Add(profiles.back().name, i);
-    if (!profiles.back().identity.empty()) identities.Add(profiles.back().identity, i);
+    FleetProfile& profile = profiles.back();
+    for (auto tag = profile.tags.begin(); profile.snapshot.empty() && tag != profile.tags.end();
+         ++tag) {
+      if (const auto preset = presets.find(*tag); preset != presets.end())
+        profile.snapshot = preset->second;
+    }
+    names.Add(profile.name, i);
+    if (!profile.identity.empty()) identities.Add(profile.identity, i);
   }
   if (profiles.empty()) throw WrongValue{"projectors", ProfileFile::tr("there is no projector")};
   return profiles;
@@ -203,7 +224,7 @@ ProfileList ParseProfileList(const QByteArray& text, const QString& fileName) {
   };
   const JsonLines lines(text);
   if (const auto repeated = lines.RepeatedKey()) {
-    return wrongValue(repeated->path, repeated->line, ProfileFile::tr("stands here twice"));
+    return wrongValue(repeated->path, repeated->line, ProfileFile::tr("is here twice"));
   }
   try {
     return {.profiles = Profiles(document), .error = {}};

@@ -6,6 +6,7 @@
 
 #include "device/HostAddress.h"
 #include "fleet/JsonLines.h"
+#include "simulator/SettingsTable.h"
 
 namespace AdvancedControl {
 

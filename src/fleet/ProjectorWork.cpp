@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "fleet/JobChannel.h"
+#include "device/channels/PjLinkChannel.h"
 #include "fleet/LearningChannel.h"
 #include "fleet/StatusItems.h"
 
@@ -68,11 +68,10 @@ ProjectorWork::ProjectorWork(const FleetTarget& target,
       settings_(target.model ? *target.model : ModelData()),
       progress_{.goesOn = [this] { return goesOn_() && !IsGone(); }} {
   connection_.SetChannel(std::make_shared<LearningChannel>(channel, std::move(observer)));
-  auto* const asked = dynamic_cast<JobChannel*>(channel.get());
-  const bool isPjLink = std::holds_alternative<PjLinkAddress>(target.address);
-  if (asked == nullptr || !isPjLink || settings_.Model().MySourceList.Size() > 0) return;
+  auto* const asked = dynamic_cast<PjLinkChannel*>(channel.get());
+  if (asked == nullptr || settings_.Model().MySourceList.Size() > 0) return;
   ModelData model = settings_.Model();
-  model.MySourceList = SourcesOf(asked->AskForInputs(), InputCodes::AllNames);
+  model.MySourceList = SourcesOf(asked->AskForInputs().first, InputCodes::AllNames);
   settings_ = ModelSettings(std::move(model));
 }
 

@@ -4,8 +4,10 @@
 #include <array>
 #include <utility>
 
-#include <QNetworkInterface>
 #include <QTcpSocket>
+
+#include "fleet/AddressHold.h"
+#include "fleet/MakeVisit.h"
 
 namespace AdvancedControl {
 
@@ -18,15 +20,14 @@ constexpr qint64 kReadBuffer = 8192;
 
 }  // namespace
 
-std::vector<QHostAddress> NetworkBroadcasts() {
+std::vector<QHostAddress> BroadcastsOf(const std::vector<MachineNetwork>& networks) {
   std::vector<QHostAddress> broadcasts;
-  for (const QNetworkInterface& network : QNetworkInterface::allInterfaces()) {
-    const auto flags = network.flags();
-    if (!flags.testFlag(QNetworkInterface::IsUp) ||
-        !flags.testFlag(QNetworkInterface::CanBroadcast)) {
+  for (const MachineNetwork& network : networks) {
+    if (!network.flags.testFlag(QNetworkInterface::IsUp) ||
+        !network.flags.testFlag(QNetworkInterface::CanBroadcast)) {
       continue;
     }
-    for (const QNetworkAddressEntry& entry : network.addressEntries()) {
+    for (const QNetworkAddressEntry& entry : network.addresses) {
       const QHostAddress broadcast = entry.broadcast();
       if (!broadcast.isNull() && std::ranges::find(broadcasts, broadcast) == broadcasts.end()) {
         broadcasts.push_back(broadcast);
@@ -36,12 +37,24 @@ std::vector<QHostAddress> NetworkBroadcasts() {
   return broadcasts;
 }
 
+std::vector<QHostAddress> NetworkBroadcasts() {
+  std::vector<MachineNetwork> networks;
+  for (const QNetworkInterface& network : QNetworkInterface::allInterfaces()) {
+    networks.push_back({network.flags(), network.addressEntries()});
+  }
+  return BroadcastsOf(networks);
+}
+
 /// One inquiry with its connection.
 class SearchDriver::Visit {
  public:
   Visit(SearchDriver& driver, FoundProjector found)
       : driver_(driver),
-        inquiry_(std::move(found), driver.options_.password, driver.options_.limits) {
+        inquiry_(std::move(found), driver.options_.password, driver.options_.limits),
+        hold_(PlaceOf({.id = {}, .address = AddressOfFound()}), AddressHold::Turn::Last, [this] {
+          QMetaObject::invokeMethod(
+              &timer_, [this] { Drive(); }, Qt::QueuedConnection);
+        }) {
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Drive(); });
   }
@@ -54,6 +67,9 @@ class SearchDriver::Visit {
 
  private:
   static PjLinkTime Now() { return std::chrono::steady_clock::now(); }
+  PjLinkAddress AddressOfFound() const {
+    return {.host = inquiry_.Found().address, .port = inquiry_.Found().port, .password = {}};
+  }
   void Connect();
   void Drop();
 
@@ -61,6 +77,7 @@ class SearchDriver::Visit {
   SearchInquiry inquiry_;
   QTimer timer_;
   QTcpSocket* socket_ = nullptr;  // deletes itself later, as it may be calling us
+  const AddressHold hold_;        // the visit begins when it has the address
 };
 
 void SearchDriver::Visit::Drive() {
@@ -198,11 +215,6 @@ void SearchDriver::BeginVisits() {
     --allowance_;
     visits_.push_back(std::make_unique<Visit>(*this, std::move(waiting_.front())));
     waiting_.pop_front();
-    Visit* const visit = visits_.back().get();
-    QTimer::singleShot(0, &context_, [this, visit] {
-      const auto present = std::ranges::find(visits_, visit, &std::unique_ptr<Visit>::get);
-      if (present != visits_.end()) visit->Drive();
-    });
   }
   if (!waiting_.empty() || !visits_.empty() || listening_.isActive()) return;
   pace_.stop();

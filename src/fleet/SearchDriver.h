@@ -10,6 +10,8 @@
 #include <vector>
 
 #include <QHostAddress>
+#include <QList>
+#include <QNetworkInterface>
 #include <QObject>
 #include <QSet>
 #include <QTimer>
@@ -35,7 +37,15 @@ struct SearchOptions {
   PjLinkLimits limits{.connect = std::chrono::milliseconds(1500)};
 };
 
-/// The broadcast address of each network that the machine is in.
+/// A network interface of a machine, with its addresses.
+struct MachineNetwork {
+  QNetworkInterface::InterfaceFlags flags{};
+  QList<QNetworkAddressEntry> addresses{};
+};
+/// The broadcast address of each network that is up and has one, each once.
+PROJECTOR_FLEET_EXPORT std::vector<QHostAddress> BroadcastsOf(
+    const std::vector<MachineNetwork>& networks);
+/// Those of the networks that this machine is in.
 PROJECTOR_FLEET_EXPORT std::vector<QHostAddress> NetworkBroadcasts();
 
 /// Searches for projectors, on Qt's event loop. Sends nothing before `Start`, or after it is

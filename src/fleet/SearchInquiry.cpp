@@ -71,7 +71,7 @@ std::optional<PjLinkQuestion> SearchInquiry::NextQuestion() const {
     const TextQuestion& text = kTexts.at(asked_);
     return PjLinkQuestion{text.protocolClass, std::string(text.command)};
   }
-  return tellsInputs_ ? inputs_.Next() : std::nullopt;
+  return reportsInputs_ ? inputs_.Next() : std::nullopt;
 }
 
 void SearchInquiry::Take(const PjLinkResult& told) {
@@ -85,7 +85,7 @@ void SearchInquiry::Take(const PjLinkResult& told) {
     return;
   }
   if (!inputs_.Take(told)) inputs_.SkipName();
-  tellsInputs_ = inputs_.IsListKnown();
+  reportsInputs_ = inputs_.IsListKnown();
   found_.inputs = inputs_.Known();
 }
 

@@ -55,7 +55,7 @@ class SearchInquiry {
   PjLinkSession session_;
   std::size_t asked_ = 0;  // of the texts
   PjLinkInputs inputs_;
-  bool tellsInputs_ = true;
+  bool reportsInputs_ = true;
   bool isAsking_ = false;
   bool hasFound_ = false;
   int lost_ = 0;

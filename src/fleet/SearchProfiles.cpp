@@ -102,7 +102,8 @@ std::optional<std::size_t> Taker::Find(const FoundProjector& found,
   const auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
   if (there == byAddress_.end()) return std::nullopt;
   // A projector with another identity of the same kind is a different one, even at the same
-  // address. Identities of different kinds (a serial number, a MAC, a made-up one) tell nothing.
+  // address. Identities of different kinds (a serial number, a MAC, a made-up one) cannot be
+  // compared.
   const QString kind =
       entries_[there->second]["identity"].toString().section(QLatin1Char(':'), 0, 0);
   const bool isOther = std::ranges::any_of(identities, [&](const QString& identity) {

@@ -13,6 +13,13 @@ void SocketConnection::Begin(std::string name, std::uint16_t port) {
   ++attempt_;
   name_ = std::move(name);
   port_ = port;
+  tried_ = 0;
+}
+
+void SocketConnection::BeginNext() {
+  Close();
+  ++attempt_;
+  ++tried_;
 }
 
 bool SocketConnection::Connect(const SocketAddress& address) {

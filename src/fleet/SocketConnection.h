@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -25,6 +26,10 @@ class SocketConnection {
   /// Closes the connection and begins another attempt. `name` is that of the host, if it has to be
   /// looked up.
   void Begin(std::string name, std::uint16_t port);
+  /// The same for another address of the name.
+  void BeginNext();
+  /// How many addresses of the name were tried before the present one.
+  std::size_t Tried() const { return tried_; }
   /// False if there can be no connection.
   bool Connect(const SocketAddress& address);
   SerialLine::Problem OpenLine(const std::string& device, std::int32_t baud);
@@ -49,6 +54,7 @@ class SocketConnection {
   std::uint32_t attempt_ = 0;
   std::uint16_t port_ = 0;
   std::string name_{};
+  std::size_t tried_ = 0;
 };
 
 }  // namespace AdvancedControl

@@ -73,8 +73,19 @@ SocketConnection& SocketNetwork::At(Peer peer) {
 void SocketNetwork::ConnectByName(Peer peer) {
   const SocketConnection& connection = At(peer);
   const auto address = names_.AddressOf(connection.Name(), connection.Port());
-  if (address) return Open(peer, *address);
-  Fail(peer, Failure::Kind::NotConnected, ConnectionState::NameUnknown);
+  if (!address) return Fail(peer, Failure::Kind::NotConnected, ConnectionState::NameUnknown);
+  if (At(peer).Connect(*address)) return Watch(peer);
+  if (!ConnectToNext(peer)) Fail(peer, Failure::Kind::NotConnected);
+}
+
+bool SocketNetwork::ConnectToNext(Peer peer) {
+  SocketConnection& connection = At(peer);
+  if (connection.GetStage() != Stage::Connecting || connection.Name().empty()) return false;
+  names_.TakeFailure(connection.Name());
+  if (connection.Tried() + 1 >= names_.Count(connection.Name())) return false;
+  connection.BeginNext();
+  ConnectByName(peer);
+  return true;
 }
 
 void SocketNetwork::Open(Peer peer, const SocketAddress& address) {
@@ -114,7 +125,7 @@ void SocketNetwork::PassEvent(const epoll_event& event, Listener& listener) {
   if (connection.GetStage() == Stage::Failed) return;
   if (connection.GetStage() == Stage::Connecting) {
     if ((event.events & (EPOLLERR | EPOLLHUP)) != 0) {
-      names_.TakeFailure(connection.Name());
+      if (ConnectToNext(peer)) return;
       connection.Close();
       return listener.NotConnected(peer, ConnectionState::NotReachable);
     }

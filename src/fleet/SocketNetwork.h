@@ -23,6 +23,10 @@ class SocketNetwork final : public FleetNetwork {
   void Send(Peer peer, std::string_view bytes) override;
   void Close(Peer peer) override;
 
+  /// Gives up the address of the peer's host name that it is connecting to, and connects to the
+  /// next one. False if there is none.
+  bool ConnectToNext(Peer peer);
+
   /// Listens for status notices; see `NoticeSocket::Open`.
   std::uint16_t ListenForNotices(const std::string& address, std::uint16_t port);
 

@@ -34,7 +34,7 @@ class VisitQueue {
   void Leave(Peer peer);
 
   /// Reserves an address, so that no peer gets a turn there until `Release` has been called as
-  /// often as `Hold`. Returns the peer that has its turn there; it must leave.
+  /// often as `Hold`. Returns the peer that has its turn there; the caller must end that turn.
   std::optional<Peer> Hold(const Address& address);
   void Release(const Address& address);
 

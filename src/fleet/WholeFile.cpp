@@ -18,8 +18,8 @@
 
 namespace AdvancedControl {
 
-// Plain system calls: QSaveFile does not tell when a file could not be brought to the disk, and
-// takes a name only by replacing whoever has it. Where a function fails, errno says why.
+// Plain system calls: QSaveFile does not report that a file could not be brought to the disk, and
+// always replaces a file of the same name. Where a function fails, errno says why.
 
 namespace {
 

@@ -17,6 +17,7 @@
 #include "pages/common/StatusLine.h"
 #include "pages/status/CStatusTabDlg.h"
 #include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/CatalogNumbers.h"
 #include "snapshots/Snapshot.h"
 #include "toolkit/CTabCtrl.h"

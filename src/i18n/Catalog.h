@@ -16,8 +16,8 @@ namespace AdvancedControl {
 // The process-wide message catalog. User-interface thread only; the library loads and unloads it
 // while it is itself loaded and unloaded.
 
-/// The identifier of a message: the category above the number. Both must fit in 16 bits, the
-/// category after 256 is added.
+/// The identifier of a message: the category plus 256 in the upper 16 bits, the number in the lower
+/// ones. Both must fit.
 constexpr std::uint32_t MessageId(int category, int number) {
   return (static_cast<std::uint32_t>(category) + 256U) << 16 | static_cast<std::uint32_t>(number);
 }
@@ -48,9 +48,9 @@ PROJECTOR_SETTINGS_EXPORT std::string CatalogProblem();
 /// Whether a module is loaded; without one every text is "No Message Catalog".
 PROJECTOR_SETTINGS_EXPORT bool IsCatalogLoaded();
 
-/// The language whose texts are shown now: the system language if the loaded module lists it and no
-/// marker file is there, else that of the module's entries of 1033: 1033, or 2052 in the Chinese
-/// module.
+/// The language whose texts are shown now: the system language if the loaded module lists it and
+/// there is no marker file. Otherwise the entries of 1033 are shown; the result is then 2052 for
+/// the Chinese module, whose entries of 1033 are Chinese, and 1033 for the other one.
 PROJECTOR_SETTINGS_EXPORT std::uint32_t ShownLanguageId();
 
 /// `GetCatalogText` with the inserts in an array.
@@ -64,9 +64,9 @@ PROJECTOR_SETTINGS_EXPORT void GetCatalogTextV(int category, int number, int buf
 /// longer text is cut before the character that does not fit. With a size of 0 or less, or a null
 /// buffer, nothing happens. `inserts` (texts and integers) fill the message's %1, %2 ...
 ///
-/// The text is that of the system language, else the one of language 1033; with a file "GETENG" or
-/// "GETSCH" in the current directory only the latter. Each call looks at the files and the
-/// environment again. If there is no text, or it cannot be formatted, the result is "No Message
+/// The text is that of the system language, or else that of language 1033. With a file "GETENG" or
+/// "GETSCH" in the current directory it is always that of 1033. Each call looks at the files and
+/// the environment again. If there is no text, or it cannot be formatted, the result is "No Message
 /// Catalog".
 PROJECTOR_SETTINGS_EXPORT void GetCatalogText(int category, int number, int bufferSize,
                                               char* buffer);
@@ -77,8 +77,8 @@ requires(sizeof...(Inserts) > 0) void GetCatalogText(int category, int number, i
   GetCatalogTextV(category, number, bufferSize, buffer, list);
 }
 
-/// Many texts at once: during its lifetime, language and marker files count as they were when the
-/// first one was made, so that they are looked up once. The event loop must not run meanwhile.
+/// Speeds up getting many texts: while one exists, the language and the marker files are looked up
+/// only once. Batches may be nested. The event loop must not run meanwhile.
 class PROJECTOR_SETTINGS_EXPORT CatalogBatch {
  public:
   CatalogBatch();

@@ -27,17 +27,18 @@ struct CatalogLanguage {
 PROJECTOR_SETTINGS_EXPORT std::vector<CatalogLanguage> CatalogLanguages(
     std::span<const std::string> folders);
 
-/// The identifier of the language that a person calls `text`: a tag or the name of a locale ("de",
+/// The identifier of the language that the user calls `text`: a tag or the name of a locale ("de",
 /// "zh-TW", "pt_BR.UTF-8"), a name of the language ("Deutsch", "german"), or an identifier
 /// ("1031"). Regions that the modules do not list get the language itself, so "en-GB" is 1033 and
-/// "zh-SG" is 2052. Nothing if none of `languages` is meant.
+/// "zh-SG" is 2052. Nothing if none of `languages` is meant. Any thread.
 PROJECTOR_SETTINGS_EXPORT std::optional<std::uint32_t> FindLanguage(
     std::span<const CatalogLanguage> languages, std::string_view text);
 
-/// The value of LC_ALL that makes `languageId` the system language: "de_AT.UTF-8" for 3079.
+/// The value of LC_ALL that makes `languageId` the system language: "de_AT.UTF-8" for 3079. Any
+/// thread.
 PROJECTOR_SETTINGS_EXPORT std::string LocaleOf(std::uint32_t languageId);
 
-/// Whether the language is written from right to left.
+/// Whether the language is written from right to left. Any thread.
 PROJECTOR_SETTINGS_EXPORT bool IsRightToLeft(std::uint32_t languageId);
 
 }  // namespace AdvancedControl

@@ -26,7 +26,7 @@ class CatalogTexts {
   std::optional<std::string> Find(std::uint32_t languageId, int category, int number,
                                   std::span<const CatalogInsert> inserts = {}) const;
 
-  /// The languages of all modules. One that two modules have occurs once, as in the first.
+  /// The languages of all modules. A language in two modules is listed once, as in the first one.
   std::vector<MessageTable::Language> Languages() const;
 
  private:

@@ -22,8 +22,8 @@ class MessageCatalog {
     return messages_.Find(languageId, messageId);
   }
 
-  /// Where the messages of a language are, if it has any. With this a lookup is faster; its result
-  /// is false if there is no message.
+  /// Where the messages of a language are, if it has any; makes lookups faster. The result of such
+  /// a lookup is false if there is no message.
   std::optional<MessageTable::Part> PartOf(std::uint32_t languageId) const {
     return messages_.PartOf(languageId);
   }

@@ -51,7 +51,7 @@ inline constexpr std::size_t kMaxMessageBytes = std::size_t{64} * 1024;
 /// by default 32 bits; width and precision of a text count characters.
 ///
 /// No result if an insert is missing or cannot be converted, if the message is malformed, or if the
-/// result exceeds the limits above.
+/// result exceeds the limits above. Any thread.
 std::optional<std::string> ExpandMessage(std::string_view text,
                                          std::span<const CatalogInsert> inserts);
 

@@ -10,14 +10,15 @@
 
 namespace AdvancedControl {
 
-/// Finds most identifiers of a sorted list at once, in memory that does not depend on the
-/// identifiers: those with a low number in one of the first categories.
+/// Finds the position of an identifier in a sorted list in constant time. To bound its memory, it
+/// indexes only identifiers with a low number in one of the first categories. May be read from
+/// several threads at once.
 class MessageIndex {
  public:
-  /// Indexes identifiers that ascend.
+  /// Indexes identifiers, which must ascend.
   void Build(std::span<const std::uint32_t> ids);
 
-  /// The identifier's position in the list. Nothing also for one that is not indexed.
+  /// The identifier's position in the list; nothing if it is not in the list or not indexed.
   std::optional<std::size_t> Find(std::uint32_t id) const {
     for (const Category& category : categories_) {
       if (category.upper != id >> kNumberBits) continue;

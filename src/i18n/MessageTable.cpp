@@ -51,7 +51,8 @@ class MessageTable::Reader {
   }
 
  private:
-  // A table that was read. One with ANSI texts means something else in another language.
+  // A table that was read. ANSI texts are read again for each language, because their code page
+  // depends on it.
   struct ReadTable {
     Part part;
     bool isShareable = true;
@@ -252,7 +253,7 @@ std::optional<MessageTable> MessageTable::Parse(std::span<const std::byte> modul
   const auto image = ModuleImage::Open(module);
   if (!image) return {};
   MessageTable table;
-  // Generous: what is not used takes no memory.
+  // More than is needed: memory that is reserved but not used costs nothing.
   table.texts_.reserve(module.size());
   table.ids_.reserve(module.size() / kUsualEntryBytes);
   table.places_.reserve(module.size() / kUsualEntryBytes);

@@ -48,7 +48,7 @@ class MessageTable {
   /// table, even if the table is moved.
   std::optional<CatalogMessage> Find(std::uint32_t languageId, std::uint32_t messageId) const;
 
-  /// Where the messages of a language are among all: positions, in the order of their numbers.
+  /// The positions of a language's messages among all messages. They are sorted by number.
   struct Part {
     std::uint32_t begin;
     std::uint32_t end;
@@ -69,8 +69,8 @@ class MessageTable {
 
   bool HasLanguage(std::uint32_t languageId) const { return PartOf(languageId).has_value(); }
 
-  /// A language of the table and the first one that has the same messages, by identifier. Languages
-  /// that share nothing have themselves.
+  /// A language of the table, and the lowest language that has the same messages: itself if it
+  /// shares them with none.
   struct Language {
     std::uint32_t id;
     std::uint32_t first;

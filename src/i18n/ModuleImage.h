@@ -32,7 +32,7 @@ inline std::uint32_t U32(Bytes bytes, std::size_t offset) {
 /// The largest module that is read.
 inline constexpr std::size_t kMaxModuleBytes = std::size_t{32} << 20;
 
-/// The bytes of a regular file of that size at most; of any other, none.
+/// The bytes of a regular file; none if it is larger than that or not a regular file. Any thread.
 std::vector<std::byte> ReadModule(const std::string& path);
 
 /// The sections of a module and its resource directory. Refers to the bytes passed to `Open`.

@@ -14,8 +14,8 @@ namespace AdvancedControl {
 
 namespace {
 
-// Whether the environment has other entries than in the last call. A look at all of them is faster
-// than a search for one.
+// Whether the environment has changed since the last call. Comparing the addresses of all entries
+// is faster than searching for one variable.
 bool HasEnvironmentChanged() {
   static std::vector<const char*> known;  // with the null at the end
   static char* none = nullptr;

@@ -20,7 +20,7 @@ inline constexpr std::uint32_t kPseudoMirrored = 2559;
 
 /// The language identifier of a locale's name or language tag, such as "de_AT.UTF-8" or "zh-Hant".
 /// A name without a region gets the language's default region. Nothing for "C", "POSIX" and names
-/// without an identifier.
+/// without an identifier. Any thread.
 PROJECTOR_SETTINGS_EXPORT std::optional<std::uint32_t> LanguageIdOf(std::string_view name);
 
 /// The system default language identifier: that of the locale in LC_ALL, LC_MESSAGES or LANG, the

@@ -13,8 +13,8 @@ struct UConverter;
 
 namespace AdvancedControl {
 
-/// Decodes the texts of a message table's entries to UTF-8. Caches the converter of the last code
-/// page.
+/// Decodes the texts of a message table's entries to UTF-8. Keeps the converter of the last code
+/// page. Use it from one thread.
 class TextDecoder {
  public:
   /// Appends the text up to its first zero character; invalid characters become U+FFFD. False if it

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/common/CTabPage.h"
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/PageTables.h"
 
 // Pages that are nothing but their table.

@@ -7,10 +7,6 @@ namespace {
 using namespace tmpl;
 using enum RowPlace;
 
-constexpr RowTemplate ListRow(int number, const char* caption, int list) {
-  return Row(Left, Label(20600 + number, caption), Colon(20700 + number), Combo(list));
-}
-
 constexpr RowTemplate kVolume =
     SliderRow(Left, Label(20620, "1;Volume"), 20720, {20130, 20131, 20132, 20133});
 constexpr RowTemplate kWhisper = ListRow(21, "75;Whisper", 20134);

@@ -8,10 +8,6 @@ namespace {
 using namespace tmpl;
 using enum RowPlace;
 
-constexpr RowTemplate ListRow(int number, const char* caption, int list) {
-  return Row(Left, Label(20600 + number, caption), Colon(20700 + number), Combo(list));
-}
-
 constexpr RowTemplate kPower =
     Row(Left, Label(20630, "4200;Power"), Colon(20730),
         Button(ControlId::Other::PowerOn, "4201;Turn On"),

@@ -3,7 +3,7 @@
 #include <span>
 
 #include "Namespace.h"
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "toolkit/DialogTemplate.h"
 
 namespace AdvancedControl {
@@ -15,6 +15,13 @@ extern const DialogTemplate kAdvanceTemplate;
 extern const DialogTemplate kGammaTemplate;
 extern const DialogTemplate kColorTempTemplate;
 extern const DialogTemplate kServiceTemplate;
+
+/// A row with a list, in the left column. `number` distinguishes its label and colon from those of
+/// the other rows.
+constexpr RowTemplate ListRow(int number, const char* caption, int list) {
+  return tmpl::Row(RowPlace::Left, tmpl::Label(20600 + number, caption),
+                   tmpl::Colon(20700 + number), tmpl::Combo(list));
+}
 
 /// The template of a page.
 constexpr DialogTemplate PageTemplate(int number, std::span<const RowTemplate> rows) {

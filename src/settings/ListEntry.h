@@ -74,7 +74,7 @@ PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> ColorTempEntries(const ModelDat
 /// The same with the texts that only one page uses.
 std::vector<ListEntry> Picture1ColorTempEntries(const ModelData& model);
 /// The lamp modes whose names the dialogs know. The value of a mode is its position among the known
-/// ones, which is what the projector takes: an unknown name moves the modes after it up.
+/// ones, because the projector counts only these.
 PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> WhisperEntries(const ModelData& model);
 PROJECTOR_SETTINGS_EXPORT std::vector<ListEntry> AspectEntries(const ModelData& model);
 /// The input sources with their own names. The upper half of a source's word is not part of its

@@ -51,7 +51,7 @@ void Describe(const StateRow& row, const ModelData& model, ModelSetting& setting
 
 void Describe(const ActionRow& row, const ModelData& model, ModelSetting& setting) {
   setting.kind = ModelSetting::Kind::Action;
-  if (row.list != 0) setting.entries = row.entries.Of(model);
+  if (row.list) setting.entries = row.list->entries.Of(model);
 }
 
 void Describe(const auto&, const ModelData&, ModelSetting&) {}
@@ -78,6 +78,11 @@ std::vector<std::string_view> AllKeys() {
 bool ModelSetting::SelectsInput() const {
   const auto* list = std::get_if<ListRow>(row);
   return list != nullptr && list->send && list->send->code == CommandCode::InputSource;
+}
+
+bool ModelSetting::IsPower() const {
+  const auto* state = std::get_if<StateRow>(row);
+  return state != nullptr && state->read.code == CommandCode::RunningState;
 }
 
 bool ModelSetting::IsStepped() const {

@@ -47,6 +47,8 @@ struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
   bool IsPerSource() const { return of != OfSource::None || ofCurrentSourceOnly; }
   /// Whether changing it switches the projector's input source.
   bool SelectsInput() const;
+  /// Whether it is the power state, with or without buttons that switch it.
+  bool IsPower() const;
   /// Whether it has no setter and is therefore changed step by step.
   bool IsStepped() const;
   /// Whether the setting allows this device value.
@@ -56,10 +58,10 @@ struct PROJECTOR_SETTINGS_EXPORT ModelSetting {
 /// A setting to be read, and the input source that it is read for.
 struct SourcedSetting {
   const ModelSetting* setting = nullptr;  ///< Never null.
-  std::optional<int> source{};  ///< Nothing for one that belongs to none, or while unknown.
+  std::optional<int> source{};  ///< Nothing if it belongs to no source or its source is unknown.
 };
 
-/// The keys of all settings of all models, with duplicates.
+/// The keys of all settings of all models, with duplicates. Any thread.
 PROJECTOR_SETTINGS_EXPORT std::vector<std::string_view> AllKeys();
 
 /// All settings of a model in the order of its pages; those of a pop-up follow those of the page

@@ -9,7 +9,7 @@
 
 namespace AdvancedControl {
 
-// The rows of every page, one line per row.
+// The rows of every page, one line per row. Any thread.
 
 #define PAGE(identifier, number, pageClass) \
   PROJECTOR_SETTINGS_EXPORT extern const PageTable k##identifier##Rows;

@@ -13,10 +13,10 @@ constexpr Call kInput = Named(PjtOperation::GetInputSource);
 constexpr Call kCurrentQuestions[] = {kInput};
 constexpr Call kPlayingQuestions[] = {Get(CommandCode::RunningState), kInput};
 
-// Models that play the standby source while they are not running.
+// Models that play a standby source while they are not running.
 constexpr ModelCodes kCodesWithStandbySource{49, 50, 51, 52, 53, 54};
 constexpr int kStandbySource = 15;
-// Running states in which these models play it.
+// The running states in which these models play the standby source.
 constexpr int kStandby = 0;
 constexpr int kCoolingDown = 2;
 // The source that a projector reports while it plays nothing.

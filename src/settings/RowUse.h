@@ -51,7 +51,8 @@ enum class Sent : std::uint8_t {
 PROJECTOR_SETTINGS_EXPORT Sent SendRow(CPjtInterface& projector, const PageRow& row,
                                        const ModelData& model, int value, const Sending& how = {});
 
-/// The source that a step addresses, given the result of `AskSource`; nothing if no step is made.
+/// The source that a step addresses, given the result of `AskSource`; nothing if there must be no
+/// step.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> SteppedSource(OfSource of, std::optional<int> asked);
 
 /// The result of a step: refused, or the new value. Neither if nothing was sent, if the step had no

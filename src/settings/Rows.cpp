@@ -61,14 +61,8 @@ std::vector<int> ControlsOf(const PageRow& row) {
   if (value == nullptr) return {ControlOf(row)};
   const ValueIds& ids = value->ids;
   std::vector<int> controls{ids.minus, ids.plus, ids.field};
-  if (ids.slider != 0) controls.push_back(ids.slider);
+  if (!value->stepsOnly) controls.push_back(ids.slider);
   return controls;
-}
-
-int ListBeside(const PageRow& row) {
-  if (const auto* action = std::get_if<ActionRow>(&row)) return action->list;
-  const auto* reset = std::get_if<ResetRow>(&row);
-  return reset != nullptr ? reset->list : 0;
 }
 
 const PageRow& FindRow(const PageTable& table, int control) {
@@ -106,7 +100,7 @@ OfSource SourceOf(const PageRow& row) {
 
 std::optional<Call> ResetOf(const PageTable& table, const PageRow& row) {
   const auto* value = std::get_if<ValueRow>(&row);
-  if (value != nullptr && value->reset.button != 0) return value->reset.call;
+  if (value != nullptr && value->reset) return value->reset->call;
   for (const PageRow& other : table.rows) {
     const auto* resets = std::get_if<ResetRow>(&other);
     if (resets == nullptr) continue;

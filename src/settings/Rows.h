@@ -37,7 +37,7 @@ enum class NoEntry : std::uint8_t {
   Clears,      ///< Nothing is selected.
   Keeps,       ///< The selection stays.
   IsPosition,  ///< The value is used as the position.
-  Ignored,     ///< Treated as not read: whether the list is enabled stays as well.
+  Ignored,     ///< Nothing changes: neither the selection nor whether the list is enabled.
   IsOrdinal,   ///< The value is used as the position, counted from 1.
 };
 
@@ -71,8 +71,8 @@ struct ListRules {
   /// After every choice the setting is read as in a refresh, because the setter has no result that
   /// would say whether the projector accepted it.
   bool readsBackAlways = false;
-  /// Value of a last entry that stands for all values without an entry. It is never sent: choosing
-  /// it shows the projector's value.
+  /// Value of the last entry if that stands for all values without an entry. It is never sent:
+  /// choosing it shows the projector's value.
   PerModel<std::optional<int>> placeholder{};
 };
 
@@ -98,7 +98,7 @@ struct ListRow {
   }
 };
 
-/// Controls of a value row; 0 for a missing one.
+/// Controls of a value row. A row that is `stepsOnly` has no slider.
 struct ValueIds {
   int minus = 0, slider = 0, plus = 0, field = 0;
 };
@@ -114,9 +114,9 @@ enum class RefusedDrag : std::uint8_t {
 /// No limits for − and + except the projector's.
 inline constexpr Range kUnbounded{-0x10000, 0x10000};
 
-/// When a row remembers the device value instead of the shown value. This asymmetry is deliberate:
-/// a slider always remembers its position, and after a refusal returns to whatever was remembered
-/// last.
+/// When a row remembers the device value instead of the shown value. After a refusal the slider
+/// moves to the remembered value. That it may be a device value there is deliberate; a drag always
+/// remembers the shown value.
 enum class DeviceMemory : std::uint8_t { Never, OfSteps, OfStepsAndReads };
 
 /// The button that resets one row. The value read afterwards is shown, unless it is below the row's
@@ -131,9 +131,9 @@ struct RowReset {
 /// are device values − `bias`. A step is sent only within the bounds, and the value is read back
 /// afterwards. If a step is refused, the slider returns and `error` is shown, unless that is 0.
 ///
-/// Some steppers answer with the new value. Of those that need the present value, some read it
-/// first; those that address a channel use the remembered shown value. If a stepper of the latter
-/// kind leaves the value unchanged, the step was refused, and no error is shown.
+/// Some steppers answer with the new value. Some need the present value: those that address a
+/// channel use the remembered shown value, the others read it first. If a stepper that addresses a
+/// channel leaves the value unchanged, the step was refused, and no error is shown.
 struct ValueRow {
   static constexpr int kNoRangeText = -1;
 
@@ -161,7 +161,7 @@ struct ValueRow {
   /// The projector keeps it for each input source, but only the present source's value can be read
   /// and changed.
   bool ofCurrentSourceOnly = false;
-  RowReset reset{};
+  std::optional<RowReset> reset{};
   Presence on{};
 
   // The calls, for the source that the row belongs to.
@@ -171,7 +171,7 @@ struct ValueRow {
     return For(source, upwards ? up.value_or(Inc(code)) : down.value_or(Dec(code)));
   }
   /// The control by which the row is found.
-  constexpr int Control() const { return ids.slider != 0 ? ids.slider : ids.field; }
+  constexpr int Control() const { return stepsOnly ? ids.field : ids.slider; }
 
  private:
   constexpr Call For(int source, const Call& call) const {
@@ -207,9 +207,14 @@ enum class Rereads : std::uint8_t {
   Never,
   WhenDone,
   Always,
-  /// After success, only the value row that was reset, which does not remember the value it then
-  /// shows.
+  /// After success, only the value row that was reset. It shows the value without remembering it.
   ItsRow,
+};
+
+/// The list beside an action's button. The action sends the position of the chosen entry.
+struct ActionList {
+  int control = 0;
+  Entries entries{};
 };
 
 /// A button that makes the projector do something.
@@ -219,8 +224,7 @@ struct ActionRow {
   int control = 0;
   Call call{};
   Rereads rereads = Rereads::Never;
-  int list = 0;  ///< List whose position the call sends; 0 for none.
-  Entries entries{};
+  std::optional<ActionList> list{};
   Presence on{};
   int error = 0;  ///< Text shown for a refusal; 0 for none.
   int done =
@@ -231,7 +235,7 @@ struct ActionRow {
 struct ResetEntry {
   int text = 0;              ///< Number in the list category.
   PjtOperation operation{};  ///< Without arguments.
-  int of = 0;  ///< Control of the row that it resets; only listed if the model has that row.
+  std::optional<int> of{};   ///< Control of the row that it resets; listed only with that row.
 };
 
 /// The list of a page's resets and the button that runs the chosen one.
@@ -277,8 +281,6 @@ PROJECTOR_SETTINGS_EXPORT int CaptionOf(const PageRow& row);
 PROJECTOR_SETTINGS_EXPORT int ControlOf(const PageRow& row);
 /// The controls that show and change a row's value, without the buttons of resets.
 PROJECTOR_SETTINGS_EXPORT std::vector<int> ControlsOf(const PageRow& row);
-/// The list beside an action's button, or 0.
-PROJECTOR_SETTINGS_EXPORT int ListBeside(const PageRow& row);
 
 /// The row with this control, which the table must have.
 PROJECTOR_SETTINGS_EXPORT const PageRow& FindRow(const PageTable& table, int control);

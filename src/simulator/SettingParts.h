@@ -3,7 +3,7 @@
 #include "Namespace.h"
 #include "device/CommandCode.h"
 #include "device/ModelData.h"
-#include "simulator/SettingsTable.h"
+#include "simulator/Setting.h"
 
 namespace AdvancedControl {
 

@@ -1,10 +1,9 @@
 #include "simulator/SimulatedLayout.h"
 
 #include <algorithm>
-#include <charconv>
-#include <optional>
-#include <string_view>
 #include <utility>
+
+#include "simulator/SettingsTable.h"
 
 namespace AdvancedControl {
 
@@ -13,47 +12,9 @@ namespace {
 /// The setting of a command code without a known meaning, which stores any value.
 constexpr Setting kPlain{.id = SettingId::Count, .name = "", .range = {0, 0xFFFF}};
 
-std::optional<int> Number(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(' ');
-  if (start == std::string_view::npos) return std::nullopt;
-  int number = 0;
-  const char* const end = text.data() + text.size();
-  if (std::from_chars(text.data() + start, end, number).ec != std::errc{}) return std::nullopt;
-  return number;
-}
-
-std::optional<SettingRange> ParseRange(std::string_view text) {
-  const std::size_t comma = text.find(',');
-  if (comma == std::string_view::npos) return std::nullopt;
-  const std::optional<int> minimum = Number(text.substr(0, comma));
-  const std::optional<int> maximum = Number(text.substr(comma + 1));
-  if (!minimum || !maximum || *minimum > *maximum) return std::nullopt;
-  return SettingRange{*minimum, *maximum};
-}
-
-std::vector<int> ListValues(const CountedList& list) {
-  return {list.values.begin(), list.values.begin() + list.Size()};
-}
-
 }  // namespace
 
-SimulatedModel DescribeModel(const ModelData& data) {
-  SimulatedModel model{.pageSet = data.DialogType, .ranges = {}};
-  for (const Setting& setting : SettingsTable()) {
-    if (setting.rangeText == Setting::kNoRangeText) continue;
-    if (const auto range = ParseRange(data.RangeTexts[setting.rangeText])) {
-      model.ranges[setting.id] = *range;
-    }
-  }
-  const auto* const sources = data.MySourceList.firstValues.begin();
-  model.values[SettingId::InputSource] = {sources, sources + data.MySourceList.Size()};
-  model.values[SettingId::Aspect] = ListValues(data.AspectList);
-  model.values[SettingId::Gamma] = ListValues(data.GammaList);
-  model.values[SettingId::ColorTemp] = ListValues(data.ColorTempList);
-  return model;
-}
-
-SimulatedProjector::Layout::Layout(SimulatedModel model) {
+SimulatedLayout::SimulatedLayout(SimulatedModel model) {
   slotOfSetting_.fill(-1);
   for (const Setting& setting : SettingsTable()) {
     if (Knows(setting.sets, model.pageSet) && !model.missing.contains(setting.id)) {
@@ -73,7 +34,7 @@ SimulatedProjector::Layout::Layout(SimulatedModel model) {
   }
 }
 
-void SimulatedProjector::Layout::Add(const Setting& setting, SimulatedModel& model) {
+void SimulatedLayout::Add(const Setting& setting, SimulatedModel& model) {
   const std::size_t index = slots.size();
   SimulatedSlot slot{.setting = &setting, .index = index, .range = setting.range, .values = {}};
   slot.values.assign(setting.values.begin(), setting.values.end());
@@ -101,19 +62,14 @@ void SimulatedProjector::Layout::Add(const Setting& setting, SimulatedModel& mod
   }
 }
 
-const SimulatedSlot* SimulatedProjector::Layout::Find(SettingId id) const {
+const SimulatedSlot* SimulatedLayout::Find(SettingId id) const {
   const int index = slotOfSetting_[static_cast<std::size_t>(id)];
   return index < 0 ? nullptr : &slots[static_cast<std::size_t>(index)];
 }
 
-const SimulatedSlot* SimulatedProjector::Layout::FindCode(std::uint16_t code) const {
+const SimulatedSlot* SimulatedLayout::FindCode(std::uint16_t code) const {
   const auto found = slotOfCode_.find(code);
   return found == slotOfCode_.end() ? nullptr : &slots[found->second];
-}
-
-std::shared_ptr<const SimulatedProjector::Layout> SimulatedProjector::MakeLayout(
-    SimulatedModel model) {
-  return std::make_shared<const Layout>(std::move(model));
 }
 
 }  // namespace AdvancedControl

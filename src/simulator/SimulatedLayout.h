@@ -7,14 +7,15 @@
 #include <vector>
 
 #include "Namespace.h"
-#include "simulator/SimulatedProjector.h"
+#include "simulator/SimulatedModel.h"
 #include "simulator/SimulatedSlot.h"
 
 namespace AdvancedControl {
 
-class SimulatedProjector::Layout {
+/// The settings of a model, and where each command finds them. Does not change; any thread.
+class SimulatedLayout {
  public:
-  explicit Layout(SimulatedModel model);
+  explicit SimulatedLayout(SimulatedModel model);
 
   /// Null if the model does not have the setting.
   const SimulatedSlot* Find(SettingId id) const;

@@ -20,10 +20,14 @@ bool IsSource(int source) { return source >= 0 && source <= 255; }
 
 }  // namespace
 
+std::shared_ptr<const SimulatedLayout> SimulatedProjector::MakeLayout(SimulatedModel model) {
+  return std::make_shared<const SimulatedLayout>(std::move(model));
+}
+
 SimulatedProjector::SimulatedProjector(SimulatedModel model)
     : SimulatedProjector(MakeLayout(std::move(model))) {}
 
-SimulatedProjector::SimulatedProjector(std::shared_ptr<const Layout> layout)
+SimulatedProjector::SimulatedProjector(std::shared_ptr<const SimulatedLayout> layout)
     : layout_(std::move(layout)), values_(layout_->slots) {}
 
 SimulatedProjector::~SimulatedProjector() = default;

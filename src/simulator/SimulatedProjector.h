@@ -2,37 +2,23 @@
 
 #include <chrono>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <set>
 #include <span>
-#include <vector>
 
 #include "Namespace.h"
 #include "ProjectorCommonExport.h"
-#include "device/ModelData.h"
 #include "device/ProjectorChannel.h"
 #include "simulator/PowerSwitch.h"
-#include "simulator/SettingsTable.h"
+#include "simulator/Setting.h"
+#include "simulator/SimulatedModel.h"
 #include "simulator/SimulatedValues.h"
 
 namespace AdvancedControl {
 
+class SimulatedLayout;
 struct SimulatedRoute;
-
-/// How a model's projector differs from the settings table.
-struct SimulatedModel {
-  int pageSet = 5;                                 ///< 1..5.
-  std::map<SettingId, SettingRange> ranges;        ///< Instead of the table's, in device values.
-  std::map<SettingId, std::vector<int>> values{};  ///< The device values allowed, in list order.
-  std::set<SettingId> missing{};                   ///< Commands for these are refused.
-};
-
-/// The model that a host describes: its page set, ranges, sources, aspects, gammas and colour
-/// temperatures. A range text without two ascending numbers is ignored.
-PROJECTOR_COMMON_EXPORT SimulatedModel DescribeModel(const ModelData& data);
 
 /// A projector simulated with the settings table. It answers every command, stores accepted values
 /// and refuses those out of range. Named and generic commands reach the same settings.
@@ -45,11 +31,10 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
 
   /// What all projectors of a model have in common. A program that simulates many projectors makes
   /// it once for each model; a projector then takes about a kilobyte. Does not change; any thread.
-  class Layout;
-  static std::shared_ptr<const Layout> MakeLayout(SimulatedModel model);
+  static std::shared_ptr<const SimulatedLayout> MakeLayout(SimulatedModel model);
 
   explicit SimulatedProjector(SimulatedModel model = {});
-  explicit SimulatedProjector(std::shared_ptr<const Layout> layout);
+  explicit SimulatedProjector(std::shared_ptr<const SimulatedLayout> layout);
   ~SimulatedProjector() override;
   SimulatedProjector(const SimulatedProjector&) = delete;
   SimulatedProjector& operator=(const SimulatedProjector&) = delete;
@@ -92,7 +77,7 @@ class PROJECTOR_COMMON_EXPORT SimulatedProjector : public ProjectorChannel {
   /// Brings the running state up to date.
   void UpdatePower() const;
 
-  const std::shared_ptr<const Layout> layout_;
+  const std::shared_ptr<const SimulatedLayout> layout_;
 
   mutable std::mutex mutex_;
   // Protected by the mutex.

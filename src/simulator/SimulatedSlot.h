@@ -7,7 +7,7 @@
 
 #include "Namespace.h"
 #include "device/CommandCode.h"
-#include "simulator/SettingsTable.h"
+#include "simulator/Setting.h"
 
 namespace AdvancedControl {
 

@@ -19,8 +19,8 @@ bool DependsOn(const RestoredSetting& other, const RestoredSetting& sent) {
     case Rank::Number:
       break;
   }
-  // Two settings of one caption may be the same thing on two pages, but not for different sources,
-  // nor if one is for the horizontal and one for the vertical direction.
+  // Two settings with the same caption may be one setting on two pages. They are not if they belong
+  // to different sources, or one is horizontal and the other vertical.
   const bool isElsewhere = own && sent.saved.source && own != sent.saved.source;
   const bool isAcross = other.setting->key.ends_with("-h") != sent.setting->key.ends_with("-h");
   return !isElsewhere && !isAcross && other.setting->caption == sent.setting->caption;

@@ -18,7 +18,7 @@ Outcome InitialOutcome(const ModelSettings& model, const ModelSetting* setting,
   return isAllowed ? Outcome::NotReached : Outcome::NotAllowed;
 }
 
-/// False for a setting that the model does not have: others may depend on it.
+/// False for a setting that the model does not have, because others may depend on such a setting.
 bool IsNumber(const RestoredSetting& restored) {
   return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
 }
@@ -99,7 +99,7 @@ void Restoration::Read(RestoredSetting& restored, const Progress& progress) {
   restored.before = model_.Read(connection_, *restored.setting, restored.saved.source);
   if (!restored.first) restored.first = restored.before;
   if (!restored.before) {
-    // Without an answer, the projector has refused nothing.
+    // A projector that did not answer has not refused anything.
     const CPjtInterface::Tally now = connection_.Sent();
     const bool isGone = now.unanswered > sent.unanswered || !progress.goesOn();
     const Outcome refused = now.busy > sent.busy ? Outcome::Busy : Outcome::Refused;

@@ -12,9 +12,9 @@
 namespace AdvancedControl {
 
 /// Restores the settings of a snapshot on a projector of the same model or another one. Call
-/// `Read`, then `Send`. `Settings` is correct whenever the work ends, and repeating it all
-/// completes an interrupted restoration. `model` and `connection` must outlive it. Call it from one
-/// thread, on which the connection's channel may be called.
+/// `Read`, then `Send`. `Settings` is correct even if the work is interrupted; to complete it,
+/// restore the snapshot again. `model` and `connection` must outlive it. Use it from the thread on
+/// which the connection's channel may be called.
 class PROJECTOR_SETTINGS_EXPORT Restoration {
  public:
   using Filter = std::function<bool(const SavedSetting&)>;
@@ -29,9 +29,9 @@ class PROJECTOR_SETTINGS_EXPORT Restoration {
   /// Sends the snapshot's `beforehand` in order, up to a source or mode that cannot be set. Then
   /// sends what differs, starting with the settings that others depend on, and reads it back. While
   /// it is unknown whether a change that others depend on will be carried out, nothing after it is
-  /// sent. Texts are for connections that use them. `keepUndo` is called each time `Undo` has
-  /// grown, before the change is sent, and once more at the end; if it returns false, nothing more
-  /// is sent.
+  /// sent. `texts` is for connections that are given the text of an entry. `keepUndo` is called
+  /// each time `Undo` has grown, before the change is sent, and once more at the end; if it returns
+  /// false, nothing more is sent.
   void Send(
       const SettingTexts& texts, const Progress& progress = {},
       const std::function<bool()>& keepUndo = [] { return true; });

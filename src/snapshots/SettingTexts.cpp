@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include "device/CommandCode.h"
 #include "i18n/SystemLanguage.h"
 #include "settings/CatalogNumbers.h"
 
@@ -35,11 +34,6 @@ QString Wide(std::string_view text) {
 
 bool SameText(std::string_view a, std::string_view b) {
   return Wide(a).compare(Wide(b).trimmed(), Qt::CaseInsensitive) == 0;
-}
-
-bool IsPower(const ModelSetting& setting) {
-  const auto* const state = std::get_if<StateRow>(setting.row);
-  return state != nullptr && state->read.code == CommandCode::RunningState;
 }
 
 bool IsNameShared(const ModelSetting& setting, const ListEntry& entry) {
@@ -117,7 +111,7 @@ std::string SettingTexts::Entry(const ListEntry& entry) const {
 }
 
 std::string SettingTexts::Entry(const ModelSetting& setting, const ListEntry& entry) const {
-  if (IsPower(setting) && entry.value == kStandby) {
+  if (setting.IsPower() && entry.value == kStandby) {
     return Text(kListCategory, ListText::PowerStandby);
   }
   return Entry(entry) +
@@ -130,10 +124,10 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value) const {
 
 std::string SettingTexts::Value(const ModelSetting& setting, int value,
                                 std::optional<PowerState> power) const {
-  if (IsPower(setting) && power == PowerState::WarmingUp && value == kOn) {
+  if (setting.IsPower() && power == PowerState::WarmingUp && value == kOn) {
     return Text(kListCategory, ListText::PowerWarmingUp);
   }
-  if (IsPower(setting) && value != kOn && value != kCoolingDown) {
+  if (setting.IsPower() && value != kOn && value != kCoolingDown) {
     return Text(kListCategory, ListText::PowerStandby);
   }
   const auto entry = std::ranges::find(setting.entries, value, &ListEntry::value);
@@ -190,7 +184,7 @@ std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
   if (std::ranges::count_if(setting.entries, isPlainName) == 1) {
     return TypedValue{std::ranges::find_if(setting.entries, isPlainName)->value};
   }
-  if (IsPower(setting) && Is(ListEntry(ListText::PowerStandby), text, likely_))
+  if (setting.IsPower() && Is(ListEntry(ListText::PowerStandby), text, likely_))
     return TypedValue{kStandby};
   const bool absolute = text.starts_with('=');
   const bool relative = text.starts_with('+') || text.starts_with('-');

@@ -16,8 +16,8 @@ namespace AdvancedControl {
 
 /// A value as the user typed it.
 struct TypedValue {
-  int amount = 0;         ///< Device value; or, if `relative`, the distance from the present value,
-  bool relative = false;  ///< in entries for a list, else in numbers.
+  int amount = 0;         ///< Device value; if `relative`, the distance from the present value.
+  bool relative = false;  ///< The distance counts entries for a list, otherwise numbers.
 };
 
 /// Shows settings as texts in one language, and parses texts in any language. May be used from
@@ -54,11 +54,11 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   /// The values that the setting allows: "-32 to 32", or the texts of its entries.
   std::string Values(const ModelSetting& setting) const;
 
-  /// Parses a number as it is shown, with "=-3" for one below zero; a step, "+3" or "-3"; or, for a
-  /// list, an entry's text in any language and case, its name
-  /// without the number in parentheses that makes it unique, or its device value. If a text means
-  /// different entries in different languages, this language, English and Chinese have precedence.
-  /// Nothing for any other text, or for a name that several entries have.
+  /// Parses what the user typed: a number as it is shown, "=-3" for one below zero; a step, "+3" or
+  /// "-3"; or an entry of a list. An entry is given by its text in any language and case, by that
+  /// text without the number in parentheses that makes it unique, or by its device value. If a text
+  /// means different entries in different languages, this language, English and Chinese have
+  /// precedence. Nothing for any other text, or for a name that several entries have.
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:
@@ -74,7 +74,7 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
 };
 
 /// The device value that was typed. Nothing for a step from a value that is unknown or not in the
-/// list, or to a value that the setting does not allow.
+/// list, or to a value that the setting does not allow. Any thread.
 PROJECTOR_SETTINGS_EXPORT std::optional<int> Resolve(const ModelSetting& setting,
                                                      const TypedValue& typed,
                                                      std::optional<int> present);

@@ -31,8 +31,8 @@ struct Snapshot {
   int modelCode = 0;
   std::string time;  ///< ISO 8601, UTC.
   std::vector<SavedSetting> settings;
-  /// Restored before all others and strictly in order, so that a setting may occur several times:
-  /// the values that belong to other sources and modes.
+  /// The values that belong to other sources and modes. They are restored before all others and
+  /// strictly in order; a setting may occur several times.
   std::vector<SavedSetting> beforehand{};
   bool isUndo = false;  ///< Holds what a restoration replaced; only for the same projector.
 
@@ -45,12 +45,13 @@ struct Progress {
   std::function<void()> step = [] {};                  ///< Called after each setting.
 };
 
-/// A snapshot of this model at the present time, without settings.
+/// A snapshot of this model at the present time, without settings. Any thread.
 PROJECTOR_SETTINGS_EXPORT Snapshot EmptySnapshot(const std::string& projector,
                                                  const ModelData& model);
 
 /// Reads every setting that can be restored. Settings that the projector refuses to report are left
 /// out, and added to `unread` if that is not null, unless the projector does not have them at all.
+/// Call it from the thread on which the connection's channel may be called.
 PROJECTOR_SETTINGS_EXPORT Snapshot TakeSnapshot(const std::string& projector,
                                                 const ModelSettings& settings,
                                                 CPjtInterface& connection,
@@ -58,7 +59,7 @@ PROJECTOR_SETTINGS_EXPORT Snapshot TakeSnapshot(const std::string& projector,
                                                 const Progress& progress = {},
                                                 std::vector<std::string>* unread = nullptr);
 
-/// The file's text: JSON, described in `docs/acctl.md`.
+/// The file's text: JSON, described in `docs/acctl.md`. Any thread.
 PROJECTOR_SETTINGS_EXPORT QByteArray WriteSnapshot(const Snapshot& snapshot);
 
 struct SnapshotContents {
@@ -68,7 +69,7 @@ struct SnapshotContents {
 };
 
 /// Parses a file that `WriteSnapshot` wrote and that may have been edited since. Unknown members
-/// are ignored.
+/// are ignored. Any thread.
 PROJECTOR_SETTINGS_EXPORT SnapshotContents ReadSnapshot(const QByteArray& text);
 
 }  // namespace AdvancedControl

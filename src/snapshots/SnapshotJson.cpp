@@ -106,7 +106,7 @@ std::vector<SavedSetting> Settings(const QJsonObject& file, const QString& membe
 
 Snapshot Parse(const QJsonObject& file) {
   if (file["format"].toString() != QLatin1String(kFormat)) {
-    throw WrongSnapshot{"format", WrongSnapshot::tr("this is no file of saved settings")};
+    throw WrongSnapshot{"format", WrongSnapshot::tr("this is not a file of saved settings")};
   }
   if (Integer(file, "version", {}) != kVersion) {
     throw WrongSnapshot{"version", WrongSnapshot::tr("only version %1 is known").arg(kVersion)};
@@ -126,7 +126,7 @@ Snapshot Parse(const QJsonObject& file) {
     const SavedSetting& setting = snapshot.settings[i];
     if (!keys.emplace(setting.key, setting.source).second) {
       throw WrongSnapshot{QStringLiteral("settings[%1].key").arg(i),
-                          WrongSnapshot::tr("\"%1\" stands here twice").arg(Wide(setting.key))};
+                          WrongSnapshot::tr("\"%1\" is here twice").arg(Wide(setting.key))};
     }
   }
   return snapshot;

@@ -7,10 +7,9 @@
 
 namespace AdvancedControl {
 
-/// Calls `act` with the control, asynchronously, because a handler may wait for the projector or
-/// open a message box, and the assistive technology must not wait for that. Actions are dropped
-/// while a handler runs, as other input is, and if the control is disabled. User-interface thread
-/// only.
+/// Calls `act` with the control, asynchronously: its handler may wait for the projector or for a
+/// message box, and the assistive technology must not wait with it. Like other input, actions are
+/// dropped while a handler runs or if the control is disabled. User-interface thread only.
 template <class Control, class Act>
 void ActLikeAUser(Control* control, Act act) {
   const auto actUnlessBusy = [control, act] {

@@ -13,6 +13,7 @@ namespace AdvancedControl {
 QAccessibleInterface* MakeAccessibleList(CComboBox& combo);
 
 /// The same for the drop-down of a list, which `view` shows; its children are the entries.
+/// User-interface thread only.
 QAccessibleInterface* MakeAccessibleDropDown(QWidget& view, CComboBox& combo);
 
 }  // namespace AdvancedControl

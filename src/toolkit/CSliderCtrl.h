@@ -33,8 +33,8 @@ class CSliderCtrl : public QSlider {
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
-  void Scrolling(bool goesOn);  ///< True while the user moves the slider; the value is then the one
-                                ///< that the end will send.
+  /// The user has moved the slider. True during a drag: releasing it would send the present value.
+  void Scrolling(bool goesOn);
   void EndScroll();
 
  protected:

@@ -15,7 +15,7 @@ class FittedScroll : public QScrollArea {
   /// The view takes ownership of `contents`, and shows it without its own background.
   FittedScroll(QWidget* contents, QWidget* parent);
 
-  /// `control` is inside the contents.
+  /// `control` must be inside the contents.
   void ScrollIntoView(QWidget& control);
 };
 

@@ -42,11 +42,11 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
  protected:
   using TemplateDialog::TemplateDialog;
 
-  /// Who follows the handlers of this window.
+  /// The watch that follows the handlers of this window.
   virtual HandlerWatch& Watch();
 
-  /// Leaves the running handlers, if any. They have returned when the last one returns, or when a
-  /// handler that knows it is the last calls `Return`.
+  /// Abandons the running handlers, if any. This ends when the last of them returns, or calls
+  /// `Return` because it knows that it is the last.
   void Leave();
   void Return();
   bool IsLeft() const { return left_; }
@@ -54,7 +54,7 @@ class ADVANCED_CONTROL_EXPORT InputDialog : public TemplateDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  /// Called when no handler runs any more, after the watch was told.
+  /// Called when no handler runs any more, after `HandlerWatch::OnIdle`.
   virtual void AfterHandlers() {}
 
   int busy_ = 0;       // number of running handlers, which are nested

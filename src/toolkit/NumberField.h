@@ -14,7 +14,8 @@ class NumberField final : public QLineEdit {
  public:
   explicit NumberField(QWidget* parent);
 
-  /// Shows a unit behind every number. The field grows if it has no room for `widest` with it.
+  /// Shows a unit behind every number. The field grows if it is too small for `widest` and the
+  /// unit.
   void SetUnit(const QString& unit, const QString& widest);
   const QString& Unit() const { return unit_; }
 

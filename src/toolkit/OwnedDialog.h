@@ -51,8 +51,9 @@ class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithN
   /// Handlers may still be running.
   virtual void OnOrphaned() {}
 
-  /// While a dialog without a parent runs, the dialog that the user is working with is its owner,
-  /// but not its parent: the dialog belongs to its creator and must not die with the owner.
+  /// Makes the dialog that the user is working with the owner of a running dialog without a parent.
+  /// It does not become the parent, because the dialog belongs to its creator and must not die with
+  /// the owner.
   void BorrowOwner();
   void ReturnOwner();
 

@@ -29,8 +29,7 @@ class StateLabel final : public LineLabel {
   void SetMark(Mark mark);
   Mark ShownMark() const { return mark_; }
 
-  /// Shows a bar in the mark's colour that is filled by `share` (1 is full, more is shown as full),
-  /// or no bar.
+  /// Shows a bar in the mark's colour, filled to `share` (1 or more is full); nothing for no bar.
   void SetShare(std::optional<double> share);
   std::optional<double> Share() const { return share_; }
 

@@ -83,7 +83,7 @@ QGridLayout* MakeRowColumns(const QWidget& dialog) {
   grid->setColumnMinimumWidth(RowColumn::Minus, SmallButtonWidth(dialog));
   grid->setColumnMinimumWidth(RowColumn::Slider, kSliderMinimumWidth);
   grid->setColumnMinimumWidth(RowColumn::Plus, SmallButtonWidth(dialog));
-  // Room for the button that resets a row, so that sliders have the same width on all pages.
+  // Space for the button that resets a row, so that sliders have the same width on all pages.
   if (!dialog.isWindow()) {
     grid->setColumnMinimumWidth(RowColumn::Button, ResetButtonSide(dialog) + kSpacing);
   }

@@ -10,6 +10,8 @@ class QWidget;
 
 namespace AdvancedControl {
 
+// Functions of this file: user-interface thread only.
+
 /// Columns that every row of every dialog shares, so that the dialogs look like one family.
 namespace RowColumn {
 inline constexpr int Label = 0;

@@ -40,9 +40,8 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
     return *control;
   }
 
-  /// Whether `target`, the dialog or a widget in it, accepts input while a handler runs: tabs,
-  /// Close and the space between the controls, but nothing on a page except controls whose input is
-  /// kept.
+  /// Whether `target`, the dialog or a widget in it, accepts input while a handler runs. Tabs,
+  /// Close and the space between controls do; on a page only controls whose input is kept.
   bool AcceptsInputWhileBusy(const QWidget& target) const;
   /// Whether the input to a control of this dialog is kept while its own handler runs.
   virtual bool KeepsInput(const QWidget& /*control*/) const { return false; }

@@ -13,7 +13,8 @@ namespace AdvancedControl {
 /// whose text is content, such as fields and lists, have none.
 ADVANCED_CONTROL_EXPORT QString WindowText(const QWidget& window);
 
-/// Sets the caption; does nothing on a control that has none.
+/// Sets the caption; does nothing on a control that has none. User-interface thread only, as is
+/// `WindowText`.
 ADVANCED_CONTROL_EXPORT void SetWindowText(QWidget& window, const QString& text);
 
 }  // namespace AdvancedControl

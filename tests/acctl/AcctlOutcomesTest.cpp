@@ -38,7 +38,7 @@ TEST(AcctlFile, NamesEveryMistakeByFileLineAndKeyAndSendsNothing) {
       {"picture.tint", "value", R"("5")", ":28: picture.tint: settings[3].value: must be a whole",
        false},
       {"picture.tint", "value", "128, \"value\": 129",
-       ":28: picture.tint: settings[3].value stands here twice", false},
+       ":28: picture.tint: settings[3].value is here twice", false},
       {"picture.tint", "text", R"("2",)", ":27: picture.tint: text \"2\" is not that of value 128",
        true},
       {"picture.active-iris", "text", R"("Foo",)",
@@ -47,8 +47,7 @@ TEST(AcctlFile, NamesEveryMistakeByFileLineAndKeyAndSendsNothing) {
        "value 77 is not possible; possible are 0 (Off), 16 (Theater), 17 (Presentation)", true},
       {"audio.volume", "source", "99,",
        ": audio.volume: source 99 does not exist; there are 0 (RGB1), ", true},
-      {"picture.active-iris", "key", R"("picture.tint",)", "\"picture.tint\" stands here twice",
-       false},
+      {"picture.active-iris", "key", R"("picture.tint",)", "\"picture.tint\" is here twice", false},
   };
   for (const auto& [key, member, edited, error, isSkipped] : kCases) {
     SCOPED_TRACE(error);

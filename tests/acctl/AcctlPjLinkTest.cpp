@@ -110,7 +110,7 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
               Ends(0, "acctl: Any: audio.*: skipped, PJLink does not have it\n"));
   EXPECT_THAT(any.Run(projector, {"set", "Any", "picture.tint", "1"}),
               Ends(2, "acctl: Any: picture.tint: PJLink does not have it\n"));
-  // Class 1 tells no names; "Digital 2" is one input's alone.
+  // Class 1 reports no names; only one input is called "Digital 2".
   EXPECT_THAT(any.Run(projector, {"settings", "Any"}).output, HasSubstr("Digital 1 (31), Dig"));
   EXPECT_THAT(any.Run(projector, {"get", "Any", "status.input-source"}).output,
               HasSubstr("  Digital 1 (31)\n"));
@@ -166,7 +166,7 @@ TEST(AcctlPjLink, StepsTheVolumeThatNobodyCanRead) {
   EXPECT_THAT(set("+2"), Ends(1, HasSubstr("setup.volume: refused; 0 of 2 steps accepted\n")));
   EXPECT_THAT(set("-2"), Ends(0, ""));
   EXPECT_EQ(projector.Count("SVOL 0"), 2);
-  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is no step such as +1 or -1")));
+  EXPECT_THAT(set("5"), Ends(2, HasSubstr("setup.volume: '5' is not a step such as +1 or -1")));
   EXPECT_THAT(set("+4097"), Ends(2, HasSubstr("'+4097' is more than 4096 steps")));
 }
 

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/acctl/AcctlProgram.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -148,6 +149,30 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
   EXPECT_THAT(Acctl(silent.At({"--timeout", "0.5", "get", kRoom})), Ends(3, noAnswer));
   EXPECT_THAT(Acctl({"--connect", "tcp://127.0.0.1:1", "status", kRoom}),
               Ends(3, HasSubstr(": status.power: no answer (not reachable)\n")));
+}
+
+TEST(Acctl, WaitsForManyOnAFewThreads) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("fleet.json");
+  const SimulatorProcess simulator(
+      {"--fleet", "60", "--port", "0", "--fault", "silent 100%", "--write-profiles", file});
+  for (const QStringList& command : {QStringList{"status", "*", "--jobs", "60"},
+                                     {"set", "*", "other.freeze=on", "--jobs", "60"},
+                                     {"watch", "*", "status.power"}}) {
+    QProcess acctl;
+    acctl.start(ACCTL_PROGRAM, QStringList{"--profiles", file, "--timeout", "60"} + command);
+    ASSERT_TRUE(acctl.waitForStarted());
+    const QString process = QStringLiteral("/proc/%1/").arg(acctl.processId());
+    const auto count = [&process](const char* what) {
+      return QDir(process + QLatin1String(what))
+          .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
+          .size();
+    };
+    EXPECT_TRUE(Soon([&] { return count("fd") > 60; })) << qPrintable(command[0]);
+    EXPECT_LE(count("task"), 16);
+    acctl.kill();
+    acctl.waitForFinished();
+  }
 }
 
 TEST(Acctl, SaysWhenInterruptedWhatWasDone) {

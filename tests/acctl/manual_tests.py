@@ -148,6 +148,10 @@ class Integrations(Building):
         simulated = self.module("diff", projectors="Office", profiles="rooms.json")
         self.assertEqual(simulated["warnings"], ["only simulated: Office"])
         self.assertIn("Office (simulated): main.contrast=-3", simulated["diff"]["after"])
+        lacked = {"settings": {"active-iris": "theater"}}
+        runs = [self.module("check_mode", **lacked), self.module(**lacked), self.module(**lacked)]
+        self.assertEqual([(run["failed"], run["changed"]) for run in runs], [(True, True), (True, True), (True, False)])
+        self.assertIn("Office: active-iris: this model has no such setting", runs[1]["msg"])
         failed = self.module(settings={"contrast": 99})
         self.assertTrue(failed["failed"])
         self.assertIn("'99' is not one of", failed["msg"])

@@ -117,8 +117,14 @@ class Runs(Building):
                    "status.lamp-time: this cannot be undone")
         self.assertEqual(self.value("Lecture hall", "tint"), ["0"])
         self.check(["undo"], 0, "tint .* 0  ->  7$")
-        self.check(["reset", "Lecture hall", "status.lamp-time"], 0, "0 h", "cannot be undone")
-        self.assertEqual(len(self.json("undo", "--list")["runs"]), 3, "there is nothing to undo of the last run")
+
+    def test_a_last_run_that_cannot_be_undone_is_not_passed_over(self):
+        for words in (["reset", "Office", "status.lamp-time"], ["set", "Office", "power=standby", "--wait", "60s"]):
+            self.acctl("set", "Office", "contrast+=1")
+            self.assertEqual(self.acctl(*words).returncode, 0)
+            runs = self.json("undo", "--list")["runs"]
+            self.assertEqual([run["projectors"] for run in runs[-2:]], [1, 0])
+            self.check(["undo"], 2, errors=runs[-1]["run"] + ".*there is nothing to undo; name an earlier run")
 
     def test_what_is_interrupted_is_not_an_empty_list(self):
         served = json.loads((self.folder / "served.json").read_text())
@@ -151,7 +157,7 @@ class Runs(Building):
         earlier, last = sorted(undo.iterdir())
         whole = last.read_text()
         header, line = whole.splitlines()
-        for damaged, error in (("", "illegal value"), (header + "\n", "nothing to undo"), (whole[:-9] + "\n", ":2: not a line"),
+        for damaged, error in (("", "illegal value"), (whole[:-9] + "\n", ":2: not a line"),
                                (whole.replace(":1}", ":2}"), ":1: not a line"), (whole.replace(line, "[" * 9999), ":2: not"),
                                (whole.replace('"id"', '"no"'), ":2: not"), (whole.replace("snapshot", "shot"), ":2: not")):
             last.write_text(damaged)

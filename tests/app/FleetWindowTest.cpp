@@ -17,6 +17,7 @@
 #include "app/desktop/profiles/ConnectionTest.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/desktop/profiles/TransferActions.h"
+#include "host/CAdvanceDlg.h"
 #include "tests/app/Work.h"
 #include "tests/fleet/Served.h"
 #include "tests/support/Programs.h"
@@ -40,7 +41,7 @@ std::ptrdiff_t Failed(const WorkDialog& dialog) {
   return std::ranges::count_if(dialog.Run().Lines(), &WorkLine::HasFailed);
 }
 
-TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
+TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   const QTemporaryDir folder;
   const QString file = folder.filePath("fleet.json");
   const SimulatorProcess simulator({"--fleet", "500", "--port", "0", "--fault", "silent 5%",
@@ -57,6 +58,32 @@ TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
   auto* groups = window.findChild<GroupList*>();
   EXPECT_TRUE(Soon([&] { return groups->item(2)->text() == QStringLiteral("Off (%1)").arg(off); }));
 
+  QTcpSocket control;
+  control.connectToHost(QHostAddress::LocalHost,
+                        simulator.Address("control").section(':', 1).toUShort());
+  ASSERT_TRUE(control.waitForConnected());
+  const auto tell = [&control](const QByteArray& line) {
+    control.write(line + '\n');
+    ASSERT_TRUE(control.waitForReadyRead(60'000));
+    EXPECT_TRUE(control.readAll().startsWith("ok"));
+  };
+
+  const auto one = static_cast<std::size_t>(
+      std::ranges::find(Rows(window), Health::Good, HealthOf) - Rows(window).begin());
+  auto* search = window.findChild<ProjectorView*>()->findChild<QLineEdit*>();
+  QTest::keyClicks(search, QString::fromStdString(Rows(window)[one].profile.name));
+  EXPECT_EQ(window.findChild<ProjectorView*>()->CurrentPosition(), static_cast<int>(one));
+  const auto hasAlertNow = [&](const char* errors) {
+    tell(QByteArray::number(qulonglong(one + 1)) + " errors " + errors);
+    Find<QAction>(window, "Refresh").trigger();
+    const bool before = Rows(window)[one].hasAlert;
+    EXPECT_TRUE(Soon([&] { return Rows(window)[one].hasAlert != before; }));
+    return Rows(window)[one].hasAlert;
+  };
+  EXPECT_TRUE(hasAlertNow("002000"));
+  EXPECT_FALSE(hasAlertNow("000000"));
+  search->clear();
+
   Table(window).selectAll();
   Find<QAction>(window, "Switch Off").trigger();
   WorkDialog* dialog = window.findChild<WorkDialog*>();
@@ -67,12 +94,7 @@ TEST(FleetWindow, SwitchesFiveHundredOffTriesAgainAndUndoes) {
   Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 
-  QTcpSocket control;
-  control.connectToHost(QHostAddress::LocalHost,
-                        simulator.Address("control").section(':', 1).toUShort());
-  ASSERT_TRUE(control.waitForConnected());
-  control.write("* none\n");
-  ASSERT_TRUE(control.waitForReadyRead(60'000));
+  tell("* none");
   Button(*dialog, "Retry the Failed").click();
   EXPECT_EQ(Failed(Done(window)), 0);
   EXPECT_FALSE(Button(*dialog, "Retry the Failed").isVisible());
@@ -204,6 +226,26 @@ TEST(FleetWindow, DoesNotVisitWhileAClosedDialogsChannelIsConnected) {
   const auto begun = watch.Projectors().Tally().begun;
   QTest::qWait(600);
   EXPECT_EQ(watch.Projectors().Tally().begun, begun);
+}
+
+TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
+  Served served;
+  served.device->Execute({PjtOperation::SetPowerOn});
+  FleetProfile profile = Profile("A");
+  profile.link = ProjectorLink::Network;
+  profile.connection = {.isNetwork = true, .address = "127.0.0.1", .port = served.wirePort};
+  MainWindow window({profile}, {.interval = 1h});
+  window.show();
+  window.OpenDialog(0, 0);
+  ProjectorChannel& channel = *window.Session(0)->Channel();
+  const auto connection = [&channel] { return channel.Connection(); };
+  ASSERT_TRUE(Soon([&] { return connection() == ConnectionState::Connected; }));
+  Table(window).selectAll();
+  Find<QAction>(window, "Switch Off").trigger();
+  EXPECT_TRUE(Soon([&] { return Rows(window)[0].state.power == PowerState::Standby; }));
+  EXPECT_EQ(connection(), ConnectionState::Unused);
+  EXPECT_TRUE(channel.Execute({PjtOperation::GetMirror}).answered);
+  EXPECT_EQ(connection(), ConnectionState::Connected);
 }
 
 TEST(FleetWindow, AlertsFollowTheRules) {

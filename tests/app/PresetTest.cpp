@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/alerts/AlertList.h"
+#include "app/desktop/groups/GroupList.h"
 #include "app/desktop/presets/PresetDialog.h"
 #include "app/desktop/presets/PresetManager.h"
 #include "app/profiles/PresetFolder.h"
@@ -144,6 +145,31 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0; }));
   EXPECT_EQ(window->Session(a)->Simulator().Value(SettingId::Brightness), 140);
   EXPECT_TRUE(Soon([&] { return !hasAlert(); }));
+}
+
+TEST_F(PresetTest, ATagHasAPresetForAllItsProjectors) {
+  const Snapshot day = EmptySnapshot("any", Row(a).profile.model->data);
+  ASSERT_EQ(PresetFolder::Write("day", day), "");
+  auto& groups = *window->findChild<GroupList*>();
+  groups.Choose({ProjectorGroup::Kind::Tag, "Lecture halls"});
+  const auto count = [&](const char* preset) {
+    return std::ranges::count(Rows(*window), preset,
+                              [](const ProjectorRow& row) { return row.profile.snapshot; });
+  };
+  Choose("day", "All of Lecture halls");
+  const auto all = std::ranges::count_if(Rows(*window), [](const ProjectorRow& row) {
+    return std::ranges::count(row.profile.tags, "Lecture halls") > 0;
+  });
+  EXPECT_EQ(count("day"), all);
+  EXPECT_GT(all, 1);
+  ProfileDocument document = Shipped(folder);
+  EXPECT_EQ(document.Tag({0, 1}, {"Lecture halls"}, true), "");
+  EXPECT_EQ(document.Projectors()[1].snapshot, "day") << "one that gets the tag later";
+  EXPECT_EQ(document.ReplacePreset("day", "night"), "");
+  EXPECT_EQ(document.Projectors()[1].snapshot, "night");
+  EXPECT_FALSE(document.Entry(1).contains("snapshot")) << "it is the tag's";
+  EXPECT_EQ(document.SetTagPreset("Lecture halls", ""), "");
+  EXPECT_EQ(document.Projectors()[1].snapshot, "");
 }
 
 TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {

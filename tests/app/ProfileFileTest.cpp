@@ -42,7 +42,7 @@ const WrongFile kWrongFiles[] = {
     {"{\n\"projectors\": []}", "2: projectors: there is no projector"},
     {"\"name\": \"A\"", "1: projectors[0]: \"model\" is missing"},
     {"\n\n\"brightnes\": 1", "3: projectors[0].brightnes: unknown key"},
-    {"\n\"name\": \"A\",\n\"name\": \"B\"", "3: projectors[0].name: stands here twice"},
+    {"\n\"name\": \"A\",\n\"name\": \"B\"", "3: projectors[0].name: is here twice"},
     {R"("name": "")", "name: must be"},
     {R"("modelCode": 1.5)", "modelCode: must be a whole number"},
     {"\"name\": \"" + std::string(257, 'x') + '"', "name: is longer than 256 bytes"},
@@ -96,6 +96,8 @@ const WrongFile kWrongFiles[] = {
     {R"("like": "x")", "like: there is no family \"x\""},
     {"{\"families\": {\n\"a\": {\"like\": \"b\"},\n\"b\": {\"like\": \"a\"}}}",
      "3: families.b.like: makes \"a\" like itself"},
+    {"{\"projectors\": [], \"tags\": {\"a\": {\n\"snapshot\": 1}}}",
+     "2: tags.a.snapshot: must be a text"},
     {"{\"families\": {\"a\": {\n\"dialogType\": \"5\"}}, \"projectors\": []}",
      "2: families.a.dialogType: must be a whole number"},
     {kWhole + "}, {" + kWhole, "1: projectors[1].name: \"A\" is the name of projectors[0] too"},
@@ -273,6 +275,21 @@ TEST_F(ProfileDocumentFile, EachProjectorIsCopiedAndRemovedWithoutATrace) {
     ASSERT_EQ(document.Remove({static_cast<int>(i) + 1}), "");
     ASSERT_EQ(Contents(name), before) << i;
   }
+}
+
+TEST_F(ProfileDocumentFile, AnAddedOrRenamedProjectorHasAnIdentityThatStays) {
+  const auto identity = [&](std::size_t i) { return document.Projectors()[i].identity; };
+  ASSERT_EQ(document.Duplicate(0, {{"name", "copy"}}), "");
+  ASSERT_EQ(document.Duplicate(1, {{"name", "copy of it"}}), "");
+  ASSERT_EQ(document.Change(3, {{"notes", "here"}}), "");
+  EXPECT_EQ(identity(0) + identity(3), "") << "written by hand";
+  ASSERT_EQ(document.Change(0, {{"name", "renamed"}}), "");
+  const std::set all{identity(0), identity(1), identity(2)};
+  EXPECT_EQ(all.size() - all.count(""), 3U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    ASSERT_EQ(document.Change(i, {{"name", QString::number(i)}, {"tags", QJsonArray{"a"}}}), "");
+  }
+  EXPECT_EQ((std::set{identity(0), identity(1), identity(2)}), all);
 }
 
 TEST_F(ProfileDocumentFile, FailedChangesChangeNothing) {

@@ -11,11 +11,14 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimeEdit>
 #include <QTranslator>
 #include <gtest/gtest.h>
 
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
+#include "app/desktop/details/DetailsPanel.h"
+#include "app/desktop/presets/PresetManager.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/profiles/Translations.h"
@@ -23,13 +26,14 @@
 #include "i18n/CatalogLanguages.h"
 #include "i18n/SystemLanguage.h"
 #include "tests/app/Windows.h"
+#include "tests/support/Ink.h"
 
 namespace {
 
 // Without what is in brackets.
 bool IsTranslated(QString text) {
   static const QRegularExpression known(QStringLiteral("\\[[^\\]]*\\]"));
-  static const QStringList kUntranslated{"OK", "Cancel", "Apply"};  // Qt's own
+  static const QStringList kUntranslated{"OK", "Cancel", "Apply", "Close"};  // Qt's own
   text.remove(known).remove('&');
   return kUntranslated.contains(text) ||
          std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
@@ -93,16 +97,32 @@ void ForEachWindow(const std::function<void(QWidget&)>& look) {
   show(preferences);
   SearchDialog search(document.Projectors(), nullptr);
   show(search);
+  const SettingTexts texts(CatalogFolders(), kEnglishUnitedStates);
+  PresetManager presets(
+      {.users = [](const QString&) { return QStringList(); },
+       .model =
+           [&](const Snapshot&) { return ModelSettings(document.Projectors()[0].model->data); },
+       .rename = {},
+       .remove = {},
+       .texts = texts},
+      nullptr);
+  show(presets);
 }
 
 TEST(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {
-  QTranslator pseudo;
-  ASSERT_TRUE(pseudo.load(TEST_PSEUDO_DIR "/translations/qps_ploc.qm"));
-  QCoreApplication::installTranslator(&pseudo);
-  ForEachWindow([](QWidget& window) {
-    ExpectTranslated(window);
-    ExpectRoom(window);
-  });
+  for (const auto& [name, direction] :
+       {std::pair("qps_ploc", Qt::LeftToRight), {"qps_plocm", Qt::RightToLeft}}) {
+    SCOPED_TRACE(name);
+    QTranslator pseudo;
+    ASSERT_TRUE(pseudo.load(name, TEST_PSEUDO_DIR "/translations"));
+    QCoreApplication::installTranslator(&pseudo);
+    QApplication::setLayoutDirection(direction);
+    ForEachWindow([](QWidget& window) {
+      ExpectTranslated(window);
+      ExpectRoom(window);
+    });
+  }
+  QApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
 }
 
 TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
@@ -119,7 +139,25 @@ TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
       width += window.menuBar()->fontMetrics().horizontalAdvance(entry->text()) + 16;
     }
     EXPECT_LE(width, 940) << "the menus do not fit in one line";
+    const DetailsPanel panel({});
+    for (auto* label : panel.findChildren<QLabel*>()) {
+      label->resize(label->sizeHint());
+      const QRect ink = InkOf(*label);
+      EXPECT_TRUE(ink.isEmpty() || label->rect().contains(ink)) << label->text().toStdString();
+    }
   }
+  InstallTranslations(kEnglishUnitedStates);
+}
+
+TEST(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
+  InstallTranslations(LanguageIdOf("he").value());
+  const QTemporaryDir folder;
+  QSettings settings(folder.filePath("settings"), QSettings::IniFormat);
+  Preferences preferences(settings);
+  const auto times = preferences.findChildren<QTimeEdit*>();
+  ASSERT_EQ(times.size(), 2);
+  times.front()->setTime(QTime(22, 30));
+  EXPECT_EQ(times.front()->text(), "22:30");
   InstallTranslations(kEnglishUnitedStates);
 }
 

@@ -132,7 +132,7 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}});
     EXPECT_FALSE(Accept(editor)) << "without an address";
     Fill(editor, {{"Address", "192.0.2."}});
-    Find<QLabel>(editor, "192.0.2. is no address.");
+    Find<QLabel>(editor, "192.0.2. is not an address.");
     Fill(editor, {{"Address", "hall.example"}});
     EXPECT_EQ(Field(editor, "Port").text(), "4352") << "the protocol's own";
     EXPECT_TRUE(Accept(editor));

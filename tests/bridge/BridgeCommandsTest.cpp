@@ -73,7 +73,7 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_EQ(Control("* silent"), "ok");
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "no-answer");
 
-  // A command that lies there when the bridge comes is an old one.
+  // A command that was retained before the bridge started is out of date.
   bridge.reset();
   Publish(broker, {"-t", "projectors/" + QString(id) + "/set/power", "-r", "-m", "off"});
   const int before = subscriber.Count(answer);

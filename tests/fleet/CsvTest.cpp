@@ -116,11 +116,11 @@ TEST(ProfileCsv, TakesTheRowsThatAreRight) {
   }
   EXPECT_EQ(faults,
             "5: no address '192.0.2'\n"
-            "6: \"radio\" is no link\n"
+            "6: \"radio\" is not a kind of link\n"
             "7: \"A2\" is the name of another projector, with the identity mac:00:00:5e:00:53:01\n"
             "8: \"name\" is missing\n"
             "9: \"connection\" is missing\n"
-            "10: \"many\" is no number of hours\n");
+            "10: \"many\" is not a number of hours\n");
   const ProfileList list = ParseProfileList(import.text, "p.json");
   ASSERT_EQ(list.error, "");
   ASSERT_EQ(list.profiles.size(), 4U);
@@ -154,7 +154,10 @@ TEST(ProfileCsv, WhatGoesOutComesInAgain) {
 
   const CsvImport fresh = ImportCsv(ProfileEdits::kNoProfiles, csv);
   EXPECT_EQ(fresh.added, 2U) << (fresh.faults.empty() ? "" : qPrintable(fresh.faults[0].reason));
-  EXPECT_EQ(ParseProfileList(fresh.text, "p.json").profiles[0].identity, "mac:00:00:5e:00:53:01");
+  const ProfileList added = ParseProfileList(fresh.text, "p.json");
+  EXPECT_EQ(added.profiles[0].identity, "mac:00:00:5e:00:53:01");
+  EXPECT_TRUE(added.profiles[1].identity.starts_with("id:")) << "made up";
+  EXPECT_EQ(ImportCsv(fresh.text, csv).text, fresh.text) << "and kept";
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace {
 using namespace std::chrono_literals;
 using Projector = SteppedFleet::Projector;
 
-// What a visit tells of a projector that stays as it is.
+// What a visit finds at a projector that does not change.
 Reachability Expected(const Projector& it, const FleetPolicy& policy) {
   if (!it.isThere || it.isRefusing) return Reachability::Silent;
   const bool isLocked = !it.wire && it.device.greeting != BadProjector().greeting;

@@ -5,16 +5,13 @@
 #include <iterator>
 #include <numeric>
 
-#include <QNetworkProxy>
-#include <QTcpServer>
-#include <QTcpSocket>
-
 #include "app/simulator/PseudoTerminal.h"
 #include "device/channels/ForwardingChannel.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
 #include "tests/fleet/Served.h"
+#include "tests/fleet/SilentServer.h"
 
 namespace {
 
@@ -145,22 +142,6 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
   EXPECT_GT(taken[1].snapshot->settings.size(), 20);
   EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer}));
 }
-
-/// Accepts connections and says nothing.
-struct SilentServer {
-  QTcpServer server;
-  std::vector<std::unique_ptr<QTcpSocket>> connections{};
-
-  SilentServer() {
-    server.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
-    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
-  }
-  TcpAddress Address() const { return {.host = "127.0.0.1", .port = server.serverPort()}; }
-  std::size_t Accept() {
-    while (auto* const next = server.nextPendingConnection()) connections.emplace_back(next);
-    return connections.size();
-  }
-};
 
 TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThread) {
   std::deque<SilentServer> silent(70);

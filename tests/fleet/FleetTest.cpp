@@ -1,7 +1,12 @@
 // A fleet's thread and real sockets, to simulated projectors on the loopback address.
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <deque>
+#include <filesystem>
+#include <iterator>
+#include <map>
 #include <string>
 
 #include <QCoreApplication>
@@ -11,7 +16,9 @@
 
 #include "app/simulator/PseudoTerminal.h"
 #include "device/CommandCode.h"
+#include "fleet/FileEvents.h"
 #include "fleet/Fleet.h"
+#include "fleet/NameResolver.h"
 #include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
 
@@ -90,6 +97,34 @@ TEST_F(FleetTest, WatchesASerialPortAndLeavesItToOthers) {
   SerialLine::Close(file);
   EXPECT_TRUE(Becomes([&] { return fleet.Tally().answered > before.answered + 1; }));
   EXPECT_EQ(fleet.Tally().unanswered, before.unanswered);
+}
+
+TEST_F(FleetTest, LooksNamesUpOnTwoThreadsForAll) {
+  const auto threads = [] {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+  };
+  const auto before = threads();
+  const FileEvents events;
+  std::deque<NameResolver> resolvers;
+  for (std::uint32_t i = 0; i < 8; ++i) {
+    resolvers.emplace_back(events.WakeFile());
+    for (const std::string& name : {std::string("localhost"), std::string(64, 'a')}) {
+      resolvers.back().LookUp(i, name);
+    }
+  }
+  EXPECT_LE(threads(), before + 2);
+  resolvers.pop_front();
+  std::map<std::uint32_t, int> found;
+  EXPECT_TRUE(Becomes([&] {
+    for (NameResolver& resolver : resolvers) {
+      for (const auto& one : resolver.Take()) {
+        ++found[one.asker];
+        EXPECT_EQ(one.addresses.empty(), one.name != "localhost");
+      }
+    }
+    return found.size() == 7 &&
+           std::ranges::all_of(found, [](auto one) { return one.second == 2; });
+  }));
 }
 
 TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {

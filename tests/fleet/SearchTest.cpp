@@ -78,6 +78,29 @@ TEST(SearchRange, IsReadAsPeopleWriteIt) {
   }
 }
 
+TEST(NetworkBroadcasts, AreThoseOfNetworksThatAreUp) {
+  const auto at = [](const char* ip, int bits, const char* broadcast = "") {
+    QNetworkAddressEntry entry;
+    entry.setIp(QHostAddress(ip));
+    entry.setPrefixLength(bits);
+    if (*broadcast != 0) entry.setBroadcast(QHostAddress(broadcast));
+    return entry;
+  };
+  using enum QNetworkInterface::InterfaceFlag;
+  const std::vector<MachineNetwork> networks{
+      {IsUp | IsLoopBack, {at("127.0.0.1", 8)}},
+      {IsUp | CanBroadcast,
+       {at("192.0.2.7", 24, "192.0.2.255"), at("198.51.100.9", 22, "198.51.103.255"),
+        at("2001:db8::7", 64)}},
+      {IsUp | CanBroadcast, {at("192.0.2.8", 24, "192.0.2.255")}},        // the same by radio
+      {CanBroadcast, {at("203.0.113.1", 24, "203.0.113.255")}},           // not up
+      {IsUp | IsPointToPoint, {at("203.0.113.2", 24, "203.0.113.255")}},  // a tunnel
+      {IsUp | CanBroadcast, {at("203.0.113.3", 32)}}};
+  EXPECT_THAT(BroadcastsOf(networks),
+              ElementsAre(QHostAddress("192.0.2.255"), QHostAddress("198.51.103.255")));
+  EXPECT_THAT(BroadcastsOf({}), SizeIs(0));
+}
+
 TEST(SearchAnswer, IsAMacNumber) {
   EXPECT_EQ(ParseSearchAnswer("%2ACKN=00:00:5E:00:53:01\r"), "00:00:5e:00:53:01");
   EXPECT_EQ(ParseSearchAnswer("%2ackn=00-00-5e-00-53-01\r\n"), "00:00:5e:00:53:01");
@@ -176,7 +199,7 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
        At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),     // moved, known by its second identity
        At("2001:db8::3", "C", "3"),                        // gets its identity
        At("192.0.2.4", "Hall", "4"),                       // new, with a name that is taken
-       At("192.0.2.5", "", "0000"),                        // new, and tells nothing
+       At("192.0.2.5", "", "0000"),                        // new, without a name
        At("192.0.2.6", "D", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing
        At("192.0.2.7", "E", "same", "00:00:5e:00:53:07")},
       "secret");

@@ -36,7 +36,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
 
   struct Projector {
     BadProjector device{};
-    bool isThere = true;                     ///< Otherwise nobody says anything.
+    bool isThere = true;                     ///< Otherwise nothing answers.
     bool isRefusing = false;                 ///< The port is closed.
     bool isTaken = false;                    ///< Another program has the serial port.
     std::vector<SessionTime> connections{};  ///< When each began.
@@ -142,7 +142,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
 
   void Forget(Peer peer) {
     Link& link = links_[peer];
-    ++link.attempt;  // what is on its way is nobody's
+    ++link.attempt;  // bytes that are on their way are dropped
     if (std::exchange(link.isOpen, false)) --projectors[link.host].open;
   }
 

@@ -32,10 +32,10 @@ struct OpenPopUp : OpenDialog {
   // shown.
   void ExpectReset(const ValueRow& row, int bound) {
     driver.Drag(row.ids.slider, 5);
-    const std::string read = Click(row.reset.button).back();
+    const std::string read = Click(row.reset->button).back();
     for (const int value : {bound, bound - 1}) {
       Projector().Answer(read, value + 128);
-      Click(row.reset.button);
+      Click(row.reset->button);
       EXPECT_EQ(driver.Text(row.ids.field), QString::number(bound)) << row.key;
     }
     EXPECT_FALSE(Click(row.ids.minus).empty());

@@ -40,8 +40,13 @@ int CaptionNumber(const DialogTemplate& page, int control) {
 // the same values.
 void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable& table) {
   std::set<int> listed;
-  for (const PageRow& row : table.rows)
-    listed.insert(ListBeside(row));  // the list is not a setting
+  for (const PageRow& row : table.rows) {  // the list beside a button is not a setting
+    if (const auto* action = std::get_if<ActionRow>(&row); action != nullptr && action->list) {
+      listed.insert(action->list->control);
+    } else if (const auto* reset = std::get_if<ResetRow>(&row)) {
+      listed.insert(reset->list);
+    }
+  }
   for (const ModelSetting& setting : settings.All()) {
     if (setting.row < table.rows.data() || setting.row >= table.rows.data() + table.rows.size()) {
       continue;

@@ -112,7 +112,7 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
   };
   for (const Case& one : cases) {
     std::size_t made = 0;
-    const auto step = [&](bool upwards, int) {
+    const auto step = [&made, &one](bool upwards, int) {
       EXPECT_TRUE(upwards);
       return one.steps.at(made++);
     };

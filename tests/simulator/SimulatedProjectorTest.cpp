@@ -1,10 +1,14 @@
+#include <chrono>
+#include <memory>
 #include <set>
 
 #include <gtest/gtest.h>
 
 #include "device/channels/LoggingChannel.h"
+#include "simulator/SettingsTable.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Replies.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -130,6 +134,30 @@ TEST(SimulatedModelTest, AHostsDescriptionDefinesTheProjector) {
                                 Set(0x30A1, 99), Set(0x30A1, 3), Get(0x30A1), Get(0x30B0)}),
             "- - - 4 16 20 20 - 3 20 3")
       << "3 is a color temperature, which this page set takes as a gamma too";
+}
+
+TEST(SimulatedProjector, WarmsUpAndCoolsDownInTime) {
+  static constexpr PjtCommand kSwitch[] = {{Op::SetPowerOff}, {Op::SetPowerOn}};
+  constexpr PowerState kMeanwhile[] = {PowerState::CoolingDown, PowerState::WarmingUp};
+  constexpr PowerState kThen[] = {PowerState::Standby, PowerState::On};
+  for (const bool on : {true, false}) {
+    const auto make = [on](std::chrono::milliseconds time) {
+      auto projector = std::make_unique<SimulatedProjector>();
+      projector->SetValue(Id::Power, on ? 0 : 1);
+      projector->SetPowerTimes(time, time);
+      EXPECT_EQ(projector->Execute(kSwitch[on]).result, AcceptedResult(kSwitch[on].operation));
+      return projector;
+    };
+    const auto slow = make(std::chrono::hours(1));
+    EXPECT_EQ(slow->Power(), kMeanwhile[on]);
+    EXPECT_EQ(slow->Value(Id::Power), on ? 1 : 2);
+    EXPECT_EQ(slow->Execute(kSwitch[!on]).result, RefusedResult(kSwitch[!on].operation));
+    EXPECT_EQ(slow->Power(), kMeanwhile[on]) << "it refuses until it has switched";
+
+    const auto quick = make(std::chrono::milliseconds(20));
+    EXPECT_TRUE(Soon([&] { return quick->Power() == kThen[on]; }));
+    EXPECT_EQ(quick->Value(Id::Power), on ? 1 : 0);
+  }
 }
 
 }  // namespace

@@ -83,7 +83,7 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   const QByteArray text = WriteSnapshot(snapshot);
   EXPECT_EQ(ReadSnapshot(text).snapshot, snapshot);
   for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
-           {"\"format\"", "\"formal\"", "no file of saved settings"},
+           {"\"format\"", "\"formal\"", "not a file of saved settings"},
            {"\"version\": 1", "\"version\": 2", "only version 1"},
            {"\"value\": ", "\"value\": 0.5, \"x\": ", "settings[0].value: must be a whole"},
            {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},

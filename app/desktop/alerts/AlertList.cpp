@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int kGap = 30;  // beside the time
+constexpr int kButtonMargin = 6;
 
 /// The number in the text of an alert; 0 if it has none.
 int NumberOf(const Alert& alert, const ProjectorRow& row) {
@@ -41,6 +42,7 @@ AlertList::AlertList(QWidget* parent)
   const QString time = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
   list_->setColumnWidth(0, list_->fontMetrics().horizontalAdvance(time) + kGap);
   auto* buttons = new QHBoxLayout;
+  buttons->setContentsMargins(kButtonMargin, 0, kButtonMargin, kButtonMargin);
   buttons->addStretch();
   buttons->addWidget(acknowledge_);
   buttons->addWidget(acknowledgeAll_);

@@ -28,8 +28,14 @@ constexpr int kPercent = 100;
 constexpr int kUsualWidth = 250;
 const QString kNothing = QStringLiteral("–");
 
+// Accents reach over the height that a font names, and some letters begin left of their place.
+QLabel* WithRoom(QLabel* label) {
+  label->setContentsMargins(1, 2, 0, 2);
+  return label;
+}
+
 QLabel* PlainLabel(const QString& text = {}) {
-  auto* label = new QLabel(text);
+  auto* label = WithRoom(new QLabel(text));
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setObjectName(QStringLiteral("value"));
@@ -91,13 +97,17 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
 
   auto* facts = new QGridLayout;
   facts->setColumnStretch(1, 1);
+  facts->setVerticalSpacing(2);  // the labels have margins
+  // A longer word would take the captions' room.
+  constexpr int kLettersOfAWord = 16;
+  facts->setColumnMinimumWidth(1, kLettersOfAWord * fontMetrics().averageCharWidth());
   const std::array<QString, FactCount> captions{
       tr("State:"), tr("Power:"),  tr("Source:"),   tr("Problem:"), tr("Picture and sound:"),
       tr("Lamp:"),  tr("Filter:"), tr("Settings:"), tr("Answered:")};
   int line = 0;
   for (std::size_t i = 0; i < facts_.size(); ++i) {
     facts_[i] = PlainLabel();
-    auto* caption = new QLabel(captions[i]);
+    auto* caption = WithRoom(new QLabel(captions[i]));
     caption->setBuddy(facts_[i]);
     facts->addWidget(caption, line, 0, Qt::AlignTop);
     facts->addWidget(facts_[i], line++, 1, Qt::AlignTop);
@@ -119,7 +129,7 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
     buttons->addWidget(button, place / kButtonsInRow, place % kButtonsInRow);
   }
 
-  auto* eventsCaption = new QLabel(tr("Recent e&vents"));
+  auto* eventsCaption = WithRoom(new QLabel(tr("Recent e&vents")));
   eventsCaption->setBuddy(events_);
   events_->setAccessibleName(tr("Recent events"));
   events_->setItemDelegate(new IsolatedTexts(events_));

@@ -5,7 +5,6 @@
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -91,8 +90,6 @@ CommandLog::CommandLog(QWidget* parent)
 }
 
 CommandLog::~CommandLog() = default;
-
-QHeaderView& CommandLog::Columns() const { return *view_->horizontalHeader(); }
 
 void CommandLog::Add(const FleetProfile& profile, const PjtCommand& command, const PjtReply& reply,
                      std::chrono::microseconds elapsed) {

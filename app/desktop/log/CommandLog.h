@@ -13,7 +13,6 @@
 class CComboBox;
 class LogTable;
 class QAction;
-class QHeaderView;
 class QLineEdit;
 class SettingNames;
 
@@ -36,7 +35,7 @@ class CommandLog : public QWidget {
   /// Writes all shown rows, below a line of titles. Returns a one-line error, or an empty text.
   QString Save(const QString& fileName) const;
 
-  QHeaderView& Columns() const;
+  LogTable& Table() const { return *view_; }
 
   /// Actions for menus; owned by the log.
   QAction* ChangesOnly() const { return changesOnly_; }

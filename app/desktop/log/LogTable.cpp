@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 #include <QClipboard>
@@ -48,16 +49,34 @@ class Cells : public IsolatedTexts {
 LogTable::LogTable(QAbstractItemModel& log, QWidget* parent) : QTableView(parent) {
   setModel(&log);
   setItemDelegate(new Cells(this));
-  setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   setSelectionBehavior(QTableView::SelectRows);
   setTabKeyNavigation(false);
   setShowGrid(false);
   setWordWrap(false);
-  SetColumns();
+  verticalHeader()->hide();
+}
+
+// Loading and measuring the font takes a good part of the program's start, and the log is usually
+// closed.
+void LogTable::showEvent(QShowEvent* event) {
+  if (!std::exchange(isSet_, true)) {
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    SetColumns();
+    horizontalHeader()->restoreState(columns_);
+  }
+  QTableView::showEvent(event);
+}
+
+QByteArray LogTable::SaveColumns() const {
+  return isSet_ ? horizontalHeader()->saveState() : columns_;
+}
+
+void LogTable::RestoreColumns(const QByteArray& state) {
+  columns_ = state;
+  if (isSet_) horizontalHeader()->restoreState(state);
 }
 
 void LogTable::SetColumns() {
-  verticalHeader()->hide();
   const QFontMetrics metrics(font());
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(metrics.height() + 2);

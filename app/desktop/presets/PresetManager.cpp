@@ -67,14 +67,9 @@ void PresetManager::MakeLayout() {
   tree_->setItemDelegate(new IsolatedTexts(tree_));
   tree_->setAccessibleName(tr("Settings of the preset"));
 
-  auto* content = new QWidget;
-  auto* contentLayout = new QVBoxLayout(content);
-  contentLayout->setContentsMargins(0, 0, 0, 0);
-  contentLayout->addWidget(tree_, 1);
-  contentLayout->addWidget(users_);
   auto* sides = new QSplitter;
   sides->addWidget(list_);
-  sides->addWidget(content);
+  sides->addWidget(tree_);
   sides->setStretchFactor(1, 1);
   sides->setChildrenCollapsible(false);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
@@ -83,6 +78,7 @@ void PresetManager::MakeLayout() {
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(sides, 1);
+  layout->addWidget(users_);
   layout->addWidget(buttons);
   RemoveForeignButtonIcons(*this);
   resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));

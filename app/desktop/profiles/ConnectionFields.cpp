@@ -119,7 +119,7 @@ void ConnectionFields::CheckAddress() {
   static const QRegularExpression numbers(QStringLiteral(R"(^[\d.]+$)"));
   const bool isWrong = !typed.isEmpty() && address.isNull() &&
                        (!name.match(typed).hasMatch() || numbers.match(typed).hasMatch());
-  Q_EMIT AddressChecked(isWrong ? tr("%1 is no address.").arg(typed) : QString());
+  Q_EMIT AddressChecked(isWrong ? tr("%1 is not an address.").arg(typed) : QString());
 }
 
 ProjectorAddress ConnectionFields::Address() const {

@@ -7,7 +7,9 @@
 #include <QPushButton>
 
 #include "app/desktop/projectors/StateTexts.h"
+#include "fleet/AddressHold.h"
 #include "fleet/Fleet.h"
+#include "fleet/MakeVisit.h"
 #include "fleet/SearchDriver.h"
 
 namespace {
@@ -38,6 +40,7 @@ ConnectionTest::~ConnectionTest() = default;
 void ConnectionTest::Clear() {
   looking_.stop();
   fleet_.reset();
+  hold_.reset();
   inquiry_.reset();
   result_->clear();
   button_->setEnabled(true);
@@ -51,16 +54,22 @@ void ConnectionTest::Begin() {
     return result_->setText(tr("A serial line is tried when its dialog opens."));
   result_->setText(tr("Asking…"));
   button_->setEnabled(false);
-  fleet_ = std::make_unique<Fleet>();
-  fleet_->Set({.id = kId, .address = asked_});
+  hold_ = std::make_unique<AddressHold>(PlaceOf({.id = kId, .address = asked_}),
+                                        AddressHold::Turn::Next);
   looking_.start(kLook);
 }
 
 void ConnectionTest::Look() {
+  if (!hold_->IsHeld()) return;
+  if (!fleet_) {
+    fleet_ = std::make_unique<Fleet>(FleetPolicy{.avoidsHeld = false});
+    fleet_->Set({.id = kId, .address = asked_});
+  }
   state_ = fleet_->State(kId).value_or(LiveState());
   if (state_.reachability == Reachability::NeverAsked) return;
   looking_.stop();
   fleet_.reset();
+  hold_.reset();
   AskWho();
 }
 

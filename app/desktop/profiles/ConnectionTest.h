@@ -10,6 +10,7 @@
 #include "fleet/LiveState.h"
 
 namespace AdvancedControl {
+class AddressHold;
 class Fleet;
 class SearchDriver;
 }  // namespace AdvancedControl
@@ -39,7 +40,8 @@ class ConnectionTest : public QWidget {
   QPushButton* button_;
   QLabel* result_;
   QTimer looking_;
-  std::unique_ptr<Fleet> fleet_;           // null while no state is asked for
+  std::unique_ptr<AddressHold> hold_;      // null while no state is asked for
+  std::unique_ptr<Fleet> fleet_;           // null until the address is held
   std::unique_ptr<SearchDriver> inquiry_;  // null while no identity is asked for
   ProjectorAddress asked_;
   LiveState state_;  // of what answered

@@ -1,5 +1,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 
+#include <algorithm>
+#include <set>
 #include <utility>
 
 #include <QFileInfo>
@@ -13,6 +15,13 @@
 namespace {
 
 const JsonEdit::Path kProjectors{"projectors"};
+const QString kTags = QStringLiteral("tags");
+const QString kSnapshot = QStringLiteral("snapshot");
+
+void SetPreset(QJsonObject& tags, const QString& tag, const QString& preset) {
+  if (preset.isEmpty()) return tags.remove(tag);
+  tags[tag] = QJsonObject{{kSnapshot, preset}};
+}
 
 JsonEdit::Path EntryPath(std::size_t projector) {
   return {"projectors", static_cast<qsizetype>(projector)};
@@ -89,7 +98,14 @@ QJsonObject ProfileDocument::Entry(std::size_t projector) const {
 
 QString ProfileDocument::Change(std::size_t projector, const JsonEdit::Members& members) {
   QByteArray text = text_;
-  for (const JsonEdit::Member& member : members) {
+  // Without an identity it was known by its name, which is another one now.
+  const QString name = QString::fromStdString(projectors_[projector].name);
+  const bool isRenamed = std::ranges::any_of(members, [&name](const JsonEdit::Member& member) {
+    return member.key == QLatin1String("name") && member.value != name;
+  });
+  const bool needsIdentity = isRenamed && projectors_[projector].identity.empty();
+  const JsonEdit::Members all = needsIdentity ? WithIdentity(members) : members;
+  for (const JsonEdit::Member& member : all) {
     text = JsonEdit::SetMember(text, EntryPath(projector), member);
   }
   return Write(text);
@@ -97,13 +113,14 @@ QString ProfileDocument::Change(std::size_t projector, const JsonEdit::Members& 
 
 QString ProfileDocument::Insert(std::size_t after, const JsonEdit::Members& members) {
   return Write(JsonEdit::InsertElement(text_, kProjectors, static_cast<qsizetype>(after),
-                                       JsonEdit::Write(members)));
+                                       JsonEdit::Write(WithIdentity(members))));
 }
 
 QString ProfileDocument::Duplicate(std::size_t projector, const JsonEdit::Members& members) {
   // A copy must not have the identity of the original.
-  QByteArray copy = JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
-                                        {QStringLiteral("identity"), QJsonValue::Undefined});
+  QByteArray copy =
+      JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
+                          {QStringLiteral("identity"), QString::fromStdString(MakeIdentity())});
   for (const JsonEdit::Member& member : members) copy = JsonEdit::SetMember(copy, {}, member);
   return Write(
       JsonEdit::InsertElement(text_, kProjectors, static_cast<qsizetype>(projector), copy));
@@ -143,6 +160,38 @@ QString ProfileDocument::SetMember(const std::vector<int>& projectors,
   for (const int projector : projectors)
     edits.Change(static_cast<std::size_t>(projector), {member});
   return Write(edits.Text());
+}
+
+QString ProfileDocument::WriteTags(const QByteArray& text, const QJsonObject& tags) {
+  const QJsonValue value = tags.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(tags);
+  return Write(JsonEdit::SetMember(text, {}, {kTags, value}));
+}
+
+QString ProfileDocument::SetTagPreset(const QString& tag, const QString& preset) {
+  QJsonObject tags = File()[kTags].toObject();
+  SetPreset(tags, tag, preset);
+  return WriteTags(text_, tags);
+}
+
+// A projector that has it from a tag needs no change of its own.
+QString ProfileDocument::ReplacePreset(const QString& from, const QString& to) {
+  QJsonObject tags = File()[kTags].toObject();
+  std::set<std::string> changed;
+  for (const QString& tag : tags.keys()) {
+    if (tags[tag].toObject()[kSnapshot].toString() != from) continue;
+    changed.insert(tag.toStdString());
+    SetPreset(tags, tag, to);
+  }
+  const QJsonValue value = to.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(to);
+  ProfileEdits edits(text_);
+  for (std::size_t i = 0; i < projectors_.size(); ++i) {
+    const FleetProfile& profile = projectors_[i];
+    if (profile.snapshot != from.toStdString()) continue;
+    const bool isOfTag = std::ranges::any_of(
+        profile.tags, [&](const std::string& tag) { return changed.contains(tag); });
+    if (!isOfTag || Entry(i).contains(kSnapshot)) edits.Change(i, {{kSnapshot, value}});
+  }
+  return WriteTags(edits.Text(), tags);
 }
 
 QString ProfileDocument::ChangedMeanwhile() const {

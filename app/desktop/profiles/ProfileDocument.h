@@ -63,11 +63,16 @@ class ProfileDocument {
   QString Tag(const std::vector<int>& projectors, const QStringList& tags, bool adds);
   /// Sets or removes one member of several entries.
   QString SetMember(const std::vector<int>& projectors, const JsonEdit::Member& member);
+  /// Sets which preset the projectors with a tag should be like; empty for none.
+  QString SetTagPreset(const QString& tag, const QString& preset);
+  /// Names another preset wherever the file names this one; empty for none.
+  QString ReplacePreset(const QString& from, const QString& to);
   /// Replaces the text of the file.
   QString Write(const QByteArray& text);
 
  private:
   const QJsonObject& File() const;
+  QString WriteTags(const QByteArray& text, const QJsonObject& tags);
   QString ChangedMeanwhile() const;
 
   QString fileName_;

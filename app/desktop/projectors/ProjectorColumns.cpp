@@ -73,8 +73,12 @@ QString ProjectorColumns::Text(const ProjectorRow& row, int column) {
   switch (column) {
     case Name:
       return QString::fromStdString(row.profile.name);
-    case State:
-      return row.isOpen ? tr("%1 · open").arg(StateTexts::State(row)) : StateTexts::State(row);
+    case State: {
+      QString text = StateTexts::State(row);
+      if (row.state.drift.value_or(0) > 0)
+        text += QStringLiteral(" · ") + StateTexts::Drift(row.state);
+      return row.isOpen ? tr("%1 · open").arg(text) : text;
+    }
     case Power:
       return StateTexts::Power(row.state);
     case Source:
@@ -127,9 +131,9 @@ QStringList ProjectorColumns::Samples(int column) {
       return samples;
     }
     case Model:
-      return {QStringLiteral("Model 5-30")};
+      return {QStringLiteral("Model 4-11 b")};
     case Place:
-      return {QStringLiteral("Building A, Libra")};
+      return {QStringLiteral("Building A, Seminar rooms")};
     case Settings:
       return {StateTexts::Drift({.drift = 0}), StateTexts::Drift({.drift = 12})};
     case Answered:

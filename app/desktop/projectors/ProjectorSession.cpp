@@ -4,13 +4,31 @@
 
 #include "app/profiles/PresetFolder.h"
 #include "app/profiles/ProjectorAccess.h"
+#include "fleet/HoldingChannel.h"
 #include "host/CAdvanceDlg.h"
+
+namespace {
+
+/// Simulations of the same model share what it has, which is most of their memory.
+std::shared_ptr<const SimulatedLayout> LayoutOf(const FleetProfile& profile) {
+  using Model = std::weak_ptr<const ProfileModel>;
+  static std::map<Model, std::weak_ptr<const SimulatedLayout>, std::owner_less<Model>> layouts;
+  if (const auto known = layouts.find(profile.model); known != layouts.end()) {
+    if (auto layout = known->second.lock()) return layout;
+  }
+  std::erase_if(layouts, [](const auto& one) { return one.second.expired(); });
+  auto layout = SimulatedProjector::MakeLayout(SimulatedModelOf(profile));
+  layouts[profile.model] = layout;
+  return layout;
+}
+
+}  // namespace
 
 // The log is the outermost channel. It shows what the dialog got, even for a command that was given
 // up before its answer came, or was never sent.
 ProjectorSession::ProjectorSession(FleetProfile profile, LoggingChannel::Observer observer)
     : profile_(std::move(profile)),
-      simulator_(std::make_shared<SimulatedProjector>(SimulatedModelOf(profile_))),
+      simulator_(std::make_shared<SimulatedProjector>(LayoutOf(profile_))),
       faultChannel_(std::make_shared<FaultChannel>(MakeInnerChannel())),
       served_(std::make_shared<FaultChannel>(simulator_)),
       channel_(std::make_shared<LoggingChannel>(
@@ -18,7 +36,8 @@ ProjectorSession::ProjectorSession(FleetProfile profile, LoggingChannel::Observe
 
 std::shared_ptr<ProjectorChannel> ProjectorSession::MakeInnerChannel() {
   if (profile_.link == ProjectorLink::Simulated) return simulator_;
-  return MakeUnboundedChannel(AddressOf(profile_));
+  return std::make_shared<HoldingChannel>(MakeUnboundedChannel(AddressOf(profile_)),
+                                          TargetOf(profile_), Bounds().timeOut);
 }
 
 BoundedChannel::Limits ProjectorSession::Bounds() const {

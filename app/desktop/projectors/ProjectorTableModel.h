@@ -45,6 +45,7 @@ class ProjectorTableModel : public QAbstractTableModel {
   /// text comes first.
   void Search(const QString& text);
   void SetGroup(const ProjectorGroup& group);
+  const ProjectorGroup& Group() const { return arrangement_.Group(); }
 
   int PositionAt(int row) const { return shown_[static_cast<std::size_t>(row)]; }
   const ProjectorRow& At(const QModelIndex& index) const {

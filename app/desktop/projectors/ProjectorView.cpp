@@ -90,8 +90,7 @@ void ProjectorView::MakeColumns() {
   table_->setSortingEnabled(true);
   const QFontMetrics metrics = table_->fontMetrics();
   for (int column = 0; column < ProjectorColumns::ColumnCount; ++column) {
-    const QString title = model_->headerData(column, Qt::Horizontal).toString();
-    int text = metrics.horizontalAdvance(title) + kColumnGap;
+    int text = TitleWidth(column);
     for (const QString& sample : ProjectorColumns::Samples(column))
       text = std::max(text, metrics.horizontalAdvance(sample));
     table_->setColumnWidth(
@@ -101,6 +100,11 @@ void ProjectorView::MakeColumns() {
     columns.setSectionHidden(column, true);
   columns.setContextMenuPolicy(Qt::CustomContextMenu);
   connect(&columns, &QWidget::customContextMenuRequested, this, &ProjectorView::AskForColumns);
+}
+
+int ProjectorView::TitleWidth(int column) const {
+  const QString title = model_->headerData(column, Qt::Horizontal).toString();
+  return table_->fontMetrics().horizontalAdvance(title) + kColumnGap;
 }
 
 void ProjectorView::AskForColumns(const QPoint& place) {
@@ -215,6 +219,18 @@ int ProjectorView::UsualWidth() const {
   for (int column = 0; column < ProjectorColumns::ColumnCount; ++column)
     columns += table_->columnWidth(column);  // 0 if it is hidden
   return columns + table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
+}
+
+void ProjectorView::FitColumns(int width) {
+  using Columns = ProjectorColumns;
+  int missing = UsualWidth() - width;
+  for (const int column :
+       {Columns::Place, Columns::Problem, Columns::Model, Columns::Name, Columns::Source}) {
+    if (missing <= 0) return;
+    const int before = table_->columnWidth(column);
+    table_->setColumnWidth(column, std::max(TitleWidth(column), before - missing));
+    missing -= before - table_->columnWidth(column);
+  }
 }
 
 void ProjectorView::FocusSearch() {

@@ -38,6 +38,9 @@ class ProjectorView : public QWidget {
 
   /// The width at which all shown columns have room.
   int UsualWidth() const;
+  /// Narrows columns whose texts can be cut off, so that all columns have room in this width, if
+  /// that is possible without cutting off their titles.
+  void FitColumns(int width);
 
   void FocusSearch();
   void FocusTable();
@@ -58,6 +61,7 @@ class ProjectorView : public QWidget {
 
  private:
   void MakeColumns();
+  int TitleWidth(int column) const;
   void AskForColumns(const QPoint& place);
   void TakeSearch(const QString& text);
   void SelectOnly(const QModelIndex& index);

@@ -17,6 +17,7 @@ class RowArrangement {
   /// See `ProjectorTableModel::Search`.
   void Search(const QString& text) { search_.SetText(text); }
   void SetGroup(const ProjectorGroup& group) { group_ = group; }
+  const ProjectorGroup& Group() const { return group_; }
   /// A column of −1 is the order of the file.
   void Sort(int column, Qt::SortOrder order);
 

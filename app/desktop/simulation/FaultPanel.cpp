@@ -15,6 +15,7 @@
 #include <QSpinBox>
 
 #include "app/desktop/Mnemonic.h"
+#include "simulator/SettingsTable.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/IsolatedText.h"
 

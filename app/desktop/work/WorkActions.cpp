@@ -6,20 +6,21 @@
 #include "i18n/SystemLanguage.h"
 
 WorkActions::WorkActions(WorkDialog::NameOf nameOf, FleetWatch& watch, QWidget& window)
-    : QObject(&window),
-      nameOf_(std::move(nameOf)),
-      watch_(watch),
-      window_(window),
-      texts_(CatalogFolders(), SystemLanguageId()) {}
+    : QObject(&window), nameOf_(std::move(nameOf)), watch_(watch), window_(window) {}
 
 // Jobs that run use the fleet, which ends after this object.
 WorkActions::~WorkActions() { qDeleteAll(window_.findChildren<WorkRun*>()); }
+
+const SettingTexts& WorkActions::Texts() const {
+  if (!texts_) texts_.emplace(CatalogFolders(), SystemLanguageId());
+  return *texts_;
+}
 
 void WorkActions::Do(WorkPlan plan, const Then& then) {
   std::size_t count = plan.missing.size();
   for (const WorkPart& part : plan.parts) count += part.targets.size();
   if (count == 0) return;
-  auto* dialog = new WorkDialog(new WorkRun(watch_, texts_, plan), nameOf_, &window_);
+  auto* dialog = new WorkDialog(new WorkRun(watch_, Texts(), plan), nameOf_, &window_);
   connect(dialog, &WorkDialog::UndoWanted, this, [this](const WorkPlan& undo) { Do(undo); });
   if (then)
     connect(&dialog->Run(), &WorkRun::Finished, this, [then, dialog] { then(dialog->Run()); });

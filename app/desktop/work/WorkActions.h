@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QObject>
 
@@ -23,7 +24,8 @@ class WorkActions : public QObject {
   /// end.
   void Do(WorkPlan plan, const Then& then = {});
 
-  const SettingTexts& Texts() const { return texts_; }
+  /// Reads the catalog the first time.
+  const SettingTexts& Texts() const;
 
  Q_SIGNALS:
   /// The result of the work on a single projector, for the status bar.
@@ -33,5 +35,5 @@ class WorkActions : public QObject {
   const WorkDialog::NameOf nameOf_;
   FleetWatch& watch_;
   QWidget& window_;
-  const SettingTexts texts_;
+  mutable std::optional<SettingTexts> texts_;  // not needed to show the window
 };

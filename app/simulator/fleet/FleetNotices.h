@@ -11,7 +11,7 @@
 #include "app/simulator/fleet/FleetTimer.h"
 
 /// The datagrams of the projectors with PJLink class 2: answers to searches, and status notices if
-/// somebody receives them. A projector that is off the network or silent sends none.
+/// there is a receiver. A projector that is off the network or silent sends none.
 class FleetNotices {
  public:
   /// `projectors` and `timer` must outlive this. Without a receiver there are no notices.

@@ -76,7 +76,7 @@ void RequestCounts::CountRequest(bool isPoll, bool isChange) {
 
 FleetProjectors::FleetProjectors(std::vector<FleetProfile> profiles, const Options& options)
     : profiles_(std::move(profiles)) {
-  std::vector<std::shared_ptr<const SimulatedProjector::Layout>> layouts;
+  std::vector<std::shared_ptr<const SimulatedLayout>> layouts;
   for (const FleetProfile& profile : profiles_) {
     layouts.push_back(SimulatedProjector::MakeLayout(SimulatedModelOf(profile)));
   }
@@ -89,7 +89,7 @@ FleetProjectors::FleetProjectors(std::vector<FleetProfile> profiles, const Optio
 }
 
 void FleetProjectors::Make(std::size_t index, const Options& options,
-                           std::shared_ptr<const SimulatedProjector::Layout> layout) {
+                           std::shared_ptr<const SimulatedLayout> layout) {
   constexpr int kPercentOn = 70;
   constexpr int kPercentSecondClass = 75;
   constexpr int kPercentTwoLamps = 20;

@@ -94,7 +94,7 @@ class FleetProjectors {
 
  private:
   void Make(std::size_t index, const Options& options,
-            std::shared_ptr<const SimulatedProjector::Layout> layout);
+            std::shared_ptr<const SimulatedLayout> layout);
 
   std::vector<FleetProfile> profiles_;
   std::vector<FleetProjector> projectors_;

@@ -52,7 +52,7 @@ void FleetServer::Handle(int descriptor, std::uint32_t events) {
 }
 
 void FleetServer::AcceptAll(int listener, FleetProtocol protocol) {
-  constexpr int kAtOnce = 128;  // then the open connections have their turn
+  constexpr int kAtOnce = 128;  // connections accepted before the open ones are served again
   for (int i = 0; i < kAtOnce; ++i) {
     const int socket = FleetSockets::Accept(listener);
     if (socket >= 0) {

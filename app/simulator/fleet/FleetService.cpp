@@ -135,7 +135,7 @@ QString FleetService::ObeyOne(std::size_t projector, const QString& verb, const 
     const QHostAddress address(what);
     const bool isNone = what == QLatin1String("none");
     if (!isNone && (!address.isLoopback() || address.protocol() != QHostAddress::IPv4Protocol)) {
-      return QStringLiteral("error: '%1' is no IPv4 loopback address").arg(what);
+      return QStringLiteral("error: '%1' is not an IPv4 loopback address").arg(what);
     }
     if (!projectors_.Move(projector, isNone ? 0 : address.toIPv4Address())) {
       return QStringLiteral("error: another projector has %1").arg(what);

@@ -1,8 +1,10 @@
 #include "device/channels/PjLinkChannel.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "device/CommandCode.h"
+#include "device/channels/PjLinkTcpSocket.h"
 
 namespace AdvancedControl {
 
@@ -14,14 +16,21 @@ constexpr PjtCommand kGetInput{.operation = PjtOperation::Get, .code = CommandCo
 
 }  // namespace
 
-PjLinkChannel::PjLinkChannel(std::string host, int port, const std::string& password,
+PjLinkChannel::PjLinkChannel(const std::string& host, int port, const std::string& password,
                              const Limits& limits)
-    : limits_(limits),
-      session_(password, {.connect = limits.connect, .answer = limits.answer}),
-      socket_(std::move(host), port, session_.Connection()),
-      inquiry_(limits.firstPause, limits.longestPause) {}
+    : PjLinkChannel(host, port, password, limits, [&](PjLinkConnection& connection) {
+        return std::make_unique<PjLinkTcpSocket>(host, static_cast<std::uint16_t>(port),
+                                                 connection);
+      }) {}
 
-PjLinkChannel::~PjLinkChannel() = default;
+PjLinkChannel::PjLinkChannel(const std::string& host, int port, const std::string& password,
+                             const Limits& limits, const MakePjLinkSocket& makeSocket)
+    : limits_(limits),
+      hasValidAddress_(!host.empty() && port >= 1 && port <= UINT16_MAX),
+      address_(host + ':' + std::to_string(port)),
+      session_(password, {.connect = limits.connect, .answer = limits.answer}),
+      socket_(makeSocket(session_.Connection())),
+      inquiry_(limits.firstPause, limits.longestPause) {}
 
 bool PjLinkChannel::Has(const PjtCommand& command) {
   return PjLinkMapping::Find(command) != nullptr;
@@ -44,17 +53,17 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
 }
 
 void PjLinkChannel::Run(const auto& work) {
-  socket_.ReceiveUnsolicited();
+  socket_->ReceiveUnsolicited();
   work();
   const ConnectionState before = session_.State();
   bool wasUsed = false;
   for (auto step = session_.Next(Clock::now()); step.kind != PjLinkStep::Kind::Finished;
        step = session_.Next(Clock::now())) {
     wasUsed = true;
-    socket_.Perform(step);
+    socket_->Perform(step);
     // Some projectors close the connection after each reply; this detects it before the next
     // request.
-    socket_.ReceiveUnsolicited();
+    socket_->ReceiveUnsolicited();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
   }
   if (wasUsed || session_.State() != before) state_ = session_.State();
@@ -63,8 +72,8 @@ void PjLinkChannel::Run(const auto& work) {
 }
 
 bool PjLinkChannel::CanConnect() {
-  if (!socket_.HasValidAddress()) state_ = ConnectionState::WrongParameters;
-  return socket_.HasValidAddress();
+  if (!hasValidAddress_) state_ = ConnectionState::WrongParameters;
+  return hasValidAddress_;
 }
 
 PjLinkResult PjLinkChannel::Ask(const PjLinkQuestion& question) {
@@ -106,11 +115,11 @@ bool PjLinkChannel::UseIdleTime() {
 
 bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
   // A projector that closes after its reply may already have done so.
-  const bool wasOpen = socket_.IsOpen() || state_ == ConnectionState::Connected;
-  if (socket_.IsOpen()) socket_.ReceiveUnsolicited();
-  if (socket_.IsOpen() && unused >= limits_.unused) socket_.Close();
-  if (wasOpen && !socket_.IsOpen()) state_ = ConnectionState::Unused;
-  return socket_.IsOpen();
+  const bool wasOpen = socket_->IsOpen() || state_ == ConnectionState::Connected;
+  if (socket_->IsOpen()) socket_->ReceiveUnsolicited();
+  if (socket_->IsOpen() && unused >= limits_.unused) socket_->Close();
+  if (wasOpen && !socket_->IsOpen()) state_ = ConnectionState::Unused;
+  return socket_->IsOpen();
 }
 
 PjLinkFacts PjLinkChannel::Facts() const {
@@ -121,7 +130,5 @@ void PjLinkChannel::Remember(const PjLinkFacts& facts) {
   if (facts.protocolClass) session_.RememberClass(*facts.protocolClass);
   inquiry_.Remember(facts.inputs, facts.protocolClass);
 }
-
-std::string PjLinkChannel::Address() const { return socket_.Address(); }
 
 }  // namespace AdvancedControl

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -57,12 +58,12 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   };
 
   /// `host` is a name or an address. `password` is empty for a projector without one.
-  PjLinkChannel(std::string host, int port, const std::string& password)
-      : PjLinkChannel(std::move(host), port, password, {}) {}
-  PjLinkChannel(std::string host, int port, const std::string& password, const Limits& limits);
-  ~PjLinkChannel() override;
-  PjLinkChannel(const PjLinkChannel&) = delete;
-  PjLinkChannel& operator=(const PjLinkChannel&) = delete;
+  PjLinkChannel(const std::string& host, int port, const std::string& password)
+      : PjLinkChannel(host, port, password, {}) {}
+  PjLinkChannel(const std::string& host, int port, const std::string& password,
+                const Limits& limits);
+  PjLinkChannel(const std::string& host, int port, const std::string& password,
+                const Limits& limits, const MakePjLinkSocket& makeSocket);
 
   /// Whether PJLink of either class supports this command.
   static bool Has(const PjtCommand& command);
@@ -94,7 +95,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   void Remember(const PjLinkFacts& facts);
 
   /// "host:port".
-  std::string Address() const;
+  const std::string& Address() const { return address_; }
 
  private:
   /// Starts `work` and performs the session's steps until it is finished.
@@ -103,8 +104,10 @@ class PROJECTOR_COMMON_EXPORT PjLinkChannel : public ProjectorChannel {
   PjLinkResult Ask(const PjLinkQuestion& question);
 
   const Limits limits_;
+  const bool hasValidAddress_;
+  const std::string address_;
   PjLinkSession session_;
-  PjLinkSocket socket_;
+  const std::unique_ptr<PjLinkSocket> socket_;
   std::chrono::milliseconds longest_ = limits_.answer;
   std::atomic<ConnectionState> state_ = ConnectionState::Unused;
   std::atomic<std::optional<PowerState>> power_;

@@ -12,7 +12,8 @@ void PjLinkKnownClass::Remember(char protocolClass) {
 }
 
 void PjLinkKnownClass::Take(std::string_view parameter) {
-  // A projector that does not know the question has class 1. Other errors tell nothing.
+  // A projector that does not know the question has class 1. Other errors say nothing about the
+  // class.
   if (PjLink::IsError(parameter) && !PjLink::SameWord(parameter, PjLink::kUndefined)) return;
   class_ = PjLink::ProtocolClass(parameter);
   isRemembered_ = false;

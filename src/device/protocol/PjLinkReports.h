@@ -27,7 +27,7 @@ class PjLinkReports {
   void KeepPower(std::string_view parameter, SessionTime now);
   /// The power state that the projector reported last.
   std::optional<PowerState> Power() const { return power_; }
-  /// Whether it was just reported, and no change came since.
+  /// Whether the power state was reported just now and nothing was changed since.
   bool IsPowerFresh(SessionTime now) const;
 
   /// A change makes everything outdated.

@@ -66,7 +66,7 @@ class PageReader {
   void ShowNotes();
   /// How many rows have another value than the wanted one.
   int Differences() const;
-  /// How many rows that were not read had another one when the host last saw them.
+  /// The same for rows that were not read, with the values that the host has last seen.
   int DifferencesWhenSeen() const;
   /// The time since the last reading that was complete and answered; nothing before the first one.
   std::optional<std::chrono::milliseconds> SinceRead() const;

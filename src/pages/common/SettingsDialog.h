@@ -28,7 +28,7 @@ class ADVANCED_CONTROL_EXPORT SettingsDialog : public CDialog {
   /// page on its own shows its generic form.
   virtual const ModelData& Model() const;
 
-  /// The context given by the nearest owner that has one, else one that knows nothing.
+  /// The context given by the nearest owner that has one, else an empty one.
   const DialogContext& Context() const;
 
   /// Shows a text in the line beside Close once no handler runs, unless the outcome of the commands

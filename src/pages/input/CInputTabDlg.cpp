@@ -1,6 +1,6 @@
 #include "pages/input/CInputTabDlg.h"
 
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "toolkit/CComboBox.h"

@@ -5,6 +5,7 @@
 
 /// Input settings of the newest page set: signal processing, formats and modes of the inputs, one
 /// list per row. A choice is sent at once, and not read back before the next refresh.
+/// User-interface thread only.
 class ADVANCED_CONTROL_EXPORT CInputType5Dlg final : public CTabPage {
   Q_OBJECT
 

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "pages/option/CServiceDlg.h"
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/option/MyButtons.h"

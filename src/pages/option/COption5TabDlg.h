@@ -6,7 +6,7 @@
 #include "pages/common/CTabPage.h"
 
 /// Options of the newest page set: automatic functions, my buttons, my source, closed captions and
-/// a button for the service settings.
+/// a button for the service settings. User-interface thread only.
 class ADVANCED_CONTROL_EXPORT COption5TabDlg final : public CTabPage {
   Q_OBJECT
 

@@ -5,6 +5,7 @@
 
 /// The pop-up with the settings of installers: automatic adjustment, remote-control receivers and
 /// frequencies, focus lock. Each change applies at once; a refused one is silently undone.
+/// User-interface thread only.
 class ADVANCED_CONTROL_EXPORT CServiceDlg final : public AdvancedControl::RowDialog {
   Q_OBJECT
 

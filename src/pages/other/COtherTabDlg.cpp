@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "pages/rows/RowOutcomes.h"
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/RowUse.h"
@@ -58,7 +58,7 @@ void COtherTabDlg::OnBnClickedOtherPowerOff() {
 }
 
 void COtherTabDlg::ShowPowerRefused(int button) {
-  TellRefusal(Row(Id::Power), Item<QPushButton>(button).text());
+  ShowRefusal(Row(Id::Power), Item<QPushButton>(button).text());
   ShowError(ErrorText::PowerRefused);
 }
 
@@ -69,6 +69,6 @@ void COtherTabDlg::OnCbnSelchangeOtherInput() {
   const Sent sent = SendRow(*projector, Row(Id::InputSource).Row(), Model(), *source);
   InitDisp();
   if (sent == Sent::Accepted) return;
-  TellRefusal(Row(Id::InputSource), text);
+  ShowRefusal(Row(Id::InputSource), text);
   ShowError(ErrorText::InputSourceRefused);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/picture/CustomDialog.h"
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/PageTables.h"
 
 /// The pop-up that adjusts the white balance of the user colour temperature: gain and offset of

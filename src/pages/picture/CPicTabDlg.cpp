@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"
 #include "toolkit/CComboBox.h"

@@ -1,6 +1,6 @@
 #include "pages/picture/CPictureTabType5Dlg.h"
 
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/picture/PictureRows.h"

@@ -4,7 +4,8 @@
 #include "pages/picture/PicturePage.h"
 
 /// Picture settings of the newest page set: brightness, contrast, color, tint and sharpness; gamma
-/// and color temperature with their custom pop-ups; active iris; memories; resets.
+/// and color temperature with their custom pop-ups; active iris; memories; resets. User-interface
+/// thread only.
 class ADVANCED_CONTROL_EXPORT CPictureTabType5Dlg final : public AdvancedControl::PicturePage {
   Q_OBJECT
 

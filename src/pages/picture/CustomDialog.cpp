@@ -19,7 +19,7 @@ const ValueRow& CustomDialog::RowAt(std::size_t row) const {
 bool CustomDialog::OnInitDialog() {
   RowDialog::OnInitDialog();
   for (std::size_t row = 0; row < RowCount(); ++row) {
-    GetDlgItem(RowAt(row).reset.button)->setVisible(!hideResets_);
+    GetDlgItem(RowAt(row).reset->button)->setVisible(!hideResets_);
   }
   AddPicture();
   ShowUnread();
@@ -55,7 +55,7 @@ void CustomDialog::AddPicture() {
 std::optional<int> CustomDialog::FocusedRow() const {
   for (std::size_t row = 0; row < RowCount(); ++row) {
     const ValueIds& ids = RowAt(row).ids;
-    for (const int id : {ids.minus, ids.slider, ids.plus, ids.field, RowAt(row).reset.button}) {
+    for (const int id : {ids.minus, ids.slider, ids.plus, ids.field, RowAt(row).reset->button}) {
       if (GetDlgItem(id)->hasFocus()) return static_cast<int>(row);
     }
   }

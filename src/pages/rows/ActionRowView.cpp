@@ -9,16 +9,16 @@ namespace AdvancedControl {
 
 std::vector<OperatedControl> ActionRowView::OperatedControls() const {
   std::vector<OperatedControl> operated{{Notification::Event::Clicked, row_.control}};
-  if (row_.list != 0) operated.push_back({Notification::Event::Passive, row_.list});
+  if (row_.list) operated.push_back({Notification::Event::Passive, row_.list->control});
   return operated;
 }
 
 void ActionRowView::Bind() {
-  list_ = row_.list != 0 ? &Dialog().Item<CComboBox>(row_.list) : nullptr;
+  list_ = row_.list ? &Dialog().Item<CComboBox>(row_.list->control) : nullptr;
 }
 
 void ActionRowView::Prepare() {
-  if (list_ != nullptr) FillList(*list_, row_.entries.Of(Model()));
+  if (list_ != nullptr) FillList(*list_, row_.list->entries.Of(Model()));
 }
 
 void ActionRowView::OnPageRead() {
@@ -38,7 +38,7 @@ void ActionRowView::Act(int) {
     Dialog().Say(DoneText(position, entry));
     return;
   }
-  TellRefusal(*this, entry);
+  ShowRefusal(*this, entry);
   if (!done && row_.error != 0) Dialog().ShowError(row_.error);
 }
 

@@ -26,14 +26,14 @@ void CheckRowView::Act(int) {
   const int value = check_->isChecked() ? 1 : 0;
   const CPjtInterface::Tally before = Projector().Sent();
   if (SendRow(Projector(), Row(), Model(), value) == Sent::Accepted) {
-    return IsRefusedSince(*this, before) ? TellRefusal(*this, TextAt(value))
+    return IsRefusedSince(*this, before) ? ShowRefusal(*this, TextAt(value))
                                          : Confirm(*this, value);
   }
   if (const auto present = ReadSetting(0)) {
     check_->setChecked(*present != 0);
     memory.known = Position();
   }
-  TellRefusal(*this, TextAt(value));
+  ShowRefusal(*this, TextAt(value));
 }
 
 std::optional<int> CheckRowView::Position() const { return check_->isChecked() ? 1 : 0; }

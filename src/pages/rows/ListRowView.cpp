@@ -55,7 +55,7 @@ void ListRowView::Act(int) {
   const QString text = list_->currentText();
   if (!row_.send) return Dialog().Say(CatalogString(kListCategory, ListText::OnlyShown));
   const auto source = Host().AskFor(row_.of);
-  if (!source) return TellRefusal(*this, text);
+  if (!source) return ShowRefusal(*this, text);
   const CPjtInterface::Tally before = Projector().Sent();
   const Sending how{.text = text.toStdString(), .source = source, .position = position};
   const Sent sent = SendRow(Projector(), Row(), Model(), *chosen, how);
@@ -67,16 +67,16 @@ void ListRowView::Act(int) {
   }
   if (row_.rules.readsBackAlways) Host().ReadRow(*this, *source);
   if (sent == Sent::Accepted) {
-    // Reading the setting tells most about a setter that returns nothing.
+    // After a setter that returns nothing, the value read back is the best evidence.
     const bool isOpen = Projector().Sent().pending > before.pending;
     const bool isReadBack = row_.rules.readsBackAlways && IsRead(memory.note) && !isOpen;
     const bool isAsChosen = memory.known && AreSame(*memory.known, position);
-    if (isReadBack ? !isAsChosen : isRefused) return TellRefusal(*this, text);
+    if (isReadBack ? !isAsChosen : isRefused) return ShowRefusal(*this, text);
     if (!row_.rules.readsBackAlways) Confirm(*this, position);
     return;
   }
   if (Table().refusedIsReadBack || row_.rules.refused != Refused::Silent) ReadBack(*source);
-  TellRefusal(*this, text);
+  ShowRefusal(*this, text);
   if (row_.rules.error != 0) Dialog().ShowError(row_.rules.error);
 }
 

@@ -10,11 +10,11 @@
 
 namespace AdvancedControl {
 
-NumberControls::NumberControls(const SettingsDialog& dialog, const ValueIds& ids)
-    : minus_(&dialog.Item<QAbstractButton>(ids.minus)),
-      slider_(ids.slider != 0 ? &dialog.Item<CSliderCtrl>(ids.slider) : nullptr),
-      plus_(&dialog.Item<QAbstractButton>(ids.plus)),
-      field_(&dialog.Item<NumberField>(ids.field)) {
+NumberControls::NumberControls(const SettingsDialog& dialog, const ValueRow& row)
+    : minus_(&dialog.Item<QAbstractButton>(row.ids.minus)),
+      slider_(row.stepsOnly ? nullptr : &dialog.Item<CSliderCtrl>(row.ids.slider)),
+      plus_(&dialog.Item<QAbstractButton>(row.ids.plus)),
+      field_(&dialog.Item<NumberField>(row.ids.field)) {
   field_->setContextMenuPolicy(Qt::NoContextMenu);  // the row's own menu opens there too
 }
 

@@ -20,13 +20,13 @@ class SettingsDialog;
 class NumberControls {
  public:
   NumberControls() = default;
-  /// The controls with these numbers, which must exist. They show no number.
-  NumberControls(const SettingsDialog& dialog, const ValueIds& ids);
+  /// The row's controls, which the dialog must have. They show no number.
+  NumberControls(const SettingsDialog& dialog, const ValueRow& row);
 
   /// Whether the control is −, + or the slider.
   bool Change(const QWidget& control) const;
   bool IsPlus(const QWidget& control) const;
-  /// Null for a row without one.
+  /// Null for a row that is `stepsOnly`.
   CSliderCtrl* Slider() const { return slider_; }
   NumberField& Field() const { return *field_; }
 
@@ -43,7 +43,7 @@ class NumberControls {
   /// Moves the slider away from where the user has left it, because that position is not sent.
   void ReturnSlider();
 
-  /// What the user has asked for and the projector was not told yet.
+  /// What the user has asked for and what was not sent yet.
   struct Pending {
     std::optional<int> number{};  ///< Shown in a lighter colour instead of the projector's.
     bool keepsSlider = false;     ///< The slider stays where the user has left it.

@@ -25,8 +25,8 @@ void ResetRowView::Prepare() {
   const CatalogBatch batch;
   for (std::size_t i = 0; i < row_.entries.size(); ++i) {
     const ResetEntry& entry = row_.entries[i];
-    const RowView* of = Host().RowOf(Dialog().GetDlgItem(entry.of));
-    if (entry.of != 0 && (of == nullptr || !of->memory.present)) continue;
+    const RowView* of = RowFor(entry);
+    if (entry.of && (of == nullptr || !of->memory.present)) continue;
     // The value is the entry's position in the table, because the list has only the present
     // entries.
     list_->Add(CatalogString(kListCategory, entry.text), static_cast<int>(i));
@@ -37,10 +37,13 @@ void ResetRowView::OnPageRead() {
   if (list_->currentIndex() < 0) list_->Select(0);
 }
 
+RowView* ResetRowView::RowFor(const ResetEntry& entry) const {
+  return entry.of ? Host().RowOf(Dialog().GetDlgItem(*entry.of)) : nullptr;
+}
+
 std::optional<int> ResetRowView::EntryFor(const RowView& row) const {
   for (std::size_t i = 0; i < row_.entries.size(); ++i) {
-    const int of = row_.entries[i].of;
-    if (of != 0 && Host().RowOf(Dialog().GetDlgItem(of)) == &row) return static_cast<int>(i);
+    if (RowFor(row_.entries[i]) == &row) return static_cast<int>(i);
   }
   return {};
 }
@@ -63,13 +66,13 @@ void ResetRowView::Act(int) {
       isListed ? row_.entries[static_cast<std::size_t>(*chosen)] : ResetEntry{};
   const bool done = isListed && Perform(Projector(), Named(entry.operation)).accepted;
   if (done && row_.rereads == Rereads::ItsRow) {
-    auto* of = dynamic_cast<ValueRowView*>(Host().RowOf(Dialog().GetDlgItem(entry.of)));
+    auto* of = dynamic_cast<ValueRowView*>(RowFor(entry));
     if (of != nullptr) of->ShowAgain();
   }
   const QString text = CatalogString(kListCategory, entry.text);
   if (ReadsAgain(row_.rereads, done)) Host().ReadAgain();
   if (!isListed) return;
-  if (!done) return TellRefusal(*this, text);
+  if (!done) return ShowRefusal(*this, text);
   Confirm(*this, {});
   Dialog().Say(CatalogString(kListCategory, ListText::ResetDone, text.toStdString()));
 }

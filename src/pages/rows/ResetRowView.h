@@ -27,6 +27,8 @@ class ResetRowView final : public RowView {
   void Reset(const RowView& row);
 
  private:
+  /// The row that an entry resets; null if it resets none or this dialog does not have it.
+  RowView* RowFor(const ResetEntry& entry) const;
   std::optional<int> EntryFor(const RowView& row) const;
 
   const ResetRow& row_;

@@ -51,7 +51,7 @@ bool IsRefusedSince(const RowView& row, const CPjtInterface::Tally& before) {
   return row.Host().Dialog().projector->Sent().refused > before.refused;
 }
 
-void TellRefusal(RowView& row, const QString& tried) {
+void ShowRefusal(RowView& row, const QString& tried) {
   SettingsDialog& dialog = DialogOf(row);
   if (dialog.projector->IsAbandoned()) return;
   const std::string what = (NameOf(row) + QLatin1Char(' ') + tried).trimmed().toStdString();

@@ -24,9 +24,9 @@ void Confirm(RowView& row, std::optional<int> position);
 /// nothing.
 bool IsRefusedSince(const RowView& row, const CPjtInterface::Tally& before);
 
-/// Tells the user that the projector did not accept `tried`, the text of a value or of a button, in
+/// Shows the user that the projector did not accept `tried`, the text of a value or of a button, in
 /// the line beside Close and by a mark on the row, which stays until `Confirm`.
-void TellRefusal(RowView& row, const QString& tried);
+void ShowRefusal(RowView& row, const QString& tried);
 
 /// The position that the row should have now; nothing if any will do.
 std::optional<int> WantedPosition(const RowView& row);

@@ -20,7 +20,7 @@ QString SignOf(bool upwards) { return upwards ? QStringLiteral("+") : QStringLit
 
 std::vector<int> ValueRowView::Controls() const {
   std::vector<int> controls = ControlsOf(Row());
-  if (row_.reset.button != 0) controls.push_back(row_.reset.button);
+  if (row_.reset) controls.push_back(row_.reset->button);
   return controls;
 }
 
@@ -28,13 +28,13 @@ std::vector<OperatedControl> ValueRowView::OperatedControls() const {
   using Event = Notification::Event;
   std::vector<OperatedControl> operated{{Event::Clicked, row_.ids.minus},
                                         {Event::Clicked, row_.ids.plus}};
-  if (row_.ids.slider != 0) operated.push_back({Event::HScroll, row_.ids.slider});
-  if (row_.reset.button != 0) operated.push_back({Event::Clicked, row_.reset.button});
+  if (!row_.stepsOnly) operated.push_back({Event::HScroll, row_.ids.slider});
+  if (row_.reset) operated.push_back({Event::Clicked, row_.reset->button});
   return operated;
 }
 
 void ValueRowView::Bind() {
-  controls_ = NumberControls(Dialog(), row_.ids);
+  controls_ = NumberControls(Dialog(), row_);
   if (auto* slider = controls_.Slider()) {
     AttachDragBubble(*slider, [this](int position) { return TextAt(position); });
   }
@@ -73,8 +73,8 @@ void ValueRowView::ShowAgain() {
 }
 
 void ValueRowView::Act(int control) {
-  if (control == row_.reset.button) {
-    RunReset();
+  if (row_.reset && control == row_.reset->button) {
+    RunReset(*row_.reset);
   } else {
     Step(control == row_.ids.plus);
   }
@@ -84,7 +84,7 @@ Stepped ValueRowView::Step(bool upwards) {
   const auto asked = Host().AskFor(row_.of);
   if (Projector().IsAbandoned()) return {};
   const auto source = SteppedSource(row_.of, asked);
-  if (!source) TellRefusal(*this, SignOf(upwards));
+  if (!source) ShowRefusal(*this, SignOf(upwards));
   if (!source) return {};
   if (row_.of == OfSource::Current) Host().ShowSource(source);
   const Stepped stepped =
@@ -96,7 +96,7 @@ Stepped ValueRowView::Step(bool upwards) {
   } else if (stepped.refused && row_.error != 0) {
     Refuse(remembered_, SignOf(upwards), true);
   } else if (stepped.refused || stepped.unchanged) {
-    TellRefusal(*this, SignOf(upwards));
+    ShowRefusal(*this, SignOf(upwards));
   }
   return stepped;
 }
@@ -119,7 +119,7 @@ bool ValueRowView::Release() {
   const auto source = Host().AskFor(row_.of);
   if (source && row_.of == OfSource::Current) Host().ShowSource(source);
   if (!source && row_.of == OfSource::Playing) {
-    TellRefusal(*this, TextAt(position));
+    ShowRefusal(*this, TextAt(position));
     return true;
   }
   const CPjtInterface::Tally before = Projector().Sent();
@@ -128,7 +128,7 @@ bool ValueRowView::Release() {
     remembered_ = Word(position);
     controls_.ShowNumber(position);
     controls_.MoveSlider(position);
-    IsRefusedSince(*this, before) ? TellRefusal(*this, TextAt(position)) : Confirm(*this, position);
+    IsRefusedSince(*this, before) ? ShowRefusal(*this, TextAt(position)) : Confirm(*this, position);
     return true;
   }
   Refuse(row_.refusedDrag == RefusedDrag::Stays ? position : remembered_, TextAt(position),
@@ -148,16 +148,16 @@ void ValueRowView::Refuse(int position, const QString& tried, bool showMessage) 
       remembered_ = Word(*memory.known);
     }
   }
-  TellRefusal(*this, tried);
+  ShowRefusal(*this, tried);
   if (showMessage && row_.error != 0) Dialog().ShowError(row_.error);
 }
 
 // The value after a reset is shown but not remembered: the bound test of the next step uses the
 // earlier value.
-void ValueRowView::RunReset() {
-  const auto& button = Dialog().Item<QAbstractButton>(row_.reset.button);
-  if (!Perform(Projector(), row_.reset.call).accepted) return TellRefusal(*this, button.text());
-  const auto value = ::Read(Projector(), row_.reset.read);
+void ValueRowView::RunReset(const RowReset& reset) {
+  const auto& button = Dialog().Item<QAbstractButton>(reset.button);
+  if (!Perform(Projector(), reset.call).accepted) return ShowRefusal(*this, button.text());
+  const auto value = ::Read(Projector(), reset.read);
   if (value && *value - row_.bias >= row_.range.Of(Model().ModelCode).minimum) {
     Confirm(*this, ShowDevice(*value));
   }

@@ -43,7 +43,7 @@ class ValueRowView final : public RowView {
   Stepped Step(bool upwards);
   void StepTo(int number);
   void Refuse(int position, const QString& tried, bool showMessage);
-  void RunReset();
+  void RunReset(const RowReset& reset);
 
   const ValueRow& row_;
   NumberControls controls_;

@@ -5,6 +5,7 @@
 
 /// Sound settings of the newest page set: volume, treble, bass and surround of the source that
 /// plays now, the audio input of every source, speaker and standby. Refusals show no message.
+/// User-interface thread only.
 class ADVANCED_CONTROL_EXPORT CAudioType5Dlg final : public CTabPage {
   Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 #include "pages/rows/ListRowView.h"
 #include "pages/rows/ValueRowView.h"
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "toolkit/CComboBox.h"

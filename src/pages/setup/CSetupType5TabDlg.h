@@ -5,7 +5,8 @@
 
 /// Installation settings of the newest page set: keystone, digital zoom and shift, whisper, mirror,
 /// volume, speaker and their resets on the left; audio routing, monitor out and standby on the
-/// right. After most refusals, the row silently shows what the projector reports.
+/// right. After most refusals, the row silently shows what the projector reports. User-interface
+/// thread only.
 class ADVANCED_CONTROL_EXPORT CSetupType5TabDlg final : public CTabPage {
   Q_OBJECT
 

@@ -5,7 +5,7 @@
 #include <QApplication>
 
 #include "pages/common/StatusLine.h"
-#include "resources/AdvancedControlResources.h"
+#include "resources/TemplateId.h"
 #include "settings/ControlId.h"
 #include "settings/PageTables.h"
 #include "settings/SharedRows.h"

@@ -23,8 +23,7 @@ inline constexpr auto kLegacyNoiseReductions =
 inline constexpr auto kLegacyProgressive =
     Numbered(ListText::Off, ListText::LegacyProgressiveTv, ListText::LegacyProgressiveFilm);
 
-// The setters expect positions, even for lists whose values are mapped when they are read; they map
-// the positions back.
+// The setters expect positions, also for lists whose values differ from their positions.
 inline constexpr ListRules kSendsPosition{.sendsPosition = true};
 // A format without an entry is used as the position.
 inline constexpr ListRules kFormatRules{.sendsPosition = true, .noEntry = NoEntry::IsPosition};

@@ -17,7 +17,7 @@ constexpr auto kCcDisplays =
 constexpr auto kCcModes = Numbered(ListText::ClosedCaptionCaptions, ListText::ClosedCaptionText);
 constexpr auto kCcChannels = Numbered<1>("1", "2", "3", "4");
 
-// The value read back is a position. In a refresh, it is a function code.
+// A value that is read back after a refusal is a position; in a refresh it is a function code.
 constexpr ListRules kMyButton{
     .refused = Refused::ReadsBackPosition,
     .placeholder = {std::nullopt, kCodesWithOtherFunction, kOtherFunction}};

@@ -43,8 +43,8 @@ constexpr ValueRow Point(std::string_view key, int index, const ValueIds& ids) {
   ValueRow row = Row(key, 1030 + index, ids, CommandCode::UserGammaPoint1 + index,
                      RangeIndex::GammaPoint + static_cast<std::size_t>(index), {-16, 16}, 2,
                      ErrorText::GammaPointRefusedBase + index);
-  row.reset = {20336 + index, Named(Op::ExecUserGammaPReset, index + 1),
-               Named(Op::GetUserGammaPoint, index + 1)};
+  row.reset = RowReset{20336 + index, Named(Op::ExecUserGammaPReset, index + 1),
+                       Named(Op::GetUserGammaPoint, index + 1)};
   return row;
 }
 
@@ -70,7 +70,7 @@ constexpr ValueRow Adjust(std::string_view key, int index, int code, const Value
                      ErrorText::ColorTempGainRRefused + index);
   row.down = Named(isGain ? Op::DecrementColorTempGain : Op::DecrementColorTempOffset, channel);
   row.up = Named(isGain ? Op::IncrementColorTempGain : Op::IncrementColorTempOffset, channel);
-  row.reset = {20334 + index, Named(reset), Named(get)};
+  row.reset = RowReset{20334 + index, Named(reset), Named(get)};
   return row;
 }
 

@@ -15,7 +15,7 @@ constexpr auto kImageMirrors =
 constexpr auto kPinPInputs =
     Numbered(ListText::PinPInputVideo, ListText::PinPInputSVideo, ListText::PinPInputComponent);
 
-// Also on model 71, which lacks the row: it resets a value that was set at the projector.
+// Model 71 lacks the row, but the value may have been set at the projector and can be reset.
 constexpr ResetEntry kResets[] = {{ListText::Keystone, Op::ExecKeyStoneReset}};
 
 constexpr ValueRow Keystone() {

@@ -43,9 +43,9 @@ constexpr PageRow kRows[] = {
     ListRow{"picture.gamma", 41, Id::Gamma, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
     ListRow{"picture.color-temp", 115, Id::ColorTemp, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
     ListRow{"picture.progressive", 60, 20145, kProgressives, Get(CommandCode::Progressive), Named(Op::SetProgressive), {}, NotOn(9, 22)},
-    // Both read the page again after success, which is any result but 0 for a memory, and 0 for a
+    // After success both read the page again. Success is any result but 0 for a memory, and 0 for a
     // reset.
-    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, Id::MyMemory, kMyMemories, {}, 0, ListText::MemoryDoneBase},
+    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, ActionList{Id::MyMemory, kMyMemories}, {}, 0, ListText::MemoryDoneBase},
     ResetRow{"picture.reset", Id::Reset, Id::ResetExecute, kResets, Rereads::WhenDone},
 };
 // clang-format on

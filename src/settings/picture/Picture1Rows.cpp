@@ -36,7 +36,7 @@ constexpr PageRow kRows[] = {
     CentredSlider("picture.sharpness", 118, {20809, 21055, 20810, 21125}, CommandCode::Sharpness, ErrorText::SharpnessRefused, RangeIndex::Sharpness, Range{-8, 8}, 1),
     CentredSlider("picture.color", 116, {20811, 21058, 20812, 21126}, CommandCode::Color, ErrorText::ColorRefused, RangeIndex::Color),
     CentredSlider("picture.tint", 117, {20813, 21061, 20814, 21127}, CommandCode::Tint, ErrorText::TintRefused, RangeIndex::Tint),
-    ActionRow{"picture.my-memory", 119, 21064, Named(Op::SetMyMemory), Rereads::WhenDone, 21063, kMyMemories, {}, 0, ListText::MemoryDoneBase},
+    ActionRow{"picture.my-memory", 119, 21064, Named(Op::SetMyMemory), Rereads::WhenDone, ActionList{21063, kMyMemories}, {}, 0, ListText::MemoryDoneBase},
     ResetRow{"picture.reset", 21068, 21069, kResets},
 };
 // clang-format on

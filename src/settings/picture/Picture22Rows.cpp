@@ -17,7 +17,7 @@ constexpr ResetEntry kResets[] = {
     {ListText::VPosition, Op::ExecVPosReset, 20045},
     {ListText::HPosition, Op::ExecHPosReset, 20044},
     {ListText::HSize, Op::ExecHSizeReset, 20040},
-    // Model 15 has over scan without showing it, so it can still be reset.
+    // Model 15 does not show over scan but has it, so it can be reset.
     {ListText::Picture22OverScan, Op::ExecOverScanReset},
 };
 

@@ -15,9 +15,9 @@ inline constexpr auto kMyMemories =
              ListText::MyMemoryBase + 3, ListText::MyMemoryBase + 4, ListText::MyMemoryBase + 5,
              ListText::MyMemoryBase + 6, ListText::MyMemoryBase + 7);
 
-// The gammas and colour temperatures that the user can customise. On the newest models these are
-// gammas up to a value and colour temperatures from a value on; on the others they are determined
-// by position.
+// The gammas and colour temperatures that the user can customise. On the newest models the value
+// decides: that of a gamma is at most, that of a colour temperature at least the limit. On the
+// others the position in the list decides.
 inline constexpr int kLastCustomGamma = 21;
 inline constexpr int kFirstCustomColorTemp = 17;
 inline constexpr int kLastCustomGammaPosition = 2;

@@ -65,7 +65,7 @@ constexpr PageRow kRows[] = {
     ListRow{"picture.color-temp", 115, Id::ColorTemp, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
     // A mode without an entry does not change the row.
     ListRow{"picture.active-iris", 128, Id::ActiveIris, kActiveIris, Get(CommandCode::ActiveIris), Set(CommandCode::ActiveIris), {.noEntry = NoEntry::Ignored, .error = ErrorText::ActiveIrisRefused}, OnlyOn(30, 31, 41, 43, 46, 51, 52, 54)},
-    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, Id::MyMemory, kMyMemories, {}, 0, ListText::MemoryDoneBase},
+    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, ActionList{Id::MyMemory, kMyMemories}, {}, 0, ListText::MemoryDoneBase},
     ResetRow{"picture.reset", Id::Reset, Id::ResetExecute, kResets, Rereads::Always},
 };
 // clang-format on

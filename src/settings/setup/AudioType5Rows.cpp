@@ -12,7 +12,8 @@ namespace Id = ControlId::AudioType5;
 using Op = PjtOperation;
 
 // The audio inputs that a source can have. The digital and the MIU list have an additional last
-// entry. Only as the sixth entry it has the projector's own number as its value.
+// entry. As the fifth entry it has its position as its value; as the sixth, the projector's number
+// of that input.
 constexpr auto kInputsWith4 =
     Numbered(ListText::Off, ListText::Audio1, ListText::Audio2, ListText::Audio3, ListText::Audio4);
 
@@ -33,7 +34,8 @@ constexpr ModelEntries kMiuSources[] = {
     {kCodesWith4, kInputsWith4And<ListText::AudioMIU, kMiuInput>},
     {{}, kInputsAnd<ListText::AudioMIU>}};
 
-// The value read back is a position. Unlike in a refresh, 32 and 16 then select nothing.
+// A value that is read back after a refusal is a position, so 32 and 16 then select nothing. In a
+// refresh they select their entries.
 constexpr ListRules kRouting{.noEntry = NoEntry::IsPosition,
                              .refused = Refused::ReadsBackPosition,
                              .failedReadDisables = false,
@@ -81,50 +83,26 @@ constexpr Call kSetM1D = Flagged(Op::SetAudioM1D, {0, {41, 43}, 1});
 constexpr Call kSetHdmi = Flagged(Op::SetAudioM1D, {0, {41, 43, 51, 53, 54}, 1});
 
 // A Computer row is the same input as its RGB row, and the projector reports both with the RGB
-// operation. clang-format off
+// operation.
+// clang-format off
 constexpr PageRow kRows[] = {
     Volume(),
-    Tone("audio.treble", 2, {Id::TrebleMinus, Id::Treble, Id::TreblePlus, Id::TrebleField},
-         {Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb,
-          Op::IncrementInputSrcTreb},
-         RangeIndex::Treble),
-    Tone("audio.bass", 3, {Id::BassMinus, Id::Bass, Id::BassPlus, Id::BassField},
-         {Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass,
-          Op::IncrementInputSrcBass},
-         RangeIndex::Bass),
-    ListRow{"audio.srs-wow",
-            4,
-            Id::SrsWow,
-            kSurrounds,
-            Named(Op::GetSRSWOW),
-            Named(Op::SetSRSWOW),
-            kSurround,
-            {},
-            OfSource::Playing},
-    ListRow{"audio.speaker", 5, Id::Speaker, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker),
-            kRouting},
-    ListRow{"audio.rgb1", 1006, Id::Rgb1, kSources, Named(Op::GetAudioRGB1),
-            Named(Op::SetAudioRGB1), kRouting},
-    ListRow{"audio.computer1", 181, Id::Computer1, kSources, Named(Op::GetAudioRGB1),
-            Named(Op::SetAudioComputer1), kRouting},
-    ListRow{"audio.rgb2", 1007, Id::Rgb2, kSources, Named(Op::GetAudioRGB2),
-            Named(Op::SetAudioRGB2), kRouting},
-    ListRow{"audio.computer2", 182, Id::Computer2, kSources, Named(Op::GetAudioRGB2),
-            Named(Op::SetAudioComputer2), kRouting},
+    Tone("audio.treble", 2, {Id::TrebleMinus, Id::Treble, Id::TreblePlus, Id::TrebleField}, {Op::GetInputSrcTreble, Op::SetInputSrcTreble, Op::DecrementInputSrcTreb, Op::IncrementInputSrcTreb}, RangeIndex::Treble),
+    Tone("audio.bass", 3, {Id::BassMinus, Id::Bass, Id::BassPlus, Id::BassField}, {Op::GetInputSrcBass, Op::SetInputSrcBass, Op::DecrementInputSrcBass, Op::IncrementInputSrcBass}, RangeIndex::Bass),
+    ListRow{"audio.srs-wow", 4, Id::SrsWow, kSurrounds, Named(Op::GetSRSWOW), Named(Op::SetSRSWOW), kSurround, {}, OfSource::Playing},
+    ListRow{"audio.speaker", 5, Id::Speaker, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kRouting},
+    ListRow{"audio.rgb1", 1006, Id::Rgb1, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioRGB1), kRouting},
+    ListRow{"audio.computer1", 181, Id::Computer1, kSources, Named(Op::GetAudioRGB1), Named(Op::SetAudioComputer1), kRouting},
+    ListRow{"audio.rgb2", 1007, Id::Rgb2, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioRGB2), kRouting},
+    ListRow{"audio.computer2", 182, Id::Computer2, kSources, Named(Op::GetAudioRGB2), Named(Op::SetAudioComputer2), kRouting},
     ListRow{"audio.m1-d", 1008, Id::M1D, kSources, Named(Op::GetAudioM1D), kSetM1D, kRouting},
     ListRow{"audio.hdmi", 1183, Id::Hdmi, kHdmiSources, Named(Op::GetAudioM1D), kSetHdmi, kRouting},
-    ListRow{"audio.video", 1009, Id::Video, kSources, Named(Op::GetAudioVideo),
-            Named(Op::SetAudioVideo), kRouting},
-    ListRow{"audio.s-video", 1010, Id::SVideo, kSources, Named(Op::GetAudioSVideo),
-            Named(Op::SetAudioSVideo), kRouting},
-    ListRow{"audio.component", 1011, Id::Component, kSources, Named(Op::GetAudioComponent),
-            Named(Op::SetAudioComponent), kRouting},
-    ListRow{"audio.miu", 12, Id::Miu, kMiuSources, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU),
-            kRouting},
-    ListRow{"audio.out-standby", 206, Id::OutStandby, kSources, Named(Op::GetAudioOutStandby),
-            Named(Op::SetAudioOutStandby), kRouting},
-    ListRow{"audio.hdmi-audio", 184, Id::HdmiAudio, kHdmiAudio, Named(Op::GetHDMIAudio),
-            Named(Op::SetHDMIAudio), kHdmiMode},
+    ListRow{"audio.video", 1009, Id::Video, kSources, Named(Op::GetAudioVideo), Named(Op::SetAudioVideo), kRouting},
+    ListRow{"audio.s-video", 1010, Id::SVideo, kSources, Named(Op::GetAudioSVideo), Named(Op::SetAudioSVideo), kRouting},
+    ListRow{"audio.component", 1011, Id::Component, kSources, Named(Op::GetAudioComponent), Named(Op::SetAudioComponent), kRouting},
+    ListRow{"audio.miu", 12, Id::Miu, kMiuSources, Named(Op::GetAudioMIU), Named(Op::SetAudioMIU), kRouting},
+    ListRow{"audio.out-standby", 206, Id::OutStandby, kSources, Named(Op::GetAudioOutStandby), Named(Op::SetAudioOutStandby), kRouting},
+    ListRow{"audio.hdmi-audio", 184, Id::HdmiAudio, kHdmiAudio, Named(Op::GetHDMIAudio), Named(Op::SetHDMIAudio), kHdmiMode},
 };
 
 constexpr ModelRows kModels[] = {

@@ -102,7 +102,7 @@ constexpr PageRow kRows[] = {
     ListRow{"setup.mirror", 40, Id::Mirror, kMirrors, Named(Op::GetMirror), Named(Op::SetMirror), kReadBack},
     ListRow{"setup.speaker", 5, Id::Speaker, kSwitch, Named(Op::GetSpeaker), Named(Op::SetSpeaker), kReadBackWithText},
     Volume(),
-    // Only the buttons insist on the result 1.
+    // The buttons need the result 1. Reading and the slider accept any result but 0.
     ValueRow{.key = "setup.d-zoom", .caption = 194, .ids = {Id::DZoomMinus, Id::DZoom, Id::DZoomPlus, Id::DZoomField}, .code = CommandCode::DigitalZoom,
              .read = AnyResult(Get(CommandCode::DigitalZoom)), .set = AnyResult(Set(CommandCode::DigitalZoom)),
              .range = Range{80, 100}, .ticks = 2, .unit = ListText::Percent, .refusedDrag = RefusedDrag::GoesBack, .error = ErrorText::DZoomRefused},

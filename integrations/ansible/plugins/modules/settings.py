@@ -14,6 +14,8 @@ version_added: 1.0.0
 description:
   - Reads settings of projectors with C(acctl) and changes those that differ.
   - Warns of projectors that are only simulated.
+  - Fails if a projector lacks a setting, refuses a value or does not answer; the other projectors are changed all the
+    same. If a value is wrong, none is changed.
 author:
   - Advanced Control maintainers (@advancedcontrol)
 options:
@@ -90,6 +92,13 @@ import json
 from ansible.module_utils.basic import AnsibleModule
 
 
+WRONG_USE = 2  # acctl has sent nothing to any projector
+
+
+def changes_of(projectors):
+    return [change for projector in projectors for change in projector.get('changes', [])]
+
+
 def options_of(params):
     options = []
     for name in ('where', 'wait', 'profiles', 'connect', 'timeout', 'retries'):
@@ -106,6 +115,7 @@ def word_of(value):
 
 
 def run(module, dry_run):
+    """What acctl reports for each projector, and what failed on some of them, or None."""
     command = [module.params['executable'], '-o', 'json', 'set', module.params['projectors']]
     command += [key + '=' + word_of(value) for key, value in module.params['settings'].items()]
     command += options_of(module.params)
@@ -117,12 +127,15 @@ def run(module, dry_run):
         report = json.loads(output)
     except ValueError:
         module.fail_json(msg=errors or 'acctl printed nothing', rc=code)
-    if code != 0:
-        module.fail_json(msg=errors.strip(), rc=code, projectors=report['projectors'])
-    return report['projectors']
+    failure = dict(msg=errors.strip(), rc=code) if code != 0 else None
+    if code == WRONG_USE:
+        module.fail_json(projectors=report['projectors'], **failure)
+    return report['projectors'], failure
 
 
 def differs(change):
+    if change['outcome'] in ('refused', 'busy', 'notDone'):
+        return False
     after = change.get('after') or change.get('aim')
     before = change.get('before')
     return after is None or before is None or before['code'] != after['code']
@@ -135,7 +148,7 @@ def shown_name(projector):
 def state_of(projectors, member):
     lines = []
     for projector in projectors:
-        for change in projector['changes']:
+        for change in projector.get('changes', []):
             value = change.get(member) or {}
             lines.append('%s: %s=%s\n' % (shown_name(projector), change['key'], value.get('code', '?')))
     return ''.join(lines)
@@ -162,18 +175,21 @@ def main():
         ),
         supports_check_mode=True,
     )
-    projectors = run(module, dry_run=True)
-    changed = any(differs(change) for projector in projectors for change in projector['changes'])
+    projectors, failure = run(module, dry_run=True)
+    changed = any(differs(change) for change in changes_of(projectors))
     if changed and not module.check_mode:
-        after = run(module, dry_run=False)
-        diff = dict(before=state_of(after, 'before'), after=state_of(after, 'after'))
-        projectors = after
+        projectors, failure = run(module, dry_run=False)
+        changed = any(differs(change) for change in changes_of(projectors))
+        diff = dict(before=state_of(projectors, 'before'), after=state_of(projectors, 'after'))
     else:
         diff = dict(before=state_of(projectors, 'before'), after=state_of(projectors, 'aim'))
     warn_of_simulations(module, projectors)
     result = dict(changed=changed, projectors=projectors)
     if module._diff:
         result['diff'] = diff
+    if failure:
+        result.update(failure)
+        module.fail_json(**result)
     module.exit_json(**result)
 
 

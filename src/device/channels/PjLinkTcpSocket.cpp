@@ -1,7 +1,6 @@
-#include "device/channels/PjLinkSocket.h"
+#include "device/channels/PjLinkTcpSocket.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <thread>
 #include <utility>
 
@@ -21,25 +20,19 @@ constexpr int kMostPieces = 8;  // of unsolicited data, read at once
 
 }  // namespace
 
-PjLinkSocket::PjLinkSocket(std::string host, int port, PjLinkConnection& connection)
+PjLinkTcpSocket::PjLinkTcpSocket(std::string host, std::uint16_t port, PjLinkConnection& connection)
     : host_(std::move(host)), port_(port), connection_(connection) {}
 
-PjLinkSocket::~PjLinkSocket() = default;
+PjLinkTcpSocket::~PjLinkTcpSocket() = default;
 
-bool PjLinkSocket::HasValidAddress() const {
-  return !host_.empty() && port_ >= 1 && port_ <= UINT16_MAX;
-}
-
-std::string PjLinkSocket::Address() const { return host_ + ':' + std::to_string(port_); }
-
-void PjLinkSocket::Perform(const PjLinkStep& step) {
+void PjLinkTcpSocket::Perform(const SessionStep& step) {
   switch (step.kind) {
-    case PjLinkStep::Kind::Connect:
+    case SessionStep::Kind::Connect:
       return Connect(step);
-    case PjLinkStep::Kind::Send:
+    case SessionStep::Kind::Send:
       socket_->write(step.bytes.data(), static_cast<qint64>(step.bytes.size()));
       return;
-    case PjLinkStep::Kind::Close:
+    case SessionStep::Kind::Close:
       return socket_.reset();
     default:
       return Listen(
@@ -48,22 +41,21 @@ void PjLinkSocket::Perform(const PjLinkStep& step) {
   }
 }
 
-void PjLinkSocket::ReceiveUnsolicited() {
+void PjLinkTcpSocket::ReceiveUnsolicited() {
   for (int i = 0; socket_ && i < kMostPieces && socket_->waitForReadyRead(0); ++i) {
     connection_.Received(socket_->readAll().toStdString(), Clock::now());
   }
   Listen(std::chrono::milliseconds::zero());
 }
 
-void PjLinkSocket::Close() {
+void PjLinkTcpSocket::Close() {
   socket_.reset();
   connection_.Closed(Clock::now());
 }
 
-void PjLinkSocket::Connect(const PjLinkStep& step) {
+void PjLinkTcpSocket::Connect(const SessionStep& step) {
   auto problem = ConnectionState::NotReachable;
-  socket_ = ConnectSocket(host_, static_cast<std::uint16_t>(port_), kReadBuffer,
-                          QDeadlineTimer(step.until), problem);
+  socket_ = ConnectSocket(host_, port_, kReadBuffer, QDeadlineTimer(step.until), problem);
   if (socket_) {
     connection_.Connected();
   } else {
@@ -71,7 +63,7 @@ void PjLinkSocket::Connect(const PjLinkStep& step) {
   }
 }
 
-void PjLinkSocket::Listen(std::chrono::milliseconds time) {
+void PjLinkTcpSocket::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
   const bool isReady =
       socket_->bytesAvailable() > 0 || socket_->waitForReadyRead(static_cast<int>(time.count()));

@@ -1,0 +1,110 @@
+// A projector has one connection at a time, whoever wants to connect.
+
+#include "device/channels/BoundedChannel.h"
+#include "device/channels/TcpChannel.h"
+#include "fleet/Fleet.h"
+#include "fleet/FleetJob.h"
+#include "fleet/HoldingChannel.h"
+#include "fleet/SearchDriver.h"
+#include "tests/fleet/Served.h"
+#include "tests/fleet/SilentServer.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr PjtCommand kGetMirror{PjtOperation::GetMirror};
+
+class HoldTest : public testing::Test {
+ protected:
+  std::unique_ptr<FleetJob> Job(const TcpAddress& at,
+                                AddressHold::Turn turn = AddressHold::Turn::Last) {
+    FleetJob::Options options{.timeOut = 60s};
+    options.turn = turn;
+    return std::make_unique<FleetJob>(
+        &fleet,
+        std::vector{FleetTarget{"a", at, std::make_shared<ModelData>(SimulatedModelData())}},
+        SetSetting{"setup.mirror", "2"}, texts, options);
+  }
+  static bool IsOver(const FleetJob& job) { return job.HowFar().finished == 1; }
+
+  /// A dialog's channel.
+  static std::shared_ptr<ProjectorChannel> Dialog(const TcpAddress& at,
+                                                  std::chrono::milliseconds time) {
+    auto inner = std::make_shared<HoldingChannel>(std::make_shared<TcpChannel>(at.host, at.port),
+                                                  FleetTarget{.id = {}, .address = at}, time);
+    const BoundedChannel::Limits limits{.timeOut = time, .retryAfter = 0ms, .tend = 20ms};
+    return std::make_shared<BoundedChannel>(std::move(inner), limits);
+  }
+
+  int count_ = 0;
+  char* name_ = nullptr;
+  QCoreApplication application_{count_, &name_};
+  const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  const SettingTexts texts{folders, 1033};
+  Fleet fleet{{.interval = 20ms, .longestPause = 20ms, .soonest = 10ms, .connect = 60s}};
+};
+
+TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
+  SilentServer silent;
+  fleet.Set({"a", silent.Address()});
+  ASSERT_TRUE(Becomes([&] { return silent.Open() == 1; })) << "a visit";
+  bool hasSearched = false;
+  SearchDriver search(
+      {.addresses = {QHostAddress(QHostAddress::LocalHost)},
+       .port = silent.server.serverPort(),
+       .limits = {.connect = 60s}},
+      [](const FoundProjector&) {}, [&] { hasSearched = true; });
+  search.Start();
+  ASSERT_TRUE(Becomes([&] { return fleet.Tally().abandoned == 1 && silent.Accept() == 2; }));
+  const auto last = Job(silent.Address());
+  const auto next = Job(silent.Address(), AddressHold::Turn::Next);
+  const auto cancelled = Job(silent.Address());
+  cancelled->Cancel();
+  EXPECT_TRUE(Becomes([&] { return IsOver(*cancelled); }));
+  EXPECT_EQ(cancelled->Results().front().outcome, WorkOutcome::Stopped);
+
+  const std::function<bool()> ends[] = {[&] { return hasSearched; }, [&] { return IsOver(*next); },
+                                        [&] { return IsOver(*last); }};
+  for (std::size_t i = 0; i < std::size(ends); ++i) {
+    EXPECT_TRUE(Becomes([&] { return silent.Accept() == i + 2 && silent.Open() == 1; })) << i;
+    EXPECT_FALSE(ends[i]());
+    EXPECT_EQ(fleet.Tally().begun, 1) << "no visit meanwhile";
+    silent.connections.back()->write("what is this?\r\n");
+    silent.connections.back()->disconnectFromHost();
+    EXPECT_TRUE(Becomes(ends[i])) << i;
+  }
+}
+
+TEST_F(HoldTest, ADialogsIdleConnectionIsGivenUpForAJob) {
+  Served served;
+  const auto dialog = Dialog(served.Wire(), 20s);
+  EXPECT_TRUE(dialog->Execute(kGetMirror).answered);
+  const auto job = Job(served.Wire());
+  EXPECT_TRUE(Becomes([&] { return IsOver(*job); }));
+  EXPECT_EQ(job->Results().front().outcome, WorkOutcome::Done);
+  EXPECT_EQ(dialog->Execute(kGetMirror).value, 2);
+}
+
+TEST_F(HoldTest, ADialogsCommandComesAfterTheJobThatWorks) {
+  SilentServer silent;
+  const auto job = Job(silent.Address());
+  ASSERT_TRUE(Becomes([&] { return silent.Open() == 1; }));
+  const auto later = Job(silent.Address());
+  const auto dialog = Dialog(silent.Address(), 200ms);
+  const PjtReply reply = dialog->Execute({PjtOperation::SetMirror, 0, 1});
+  EXPECT_TRUE(!reply.answered && reply.unsent);
+  EXPECT_EQ(dialog->Connection(), ConnectionState::Connecting);
+  EXPECT_EQ(silent.Accept(), 1U);
+
+  silent.connections.front()->close();
+  ASSERT_TRUE(Becomes([&] { return IsOver(*job); }));
+  EXPECT_FALSE(dialog->Execute(kGetMirror).unsent) << "before the other job";
+  EXPECT_TRUE(Becomes([&] { return silent.Accept() == 3; })) << "it has not answered";
+  EXPECT_EQ(dialog->Connection(), ConnectionState::NoAnswer);
+  EXPECT_EQ(silent.Open(), 1);
+  silent.connections.back()->close();
+  EXPECT_TRUE(Becomes([&] { return IsOver(*later); }));
+}
+
+}  // namespace

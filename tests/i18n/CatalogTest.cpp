@@ -78,6 +78,7 @@ TEST_F(CatalogTest, SystemLanguage) {
       {2057, {"en_GB"}},
       {1031, {"de_DE@euro", "de"}},
       {1041, {"ja_JP.eucJP"}},
+      {1068, {"az_AZ", "AZ_AZ"}},
       {1033, {"en_US.UTF-8", "en", "C", "C.UTF-8", "POSIX", "xx_YY", "???"}},
       // The locale library hangs or fails on some of these.
       {1033, {"i-default_DE", "i-klingon", "x", "_", "12_34", "-"}},

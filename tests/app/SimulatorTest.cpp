@@ -94,7 +94,6 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
            {"pjlink", "1 silent", NoAnswer},
            {"pjlink", "1 garbage", NoAnswer},
            {"pjlink", "1 cut 7", Lost},
-           {"serial", "1 trickle", Connected},
            {"serial", "1 late 1800", NoAnswer},
            {"serial", "1 silent", NoAnswer},
            {"serial", "1 garbage", NoAnswer},

@@ -82,7 +82,7 @@ QString ProjectorColumns::Text(const ProjectorRow& row, int column) {
     case Power:
       return StateTexts::Power(row.state);
     case Source:
-      return StateTexts::Source(row.state);
+      return StateTexts::Source(row.state, row.profile.model);
     case Lamp:
       return StateTexts::LampHours(row.state);
     case Problem:

@@ -2380,6 +2380,13 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
 </context>
 <context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>Tallennettu: %1.</translation>
+    </message>
+</context>
+<context>
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>

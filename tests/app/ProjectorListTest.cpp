@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QProxyStyle>
@@ -129,6 +130,7 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
 
   Answer(Find<QAction>(window, "Add"), [](QDialog& editor) {
     EXPECT_FALSE(Accept(editor)) << "without a name";
+    EXPECT_GE(Find<QComboBox>(editor, "Model").findText("QD-M7450"), 0);
     Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}});
     EXPECT_FALSE(Accept(editor)) << "without an address";
     Fill(editor, {{"Address", "192.0.2."}});
@@ -199,6 +201,17 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(Shipped(folder).Text(), text);
   while (undo->canRedo()) undo->redo();
   EXPECT_EQ(inFile().size(), before.size() + 1);
+}
+
+TEST(ProjectorList, KeepsRoomForATagWhereThereIsLess) {
+  const QTemporaryDir folder;
+  MainWindow window(Shipped(folder));
+  auto& list = *window.findChild<ProjectorView*>();
+  const int less = list.UsualWidth() - 150;
+  list.FitColumns(less);
+  EXPECT_EQ(list.UsualWidth(), less);
+  EXPECT_GT(list.Columns().sectionSize(ProjectorColumns::Place),
+            list.fontMetrics().horizontalAdvance("Building A"));
 }
 
 TEST(ProjectorList, OffersToAddRealOnesWhileAllAreSimulated) {

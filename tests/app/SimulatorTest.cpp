@@ -135,6 +135,8 @@ TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
   };
   for (const int row : {0, 1, 2, 4}) comesTo(row, "OK");
   comesTo(3, "Wrong password");
+  for (const int row : {0, 1, 2})
+    EXPECT_EQ(model.index(row, ProjectorColumns::Source).data(), "RGB1") << row;
   window.OpenDialog(1);
   comesTo(1, "OK · open");
   EXPECT_TRUE(Soon([&] { return CurrentInput(*window.Dialog(1)) == "RGB1"; }));

@@ -183,7 +183,7 @@ void DetailsPanel::Show(const ProjectorRow* row, std::size_t count,
   place_->setText(ModelAndAddress(row->profile));
   sign_->setPixmap(StateTexts::Icon(HealthOf(*row)).pixmap(kSignSize));
   ShowFacts(*row);
-  ShowHistory(history);
+  ShowHistory(*row, history);
 }
 
 void DetailsPanel::ShowFacts(const ProjectorRow& row) {
@@ -211,7 +211,7 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
   const std::array<QString, FactCount> texts{
       StateTexts::State(row),
       StateTexts::Power(state),
-      StateTexts::Source(state),
+      StateTexts::Source(state, row.profile.model),
       problems,
       switched,
       lampText,
@@ -223,11 +223,12 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
 }
 
 // The newest at the top.
-void DetailsPanel::ShowHistory(const std::vector<StateChange>& history) {
+void DetailsPanel::ShowHistory(const ProjectorRow& row, const std::vector<StateChange>& history) {
   QStringList texts;
   for (auto change = history.rbegin(); change != history.rend(); ++change)
     if (IsEvent(*change) && !IsOfFirstReading(*change, history))
-      texts += tr("%1  %2").arg(TimeOf(change->time), StateTexts::Change(*change));
+      texts +=
+          tr("%1  %2").arg(TimeOf(change->time), StateTexts::Change(*change, row.profile.model));
   if (texts.isEmpty()) texts += tr("nothing yet");
   if (texts.size() == events_->count() && texts.first() == events_->item(0)->text()) return;
   events_->clear();

@@ -36,7 +36,7 @@ constexpr unsigned kHalf = 32;
 
 }  // namespace
 
-/// The memory of a stack, and the switching between it and the stack of the thread.
+/// Holds the memory of a stack, and switches between it and the thread's own stack.
 class Fiber::Stack {
  public:
   explicit Stack(Fiber* fiber);

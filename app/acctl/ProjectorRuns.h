@@ -54,7 +54,8 @@ class ProjectorRuns {
   Attempt Try(int number, const Step& step, const std::string& password);
   Attempt TryWithPassword(int number, const Step& step);
   std::vector<int> All() const;
-  /// Works on the projectors with these numbers at once; the work gets their places in the list.
+  /// Works on the projectors with these numbers at the same time. `work` gets positions in
+  /// `numbers`.
   void RunOn(const std::vector<int>& numbers, const ParallelWork& work);
   Report RunOne(int number, const std::vector<std::optional<Report>>& checked);
   void RunOnAll();

@@ -137,7 +137,8 @@ class ProjectorWatch {
     return isChosen_;
   }
 
-  /// What this projector does not have is never reached.
+  /// Reports settings that the projector lacks. If the awaited one is among them, it cannot be
+  /// reached.
   void ReportLacks(const Report& lacks) {
     for (const Problem& problem : lacks.problems) {
       Add(problem);

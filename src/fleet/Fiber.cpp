@@ -49,7 +49,7 @@ void Switch(ucontext_t& from, const ucontext_t& to) {
 
 }  // namespace
 
-/// The memory of a stack, and the switching between it and the stack of the thread.
+/// Holds the memory of a stack, and switches between it and the thread's own stack.
 class Fiber::Stack {
  public:
   explicit Stack(Fiber* fiber);

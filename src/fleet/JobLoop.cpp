@@ -20,22 +20,22 @@ class JobLoop::Events final : public FleetNetwork::Listener {
   explicit Events(JobLoop& loop) : loop_(loop) {}
 
   void Connected(Peer peer) override {
-    Tell(peer, [](Receiver& receiver) { receiver.Connected(); });
+    Deliver(peer, [](Receiver& receiver) { receiver.Connected(); });
   }
   void NotConnected(Peer peer, ConnectionState problem) override {
-    Tell(peer, [&](Receiver& receiver) { receiver.NotConnected(problem, Now()); });
+    Deliver(peer, [&](Receiver& receiver) { receiver.NotConnected(problem, Now()); });
   }
   void InUse(Peer peer) override { NotConnected(peer, ConnectionState::NotReachable); }
   void Received(Peer peer, std::string_view bytes) override {
-    Tell(peer, [&](Receiver& receiver) { receiver.Received(bytes, Now()); });
+    Deliver(peer, [&](Receiver& receiver) { receiver.Received(bytes, Now()); });
   }
   void Closed(Peer peer) override {
-    Tell(peer, [](Receiver& receiver) { receiver.Closed(Now()); });
+    Deliver(peer, [](Receiver& receiver) { receiver.Closed(Now()); });
   }
   void Noticed(const FleetNetwork::Notice&) override {}
 
  private:
-  void Tell(Peer peer, const auto& what) {
+  void Deliver(Peer peer, const auto& what) {
     const Connection connection = loop_.connections_[peer];
     if (connection.isAwaited) loop_.timers_.Set(connection.work, SessionTime::min());
     if (connection.receiver != nullptr) what(*connection.receiver);

@@ -58,12 +58,12 @@ class PROJECTOR_FLEET_EXPORT JobLoop {
   void Wait(Peer peer, SessionTime until);
 
  private:
-  using Number = PeerTimers::Peer;  ///< A work's.
+  using Number = PeerTimers::Peer;  ///< Of a task.
 
   struct Connection {
     Receiver* receiver = nullptr;
-    bool isAwaited = false;  ///< A work waits for an event.
-    Number work = 0;         ///< The one that waits.
+    bool isAwaited = false;  ///< A task waits for an event.
+    Number work = 0;         ///< The task that waits.
   };
 
   class Events;

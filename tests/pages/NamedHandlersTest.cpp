@@ -166,7 +166,7 @@ TEST(NamedHandlers, Audio5) {
                               {Id::HdmiAudio, &Page::OnCbnSelchangeAud5Hdmiaudiocomb}});
 }
 
-TEST(NamedHandlers, Option5) {
+TEST(NamedHandlers, OptionType5) {
   namespace Id = ControlId::OptionType5;
   using Page = COption5TabDlg;
   ExpectOwnControls<Page>(6, {{Id::MyButton1, &Page::OnCbnSelchangeOpt5Mybtn1comb},

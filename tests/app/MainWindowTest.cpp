@@ -133,7 +133,7 @@ TEST(MainWindow, SaysThatAFileWasSaved) {
   window.show();
   for (const char* save : {"Export Table", "Save Log As", "Save Profiles As"}) {
     const QString path = folder.filePath(QString(save) + ".saved");
-    ::Answer(Find<QAction>(window, save), [&path](QDialog& question) {
+    AnswerQuestionOf(Find<QAction>(window, save), [&path](QDialog& question) {
       Q_EMIT qobject_cast<QFileDialog*>(&question)->fileSelected(path);
     });
     EXPECT_TRUE(QFile::exists(path));

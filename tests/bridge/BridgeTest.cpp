@@ -131,7 +131,8 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
     EXPECT_TRUE(Soon(isTold));
     kill(id, SIGCONT);
     EXPECT_TRUE(Soon([&] { return holds(0) != holds(1); })) << bridges[holder]->Said().data();
-    EXPECT_TRUE(holds(1 - holder));
+    // After a restart of the broker, whoever connects first may have the share.
+    EXPECT_TRUE(isCutOff || holds(1 - holder));
     EXPECT_TRUE(isTold()) << "not what the one that hung knew";
     EXPECT_FALSE(Get(ports[holder], "/metrics").contains("_commands_total{"))
         << "the command that came meanwhile is old";

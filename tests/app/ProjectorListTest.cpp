@@ -5,11 +5,12 @@
 #include <tuple>
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QUndoStack>
 #include <gtest/gtest.h>
@@ -212,6 +213,20 @@ TEST(ProjectorList, KeepsRoomForATagWhereThereIsLess) {
   EXPECT_EQ(list.UsualWidth(), less);
   EXPECT_GT(list.Columns().sectionSize(ProjectorColumns::Place),
             list.fontMetrics().horizontalAdvance("Building A"));
+}
+
+TEST(ProjectorList, SaysThatAFileWasSaved) {
+  const QTemporaryDir folder;
+  MainWindow window(Shipped(folder));
+  window.show();
+  for (const char* save : {"Export Table", "Save Log As", "Save Profiles As"}) {
+    const QString path = folder.filePath(QString(save) + ".saved");
+    Answer(Find<QAction>(window, save), [&path](QDialog& question) {
+      Q_EMIT qobject_cast<QFileDialog*>(&question)->fileSelected(path);
+    });
+    EXPECT_TRUE(QFile::exists(path));
+    EXPECT_EQ(window.statusBar()->currentMessage(), "Saved in " + path + '.');
+  }
 }
 
 TEST(ProjectorList, OffersToAddRealOnesWhileAllAreSimulated) {

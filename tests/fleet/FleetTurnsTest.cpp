@@ -27,7 +27,7 @@ TEST(FleetTurns, StaysAwayWhileSomebodyElseWorks) {
   fleet.watcher.Pause("a");
   EXPECT_EQ(it.open, 0);
   fleet.states.Change("a", [](LiveState& state) { state.source = {32, "HDMI"}; });
-  const auto learn = [&fleet](int source) {
+  const auto learn = [&fleet](std::int16_t source) {
     fleet.states.Learn("a", {PjtOperation::Get, CommandCode::InputSource},
                        {.result = 1, .value = source}, {});
     return fleet.State("a").source;

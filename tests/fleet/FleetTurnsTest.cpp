@@ -113,7 +113,7 @@ TEST(FleetTurns, KnowsAnAddressHoweverItIsWritten) {
   };
   EXPECT_EQ(place("2001:DB8:0::7"), "2001:db8::7");
   EXPECT_EQ(place("::ffff:192.0.2.7"), "192.0.2.7");
-  EXPECT_EQ(place("hall.example"), "hall.example");
+  EXPECT_EQ(place("Hall.example"), "hall.example");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
 #include <QDateTime>
 #include <QFrame>
 #include <QGridLayout>
@@ -34,12 +35,24 @@ QLabel* WithRoom(QLabel* label) {
   return label;
 }
 
+// A label aligns its text by the direction of the text, such as a name's, if it is not told to.
 QLabel* PlainLabel(const QString& text = {}) {
   auto* label = WithRoom(new QLabel(text));
+  label->setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute |
+                      (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setObjectName(QStringLiteral("value"));
   return label;
+}
+
+// In the direction of the window, whatever script the first part is in.
+QString Joined(QStringList parts) {
+  if (QApplication::isRightToLeft()) {
+    for (QString& part : parts) part = Isolated(part);
+    parts.front().prepend(QChar(0x200F));  // right-to-left mark
+  }
+  return parts.join(QStringLiteral(" · "));
 }
 
 QString ModelAndAddress(const FleetProfile& profile) {
@@ -47,7 +60,7 @@ QString ModelAndAddress(const FleetProfile& profile) {
                     profile.link == ProjectorLink::Simulated ? DetailsPanel::tr("simulated")
                                                              : ConnectionText(profile.connection)};
   for (const std::string& tag : profile.tags) parts += QString::fromStdString(tag);
-  return parts.join(QStringLiteral(" · "));
+  return Joined(parts);
 }
 
 QString TimeOf(WallTime time) {

@@ -24,7 +24,6 @@ EXCEPTIONS = {
     "CAdvanceDlg": "hosts know its names",
     "CPjtInterface": "one function for each operation, all known to hosts",
     "CSetupType5TabDlg": "hosts know its names: one handler for each control",
-    "ValueRow": "a line of a table: one member for each way in which a row may differ",
 }
 
 TOKEN = re.compile(r"""

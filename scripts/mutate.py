@@ -135,11 +135,14 @@ def run(mutants, reach, results, arguments):
     waiting = queue.SimpleQueue()
     for mutant in mutants:
         waiting.put(mutant)
-    suites = sorted({test.split(":")[0] for mutant in mutants for test in reach.of(mutant)})
+    needed = {test for mutant in mutants for test in reach.of(mutant)}
+    suites = sorted({test.split(":")[0] for test in needed})
+    tried = {suite: [test.split(":", 1)[1] for test in needed if test.startswith(f"{suite}:")]
+             for suite in (suites if arguments.suites else ())}
     failures = []
 
     def work(number):
-        workplace = Workplace(ROOT, WORK / str(number), suites)
+        workplace = Workplace(ROOT, WORK / str(number), suites, tried)
         try:
             while not failures:
                 mutant = waiting.get_nowait()

@@ -2415,6 +2415,13 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
 </context>
 <context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>Uloženo do %1.</translation>
+    </message>
+</context>
+<context>
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>

@@ -2380,6 +2380,13 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
 </context>
 <context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>In %1 gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>

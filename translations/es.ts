@@ -2380,6 +2380,13 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
 </context>
 <context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>Guardado en %1.</translation>
+    </message>
+</context>
+<context>
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>

@@ -121,7 +121,7 @@
         <source>Changes settings in the order given, reads each back, and prints the value before and after. All keys and values are checked for all projectors first; if a value is wrong for one, nothing is sent to any. A key that a projector does not have is reported, and does not stop the others.
 KEY=VALUE sets a value; KEY+=N and KEY-=N step from the present value. In the form KEY VALUE, +3 and -3 are steps, and =-3 is a number below zero. &apos;acctl undo&apos; restores what was there before, except the power state and the results of actions.</source>
         <translation>Muuttaa asetukset annetussa järjestyksessä, lukee jokaisen takaisin ja tulostaa arvon ennen ja jälkeen. Kaikki avaimet ja arvot tarkistetaan ensin kaikille projektoreille; jos arvo on väärä yhdellekin, mitään ei lähetetä millekään. Avain, jota projektorilla ei ole, ilmoitetaan, eikä se estä muita.
-KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodossa KEY VALUE +3 ja -3 ovat askelia ja =-3 on nollaa pienempi luku. &apos;acctl undo&apos; palauttaa aiemman tilan, paitsi virran tilaa ja toimintojen tuloksia.</translation>
+KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodossa KEY VALUE +3 ja -3 ovat askelia ja =-3 on nollaa pienempi luku. ”acctl undo” palauttaa aiemman tilan, paitsi virran tilaa ja toimintojen tuloksia.</translation>
     </message>
     <message>
         <source>reset settings to the projector&apos;s standard</source>
@@ -279,7 +279,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Options of all commands; &apos;acctl help COMMAND&apos; lists its own, with examples</source>
-        <translation>Kaikkien komentojen valitsimet; &apos;acctl help COMMAND&apos; luettelee komennon omat valitsimet ja esimerkkejä</translation>
+        <translation>Kaikkien komentojen valitsimet; ”acctl help COMMAND” luettelee komennon omat valitsimet ja esimerkkejä</translation>
     </message>
     <message>
         <source>Examples</source>
@@ -995,7 +995,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>Lukee projektorit, lähettää sen, mikä poikkeaa tiedostosta (”-” on vakiosyöte), isäntäohjelman esiasetuksesta tai kunkin projektorin omasta tiedostosta kansiossa, ja lukee sen takaisin. Korvattavat arvot tallennetaan ensin, jotta &apos;acctl undo&apos; voi palauttaa ne. Keskeytyneen ajon voi toistaa milloin tahansa.</translation>
+        <translation>Lukee projektorit, lähettää sen, mikä poikkeaa tiedostosta (”-” on vakiosyöte), isäntäohjelman esiasetuksesta tai kunkin projektorin omasta tiedostosta kansiossa, ja lukee sen takaisin. Korvattavat arvot tallennetaan ensin, jotta ”acctl undo” voi palauttaa ne. Keskeytyneen ajon voi toistaa milloin tahansa.</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
@@ -1011,7 +1011,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Resets settings to the projector&apos;s own standard and prints what they are then. &apos;acctl undo&apos; restores what was there before. Hour counters are reset only by their exact keys, because this cannot be undone.</source>
-        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. &apos;acctl undo&apos; palauttaa aiemman tilan. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
+        <translation>Palauttaa asetukset projektorin omiin oletusarvoihin ja tulostaa ne sen jälkeen. ”acctl undo” palauttaa aiemman tilan. Tuntilaskurit nollataan vain täsmällisellä avaimella, koska nollausta ei voi kumota.</translation>
     </message>
     <message>
         <source>undo the last run that changed settings</source>
@@ -1023,7 +1023,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Restores what a run of &apos;set&apos;, &apos;reset&apos; or &apos;apply&apos; replaced. RUN is a name that &apos;acctl undo --list&apos; prints, a file, or &apos;last&apos;; without it, the last run is undone. With P or --where, only these projectors are restored, and the rest of the run can be undone later. An undo can itself be undone by its name.</source>
-        <translation>Palauttaa arvot, jotka &apos;set&apos;, &apos;reset&apos; tai &apos;apply&apos; korvasi ajossa. RUN on nimi, jonka &apos;acctl undo --list&apos; tulostaa, tiedosto tai &apos;last&apos;; ilman sitä kumotaan viimeisin ajo. Jos P tai --where annetaan, palautetaan vain nämä projektorit, ja ajon loppuosan voi kumota myöhemmin. Myös kumoamisen voi kumota sen nimellä.</translation>
+        <translation>Palauttaa arvot, jotka ”set”, ”reset” tai ”apply” korvasi ajossa. RUN on nimi, jonka ”acctl undo --list” tulostaa, tiedosto tai ”last”; ilman sitä kumotaan viimeisin ajo. Jos P tai --where annetaan, palautetaan vain nämä projektorit, ja ajon loppuosan voi kumota myöhemmin. Myös kumoamisen voi kumota sen nimellä.</translation>
     </message>
     <message>
         <source>interrupted</source>
@@ -2377,6 +2377,13 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <message>
         <source>Tools</source>
         <translation>Työkalut</translation>
+    </message>
+</context>
+<context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>Tallennettu: %1.</translation>
     </message>
 </context>
 <context>

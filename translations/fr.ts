@@ -2380,6 +2380,13 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
 </context>
 <context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>Enregistré dans %1.</translation>
+    </message>
+</context>
+<context>
     <name>ModelFields</name>
     <message>
         <source>&amp;Family</source>

@@ -1548,7 +1548,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Close</source>
-        <translation>סגירה</translation>
+        <translation>סגור</translation>
     </message>
     <message>
         <source>Nothing differs.</source>
@@ -2224,7 +2224,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Close</source>
-        <translation>סגירה</translation>
+        <translation>סגור</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
@@ -2274,7 +2274,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Close</source>
-        <translation>סגירה</translation>
+        <translation>סגור</translation>
     </message>
 </context>
 <context>
@@ -2377,6 +2377,13 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     <message>
         <source>Tools</source>
         <translation>כלים</translation>
+    </message>
+</context>
+<context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>נשמר ב־%1.</translation>
     </message>
 </context>
 <context>
@@ -4083,7 +4090,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Close</source>
-        <translation>סגירה</translation>
+        <translation>סגור</translation>
     </message>
 </context>
 <context>

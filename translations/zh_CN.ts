@@ -972,11 +972,11 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Prints what differs from a file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder.</source>
-        <translation>打印与某个文件（&apos;-&apos; 为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件之间的差异。</translation>
+        <translation>打印与某个文件（“-”为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件之间的差异。</translation>
     </message>
     <message>
         <source>Reads the projectors, sends what differs from the file (&apos;-&apos; is standard input), from a preset of the host application, or from each projector&apos;s own file in a folder, and reads it back. What is replaced is kept first, so that &apos;acctl undo&apos; can restore it. An interrupted run can be repeated at any time.</source>
-        <translation>读取投影机，发送与文件（&apos;-&apos; 为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件不同的部分，并读回结果。被替换的值会先保存，以便 &apos;acctl undo&apos; 恢复。中断的运行可随时重复。</translation>
+        <translation>读取投影机，发送与文件（“-”为标准输入）、与主程序的某个预设，或与文件夹中每台投影机自己的文件不同的部分，并读回结果。被替换的值会先保存，以便“acctl undo”恢复。中断的运行可随时重复。</translation>
     </message>
     <message>
         <source>the value before could not be read, and cannot be restored</source>
@@ -2342,6 +2342,13 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>
             <numerusform>要打开 %n 个对话框吗？</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Modal</name>
+    <message>
+        <source>Saved in %1.</source>
+        <translation>已保存到 %1。</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,7 @@ namespace {
 
 using Comparison = Condition::Comparison;
 
-// The longer ones first.
+// Longer signs first: `<=` begins with `<`.
 constexpr std::array<std::pair<std::string_view, Comparison>, 6> kSigns{
     {{"<=", Comparison::LessOrEqual},
      {">=", Comparison::GreaterOrEqual},

@@ -14,7 +14,7 @@
 namespace {
 
 // clang-format off
-// Those that only the manual page has are not translated, as it is English.
+// Texts that only the manual page has are not translated, because the manual page is in English.
 constexpr std::string_view kIntroduction = QT_TRANSLATE_NOOP("Acctl",
     "Reads, changes, saves and restores the settings of projectors that the Advanced Control dialog shows. The "
     "projectors are those of a profile file.");

@@ -9,11 +9,13 @@
 
 #include "app/acctl/ProjectorLock.h"
 #include "app/profiles/ProjectorAccess.h"
+#include "fleet/AddressHold.h"
 
-/// An open projector and the lock on it, if there is one. The connection is closed before the lock
-/// is released.
+/// An open projector, and what keeps others away from it. The connection is closed before they may
+/// connect.
 struct OpenProjector {
-  std::optional<ProjectorLock> lock;
+  std::optional<AddressHold> hold{};  ///< Empty if it is simulated here.
+  std::optional<ProjectorLock> lock{};
   std::optional<ProjectorAccess> access{};
 };
 

@@ -202,8 +202,8 @@ void Distribute(std::vector<std::string> words, Words order, Arguments& argument
   }
 }
 
-/// Distributes the words as the table of commands cannot describe. Returns false if the usage is
-/// wrong.
+/// Assigns the words of commands whose usage the table of commands cannot describe. Returns false
+/// if the usage is wrong.
 bool TakeSpecialWords(Arguments& arguments) {
   auto& words = arguments.words;
   switch (arguments.command) {

@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+#include <variant>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -12,21 +13,20 @@
 #include <QStandardPaths>
 
 #include "fleet/JobLoop.h"
+#include "fleet/MakeVisit.h"
 
 namespace {
 
 constexpr std::chrono::milliseconds kPause{20};
 
-QString TextOf(const std::string& host, int port) {
-  return QString::fromStdString(host).toLower() + QLatin1Char(':') + QString::number(port);
-}
-QString TextOf(const AddressError&) { return {}; }
-QString TextOf(const TcpAddress& address) { return TextOf(address.host, address.port); }
-QString TextOf(const PjLinkAddress& address) { return TextOf(address.host, address.port); }
-QString TextOf(const SerialAddress& address) {
-  const QString device = QString::fromStdString(address.device);
-  const QString real = QFileInfo(device).canonicalFilePath();  // it may have several names
-  return real.isEmpty() ? device : real;
+QString TextOf(const ProjectorAddress& address) {
+  const auto [host, port] = PlaceOf({.id = {}, .address = address});
+  const QString text = QString::fromStdString(host);
+  if (!std::holds_alternative<SerialAddress>(address)) {
+    return text + QLatin1Char(':') + QString::number(port);
+  }
+  const QString real = QFileInfo(text).canonicalFilePath();  // it may have several names
+  return real.isEmpty() ? text : real;
 }
 
 // In the cache folder rather than the session's, so that runs without a session, as from cron, wait
@@ -35,9 +35,9 @@ QString FileOf(const ProjectorAddress& address) {
   const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                     QStringLiteral("/advanced-control/locks"));
   folder.mkpath(QStringLiteral("."));
-  const QString text = std::visit([](const auto& way) { return TextOf(way); }, address);
   // An address may have slashes, and be too long for a name.
-  const auto name = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex();
+  const auto name =
+      QCryptographicHash::hash(TextOf(address).toUtf8(), QCryptographicHash::Sha1).toHex();
   return folder.filePath(QString::fromLatin1(name));
 }
 

@@ -88,9 +88,19 @@ int NameWidth(const Projectors& projectors, const Arguments& arguments) {
 }  // namespace
 
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
-                                               const std::string& password) {
+                                               const std::function<bool()>& goesOn) {
   auto open = std::make_unique<OpenProjector>();
-  Connect(work, profile, PresentAddress(profile, work, password), *open);
+  const auto address = PresentAddress(profile, work, work.password);
+  if (address) {
+    open->hold.emplace(PlaceOf({.id = {}, .address = *address}), AddressHold::Turn::Last,
+                       [&loop = *work.loop] { loop.WakeAll(); });
+    if (!open->hold->IsHeld()) work.loop->WakeAll();  // who holds it may be in a pause
+    while (!open->hold->IsHeld()) {
+      if (!goesOn()) return nullptr;
+      JobLoop::Pause(SessionTime::max());
+    }
+  }
+  Connect(work, profile, address, *open);
   return open;
 }
 
@@ -110,6 +120,11 @@ ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
   Attempt attempt;
   auto open = open_.Take(number);
   if (!open) open = std::make_unique<OpenProjector>();
+  if (!open->hold && address) {
+    open->hold.emplace(PlaceOf({.id = {}, .address = *address}));
+    // Another entry with this address is kept open. None is worked on at the same time.
+    if (!open->hold->IsHeld()) open_.CloseAll();
+  }
   if (!open->lock && address && !step.mayBeSilent) {
     open->lock.emplace(*address, arguments.connecting.timeOut, [this] {
       open_.CloseAll();

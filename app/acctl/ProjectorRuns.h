@@ -12,9 +12,11 @@
 #include "app/acctl/Preflight.h"
 #include "app/acctl/Printer.h"
 
-/// Opens a projector without waiting for others; null if another run of the program uses it.
+/// Opens a projector without waiting for other runs of the program. While other work of this run
+/// uses its address, it waits in the loop; null if `goesOn` returns false meanwhile, which is
+/// called again after each `JobLoop::WakeAll`.
 std::unique_ptr<OpenProjector> OpenWithoutLock(const Work& work, const FleetProfile& profile,
-                                               const std::string& password);
+                                               const std::function<bool()>& goesOn);
 
 /// Runs a command on its projectors: checks the words first, then works on several at once, and
 /// prints the reports in the order of the projectors.
@@ -52,7 +54,8 @@ class ProjectorRuns {
   Attempt Try(int number, const Step& step, const std::string& password);
   Attempt TryWithPassword(int number, const Step& step);
   std::vector<int> All() const;
-  /// Works on the projectors with these numbers at once; the work gets their places in the list.
+  /// Works on the projectors with these numbers at the same time. `work` gets positions in
+  /// `numbers`.
   void RunOn(const std::vector<int>& numbers, const ParallelWork& work);
   Report RunOne(int number, const std::vector<std::optional<Report>>& checked);
   void RunOnAll();

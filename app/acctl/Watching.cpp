@@ -72,13 +72,15 @@ class ProjectorWatch {
     constexpr std::chrono::milliseconds kLongestPause{60'000};
     auto pause = shared_.work.arguments.interval;
     while (shared_.GoesOn() && !isFinished_) {
-      const auto open = OpenWithoutLock(shared_.work, profile_, shared_.work.password);
+      auto open = OpenWithoutLock(shared_.work, profile_, [this] { return shared_.GoesOn(); });
+      if (!open) break;
       const bool wasSilent = isSilent_;
-      Follow(*open->access);
+      Follow(*open);
+      open.reset();
       if (isFinished_ || !shared_.GoesOn()) break;
       pause = wasSilent && isSilent_ ? std::min(2 * pause, std::max(pause, kLongestPause))
                                      : shared_.work.arguments.interval;
-      Wait(pause);
+      Wait(pause, nullptr);
     }
     if (!shared_.until || isFinished_ || shared_.work.isInterrupted()) return;
     shared_.Fail(isSilent_ ? ExitCode::NoAnswer : ExitCode::Refused);
@@ -87,8 +89,11 @@ class ProjectorWatch {
   }
 
  private:
-  /// Reads again and again until the projector is gone or there is nothing more to wait for.
-  void Follow(ProjectorAccess& projector) {
+  /// Reads again and again until the projector is gone, there is nothing more to wait for, or
+  /// another entry with its address is to be read.
+  void Follow(OpenProjector& open) {
+    ProjectorAccess& projector = *open.access;
+    lastRead_ = Clock::now();
     if (!IsChosen(projector)) return;
     const Work& work = shared_.work;
     Report lacks;
@@ -108,13 +113,15 @@ class ProjectorWatch {
         Take(projector, *setting,
              projector.Settings().Read(projector.Connection(), *setting, source));
       }
+      lastRead_ = Clock::now();
       if (projector.Channel().IsGone()) break;
-      if (!isFinished_) Wait(work.arguments.interval);
+      if (isFinished_ || !Wait(work.arguments.interval, &open)) return;
     }
     if (projector.Channel().IsGone()) TakeSilence(projector);
   }
 
   void TakeSilence(const ProjectorAccess& projector) {
+    lastRead_ = Clock::now();
     if (!std::exchange(isSilent_, true)) Add(NoAnswerOf(projector));
   }
 
@@ -130,7 +137,8 @@ class ProjectorWatch {
     return isChosen_;
   }
 
-  /// What this projector does not have is never reached.
+  /// Reports settings that the projector lacks. If the awaited one is among them, it cannot be
+  /// reached.
   void ReportLacks(const Report& lacks) {
     for (const Problem& problem : lacks.problems) {
       Add(problem);
@@ -208,11 +216,15 @@ class ProjectorWatch {
     Write(json);
   }
 
-  void Wait(std::chrono::milliseconds time) const {
-    const auto end = Clock::now() + time;
+  /// Waits until this time after the last reading, or until others want the address of the open
+  /// projector; then false.
+  bool Wait(std::chrono::milliseconds time, const OpenProjector* open) const {
+    const auto end = lastRead_ + time;
     while (shared_.GoesOn() && Clock::now() < end) {
+      if (open != nullptr && open->hold && open->hold->IsWanted()) return false;
       JobLoop::Pause(shared_.end ? std::min(end, *shared_.end) : end);
     }
+    return true;
   }
 
   Shared& shared_;
@@ -220,6 +232,7 @@ class ProjectorWatch {
   const bool isSimulated_;
   std::string prefix_;
   std::map<std::string, Seen> last_;
+  Clock::time_point lastRead_;
   bool isBegun_ = false;
   bool isChosen_ = false;
   bool isSilent_ = false;

@@ -39,7 +39,10 @@ QJsonObject DeviceOf(const FleetProfile& profile, const QByteArray& id) {
                      {"model", Text(profile.model->data.ModelName)}};
   if (const auto serial = IdentityOf(profile, "serial:")) device["serial_number"] = *serial;
   if (const auto mac = IdentityOf(profile, "mac:")) {
-    device["connections"] = QJsonArray{QJsonArray{"mac", *mac}};
+    QJsonArray connections;
+    connections.append(
+        QJsonArray{"mac", *mac});  // one in braces would be a copy for some compilers
+    device["connections"] = connections;
   }
   return device;
 }

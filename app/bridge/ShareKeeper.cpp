@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int kBeats = 3;          // in the time for a takeover
-constexpr int kTimeToObject = 10;  // a part of it
+constexpr int kBeats = 3;          // within the time for a takeover
+constexpr int kTimeToObject = 10;  // a holder may object for a tenth of that time
 constexpr std::chrono::milliseconds kLongestStep{500};
 
 }  // namespace

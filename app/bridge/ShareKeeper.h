@@ -10,12 +10,12 @@
 #include <QByteArray>
 #include <QJsonObject>
 
-/// A message with which a bridge claims a share. Of several claims the greatest one counts.
+/// A message with which a bridge claims a share. The greatest of several claims counts.
 struct Claim {
   std::uint64_t term = 0;  ///< One more than that of the holder before.
   std::string instance{};  ///< This run of the bridge. It decides between claims of one term.
   std::uint64_t beat = 0;  ///< Grows with each claim of the instance.
-  bool isGivenUp = false;  ///< The last message of a holder that ends.
+  bool isGivenUp = false;  ///< The holder ends; this is its last message.
 
   // NOLINTNEXTLINE(modernize-use-nullptr): there is no pointer
   friend auto operator<=>(const Claim&, const Claim&) = default;

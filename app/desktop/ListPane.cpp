@@ -151,9 +151,9 @@ void ListPane::ShowDetails() {
       current == nullptr ? std::vector<StateChange>() : watch_.Projectors().History(current->id));
 }
 
-// The fleet does not report an answer that changes nothing. So the times of the last answers are
-// fetched here, of the rows in sight each time and of the others in turn: sorting and the status
-// bar need those too.
+// The fleet does not report answers that change nothing, so the times of the last answers are
+// fetched here: those of the rows in sight each time, and the others in turn, because sorting and
+// the status bar need them too.
 void ListPane::Count() {
   std::vector<std::string> ids;
   for (const int position : view_->InSight())

@@ -12,7 +12,7 @@ class QMainWindow;
 class SettingsActions;
 class UsualActions;
 
-/// The parts of the main window whose actions its menus hold.
+/// The parts of the main window that provide the actions of its menus.
 struct MenuParts {
   ListPane& pane;
   CommandLog& log;

@@ -2,15 +2,20 @@
 
 #include <utility>
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMainWindow>
 #include <QMessageBox>
+#include <QStatusBar>
 
 #include "toolkit/Icons.h"
 
 namespace {
 
 constexpr qsizetype kLinesShown = 10;
+constexpr int kMessageTime = 10'000;  // milliseconds
 
 QString& Folder() {
   static QString folder;
@@ -45,6 +50,14 @@ void AskForFile(QWidget& window, const FileQuestion& question,
                    });
   QObject::connect(dialog, &QFileDialog::fileSelected, &window, std::move(take));
   dialog->open();
+}
+
+void ShowSaved(QWidget& window, const QString& path) {
+  const QString text = QCoreApplication::translate("Modal", "Saved in %1.");
+  for (QWidget* widget = &window; widget != nullptr; widget = widget->parentWidget()) {
+    if (auto* main = qobject_cast<QMainWindow*>(widget))
+      main->statusBar()->showMessage(text.arg(QDir::toNativeSeparators(path)), kMessageTime);
+  }
 }
 
 void ShowError(QWidget& window, const QString& title, const QString& text, const QString& detail) {

@@ -28,6 +28,9 @@ void AskForFile(QWidget& window, const FileQuestion& question,
 QString LastFolder();
 void SetLastFolder(const QString& folder);
 
+/// Says in the status bar of the main window that a file was written.
+void ShowSaved(QWidget& window, const QString& path);
+
 /// Shows an error as plain text. If it has many lines, only the first ones are shown, and the
 /// others on request. `detail` is shown below in a smaller font; may be empty.
 void ShowError(QWidget& window, const QString& title, const QString& text,

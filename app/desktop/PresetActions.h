@@ -37,7 +37,7 @@ class PresetActions : public QObject {
   /// The window owns it, and it must not outlive the others.
   explicit PresetActions(Parts parts);
 
-  /// With a menu.
+  /// The action that opens the menu of presets.
   QAction* Presets() const { return presets_; }
   void Update(bool any);
   DriftCheck& Drift() const { return *drift_; }

@@ -12,9 +12,10 @@ from mutation.reach import test_environment
 
 
 class Workplace:
-    def __init__(self, root, folder, suites):
+    def __init__(self, root, folder, suites, tried):
         self.root = root
         self.suites = suites  # those that any mutant needs
+        self.tried = tried  # {suite: tests that must pass without a mutant}
         self.tree = folder / "tree"
         self.build = self.tree / "build/dev"
         self.originals = folder / "objects"
@@ -57,6 +58,10 @@ class Workplace:
             copy = self.originals / file.relative_to(self.build)
             copy.parent.mkdir(parents=True, exist_ok=True)
             shutil.copy2(file, copy)
+        # A test that fails without a mutant would kill all of them. Reach leaves such tests out.
+        for suite, tests in self.tried.items():
+            if failed := self.run(suite, tests, 600):
+                raise SystemExit(f"without a mutant, {failed}")
         self.prepared = True
 
     def environment(self, mutated):

@@ -16,16 +16,16 @@ class PROJECTOR_FLEET_EXPORT AddressHold {
  public:
   using Address = VisitQueue::Address;
   enum class Turn : std::uint8_t {
-    Next,  ///< Before all `Last` ones: somebody waits for the result.
+    Next,  ///< Before all that are `Last`, because somebody waits for the result.
     Last,
   };
 
   class Observer;
 
-  /// `onHeld` is called when the address is held, on any thread. It must use no hold.
+  /// `onHeld` is called when the address is held, on any thread. It must not use any hold.
   [[nodiscard]] explicit AddressHold(
       Address address, Turn turn = Turn::Last, std::function<void()> onHeld = [] {});
-  /// Leaves the line. Nothing is called any more.
+  /// Leaves the line. `onHeld` is not called after this.
   ~AddressHold();
   AddressHold(const AddressHold&) = delete;
   AddressHold& operator=(const AddressHold&) = delete;
@@ -50,7 +50,7 @@ class PROJECTOR_FLEET_EXPORT AddressHold {
 class AddressHold::Observer {
  public:
   /// `onUse` is called before an address is held by anybody, and again when nobody holds it any
-  /// more; at once for those that are held now. It must use no hold.
+  /// more; at once for those that are held now. It must not use any hold.
   explicit Observer(std::function<void(const Address&, bool isHeld)> onUse);
   /// `onUse` is not called any more.
   ~Observer();

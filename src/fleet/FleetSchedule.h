@@ -21,17 +21,17 @@ class FleetSchedule {
   FleetSchedule(const FleetPolicy& policy, const FleetClock& clock)
       : policy_(policy), clock_(clock), random_(policy.seed) {}
 
-  /// Resets the projector: it is due at once. Its timer does not run.
+  /// Makes the projector due at once, without starting its timer.
   void Reset(Peer peer);
   void Start(Peer peer) { timers_.Set(peer, plans_[peer].Next()); }
   void Stop(Peer peer) { timers_.Clear(peer); }
 
-  /// A visit begins.
+  /// Records the beginning of a visit.
   void Begin(Peer peer) { plans_[peer].Begin(clock_.Now(), policy_, random_); }
-  /// The result of the visit. An abandoned visit has none.
+  /// Record the result of the visit. Neither is called for an abandoned visit.
   void Answered(Peer peer) { plans_[peer].Answered(policy_); }
   void Unanswered(Peer peer) { plans_[peer].Unanswered(policy_); }
-  /// The policy's interval has changed.
+  /// Adapts the next visit to an interval that has changed in the policy.
   void Adapt(Peer peer) { plans_[peer].Adapt(policy_); }
   /// Brings the next visit forward, as far as the policy allows.
   void Hasten(Peer peer) { plans_[peer].Hasten(clock_.Now(), policy_); }

@@ -33,6 +33,7 @@ void FleetStates::Learn(const std::string& id, const PjtCommand& command, const 
   const auto known = known_.find(id);
   if (known == known_.end()) return;
   LiveState state = known->second.state;
+  const auto sourceBefore = state.source;
   state.reachability = Reachability::Answers;
   state.connection = ConnectionState::Connected;
   state.answered = clock_.Wall();
@@ -40,6 +41,11 @@ void FleetStates::Learn(const std::string& id, const PjtCommand& command, const 
     const Answer answer = AnswerTo(ReadingOf(*item), reply);
     if (answer.accepted) TakeStatus(state, *item, answer.value, known->second.model.get());
     if (*item == StatusItem::Power && power) TakePower(state, *power);
+    // A visit may know a name that the model does not have.
+    const bool isSame =
+        state.source && sourceBefore && state.source->number == sourceBefore->number;
+    if (isSame && state.source->name.empty()) state.source->name = sourceBefore->name;
+    if (state.power == PowerState::Standby) state.ForgetPicture();  // whatever it answers
   }
   Apply(id, known->second, std::move(state));
 }

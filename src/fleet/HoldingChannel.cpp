@@ -55,7 +55,7 @@ bool HoldingChannel::TendConnection(Time unused) {
   const bool waitedInVain = state_.load() == ConnectionState::Connecting;
   if (waitedInVain && unused < kPatience) return true;
   if (hold_->IsHeld() && !waitedInVain) {
-    // The reason for a silence is told until the next command.
+    // `Connection` gives the reason for the silence until the next command.
     if (isSilent_) state_ = Inner().Connection();
     if (Inner().TendConnection(isSilent_ || hold_->IsWanted() ? Time::max() : unused)) return true;
   }

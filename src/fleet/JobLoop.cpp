@@ -20,22 +20,22 @@ class JobLoop::Events final : public FleetNetwork::Listener {
   explicit Events(JobLoop& loop) : loop_(loop) {}
 
   void Connected(Peer peer) override {
-    Tell(peer, [](Receiver& receiver) { receiver.Connected(); });
+    Deliver(peer, [](Receiver& receiver) { receiver.Connected(); });
   }
   void NotConnected(Peer peer, ConnectionState problem) override {
-    Tell(peer, [&](Receiver& receiver) { receiver.NotConnected(problem, Now()); });
+    Deliver(peer, [&](Receiver& receiver) { receiver.NotConnected(problem, Now()); });
   }
   void InUse(Peer peer) override { NotConnected(peer, ConnectionState::NotReachable); }
   void Received(Peer peer, std::string_view bytes) override {
-    Tell(peer, [&](Receiver& receiver) { receiver.Received(bytes, Now()); });
+    Deliver(peer, [&](Receiver& receiver) { receiver.Received(bytes, Now()); });
   }
   void Closed(Peer peer) override {
-    Tell(peer, [](Receiver& receiver) { receiver.Closed(Now()); });
+    Deliver(peer, [](Receiver& receiver) { receiver.Closed(Now()); });
   }
   void Noticed(const FleetNetwork::Notice&) override {}
 
  private:
-  void Tell(Peer peer, const auto& what) {
+  void Deliver(Peer peer, const auto& what) {
     const Connection connection = loop_.connections_[peer];
     if (connection.isAwaited) loop_.timers_.Set(connection.work, SessionTime::min());
     if (connection.receiver != nullptr) what(*connection.receiver);
@@ -70,7 +70,10 @@ void JobLoop::WakeAll() {
 
 void JobLoop::Pause(SessionTime until) {
   if (running == nullptr) return std::this_thread::sleep_until(until);
+  const Number own = running->present_;
+  running->pausing_.insert(own);
   running->Suspend(until);
+  running->pausing_.erase(own);
 }
 
 JobLoop::Peer JobLoop::Add(Receiver& receiver) {
@@ -99,11 +102,10 @@ void JobLoop::Wait(Peer peer, SessionTime until) {
 }
 
 bool JobLoop::Continue() {
-  const bool wakesAll = wakesAll_.exchange(false);
-  std::vector<Number> due;
-  for (Number i = 0; wakesAll && i < works_.size(); ++i) {
-    if (works_[i]) timers_.Set(i, SessionTime::min());
+  if (wakesAll_.exchange(false)) {
+    for (const Number work : pausing_) timers_.Set(work, SessionTime::min());
   }
+  std::vector<Number> due;
   while (const auto next = timers_.TakeDue(Now())) due.push_back(*next);
   for (const Number next : due) {
     present_ = next;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -57,12 +58,12 @@ class PROJECTOR_FLEET_EXPORT JobLoop {
   void Wait(Peer peer, SessionTime until);
 
  private:
-  using Number = PeerTimers::Peer;  ///< A work's.
+  using Number = PeerTimers::Peer;  ///< Of a task.
 
   struct Connection {
     Receiver* receiver = nullptr;
-    bool isAwaited = false;  ///< A work waits for an event.
-    Number work = 0;         ///< The one that waits.
+    bool isAwaited = false;  ///< A task waits for an event.
+    Number work = 0;         ///< The task that waits.
   };
 
   class Events;
@@ -75,7 +76,8 @@ class PROJECTOR_FLEET_EXPORT JobLoop {
   std::vector<Connection> connections_;  ///< By peer.
   std::vector<Peer> free_;
   std::vector<std::unique_ptr<Fiber>> works_;
-  PeerTimers timers_;  ///< Of works.
+  PeerTimers timers_;         ///< Of works.
+  std::set<Number> pausing_;  ///< Works in `Pause`.
   std::size_t unfinished_ = 0;
   Number present_ = 0;  ///< The work that runs.
   std::atomic<bool> wakesAll_ = false;

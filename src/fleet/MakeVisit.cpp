@@ -2,6 +2,8 @@
 
 #include <variant>
 
+#include <QString>
+
 #include "fleet/PjLinkVisit.h"
 #include "fleet/SocketAddress.h"
 #include "fleet/WireVisit.h"
@@ -45,7 +47,12 @@ std::pair<std::string, std::uint16_t> HostOf(const FleetTarget& target) {
 
 std::pair<std::string, std::uint16_t> PlaceOf(const FleetTarget& target) {
   auto [host, port] = HostOf(target);
-  if (const auto numeric = ParseSocketAddress(host, port)) host = TextOf(*numeric);
+  if (std::holds_alternative<SerialAddress>(target.address)) return {std::move(host), port};
+  if (const auto numeric = ParseSocketAddress(host, port)) {
+    host = TextOf(*numeric);
+  } else {
+    host = QString::fromStdString(host).toLower().toStdString();
+  }
   return {std::move(host), port};
 }
 

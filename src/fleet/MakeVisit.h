@@ -23,7 +23,7 @@ void ConnectTo(const FleetTarget& target, FleetNetwork& network, FleetNetwork::P
 
 /// Where a projector is: host and port, or a serial port's path and 0.
 std::pair<std::string, std::uint16_t> HostOf(const FleetTarget& target);
-/// The same, but equal for all ways to write an IP address.
+/// The same, but equal for all ways to write an IP address, or a name in small or capital letters.
 PROJECTOR_FLEET_EXPORT std::pair<std::string, std::uint16_t> PlaceOf(const FleetTarget& target);
 
 }  // namespace AdvancedControl

@@ -41,7 +41,7 @@ struct NameResolver::Client {
   int wakes = -1;
 };
 
-/// The threads that look names up, and the resolvers that wait for them, which take turns.
+/// The threads that look names up, and the resolvers that wait for them. The resolvers take turns.
 struct NameResolver::Lookups {
   std::mutex mutex;
   std::condition_variable comes;

@@ -134,7 +134,7 @@ class ProfileReader {
   std::map<QByteArray, Kind> kinds_;
 };
 
-/// Texts of which each may stand in a file once, with the entry that has it.
+/// Texts that must be unique in a file, each with the entry that has it.
 class Unique {
  public:
   explicit Unique(QString key) : key_(std::move(key)) {}

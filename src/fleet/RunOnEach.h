@@ -11,8 +11,8 @@
 
 namespace AdvancedControl {
 
-/// Calls `work` in the loop with the numbers of all these addresses: `atOnce` of them at the same
-/// time, in their order, but only one at each address. Returns when all are done. `work` must not
+/// Calls `work` in the loop with the index of each address, in their order. Up to `atOnce` calls
+/// run at the same time, but only one for each address. Returns when all are done. `work` must not
 /// throw.
 PROJECTOR_FLEET_EXPORT void RunOnEach(JobLoop& loop,
                                       const std::vector<VisitQueue::Address>& addresses,

@@ -42,10 +42,10 @@ struct MachineNetwork {
   QNetworkInterface::InterfaceFlags flags{};
   QList<QNetworkAddressEntry> addresses{};
 };
-/// The broadcast address of each network that is up and has one, each once.
+/// The broadcast addresses of the networks that are up, without duplicates.
 PROJECTOR_FLEET_EXPORT std::vector<QHostAddress> BroadcastsOf(
     const std::vector<MachineNetwork>& networks);
-/// Those of the networks that this machine is in.
+/// The broadcast addresses of this machine's networks.
 PROJECTOR_FLEET_EXPORT std::vector<QHostAddress> NetworkBroadcasts();
 
 /// Searches for projectors, on Qt's event loop. Sends nothing before `Start`, or after it is

@@ -25,7 +25,7 @@ class VisitsUnderWay final : public FleetNetwork::Listener {
     virtual ~Owner() = default;
     /// The visit is over, and its connection closed.
     virtual void Finished(Peer peer, const Visit& visit) = 0;
-    /// The visit was abandoned, as another program has the serial port.
+    /// The visit was abandoned, because another program uses the serial port.
     virtual void FoundInUse(Peer peer) = 0;
     virtual void Noticed(const FleetNetwork::Notice& notice) = 0;
   };

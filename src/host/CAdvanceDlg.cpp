@@ -19,13 +19,13 @@
 #include "resources/AdvancedControlResources.h"
 #include "resources/TemplateId.h"
 #include "settings/CatalogNumbers.h"
+#include "settings/ControlId.h"
 #include "snapshots/Snapshot.h"
 #include "toolkit/CTabCtrl.h"
 
 namespace {
 
-constexpr int kTabControlId = 20001;
-constexpr int kCloseId = 1;
+namespace Id = AdvancedControl::ControlId::Advance;
 
 constexpr int kNetworkConnection = 1;
 
@@ -84,7 +84,7 @@ DialogFrame::Parts CAdvanceDlg::Parts::Framed() {
           .strip = strip,
           .status = status,
           .find = search.Line(),
-          .close = *dialog.GetDlgItem(kCloseId)};
+          .close = *dialog.GetDlgItem(Id::Close)};
 }
 
 void CAdvanceDlg::Parts::SetTitle() {
@@ -194,7 +194,7 @@ QSize CAdvanceDlg::sizeHint() const { return parts_->frame.WholeSize(); }
 
 const NotificationMap& CAdvanceDlg::Notifications() const {
   static const NotificationMap map{
-      SelChange(kTabControlId, &CAdvanceDlg::OnSelchangeAdvanceTab),
+      SelChange(Id::Tabs, &CAdvanceDlg::OnSelchangeAdvanceTab),
   };
   return map;
 }
@@ -212,11 +212,11 @@ bool CAdvanceDlg::OnInitDialog() {
   projector_.CopyAspectData(model.AspectList.count, model.AspectList.values.data());
   projector_.CopyGammaData(model.GammaList.count, model.GammaList.values.data());
   if (const auto reported = parts_->data.NewReportedInputs()) parts_->data.UseReported(*reported);
-  parts_->pages.Create(model, projector_, Item<CTabCtrl>(kTabControlId));
+  parts_->pages.Create(model, projector_, Item<CTabCtrl>(Id::Tabs));
   parts_->SetTitle();
   parts_->SetStrip();
   parts_->frame.FitToPages(parts_->Framed());
-  parts_->pages.OrderFocus({parts_->status.RetryButton(), GetDlgItem(kCloseId)});
+  parts_->pages.OrderFocus({parts_->status.RetryButton(), GetDlgItem(Id::Close)});
   ShowUnread();
   DispTabScreen();
   if (IsCreated() && !parts_->data.NamesInputs()) parts_->inputsWatch.start(kInputsPeriod);

@@ -72,7 +72,8 @@ inline std::string_view TextIn(const MessageCatalog& catalog, MessageTable::Part
   return message ? TextOf(message, inserts, storage) : std::string_view();
 }
 
-/// The messages that come before those of 1033; none if these are shown.
+/// The messages of the system's language, which have precedence over those of 1033; nothing if
+/// only those of 1033 are shown.
 std::optional<MessageTable::Part> OwnPart(const MessageCatalog& catalog) {
   const std::uint32_t language = SystemLanguageId();
   if (language == kEnglishUnitedStates) return {};
@@ -82,7 +83,7 @@ std::optional<MessageTable::Part> OwnPart(const MessageCatalog& catalog) {
   return own;
 }
 
-/// What the batch that began first has seen.
+/// What the outermost batch has found.
 struct Batch {
   int depth = 0;
   bool isCurrent = false;  // nobody has loaded another catalog since

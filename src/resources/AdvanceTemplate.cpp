@@ -1,15 +1,18 @@
 #include "resources/Templates.h"
+#include "settings/ControlId.h"
 
 namespace AdvancedControl {
 
 namespace {
 
+namespace Id = ControlId::Advance;
+
 using namespace tmpl;
 using enum RowPlace;
 
 constexpr RowTemplate kRows[] = {
-    Row(Left, Tab(20001)),
-    Row(Bottom, Close(1, "27;Close")),
+    Row(Left, Tab(Id::Tabs)),
+    Row(Bottom, Close(Id::Close, "27;Close")),
 };
 
 }  // namespace

@@ -7,7 +7,8 @@ namespace {
 using namespace tmpl;
 using enum RowPlace;
 
-constexpr RowTemplate ListRow(RowPlace place, const ControlTemplate& label, int colon, int list) {
+constexpr RowTemplate PlacedListRow(RowPlace place, const ControlTemplate& label, int colon,
+                                    int list) {
   return Row(place, label, Colon(colon), Combo(list));
 }
 
@@ -39,12 +40,12 @@ constexpr ArrowIds kPicture2Arrows{21054, 21055, 21052, 21053, 20021, 20022};
 constexpr ArrowIds kPicture22Arrows{20031, 20033, 20034, 20032, 20045, 20044};
 
 constexpr RowTemplate kPicture1Rows[] = {
-    ListRow(Left, Label(20601, "41;Gamma\t\t:"), 20701, 21045),
+    PlacedListRow(Left, Label(20601, "41;Gamma\t\t:"), 20701, 21045),
     SliderRow(Left, Label(20602, "121;Custom Gamma\t:"), 20702, {20801, 21047, 20802, 21121}),
-    ListRow(Left, Label(20603, "115;Color Temp\t:"), 20703, 21049),
-    ListRow(Left, Label(20604, "122;Custom User R\t:"), 20704, 21050),
-    ListRow(Left, Label(20605, "123;Custom User G\t:"), 20705, 21051),
-    ListRow(Left, Label(20606, "124;Custom User B\t:"), 20706, 21052),
+    PlacedListRow(Left, Label(20603, "115;Color Temp\t:"), 20703, 21049),
+    PlacedListRow(Left, Label(20604, "122;Custom User R\t:"), 20704, 21050),
+    PlacedListRow(Left, Label(20605, "123;Custom User G\t:"), 20705, 21051),
+    PlacedListRow(Left, Label(20606, "124;Custom User B\t:"), 20706, 21052),
     SliderRow(Right, Label(20607, "125;Color Bal R\t:"), 20707, {20803, 21067, 20804, 21122}),
     SliderRow(Right, Label(20608, "126;Color Bal G\t:"), 20708, {20805, 21039, 20806, 21123}),
     SliderRow(Right, Label(20609, "127;Color Bal B\t:"), 20709, {20807, 21042, 20808, 21124}),
@@ -78,26 +79,26 @@ constexpr RowTemplate kPicture22Rows[] = {
     PositionH(kPicture22Arrows),
     SliderRow(Left, Label(20601, "49;H Phase\t\t:"), 20701, {20801, 20036, 20802, 20038}),
     FieldRow(Label(20602, "50;H Size\t\t:"), 20702, 20803, 20040, 20804),
-    ListRow(Left, Label(20482, "47;Over Scan\t:"), 20489, 20030),
+    PlacedListRow(Left, Label(20482, "47;Over Scan\t:"), 20489, 20030),
     ExecuteRow(Bottom, Label(20603, "51;Reset\t\t:"), 20703, 20042, 20043),
 };
 
 constexpr RowTemplate kImageRows[] = {
     SliderRow(Left, Label(20601, "77;Keystone\t:"), 20701, {21046, 21045, 21047, 21117}),
-    ListRow(Left, Label(20602, "38;Blank"), 20702, 20112),
-    ListRow(Left, Label(20603, "39;Startup"), 20703, 20113),
-    ListRow(Left, Label(20604, "40;Mirror"), 20704, 20114),
-    ListRow(Right, Label(20605, "42;P.IN P.Input"), 20705, 20116),
-    ListRow(Right, Label(20606, "43;P.IN P.Position\t:"), 20706, 20117),
-    ListRow(Right, Label(20607, "44;P.IN P.Audio\t:"), 20707, 20118),
-    ListRow(Right, Label(20608, "45;P.IN P.Size\t:"), 20708, 20119),
-    ListRow(Right, Label(20609, "41;Gamma"), 20709, 20115),
-    ListRow(Right, Label(20610, "115;Color Temp"), 20710, 20121),
+    PlacedListRow(Left, Label(20602, "38;Blank"), 20702, 20112),
+    PlacedListRow(Left, Label(20603, "39;Startup"), 20703, 20113),
+    PlacedListRow(Left, Label(20604, "40;Mirror"), 20704, 20114),
+    PlacedListRow(Right, Label(20605, "42;P.IN P.Input"), 20705, 20116),
+    PlacedListRow(Right, Label(20606, "43;P.IN P.Position\t:"), 20706, 20117),
+    PlacedListRow(Right, Label(20607, "44;P.IN P.Audio\t:"), 20707, 20118),
+    PlacedListRow(Right, Label(20608, "45;P.IN P.Size\t:"), 20708, 20119),
+    PlacedListRow(Right, Label(20609, "41;Gamma"), 20709, 20115),
+    PlacedListRow(Right, Label(20610, "115;Color Temp"), 20710, 20121),
     ExecuteRow(Bottom, Label(20611, "51;Reset"), 20711, 20120, 20643),
 };
 
 constexpr RowTemplate kImage4Rows[] = {
-    ListRow(Left, Label(20601, "46;Aspect\t\t:"), 20701, 20200),
+    PlacedListRow(Left, Label(20601, "46;Aspect\t\t:"), 20701, 20200),
     SliderRow(Left, Label(20602, "47;Over Scan\t:"), 20702, {20046, 20047, 20048, 20049}),
     PositionV(kImage4Arrows),
     PositionH(kImage4Arrows),

@@ -7,7 +7,15 @@ namespace AdvancedControl {
 /// Numbers of the controls that a page's template, its table and its class all name. A number is
 /// unique within a dialog.
 namespace ControlId {
+namespace Advance {
+inline constexpr int Close = 1;
+inline constexpr int Tabs = 20001;
+}  // namespace Advance
+
 namespace Status {
+inline constexpr int Power = 20008;
+inline constexpr int Error = 20010;
+inline constexpr int LampTime = 20014;
 inline constexpr int Reset = 20019;
 }  // namespace Status
 

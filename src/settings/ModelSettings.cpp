@@ -71,7 +71,7 @@ std::vector<std::string_view> AllKeys() {
     }
   };
   for (std::size_t page = 0; page < kPageCount; ++page) add(TableOf(static_cast<PageId>(page)));
-  for (const PageTable* popUp : {&kServiceRows, &kGammaRows, &kColorTempRows}) add(*popUp);
+  for (const PageTable* popUp : kPopUpTables) add(*popUp);
   return keys;
 }
 

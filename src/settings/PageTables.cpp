@@ -1,6 +1,7 @@
 #include "settings/PageTables.h"
 
 #include "device/ModelData.h"
+#include "settings/ControlId.h"
 #include "settings/picture/PictureRows.h"
 
 namespace AdvancedControl {
@@ -26,19 +27,21 @@ const PageTable& TableOf(PageId page) {
 
 // The pop-ups for the user's gamma and colour temperature need a model that has such entries.
 std::vector<PagePopUp> PopUpsOf(PageId page, const ModelData& model) {
-  if (page == PageId::OptionType5) return {{&kServiceRows, 20373, 20373}};
+  if (page == PageId::OptionType5)
+    return {{&kServiceRows, ControlId::OptionType5::Service, ControlId::OptionType5::Service}};
   const bool byValue = page == PageId::PictureType5;
   if (!byValue && page != PageId::Pic) return {};
   std::vector<PagePopUp> popUps;
   if (HasEntry(model.GammaList, [byValue](int position, int value) {
         return byValue ? value <= kLastCustomGamma : position <= kLastCustomGammaPosition;
       })) {
-    popUps.push_back({&kGammaRows, 20142, 20133});
+    popUps.push_back({&kGammaRows, ControlId::Picture::Gamma, ControlId::Picture::CustomGamma});
   }
   if (HasEntry(model.ColorTempList, [byValue](int position, int value) {
         return byValue ? value >= kFirstCustomColorTemp : position == kCustomColorTempPosition;
       })) {
-    popUps.push_back({&kColorTempRows, 20144, 20143});
+    popUps.push_back(
+        {&kColorTempRows, ControlId::Picture::ColorTemp, ControlId::Picture::CustomColorTemp});
   }
   return popUps;
 }

@@ -9,7 +9,7 @@
 
 namespace AdvancedControl {
 
-// The rows of every page, one line per row. Any thread.
+// The rows of every page and pop-up. Any thread.
 
 #define PAGE(identifier, number, pageClass) \
   PROJECTOR_SETTINGS_EXPORT extern const PageTable k##identifier##Rows;
@@ -19,6 +19,7 @@ namespace AdvancedControl {
 PROJECTOR_SETTINGS_EXPORT extern const PageTable kServiceRows;
 PROJECTOR_SETTINGS_EXPORT extern const PageTable kGammaRows;
 PROJECTOR_SETTINGS_EXPORT extern const PageTable kColorTempRows;
+inline constexpr const PageTable* kPopUpTables[] = {&kServiceRows, &kGammaRows, &kColorTempRows};
 
 /// The rows of a page.
 PROJECTOR_SETTINGS_EXPORT const PageTable& TableOf(PageId page);

@@ -112,7 +112,7 @@ std::optional<Call> ResetOf(const PageTable& table, const PageRow& row) {
 
 Range SliderRange(const ValueRow& row, const ModelData& model) {
   const Range fallback = row.range.Of(model.ModelCode);
-  if (row.rangeText == ValueRow::kNoRangeText) return fallback;
+  if (row.rangeText == kNoRangeText) return fallback;
   return ParseRange(model.RangeTexts[static_cast<std::size_t>(row.rangeText)], row.bias, fallback);
 }
 

@@ -127,6 +127,9 @@ struct RowReset {
   Call read{};
 };
 
+/// `ValueRow::rangeText` of a row for which hosts give no range.
+inline constexpr int kNoRangeText = -1;
+
 /// A setting with a number: a slider with − and +, or a field with two arrow buttons. Shown values
 /// are device values − `bias`. A step is sent only within the bounds, and the value is read back
 /// afterwards. If a step is refused, the slider returns and `error` is shown, unless that is 0.
@@ -135,8 +138,6 @@ struct RowReset {
 /// channel use the remembered shown value, the others read it first. If a stepper that addresses a
 /// channel leaves the value unchanged, the step was refused, and no error is shown.
 struct ValueRow {
-  static constexpr int kNoRangeText = -1;
-
   std::string_view key;
   int caption = 0;
   ValueIds ids{};

@@ -172,7 +172,7 @@ enum class Verb { None, Read, Write, StepUp, StepDown, Reset, TurnTo };
 
 /// How a named operation's value relates to the device value, which generic commands use.
 enum class ValueForm {
-  Device,    ///< The same.
+  Device,    ///< Equal to the device value.
   OneBased,  ///< Written as device − 1.
   TwoBased,  ///< Written as device − 2.
   Position,  ///< Written as the position in the setting's list of values.

@@ -54,6 +54,16 @@ int Direction(std::string_view key) {
   return key.ends_with("-h") ? 53 : 0;
 }
 
+/// The setting on the same tab whose own window has a setting such as "gamma.pattern"; null for
+/// settings of a page.
+const ModelSetting* OpenerOf(const ModelSettings& model, const ModelSetting& setting) {
+  const std::string end = '.' + std::string(setting.key.substr(0, setting.key.find('.')));
+  const auto opener = std::ranges::find_if(model.All(), [&](const ModelSetting& other) {
+    return other.tab == setting.tab && other.key.ends_with(end);
+  });
+  return opener == model.All().end() ? nullptr : &*opener;
+}
+
 /// The last part of a key in capitals: the caption of settings called the same in every language.
 std::string Abbreviation(std::string_view key) {
   return Wide(key.substr(key.rfind('.') + 1)).toUpper().toStdString();
@@ -90,8 +100,10 @@ std::string SettingTexts::Name(const ModelSettings& model, const ModelSetting& s
   std::string name = Caption(setting);
   if (isShared) {
     const int direction = Direction(setting.key);
-    name += direction != 0 ? ' ' + Text(kCaptionCategory, direction)
-                           : std::string(" (").append(setting.key) + ')';
+    const ModelSetting* const opener = OpenerOf(model, setting);
+    name += direction != 0
+                ? ' ' + Text(kCaptionCategory, direction)
+                : " (" + (opener != nullptr ? Caption(*opener) : std::string(setting.key)) + ')';
   }
   if (source) name += " (" + Source(model, *source) + ')';
   return name;

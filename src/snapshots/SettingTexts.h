@@ -32,8 +32,8 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
 
   /// The caption of a setting, as on its label.
   std::string Caption(const ModelSetting& setting) const;
-  /// The same, but unique on its tab: followed by "V" or "H", or else by its key, if other settings
-  /// have the same caption, and by the name of its input source, if one is given.
+  /// The same, but unique on its tab: if others have that caption, followed by "V" or "H" or the
+  /// caption of the setting whose window it is in; then by the name of the source, if one is given.
   std::string Name(const ModelSettings& model, const ModelSetting& setting,
                    std::optional<int> source) const;
   /// The name of an input source in the list of inputs, or else its number.

@@ -15,13 +15,25 @@ inline QString Isolated(const QString& text) {
 }
 
 /// Draws the texts of a view's items with `Isolated`. Copied texts and those for screen readers
-/// have no marks. User-interface thread only.
+/// have no marks. An empty check box can be seen on a dark background, too, where the frame that
+/// the style gives it is as dark. User-interface thread only.
 class IsolatedTexts : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   QString displayText(const QVariant& value, const QLocale& locale) const override {
     return Isolated(QStyledItemDelegate::displayText(value, locale));
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    constexpr int kDark = 128;
+    constexpr int kTwice = 200;  // percent
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QColor box = option->palette.color(QPalette::Base);
+    if (option->features.testFlag(QStyleOptionViewItem::HasCheckIndicator) &&
+        box.lightness() < kDark)
+      option->palette.setColor(QPalette::Base, box.lighter(kTwice));
   }
 };
 

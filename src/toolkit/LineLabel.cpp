@@ -10,8 +10,10 @@ constexpr int kMarginPart = 6;  // of the font's height
 
 }  // namespace
 
+int LineLabel::MarginOf(const QFontMetrics& metrics) { return metrics.height() / kMarginPart; }
+
 void LineLabel::SetMargin() {
-  const int margin = fontMetrics().height() / kMarginPart;
+  const int margin = MarginOf(fontMetrics());
   setContentsMargins(margin, margin, margin, margin);
 }
 

@@ -21,6 +21,8 @@ class LineLabel : public QLabel {
   /// Aligns a label with the side where its layout starts; QLabel follows the direction of its
   /// text.
   static void AlignToStart(QLabel& label);
+  /// The margin of a label with this font, in pixels.
+  static int MarginOf(const QFontMetrics& metrics);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }

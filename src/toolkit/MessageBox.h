@@ -8,8 +8,8 @@ class QWidget;
 
 namespace AdvancedControl {
 
-/// Title and buttons of a box. An empty title means that of the owner's window, an empty text of a
-/// button Qt's own.
+/// Title and buttons of a box. If the title is empty, the box has the title of the owner's window.
+/// If the text of a button is empty, the button has Qt's own text.
 struct BoxTexts {
   QString title{}, ok{}, yes{}, no{};
 };

@@ -14,7 +14,13 @@ constexpr int kAround = 16;   // at both sides of a number
 constexpr int kMargins = 12;  // the least around a number with a unit
 constexpr int kUnitMargin = 4;
 
-int UnitGap(const QFontMetrics& metrics) { return metrics.horizontalAdvance(QLatin1Char(' ')); }
+// A word is divided from the number; whether a sign such as "%" is depends on the language, and the
+// sign then begins with a space.
+bool IsWord(const QString& unit) { return !unit.isEmpty() && unit.front().isLetter(); }
+
+int UnitGap(const QFontMetrics& metrics, const QString& unit) {
+  return IsWord(unit) ? metrics.horizontalAdvance(QLatin1Char(' ')) : 0;
+}
 
 }  // namespace
 
@@ -28,9 +34,9 @@ NumberField::NumberField(QWidget* parent) : QLineEdit(parent) {
 void NumberField::SetUnit(const QString& unit, const QString& widest) {
   unit_ = unit;
   const QFontMetrics metrics = fontMetrics();
-  const int room = UnitGap(metrics) + metrics.horizontalAdvance(unit);
-  // In a mirrored layout the number stays at the right, and the unit is drawn at its left.
-  if (!isRightToLeft()) setTextMargins(0, 0, room, 0);
+  const int room = UnitGap(metrics, unit) + metrics.horizontalAdvance(unit);
+  // In a mirrored layout the number stays at the right, and a word is drawn at its left.
+  if (!isRightToLeft() || !IsWord(unit)) setTextMargins(0, 0, room, 0);
   setFixedWidth(std::max(width(), metrics.horizontalAdvance(widest) + room + kMargins));
 }
 
@@ -42,9 +48,9 @@ void NumberField::paintEvent(QPaintEvent* event) {
   QRect inside = style()
                      ->subElementRect(QStyle::SE_LineEditContents, &option, this)
                      .adjusted(kUnitMargin, 0, -kUnitMargin, 0);
-  if (isRightToLeft()) {
+  if (isRightToLeft() && IsWord(unit_)) {
     inside.setRight(inside.right() - fontMetrics().horizontalAdvance(text()) -
-                    UnitGap(fontMetrics()));
+                    UnitGap(fontMetrics(), unit_));
   }
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::Text));

@@ -4,9 +4,13 @@ import json
 import os
 import re
 import shutil
+import socket
+import socketserver
 import subprocess
 import sys
 import tempfile
+import threading
+import time
 import unittest
 from pathlib import Path
 
@@ -49,6 +53,34 @@ def write_rooms(path):
     path.write_text(json.dumps(profiles))
 
 
+class PjLinkProjector(socketserver.ThreadingTCPServer):
+    """A projector in standby. Notes at each new connection how many are open."""
+
+    daemon_threads = True
+
+    class Connection(socketserver.StreamRequestHandler):
+        def handle(self):
+            self.server.connections.append(self.connection)
+            self.server.open.append(sum(map(self.server.is_open, self.server.connections)))
+            self.wfile.write(b"PJLINK 0\r")
+            while request := self.rfile.read(len("%1POWR ?\r")):
+                time.sleep(0.02)  # meanwhile, others could connect
+                self.wfile.write(request[:6] + b"=0\r")
+
+    def __init__(self):
+        super().__init__(("127.0.0.1", 0), self.Connection)
+        self.port, self.connections, self.open = self.server_address[1], [], []
+
+    @staticmethod
+    def is_open(connection):
+        try:
+            return connection.recv(1, socket.MSG_PEEK | socket.MSG_DONTWAIT) != b""
+        except BlockingIOError:
+            return True
+        except OSError:
+            return False
+
+
 class Building(unittest.TestCase):
     """Each test has projectors of its own, in their first state, and a folder."""
 
@@ -79,6 +111,13 @@ class Building(unittest.TestCase):
         served["projectors"] = [profile for profile in served["projectors"] if profile["link"] == "network"]
         (self.folder / "served.json").write_text(json.dumps(served, indent=1))
         return simulator
+
+    def start_projector(self):
+        projector = PjLinkProjector()
+        self.addCleanup(projector.server_close)
+        threading.Thread(target=projector.serve_forever, args=(0.01,), daemon=True).start()
+        self.addCleanup(projector.shutdown)
+        return projector
 
     def stop(self, simulator):
         simulator.terminate()

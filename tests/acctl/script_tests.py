@@ -299,6 +299,24 @@ class Watching(Building):
             self.assertEqual({line["name"] for line in told}, {"Seminar 1", "Seminar 2"})
         self.assertEqual((change["name"], change["old"]["code"], change["new"]["code"]), ("Seminar 2", "0", "5"))
 
+    def test_entries_with_one_address_have_one_connection(self):
+        projector = self.start_projector()
+        rooms = json.loads((self.folder / "served.json").read_text())
+        rooms["projectors"] = [{**self.pjlink[0], "name": host, "identity": "id:" + host,
+                                "connection": {"network": {"address": host, "port": projector.port}}}
+                               for host in ("localhost", "LOCALHOST")]
+        (self.folder / "served.json").write_text(json.dumps(rooms))
+        self.environment["XDG_CACHE_HOME"] = "/dev/null"  # no locks
+        self.check(["get", "*", "power", "--where", "power=standby"], 0, "^localhost .*\n(.*\n)*LOCALHOST .*Standby$")
+        watch = self.start("watch", "*", "power", "--interval", "0.05")
+        lines = sorted(watch.stdout.readline().split()[0] for _ in range(2))
+        self.assertEqual((lines, max(projector.open)), (["LOCALHOST", "localhost"], 1))
+        begun = len(projector.open)
+        while len(projector.open) < begun + 4:  # they go on in turns
+            time.sleep(0.01)
+        watch.terminate()
+        self.assertEqual((watch.wait(60), max(projector.open)), (0, 1))
+
     def test_who_lacks_a_key_is_told_and_not_waited_for(self):
         lacks = "Office: active-iris: this model has no such setting"
         self.check(["watch", "*", "active-iris", "contrast", "--wait", "0.3"], 1, "^Office .* Contrast", lacks)

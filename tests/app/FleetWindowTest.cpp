@@ -133,8 +133,14 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
       alerts.Open(),
       (std::vector{Alert{Rows(window)[1].id, Alert::Kind::Problem, ProjectorPart::Temperature}}));
   EXPECT_EQ(alerts.findChild<QTreeWidget*>()->topLevelItem(0)->text(1), "B: Temperature");
-  Find<QPushButton>(alerts, "Acknowledge All").click();
-  EXPECT_FALSE(Rows(window)[1].hasAlert);
+  const auto& list = *alerts.findChild<QTreeWidget*>();
+  list.topLevelItem(0)->setSelected(true);
+  window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
+  ASSERT_TRUE(Soon([&] { return list.topLevelItemCount() == 2; }));
+  Find<QPushButton>(alerts, "Acknowledge").click();
+  EXPECT_FALSE(Rows(window)[1].hasAlert) << "it stayed selected while another came";
+  EXPECT_TRUE(Rows(window)[0].hasAlert);
+  window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 0);
   raise(0);
   EXPECT_TRUE(Soon([&] { return alerts.findChild<QTreeWidget*>()->topLevelItemCount() == 0; }));
   raise(4);

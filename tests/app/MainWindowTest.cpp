@@ -15,6 +15,7 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -124,6 +125,20 @@ TEST(MainWindow, TellsADialogTheRatedHoursAndTheWantedPreset) {
   EXPECT_EQ(window.Dialog(row), dialog);
   EXPECT_EQ(tabs.tabText(1), "Picture") << "nothing is wanted any more";
   qunsetenv("XDG_DATA_HOME");
+}
+
+TEST(MainWindow, SaysThatAFileWasSaved) {
+  const QTemporaryDir folder;
+  MainWindow window(Shipped(folder));
+  window.show();
+  for (const char* save : {"Export Table", "Save Log As", "Save Profiles As"}) {
+    const QString path = folder.filePath(QString(save) + ".saved");
+    AnswerQuestionOf(Find<QAction>(window, save), [&path](QDialog& question) {
+      Q_EMIT qobject_cast<QFileDialog*>(&question)->fileSelected(path);
+    });
+    EXPECT_TRUE(QFile::exists(path));
+    EXPECT_EQ(window.statusBar()->currentMessage(), "Saved in " + path + '.');
+  }
 }
 
 TEST(MainWindow, SaysWhyThereIsNoCatalog) {

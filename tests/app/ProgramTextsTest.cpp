@@ -78,6 +78,12 @@ void ExpectRoom(const QWidget& window) {
   }
 }
 
+bool IsWhite(const QImage& image) {
+  QImage white(image.size(), image.format());
+  white.fill(Qt::white);
+  return image == white;
+}
+
 /// The window and the dialogs that need no projector.
 void ForEachWindow(const std::function<void(QWidget&)>& look) {
   const QTemporaryDir folder;
@@ -158,6 +164,22 @@ TEST(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
   ASSERT_EQ(times.size(), 2);
   times.front()->setTime(QTime(22, 30));
   EXPECT_EQ(times.front()->text(), "22:30");
+  InstallTranslations(kEnglishUnitedStates);
+}
+
+TEST(ProgramTexts, FactsInLatinLettersBeginAtTheRightFromRightToLeftToo) {
+  InstallTranslations(LanguageIdOf("he").value());
+  DetailsPanel panel({});
+  const ProjectorRow row{.id = "a", .profile = Profile("A")};
+  panel.Show(&row, 1, {});
+  for (auto* label : panel.findChildren<QLabel*>("value")) {
+    label->resize(400, 60);
+    QImage image(label->size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    label->render(&image, {}, {}, {});
+    EXPECT_TRUE(IsWhite(image.copy(0, 0, 200, 60))) << label->text().toStdString();
+    EXPECT_FALSE(IsWhite(image)) << label->text().toStdString();
+  }
   InstallTranslations(kEnglishUnitedStates);
 }
 

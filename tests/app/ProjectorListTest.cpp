@@ -6,6 +6,7 @@
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -127,8 +128,9 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   const auto before = inFile();
   const QByteArray text = Shipped(folder).Text();
 
-  Answer(Find<QAction>(window, "Add"), [](QDialog& editor) {
+  AnswerQuestionOf(Find<QAction>(window, "Add"), [](QDialog& editor) {
     EXPECT_FALSE(Accept(editor)) << "without a name";
+    EXPECT_GE(Find<QComboBox>(editor, "Model").findText("QD-M7450"), 0);
     Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}});
     EXPECT_FALSE(Accept(editor)) << "without an address";
     Fill(editor, {{"Address", "192.0.2."}});
@@ -147,7 +149,7 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
 
   CAdvanceDlg* open = window.OpenDialog(0);
   list.Select(1);
-  Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) {
+  AnswerQuestionOf(Find<QAction>(window, "Edit"), [](QDialog& editor) {
     Field(editor, "Name").setText("A \"大厅\"");
     EXPECT_TRUE(Accept(editor));
   });
@@ -155,7 +157,7 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(others[1].name, "A \"大厅\"");
   EXPECT_EQ(Selected(window), "A \"大厅\"");
   EXPECT_EQ(window.Dialog(0), open) << "nothing changed for it";
-  Answer(Find<QAction>(window, "Duplicate"), [](QDialog& editor) {
+  AnswerQuestionOf(Find<QAction>(window, "Duplicate"), [](QDialog& editor) {
     EXPECT_EQ(Field(editor, "Name").text(), "A \"大厅\" (2)");
     EXPECT_FALSE(Accept(editor)) << "the copy has no address yet";
     Choose(editor, "Reached through", "Serial port");
@@ -166,16 +168,17 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     EXPECT_TRUE(Accept(editor));
   });
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(SerialAddress{"/dev/ttyUSB0", 9600}));
-  Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) {
+  AnswerQuestionOf(Find<QAction>(window, "Edit"), [](QDialog& editor) {
     Choose(editor, "Reached through", "PJLink");
     Fill(editor, {{"Address", "192.0.2.7"}, {"Port", "4352"}, {"Password", " open "}});
     EXPECT_TRUE(Accept(editor));
   });
-  Answer(Find<QAction>(window, "Edit"), [](QDialog& editor) { EXPECT_TRUE(Accept(editor)); });
+  AnswerQuestionOf(Find<QAction>(window, "Edit"),
+                   [](QDialog& editor) { EXPECT_TRUE(Accept(editor)); });
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(PjLinkAddress{"192.0.2.7", 4352, " open "}));
 
   Table(window).selectAll();
-  Answer(Find<QAction>(window, "Tag"), [](QDialog& question) {
+  AnswerQuestionOf(Find<QAction>(window, "Tag"), [](QDialog& question) {
     question.findChild<QLineEdit*>()->setText("new, -Library");
     question.accept();
   });
@@ -185,12 +188,12 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     EXPECT_EQ(std::ranges::count(profile.tags, "Library"), 0);
   }
   list.Select(0);
-  Answer(Find<QAction>(window, "Remove"), [](QDialog& question) {
+  AnswerQuestionOf(Find<QAction>(window, "Remove"), [](QDialog& question) {
     EXPECT_EQ(question.focusWidget()->property("text"), "Cancel") << "nothing to lose by Enter";
   });
   EXPECT_EQ(inFile().size(), before.size() + 2) << "asked, and answered with Esc";
-  Answer(Find<QAction>(window, "Remove"),
-         [](QDialog& question) { Find<QPushButton>(question, "Remove").click(); });
+  AnswerQuestionOf(Find<QAction>(window, "Remove"),
+                   [](QDialog& question) { Find<QPushButton>(question, "Remove").click(); });
   EXPECT_EQ(inFile()[0].name, "A \"大厅\"");
   EXPECT_EQ(list.Model().rowCount(), static_cast<int>(before.size()) + 1);
 
@@ -199,6 +202,17 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(Shipped(folder).Text(), text);
   while (undo->canRedo()) undo->redo();
   EXPECT_EQ(inFile().size(), before.size() + 1);
+}
+
+TEST(ProjectorList, KeepsRoomForATagWhereThereIsLess) {
+  const QTemporaryDir folder;
+  MainWindow window(Shipped(folder));
+  auto& list = *window.findChild<ProjectorView*>();
+  const int less = list.UsualWidth() - 150;
+  list.FitColumns(less);
+  EXPECT_EQ(list.UsualWidth(), less);
+  EXPECT_GT(list.Columns().sectionSize(ProjectorColumns::Place),
+            list.fontMetrics().horizontalAdvance("Building A"));
 }
 
 TEST(ProjectorList, OffersToAddRealOnesWhileAllAreSimulated) {
@@ -225,10 +239,11 @@ TEST(ProjectorList, AFileThatCannotBeWrittenIsSaidBeforeAnybodyTypes) {
   const QTemporaryDir folder;
   for (const char* edit :
        {"Add", "Edit", "Duplicate", "Remove", "Tag", "Import Table", "Find on the Network"}) {
-    Answer(Find<QAction>(window, edit),
-           [](QDialog& question) { EXPECT_EQ(question.windowTitle(), "Read-Only File"); });
+    AnswerQuestionOf(Find<QAction>(window, edit), [](QDialog& question) {
+      EXPECT_EQ(question.windowTitle(), "Read-Only File");
+    });
   }
-  Answer(Find<QAction>(window, "Edit"), [&](QDialog& question) {
+  AnswerQuestionOf(Find<QAction>(window, "Edit"), [&](QDialog& question) {
     Find<QPushButton>(question, "Save Profiles As").click();
     auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(ask, nullptr);

@@ -78,7 +78,7 @@ inline ProfileDocument Shipped(const QTemporaryDir& folder) {
 }
 
 /// Triggers an action that opens a modal dialog, and answers the dialog.
-inline void Answer(QAction& action, const std::function<void(QDialog&)>& answer) {
+inline void AnswerQuestionOf(QAction& action, const std::function<void(QDialog&)>& answer) {
   action.trigger();
   const QPointer dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   ASSERT_NE(dialog, nullptr);

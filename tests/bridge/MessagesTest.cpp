@@ -112,7 +112,7 @@ class DiscoveryOf : public testing::Test {
 TEST_F(DiscoveryOf, AProjectorThatIsOnlyWatchedHasOnlySensors) {
   const QJsonObject message = Of(FullModel(5, 30), {});
   EXPECT_EQ(message["device"].toObject()["name"], "Hall \"1\"");
-  EXPECT_EQ(message["device"].toObject()["connections"].toArray()[0].toArray()[1],
+  EXPECT_EQ(message["device"].toObject()["connections"].toArray().at(0).toArray().at(1),
             "00:00:5e:00:53:01");
   EXPECT_EQ(message["availability"].toArray().size(), 2);
   const QJsonObject components = message["components"].toObject();

@@ -123,7 +123,7 @@ class Bridges {
   ShareKeeper::Time Now() const { return now_; }
 
  private:
-  /// As a new run, with a name that decides as before.
+  /// Starts a bridge again. Its name changes, but sorts among the others as before.
   void StartAgain(One& one) {
     one.name += '\'';
     one.keeper = std::make_unique<ShareKeeper>(one.name, kTakeover, now_);

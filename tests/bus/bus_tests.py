@@ -94,7 +94,7 @@ OPERATIONS = [
 ]
 
 def without_unit(description):
-    return re.sub("\xa0(min|%)$", "", description)
+    return re.sub("\xa0min$|\xa0?%$", "", description)
 
 
 # Roles of numbers, choices and states; actions are buttons.

@@ -222,4 +222,23 @@ TEST_F(FleetJobTest, StopsAtOnceWhenItIsCancelled) {
   job.Wait();
 }
 
+// Somebody else's turn must not shorten the wait for a connection.
+TEST(JobLoopTest, WakesOnlyWorkThatPauses) {
+  struct Nothing : JobLoop::Receiver {
+    void Connected() override {}
+    void NotConnected(ConnectionState, SessionTime) override {}
+    void Received(std::string_view, SessionTime) override {}
+    void Closed(SessionTime) override {}
+  } nothing;
+  JobLoop loop;
+  const JobLoop::Peer peer = loop.Add(nothing);
+  loop.Run(3, [&](std::size_t number) {
+    const auto end = std::chrono::steady_clock::now() + 50ms;
+    if (number == 0) return JobLoop::Pause(SessionTime::max());
+    if (number == 1) return loop.WakeAll();
+    loop.Wait(peer, end);
+    EXPECT_GE(std::chrono::steady_clock::now(), end);
+  });
+}
+
 }  // namespace

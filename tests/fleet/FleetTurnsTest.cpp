@@ -8,6 +8,7 @@
 
 #include "device/CommandCode.h"
 #include "fleet/MakeVisit.h"
+#include "fleet/StatusItems.h"
 #include "tests/fleet/SteppedFleet.h"
 
 namespace {
@@ -25,9 +26,17 @@ TEST(FleetTurns, StaysAwayWhileSomebodyElseWorks) {
   fleet.watcher.Pause("a");
   fleet.watcher.Pause("a");
   EXPECT_EQ(it.open, 0);
-  fleet.states.Learn("a", {PjtOperation::Get, CommandCode::InputSource}, {.result = 1, .value = 32},
-                     {});
-  EXPECT_EQ(fleet.State("a").source, (PlayingSource{32, ""}));
+  fleet.states.Change("a", [](LiveState& state) { state.source = {32, "HDMI"}; });
+  const auto learn = [&fleet](std::int16_t source) {
+    fleet.states.Learn("a", {PjtOperation::Get, CommandCode::InputSource},
+                       {.result = 1, .value = source}, {});
+    return fleet.State("a").source;
+  };
+  EXPECT_EQ(learn(32), (PlayingSource{32, "HDMI"})) << "the name stays that of the same source";
+  EXPECT_EQ(learn(31), (PlayingSource{31, ""}));
+  fleet.states.Change("a", [](LiveState& state) { TakePower(state, PowerState::Standby); });
+  EXPECT_EQ(learn(31), std::nullopt);
+  fleet.states.Change("a", [](LiveState& state) { TakePower(state, PowerState::On); });
   fleet.watcher.Resume("a");
   fleet.RunFor(200s);
   EXPECT_EQ(it.connections.size(), 1);
@@ -104,7 +113,7 @@ TEST(FleetTurns, KnowsAnAddressHoweverItIsWritten) {
   };
   EXPECT_EQ(place("2001:DB8:0::7"), "2001:db8::7");
   EXPECT_EQ(place("::ffff:192.0.2.7"), "192.0.2.7");
-  EXPECT_EQ(place("hall.example"), "hall.example");
+  EXPECT_EQ(place("Hall.example"), "hall.example");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Projectors found on the network, and what becomes of them in a profile file.
+// Finding projectors on the network, and entering them in a profile file.
 
 #include <algorithm>
 #include <chrono>

@@ -184,6 +184,22 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_FALSE(brightness.toolTip().contains(QStringLiteral("Wanted")));
 }
 
+TEST_F(WantedTest, BothMarksOfARowLieInsideTheFrame) {
+  open.Projector().Refuse("SetBrightness");
+  open.Driver().Drag(kBrightness, 6);
+  const QImage marked = open.Dialog().grab().toImage();
+  open.Dialog().findChild<RowMarks*>()->hide();
+  const QImage plain = open.Dialog().grab().toImage();
+  int first = 0;
+  const auto isSame = [&](int x) {
+    const QRect column(x, 0, 1, plain.height());
+    return marked.copy(column) == plain.copy(column);
+  };
+  while (first < plain.width() && isSame(first)) ++first;
+  EXPECT_GT(first, open.Dialog().findChild<QTabBar*>()->x());
+  EXPECT_LT(first, plain.width());
+}
+
 TEST(WantedOfAnInputSource, AsksForTheSourceOnlyIfTheValueIsWanted) {
   OpenDialog open(FullModel(1, 1), kOptionTab,
                   [](RecordingChannel& projector) { projector.Answer("GetInputSource", 3); });

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -77,6 +78,7 @@ TEST_F(CatalogTest, SystemLanguage) {
       {2057, {"en_GB"}},
       {1031, {"de_DE@euro", "de"}},
       {1041, {"ja_JP.eucJP"}},
+      {1068, {"az_AZ", "AZ_AZ"}},
       {1033, {"en_US.UTF-8", "en", "C", "C.UTF-8", "POSIX", "xx_YY", "???"}},
       // The locale library hangs or fails on some of these.
       {1033, {"i-default_DE", "i-klingon", "x", "_", "12_34", "-"}},
@@ -159,6 +161,18 @@ TEST_F(CatalogTest, TheTextsOfAllModulesNameTheModuleThatIsMissing) {
   Touch("mcschn.dll");
   EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(),
             "./mcschn.dll is damaged or cannot be read; its texts are missing");
+  fs::create_directory("second");
+  TestModule({{2052, {{kFirst, {Unicode(u"a\r\n")}}}}}).Save("second/mcschn.dll");
+  const std::string both[] = {".", "second"};
+  EXPECT_FALSE(CatalogTexts(both).Find(2052, 4, 1)) << "the first file counts";
+  EXPECT_EQ(CatalogTexts(std::span(both).last(1)).Find(2052, 4, 1), "a");
+}
+
+TEST_F(CatalogTest, ModulesAreLookedForBesideTheLibraryAndInItsShare) {
+  const auto folders = CatalogFolders();
+  for (const char* share : {"/../share/advanced-control", "/../../share/advanced-control"}) {
+    EXPECT_EQ(std::ranges::count(folders, folders.front() + share), 1) << share;
+  }
 }
 
 TEST_F(CatalogTest, EachCallUsesThePresentLanguage) {
@@ -237,8 +251,12 @@ TEST_F(CatalogTest, AMessageThatCannotBeFormattedFallsBack) {
 }
 
 TEST_F(CatalogTest, InvalidNumbers) {
-  LoadTables({{1033, {{0xFFFF, {Unicode(u"lowest\r\n")}}, {kFirst, {Unicode(u"text\r\n")}}}}});
+  LoadTables({{1033,
+               {{0xFFFF, {Unicode(u"lowest\r\n")}},
+                {kFirst, {Unicode(u"text\r\n")}},
+                {0xFFFF0000, {Unicode(u"highest\r\n")}}}}});
   EXPECT_EQ(CatalogText(-256, 0xFFFF), "lowest");
+  EXPECT_EQ(CatalogText(0xFEFF, 0), "highest");
   constexpr std::pair<int, int> kNone[] = {{4, 0},       {4, 2},    {3, 0x10001}, {4, -1},
                                            {0x10004, 1}, {-257, 1}, {5, 0x1FFFF}};
   for (const auto& [category, number] : kNone) {

@@ -140,7 +140,7 @@ class TestModule {
         Put16(entryAt, static_cast<std::uint32_t>(length));
         Put16(entryAt + 2, entry.flags);
         bytes.resize(entryAt + length);
-        std::memcpy(&bytes[entryAt + 4], entry.bytes.data(), entry.bytes.size());
+        std::memcpy(bytes.data() + entryAt + 4, entry.bytes.data(), entry.bytes.size());
         entryAt += length;
       }
     }

@@ -29,7 +29,7 @@ struct OptionPage : OpenDialog {
   COption5TabDlg& Option() { return static_cast<COption5TabDlg&>(Page()); }
 };
 
-TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsAreUsed) {
+TEST(OptionType5, WithoutAListOfTheModelTheTemplatesFunctionsAreUsed) {
   for (const int code : {30, 47}) {  // even a model without rows sends functions, not positions
     OptionPage open(OptionModel(code, {}));
     EXPECT_EQ(open.Driver().Entries(20371).size(), 12);
@@ -47,7 +47,7 @@ TEST(Option5, WithoutAListOfTheModelTheTemplatesFunctionsAreUsed) {
 }
 
 // A source's code is the low half of its word. For this read, any result but 0 is a success.
-TEST(Option5, MySourceAcceptsAnyResultOfAReadAndKeepsARefusedChoice) {
+TEST(OptionType5, MySourceAcceptsAnyResultOfAReadAndKeepsARefusedChoice) {
   OptionPage open(49);
   const DialogDriver driver = open.Driver();
   open.Projector().AnswerResult("Get 0x3620", 2);
@@ -63,7 +63,7 @@ TEST(Option5, MySourceAcceptsAnyResultOfAReadAndKeepsARefusedChoice) {
   EXPECT_EQ(driver.Selected(20374), 0);
 }
 
-TEST(Option5, AnOpenDialogTakesOtherSources) {
+TEST(OptionType5, AnOpenDialogTakesOtherSources) {
   OptionPage open(49);
   open.Projector().Answer("Get 0x3620", 3);
   SourceList sources;
@@ -73,7 +73,7 @@ TEST(Option5, AnOpenDialogTakesOtherSources) {
   EXPECT_EQ(open.Driver().Selected(20374), 0) << "it is read again";
 }
 
-TEST(Option5, ServiceOpensForTheModelOnTheSameProjector) {
+TEST(OptionType5, ServiceOpensForTheModelOnTheSameProjector) {
   OptionPage open(44);
   WhenModal("CServiceDlg", [&](CDialog& dialog) {
     const auto& service = static_cast<CServiceDlg&>(dialog);

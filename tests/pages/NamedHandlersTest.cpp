@@ -37,21 +37,23 @@ void ExpectOwnControls(int tab, const Handlers<Page>& handlers) {
       Open(*popUp);
     }
     RowDialog& page = popUp ? *popUp : open.Page();
+    if (dynamic_cast<Page*>(&page) == nullptr) continue;  // Not every model has the page.
     const DialogDriver driver(page);
     open.Projector().Take();
     for (const auto& [control, handler] : handlers) {
       auto& widget = driver.Item<QWidget>(control);
-      if (!widget.isVisible() || !tried.insert(control).second) continue;
+      if (!widget.isVisible() || tried.contains(control)) continue;
       SCOPED_TRACE(NameOf(widget));
-      const bool isList = qobject_cast<CComboBox*>(&widget) != nullptr;
-      isList ? driver.Choose(control, 1) : driver.Click(control);
+      const auto* const list = qobject_cast<CComboBox*>(&widget);
+      if (list != nullptr && list->count() < 2) continue;
+      list != nullptr ? driver.Choose(control, 1) : driver.Click(control);
       const auto sent = open.Projector().TakeChanges();
       (static_cast<Page&>(page).*handler)();
-      EXPECT_EQ(sent.size(), 1);
       EXPECT_EQ(open.Projector().TakeChanges(), sent);
+      if (sent.size() == 1) tried.insert(control);
     }
   }
-  EXPECT_EQ(tried.size(), handlers.size());
+  for (const auto& [control, handler] : handlers) EXPECT_TRUE(tried.contains(control)) << control;
 }
 
 TEST(NamedHandlers, Picture5) {
@@ -113,7 +115,6 @@ TEST(NamedHandlers, Setup5) {
                            {Id::Mirror, &Page::OnCbnSelchangeStu5Mircomb},
                            {Id::Speaker, &Page::OnCbnSelchangeStu5Speakercomb},
                            {Id::DZoomMinus, &Page::OnBnClickedDzoomDecBtn},
-                           {Id::DZoomPlus, &Page::OnBnClickedDzoomIncBtn},
                            {Id::DShiftVPlus, &Page::OnBnClickedDshiftUpBtn},
                            {Id::DShiftVMinus, &Page::OnBnClickedDshiftDownBtn},
                            {Id::DShiftHMinus, &Page::OnBnClickedDshiftLeftBtn},
@@ -165,7 +166,7 @@ TEST(NamedHandlers, Audio5) {
                               {Id::HdmiAudio, &Page::OnCbnSelchangeAud5Hdmiaudiocomb}});
 }
 
-TEST(NamedHandlers, Option5) {
+TEST(NamedHandlers, OptionType5) {
   namespace Id = ControlId::OptionType5;
   using Page = COption5TabDlg;
   ExpectOwnControls<Page>(6, {{Id::MyButton1, &Page::OnCbnSelchangeOpt5Mybtn1comb},
@@ -175,7 +176,6 @@ TEST(NamedHandlers, Option5) {
                               {Id::AutoOn, &Page::OnCbnSelchangeOpt5Atoncomb},
                               {Id::AutoOffMinus, &Page::OnBnClickedOpt5Btnatoffneg},
                               {Id::AutoOffPlus, &Page::OnBnClickedOpt5Btnatoffpos},
-                              {Id::MySource, &Page::OnCbnSelchangeOpt5Mysrccomb},
                               {Id::CcDisplay, &Page::OnCbnSelchangeOth4CcdisplayComb},
                               {Id::CcMode, &Page::OnCbnSelchangeOth4CcmodeComb},
                               {Id::CcChannel, &Page::OnCbnSelchangeOth4CcchannelComb}});

@@ -77,6 +77,8 @@ constexpr Case kCases[] = {
      "Not accepted: Brightness 6. The projector has 0.", 20136},
     {"step", 5, 30, 1, [](const DialogDriver& page) { page.Click(20135); }, "Inc 0x2003",
      "Not accepted: Brightness +. The projector has 0.", 20136, 1},
+    {"arrow", 1, 1, 3, [](const DialogDriver& page) { page.Click(21053); }, "Dec 0x2101",
+     "Not accepted: Position H →. The projector has 0.", 20022, 1},
     {"list", 5, 30, 1, [](const DialogDriver& page) { page.Choose(20293, 1); }, "Set 0x3304",
      "Not accepted: Active Iris Theater. The projector has Off.", 20293, 1},
     {"memory", 5, 30, 1, [](const DialogDriver& page) { page.Click(21065); }, "SetMyMemory",

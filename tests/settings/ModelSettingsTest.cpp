@@ -110,14 +110,14 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
       // The step was made, but its answer got lost.
       {{kRefused, kRefused, {.refused = true, .value = 11}, {.value = 12}}, Sent::Accepted},
   };
-  for (const auto& [steps, sent] : cases) {
+  for (const Case& one : cases) {
     std::size_t made = 0;
-    const auto step = [&made, &answers = steps](bool upwards, int) {
+    const auto step = [&made, &one](bool upwards, int) {
       EXPECT_TRUE(upwards);
-      return answers.at(made++);
+      return one.steps.at(made++);
     };
-    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), sent) << made;
-    EXPECT_EQ(made, steps.size());
+    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), one.sent) << made;
+    EXPECT_EQ(made, one.steps.size());
   }
 }
 

@@ -33,6 +33,7 @@ TEST(Restoration, RestoresEveryProjectorAndCanBeUndone) {
     for (const ModelSetting& setting : target.settings.All()) {
       const std::string name = Texts().Name(target.settings, setting, {});
       EXPECT_TRUE(names.insert(Texts().Tab(setting) + name).second) << name;
+      EXPECT_EQ(name.find(setting.key), std::string::npos) << name << ": keys are for programs";
     }
     target.ChangeAll(1);
     target.channel->count = 0;

@@ -29,7 +29,7 @@ class PacedProjector final : public ProjectorChannel {
     return reply;
   }
 
-  /// Sets the time for further commands. Zero also ends the command that waits.
+  /// Sets how long further commands take. Zero also ends the command that waits.
   void Pace(std::chrono::milliseconds pace) {
     const std::lock_guard lock(mutex_);
     pace_ = pace;

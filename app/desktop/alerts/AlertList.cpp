@@ -7,6 +7,8 @@
 #include <QHeaderView>
 #include <QLocale>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QSet>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -17,6 +19,14 @@ namespace {
 
 constexpr int kGap = 30;  // beside the time
 constexpr int kButtonMargin = 6;
+constexpr int kIdentityRole = Qt::UserRole + 1;
+
+QString IdentityOf(const Alert& alert) {
+  return QStringLiteral("%1 %2 %3")
+      .arg(static_cast<int>(alert.kind))
+      .arg(static_cast<int>(alert.part))
+      .arg(QString::fromStdString(alert.id));
+}
 
 /// The number in the text of an alert; 0 if it has none.
 int NumberOf(const Alert& alert, const ProjectorRow& row) {
@@ -126,17 +136,26 @@ void AlertList::Acknowledge(bool all) {
 void AlertList::Show() {
   QFont bold = list_->font();
   bold.setBold(true);
+  QSet<QString> selected;  // the user may be about to acknowledge these
+  for (const QTreeWidgetItem* item : list_->selectedItems())
+    selected.insert(item->data(0, kIdentityRole).toString());
+  const int place = list_->verticalScrollBar()->value();
   QList<QTreeWidgetItem*> items;
   items.reserve(static_cast<qsizetype>(alerts_.size()));
   for (const auto& [alert, entry] : alerts_) {
     auto* item = new QTreeWidgetItem(
         {entry.since, entry.text, entry.isAcknowledged ? tr("acknowledged") : tr("open")});
     item->setData(0, Qt::UserRole, QString::fromStdString(alert.id));
+    item->setData(0, kIdentityRole, IdentityOf(alert));
     if (!entry.isAcknowledged) item->setFont(1, bold);
     items += item;
   }
   list_->clear();
   list_->addTopLevelItems(items);
+  for (QTreeWidgetItem* item : items) {
+    if (selected.contains(item->data(0, kIdentityRole).toString())) item->setSelected(true);
+  }
+  list_->verticalScrollBar()->setValue(place);
   acknowledge_->setEnabled(!alerts_.empty());
   acknowledgeAll_->setEnabled(!Open().empty());
 }

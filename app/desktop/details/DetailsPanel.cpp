@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
 #include <QDateTime>
 #include <QFrame>
 #include <QGridLayout>
@@ -34,12 +35,24 @@ QLabel* WithRoom(QLabel* label) {
   return label;
 }
 
+// A label aligns its text by the direction of the text, such as a name's, if it is not told to.
 QLabel* PlainLabel(const QString& text = {}) {
   auto* label = WithRoom(new QLabel(text));
+  label->setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute |
+                      (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setObjectName(QStringLiteral("value"));
   return label;
+}
+
+// In the direction of the window, whatever script the first part is in.
+QString Joined(QStringList parts) {
+  if (QApplication::isRightToLeft()) {
+    for (QString& part : parts) part = Isolated(part);
+    parts.front().prepend(QChar(0x200F));  // right-to-left mark
+  }
+  return parts.join(QStringLiteral(" · "));
 }
 
 QString ModelAndAddress(const FleetProfile& profile) {
@@ -47,7 +60,7 @@ QString ModelAndAddress(const FleetProfile& profile) {
                     profile.link == ProjectorLink::Simulated ? DetailsPanel::tr("simulated")
                                                              : ConnectionText(profile.connection)};
   for (const std::string& tag : profile.tags) parts += QString::fromStdString(tag);
-  return parts.join(QStringLiteral(" · "));
+  return Joined(parts);
 }
 
 QString TimeOf(WallTime time) {
@@ -170,7 +183,7 @@ void DetailsPanel::Show(const ProjectorRow* row, std::size_t count,
   place_->setText(ModelAndAddress(row->profile));
   sign_->setPixmap(StateTexts::Icon(HealthOf(*row)).pixmap(kSignSize));
   ShowFacts(*row);
-  ShowHistory(history);
+  ShowHistory(*row, history);
 }
 
 void DetailsPanel::ShowFacts(const ProjectorRow& row) {
@@ -198,7 +211,7 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
   const std::array<QString, FactCount> texts{
       StateTexts::State(row),
       StateTexts::Power(state),
-      StateTexts::Source(state),
+      StateTexts::Source(state, row.profile.model),
       problems,
       switched,
       lampText,
@@ -210,11 +223,12 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
 }
 
 // The newest at the top.
-void DetailsPanel::ShowHistory(const std::vector<StateChange>& history) {
+void DetailsPanel::ShowHistory(const ProjectorRow& row, const std::vector<StateChange>& history) {
   QStringList texts;
   for (auto change = history.rbegin(); change != history.rend(); ++change)
     if (IsEvent(*change) && !IsOfFirstReading(*change, history))
-      texts += tr("%1  %2").arg(TimeOf(change->time), StateTexts::Change(*change));
+      texts +=
+          tr("%1  %2").arg(TimeOf(change->time), StateTexts::Change(*change, row.profile.model));
   if (texts.isEmpty()) texts += tr("nothing yet");
   if (texts.size() == events_->count() && texts.first() == events_->item(0)->text()) return;
   events_->clear();

@@ -42,7 +42,7 @@ class DetailsPanel : public QWidget {
   };
 
   void ShowFacts(const ProjectorRow& row);
-  void ShowHistory(const std::vector<StateChange>& history);
+  void ShowHistory(const ProjectorRow& row, const std::vector<StateChange>& history);
 
   QLabel* name_;
   QLabel* place_;

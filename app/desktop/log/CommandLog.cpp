@@ -145,7 +145,8 @@ void CommandLog::AskAndSave() {
               .filter = tr("Tables (*.tsv);;All files (*)")},
              [this](const QString& path) {
                const QString error = Save(path);
-               if (!error.isEmpty()) ShowError(*this, tr("Save Log"), error);
+               if (!error.isEmpty()) return ShowError(*this, tr("Save Log"), error);
+               ShowSaved(*this, path);
              });
 }
 

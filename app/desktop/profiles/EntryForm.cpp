@@ -51,6 +51,24 @@ QLineEdit* EntryForm::AddField(const QString& caption, const char* path) {
   return field;
 }
 
+QLineEdit* EntryForm::AddChoice(const QString& caption, const char* path,
+                                const QStringList& choices) {
+  auto* list = new CComboBox;
+  list->setEditable(true);
+  list->setInsertPolicy(QComboBox::NoInsert);
+  list->addItems(choices);
+  const QString text = TextOf(ValueAt(entry_, path));
+  list->setCurrentIndex(list->findText(text));
+  QLineEdit* field = list->lineEdit();
+  field->setText(text);
+  field->setObjectName(path);
+  auto* label = new QLabel(caption);
+  label->setBuddy(field);
+  list->setAccessibleName(WithoutMnemonic(caption));
+  form_->addRow(label, list);
+  return field;
+}
+
 CComboBox* EntryForm::AddList(const QString& caption, const char* path) {
   auto* list = new CComboBox;
   list->setObjectName(path);
@@ -76,7 +94,9 @@ QJsonValue EntryForm::ValueOf(const QLineEdit* field, bool keepsSpaces) const {
 }
 
 QString EntryForm::CaptionOf(QWidget* field) const {
-  return WithoutMnemonic(qobject_cast<QLabel*>(form_->labelForField(field))->text());
+  QWidget* label = form_->labelForField(field);
+  if (label == nullptr) label = form_->labelForField(field->parentWidget());
+  return WithoutMnemonic(qobject_cast<QLabel*>(label)->text());
 }
 
 QSize EntryForm::WholeSize() const {

@@ -20,6 +20,8 @@ class EntryForm : public QScrollArea {
 
   /// A field that shows the member at `path`.
   QLineEdit* AddField(const QString& caption, const char* path);
+  /// The same with a list of texts to choose from.
+  QLineEdit* AddChoice(const QString& caption, const char* path, const QStringList& choices);
   CComboBox* AddList(const QString& caption, const char* path);
   /// A row without a caption.
   void AddWidget(QWidget* widget);

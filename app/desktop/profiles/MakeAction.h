@@ -5,8 +5,8 @@
 #include <QAction>
 #include <QKeySequence>
 
-/// An action that belongs to `owner` and calls `act`, but only while it is enabled: its shortcut
-/// may have been pressed before that changed.
+/// An action that belongs to `owner` and calls `act` if it is still enabled: its shortcut may have
+/// been pressed just before it was disabled.
 inline QAction* MakeAction(QObject& owner, const QString& text, const QKeySequence& keys,
                            auto act) {
   auto* action = new QAction(text, &owner);

@@ -17,9 +17,9 @@ ModelFields::ModelFields(const ProfileDocument& document, EntryForm& form)
       document_(document),
       form_(form),
       family_(form.AddList(tr("&Family"), "like")),
-      model_(form.AddField(tr("&Model"), "model")),
-      more_(new QCheckBox(tr("All fie&lds of the model"))),
-      models_(document.Models()) {
+      models_(document.Models()),
+      model_(form.AddChoice(tr("&Model"), "model", models_.keys())),
+      more_(new QCheckBox(tr("All fie&lds of the model"))) {
   form.AddWidget(more_);
   dialogType_ = form.AddField(tr("Dialog &type"), "dialogType");
   modelCode_ = form.AddField(tr("Model cod&e"), "modelCode");

@@ -45,10 +45,10 @@ class ModelFields : public QObject {
   const ProfileDocument& document_;
   EntryForm& form_;
   CComboBox* family_;
+  const QMap<QString, QJsonObject> models_;
   QLineEdit* model_;
   QCheckBox* more_;
   QLineEdit* dialogType_;
   QLineEdit* modelCode_;
-  const QMap<QString, QJsonObject> models_;
   QJsonObject modelMembers_;  // members of the chosen model that have no field
 };

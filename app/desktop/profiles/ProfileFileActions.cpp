@@ -52,7 +52,11 @@ void ProfileFileActions::SaveFileAs(std::function<void()> then) {
               .suggestion = document_.FileName(),
               .filter = tr("Profiles (*.json);;All files (*)")},
              [this, then = std::move(then)](const QString& path) {
-               history_.Replace(tr("Save Profiles As"), [&] { return document_.SaveAs(path); });
+               history_.Replace(tr("Save Profiles As"), [&] {
+                 QString error = document_.SaveAs(path);
+                 if (error.isEmpty()) ShowSaved(window_, path);
+                 return error;
+               });
                if (then && !document_.IsReadOnly()) then();
              });
 }

@@ -103,6 +103,7 @@ void TransferActions::AskForExport() {
               .filter = tr("Tables (*.csv);;All files (*)")},
              [this](const QString& path) {
                const QString error = WriteWholeFile(path, ExportCsv(document_.Projectors()));
-               if (!error.isEmpty()) ShowError(window_, tr("Export Table"), error);
+               if (!error.isEmpty()) return ShowError(window_, tr("Export Table"), error);
+               ShowSaved(window_, path);
              });
 }

@@ -118,7 +118,7 @@ void FleetWatch::TakeChanges() {
 
 void FleetWatch::Tend() {
   std::erase_if(uses_, [](const auto& use) { return Clock::now() > use.second.until; });
-  // Warming up and cooling down do not take long.
+  // These states soon end, so such projectors are asked more often.
   for (const auto& [id, state] : fleet_->States()) {
     if (state.power == PowerState::WarmingUp || state.power == PowerState::CoolingDown)
       fleet_->AskSoon(id);

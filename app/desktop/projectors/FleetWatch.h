@@ -76,7 +76,7 @@ class FleetWatch : public QObject {
   std::unordered_map<std::string, FleetTarget> watched_;
   std::map<std::string, Served> served_;
   std::unique_ptr<Fleet> fleet_;
-  std::map<std::string, Use> uses_;  // connections in use by others; end before the fleet
+  std::map<std::string, Use> uses_;  // connections in use by others; destroyed before the fleet
   std::set<std::string> open_;       // projectors with an open dialog
   QTimer tending_;
 };

@@ -82,7 +82,7 @@ QString ProjectorColumns::Text(const ProjectorRow& row, int column) {
     case Power:
       return StateTexts::Power(row.state);
     case Source:
-      return StateTexts::Source(row.state);
+      return StateTexts::Source(row.state, row.profile.model);
     case Lamp:
       return StateTexts::LampHours(row.state);
     case Problem:
@@ -133,7 +133,7 @@ QStringList ProjectorColumns::Samples(int column) {
     case Model:
       return {QStringLiteral("Model 4-11 b")};
     case Place:
-      return {QStringLiteral("Building A, Seminar rooms")};
+      return ShortSamples(column) + QStringList(QStringLiteral("Building A, Seminar rooms"));
     case Settings:
       return {StateTexts::Drift({.drift = 0}), StateTexts::Drift({.drift = 12})};
     case Answered:
@@ -141,4 +141,19 @@ QStringList ProjectorColumns::Samples(int column) {
     default:
       return {QStringLiteral("192.168.100.100:4352")};
   }
+}
+
+QStringList ProjectorColumns::ShortSamples(int column) {
+  if (column == Place) return {QStringLiteral("Building A")};
+  if (column != State) return Samples(column);
+  ProjectorRow row{.id = {}, .profile = {}};
+  row.isWatched = true;
+  row.state.reachability = Reachability::Silent;
+  QStringList samples{Text(row, State)};
+  row.state.reachability = Reachability::Answers;
+  for (const auto grade : {ProblemGrade::Warning, ProblemGrade::Error}) {
+    row.state.problems = PartProblems{grade};
+    samples += Text(row, State);
+  }
+  return samples;
 }

@@ -32,6 +32,8 @@ class ProjectorColumns {
   static QString Text(const ProjectorRow& row, int column);
   /// Usual texts of the column, of which the longest should have room.
   static QStringList Samples(int column);
+  /// Those that should have room even where there is little: without a second tag, for example.
+  static QStringList ShortSamples(int column);
   /// A number to sort by; nothing for a column of texts.
   static std::optional<double> Number(const ProjectorRow& row, int column);
   /// Whether the column shows what the projector reports, and not only its profile.

@@ -9,12 +9,10 @@
 
 namespace {
 
-using Layout = SimulatedProjector::Layout;
-
 /// Simulations of the same model share what it has, which is most of their memory.
-std::shared_ptr<const Layout> LayoutOf(const FleetProfile& profile) {
+std::shared_ptr<const SimulatedLayout> LayoutOf(const FleetProfile& profile) {
   using Model = std::weak_ptr<const ProfileModel>;
-  static std::map<Model, std::weak_ptr<const Layout>, std::owner_less<Model>> layouts;
+  static std::map<Model, std::weak_ptr<const SimulatedLayout>, std::owner_less<Model>> layouts;
   if (const auto known = layouts.find(profile.model); known != layouts.end()) {
     if (auto layout = known->second.lock()) return layout;
   }

@@ -88,14 +88,8 @@ void ProjectorView::MakeColumns() {
   columns.setStretchLastSection(true);
   columns.setSectionsMovable(true);
   table_->setSortingEnabled(true);
-  const QFontMetrics metrics = table_->fontMetrics();
-  for (int column = 0; column < ProjectorColumns::ColumnCount; ++column) {
-    int text = TitleWidth(column);
-    for (const QString& sample : ProjectorColumns::Samples(column))
-      text = std::max(text, metrics.horizontalAdvance(sample));
-    table_->setColumnWidth(
-        column, text + kColumnGap + (column == ProjectorColumns::State ? kIconWidth : 0));
-  }
+  for (int column = 0; column < ProjectorColumns::ColumnCount; ++column)
+    table_->setColumnWidth(column, WidthOf(column, ProjectorColumns::Samples(column)));
   for (const auto column : {ProjectorColumns::Settings, ProjectorColumns::Address})
     columns.setSectionHidden(column, true);
   columns.setContextMenuPolicy(Qt::CustomContextMenu);
@@ -105,6 +99,13 @@ void ProjectorView::MakeColumns() {
 int ProjectorView::TitleWidth(int column) const {
   const QString title = model_->headerData(column, Qt::Horizontal).toString();
   return table_->fontMetrics().horizontalAdvance(title) + kColumnGap;
+}
+
+int ProjectorView::WidthOf(int column, const QStringList& samples) const {
+  int text = TitleWidth(column);
+  for (const QString& sample : samples)
+    text = std::max(text, table_->fontMetrics().horizontalAdvance(sample));
+  return text + kColumnGap + (column == ProjectorColumns::State ? kIconWidth : 0);
 }
 
 void ProjectorView::AskForColumns(const QPoint& place) {
@@ -221,16 +222,21 @@ int ProjectorView::UsualWidth() const {
   return columns + table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
 }
 
+// First without what is rare, such as a second tag, then to the titles.
 void ProjectorView::FitColumns(int width) {
   using Columns = ProjectorColumns;
   int missing = UsualWidth() - width;
-  for (const int column :
-       {Columns::Place, Columns::Problem, Columns::Model, Columns::Name, Columns::Source}) {
-    if (missing <= 0) return;
+  const auto narrow = [&](int column, int least) {
     const int before = table_->columnWidth(column);
-    table_->setColumnWidth(column, std::max(TitleWidth(column), before - missing));
+    if (missing <= 0 || least >= before) return;
+    table_->setColumnWidth(column, std::max(least, before - missing));
     missing -= before - table_->columnWidth(column);
-  }
+  };
+  for (const int column : {Columns::Place, Columns::State})
+    narrow(column, WidthOf(column, Columns::ShortSamples(column)));
+  for (const int column :
+       {Columns::Source, Columns::Problem, Columns::Model, Columns::Place, Columns::Name})
+    narrow(column, TitleWidth(column));
 }
 
 void ProjectorView::FocusSearch() {

@@ -62,6 +62,7 @@ class ProjectorView : public QWidget {
  private:
   void MakeColumns();
   int TitleWidth(int column) const;
+  int WidthOf(int column, const QStringList& samples) const;
   void AskForColumns(const QPoint& place);
   void TakeSearch(const QString& text);
   void SelectOnly(const QModelIndex& index);

@@ -12,7 +12,7 @@
 /// Sorts positions by numbers, which are in the order of the positions.
 void SortByNumbers(std::vector<int>& positions, Qt::SortOrder order,
                    const std::vector<double>& numbers);
-/// The same by texts. Numbers within texts sort as numbers, and case does not count.
+/// Sorts positions by texts, without regard to case. Digits within a text sort as a number.
 void SortByTexts(std::vector<int>& positions, Qt::SortOrder order,
                  const std::vector<QString>& texts);
 

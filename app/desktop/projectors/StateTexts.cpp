@@ -10,6 +10,10 @@
 #include <QPixmap>
 #include <QRegularExpression>
 
+#include "i18n/LocalizeControlTexts.h"
+#include "settings/CatalogNumbers.h"
+#include "settings/ModelSettings.h"
+
 namespace {
 
 constexpr int kIconSize = 16;
@@ -21,6 +25,30 @@ using std::chrono::floor;
 QString ShownName(const std::string& name) {
   static const QRegularExpression number(QStringLiteral(R"( \(\d+\)$)"));
   return QString::fromStdString(name).remove(number);
+}
+
+/// The text of the status page for a source. Keeps it, since a list may ask for thousands.
+QString NameInModel(const std::shared_ptr<const ProfileModel>& model, int number) {
+  constexpr std::size_t kMostKept = 2000;
+  static std::map<std::pair<std::shared_ptr<const ProfileModel>, int>, QString> names;
+  if (names.size() > kMostKept) names.clear();
+  const auto [name, isNew] = names.try_emplace({model, number});
+  if (!isNew || !model) return name->second;
+  const ModelSettings settings(model->data);
+  const ModelSetting* source = settings.Find("status.input-source");
+  if (source == nullptr) return {};
+  const int place = PositionOf(source->entries, number);
+  if (place < 0) return {};
+  const ListEntry& entry = source->entries[static_cast<std::size_t>(place)];
+  name->second = entry.text ? CatalogString(kListCategory, *entry.text)
+                            : QString::fromStdString(std::string(entry.name));
+  return name->second;
+}
+
+QString NameOf(int number, const std::string& name,
+               const std::shared_ptr<const ProfileModel>& model) {
+  const QString shown = name.empty() ? NameInModel(model, number) : ShownName(name);
+  return shown.isEmpty() ? QString::number(number) : shown;
 }
 
 void Fill(QPainter& painter, std::initializer_list<QPointF> corners) {
@@ -109,10 +137,9 @@ QString StateTexts::Power(const LiveState& state) {
   return state.power ? Power(*state.power) : QString();
 }
 
-QString StateTexts::Source(const LiveState& state) {
-  if (!state.source) return {};
-  if (state.source->name.empty()) return QString::number(state.source->number);
-  return ShownName(state.source->name);
+QString StateTexts::Source(const LiveState& state,
+                           const std::shared_ptr<const ProfileModel>& model) {
+  return state.source ? NameOf(state.source->number, state.source->name, model) : QString();
 }
 
 QString StateTexts::Part(ProjectorPart part) {
@@ -170,10 +197,11 @@ QString StateTexts::Answered(const LiveState& state, WallTime now) {
   return Ago(floor<std::chrono::seconds>(now - *state.answered));
 }
 
-QString StateTexts::Change(const StateChange& change) {
-  const auto text = [&change](const FieldValue& value) -> QString {
+QString StateTexts::Change(const StateChange& change,
+                           const std::shared_ptr<const ProfileModel>& model) {
+  const auto text = [&](const FieldValue& value) -> QString {
     if (!value.number) return tr("unknown");
-    if (!value.name.empty()) return ShownName(value.name);
+    if (change.field == StateField::Source) return NameOf(*value.number, value.name, model);
     switch (change.field) {
       case StateField::Reachability: {
         ProjectorRow row{.id = {}, .profile = {}};

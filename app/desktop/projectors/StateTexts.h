@@ -19,8 +19,9 @@ class StateTexts {
   static QString State(const ProjectorRow& row);
   static QString Power(const LiveState& state);
   static QString Power(PowerState power);
-  /// The name of the source, else its number.
-  static QString Source(const LiveState& state);
+  /// The name of the source; without one, that which the model has for its number, or the number.
+  static QString Source(const LiveState& state,
+                        const std::shared_ptr<const ProfileModel>& model = {});
   /// "Lamp · Filter (warning)"
   static QString Problems(const LiveState& state);
   /// "1234 h"
@@ -33,7 +34,8 @@ class StateTexts {
   /// How long ago the projector answered last.
   static QString Answered(const LiveState& state, WallTime now);
   /// "Power: Standby → On"
-  static QString Change(const StateChange& change);
+  static QString Change(const StateChange& change,
+                        const std::shared_ptr<const ProfileModel>& model);
   static QString Part(ProjectorPart part);
 
   /// An icon with its own shape and color: either is enough to tell them apart.

@@ -57,8 +57,8 @@ class FleetConnections {
   FleetNotices& notices_;
   const std::string password_;
   std::vector<std::unique_ptr<FleetConnection>> connections_;  ///< By descriptor.
-  /// By descriptor: how many connections have had it. Shows whether the connection of bytes that
-  /// are sent later still exists.
+  /// By descriptor: how many connections have used it. Bytes that are sent later are dropped if
+  /// their connection no longer has the descriptor.
   std::vector<std::uint32_t> generations_;
   QTimer abandonedCheck_;
 };

@@ -23,7 +23,7 @@ class PjLinkLogin {
   /// The proof of the password, which comes before the first request of a connection; empty after
   /// that, and if the projector requires no password.
   std::string TakeProof() { return std::exchange(proof_, {}); }
-  /// The projector has refused the proof.
+  /// Call this when the projector has refused the proof.
   void Refuse() { hasGreeted_ = false; }
   /// Whether the projector has accepted a connection, and the password, at least once.
   bool HasGreeted() const { return hasGreeted_; }

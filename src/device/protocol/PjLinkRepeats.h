@@ -14,7 +14,7 @@ class PjLinkRepeats {
   void Reset() { until_.reset(); }
   void Start(SessionTime until);
   bool HasStarted() const { return until_.has_value(); }
-  /// No repetition after this.
+  /// Ends the time for repetitions.
   void End(SessionTime now) { until_ = now; }
   bool HasTime(SessionTime now) const { return until_ && now < *until_; }
   /// The time of the next repetition, if there is time for one.

@@ -24,11 +24,11 @@ class WireRequests {
   /// The number for the hello of a new connection, which no request of an earlier one has.
   std::uint16_t NumberHello();
 
-  /// Takes the place of all reads announced before. Commands that are not reads are ignored.
+  /// Replaces all reads announced before. Commands that are not reads are ignored.
   void Announce(std::span<const PjtCommand> reads);
-  /// Forgets the announced reads, and the requests that were sent with their replies.
+  /// Forgets the announced reads, the requests that were sent, and their replies.
   void Forget();
-  /// Forgets the requests that were sent, with their replies.
+  /// Forgets the requests that were sent, and their replies.
   void ForgetSent() { sent_.clear(); }
   /// The same, if no reply was taken within `time`: replies received after a pause may be outdated.
   void ForgetOld(std::chrono::milliseconds time, SessionTime now);

@@ -43,7 +43,7 @@ class PROJECTOR_COMMON_EXPORT WireSession {
   WireSession(Medium medium, const WireLimits& limits, std::uint16_t sequence)
       : medium_(medium), limits_(limits), requests_(sequence) {}
 
-  /// Sets the time-out of further commands. Those of the limits still apply.
+  /// Sets the time-out of further commands. The time-outs of the limits still apply.
   void GiveUpAfter(std::chrono::milliseconds time) { command_.GiveUpAfter(time); }
   /// The reads are sent in one burst when the first of them is begun. Replies are used in the order
   /// announced, until a change comes in between, or a pause longer than the time for an answer.

@@ -9,7 +9,8 @@ class CInputTabDlg final : public CTabPage {
  public:
   explicit CInputTabDlg(CWnd* parent);
 
-  /// Sends the input to start with. Only some inputs can be chosen.
+  /// Sends the input that the projector selects when it is switched on. Only some inputs can be
+  /// chosen.
   void OnSelchangePowerUpInput();
 
  protected:

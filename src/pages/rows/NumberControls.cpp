@@ -24,6 +24,11 @@ bool NumberControls::Change(const QWidget& control) const {
 
 bool NumberControls::IsPlus(const QWidget& control) const { return &control == plus_; }
 
+// An arrow is a picture, but the name of each button ends with its sign.
+QString NumberControls::SignOf(bool plus) const {
+  return (plus ? plus_ : minus_)->accessibleName().right(1);
+}
+
 bool NumberControls::AreEnabled() const { return minus_->isEnabledTo(minus_->window()); }
 
 void NumberControls::Enable() { EnableAll(true); }

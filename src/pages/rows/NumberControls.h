@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include <QString>
+
 #include "Namespace.h"
 #include "settings/Rows.h"
 
@@ -26,6 +28,8 @@ class NumberControls {
   /// Whether the control is −, + or the slider.
   bool Change(const QWidget& control) const;
   bool IsPlus(const QWidget& control) const;
+  /// The sign on a button: "+", "−" or an arrow.
+  QString SignOf(bool plus) const;
   /// Null for a row that is `stepsOnly`.
   CSliderCtrl* Slider() const { return slider_; }
   NumberField& Field() const { return *field_; }

@@ -8,15 +8,17 @@
 #include <QStyle>
 
 #include "pages/common/SettingsDialog.h"
+#include "toolkit/LineLabel.h"
 
 namespace AdvancedControl {
 
 namespace {
 
-// In pixels.
+// In pixels. Both marks fit between the frame of the page and the letters of the caption.
 constexpr int kBarWidth = 3;
-constexpr int kSignWidth = 6;
-constexpr int kSpace = kBarWidth + kSignWidth + 1;  // beside a row
+constexpr int kBarStart = 6;   // before the row
+constexpr int kSignStart = 4;  // before the row
+constexpr int kSpace = 10;     // beside a row
 
 // The part of the page that is visible, in the window's coordinates.
 QRect VisiblePart(const QWidget& page) {
@@ -76,6 +78,7 @@ void RowMarks::paintEvent(QPaintEvent*) {
   const QPalette& colors = palette();
   const bool isDark = colors.color(QPalette::Window).lightness() < 128;
   const QColor warning = isDark ? QColor(255, 140, 120) : QColor(190, 30, 20);
+  const int signWidth = kSignStart + LineLabel::MarginOf(fontMetrics());
   for (const Mark& mark : marks_) {
     const QWidget* rows = page_.GetDlgItem(mark.control)->parentWidget();
     QRect row = page_.RowRect(mark.control);
@@ -85,13 +88,13 @@ void RowMarks::paintEvent(QPaintEvent*) {
       return QStyle::visualRect(layoutDirection(), row, at);
     };
     if (mark.differs) {
-      painter.fillRect(place(kBarWidth + 1, kBarWidth).adjusted(0, 2, 0, -2),
+      painter.fillRect(place(kBarStart, kBarWidth).adjusted(0, 2, 0, -2),
                        colors.color(QPalette::Highlight));
     }
     if (mark.refused) {
       painter.setPen(warning);
-      painter.drawText(place(mark.differs ? kSpace : kSignWidth + 1, kSignWidth),
-                       Qt::AlignCenter | Qt::TextDontClip, QStringLiteral("!"));
+      painter.drawText(place(kSignStart, signWidth), Qt::AlignCenter | Qt::TextDontClip,
+                       QStringLiteral("!"));
     }
   }
 }

@@ -14,7 +14,8 @@ class RowView;
 // What a row's view knows of the projector's value, and says about the user's actions on the row.
 // User-interface thread only.
 
-/// The row's name for the user: its caption and what distinguishes it from other parts of it.
+/// The row's name for the user: its caption, and what distinguishes it from other rows with the
+/// same caption.
 QString NameOf(const RowView& row);
 
 /// Remembers the position that the projector has now: it was read, or a change was accepted.
@@ -30,9 +31,10 @@ void ShowRefusal(RowView& row, const QString& tried);
 
 /// The position that the row should have now; nothing if any will do.
 std::optional<int> WantedPosition(const RowView& row);
-/// Whether the projector has another position.
+/// Whether the projector has another position than the wanted one.
 bool Differs(const RowView& row);
-/// Whether it had another one when the host last saw it; false for a row that was read since.
+/// Whether the projector had another position than the wanted one when the host last saw it; false
+/// for a row that was read since.
 bool DifferedWhenSeen(const RowView& row);
 
 }  // namespace AdvancedControl

@@ -26,7 +26,8 @@ QString UnitText(const PageRow& row) {
 
 QString WithUnit(const QString& text, const PageRow& row) {
   const QString unit = UnitText(row);
-  return unit.isEmpty() ? text : text + QChar(QChar::Nbsp) + unit;
+  if (unit.isEmpty()) return text;
+  return unit.front().isLetter() ? text + QChar(QChar::Nbsp) + unit : text + unit;
 }
 
 QString TextOf(const ListEntry& entry) {

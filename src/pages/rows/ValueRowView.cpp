@@ -14,8 +14,6 @@ namespace {
 
 std::int16_t Word(int value) { return static_cast<std::int16_t>(value); }
 
-QString SignOf(bool upwards) { return upwards ? QStringLiteral("+") : QStringLiteral("\u2212"); }
-
 }  // namespace
 
 std::vector<int> ValueRowView::Controls() const {
@@ -84,7 +82,7 @@ Stepped ValueRowView::Step(bool upwards) {
   const auto asked = Host().AskFor(row_.of);
   if (Projector().IsAbandoned()) return {};
   const auto source = SteppedSource(row_.of, asked);
-  if (!source) ShowRefusal(*this, SignOf(upwards));
+  if (!source) ShowRefusal(*this, controls_.SignOf(upwards));
   if (!source) return {};
   if (row_.of == OfSource::Current) Host().ShowSource(source);
   const Stepped stepped =
@@ -94,9 +92,9 @@ Stepped ValueRowView::Step(bool upwards) {
     remembered_ = Word(row_.deviceMemory == DeviceMemory::Never ? shown : *stepped.value);
     Confirm(*this, shown);
   } else if (stepped.refused && row_.error != 0) {
-    Refuse(remembered_, SignOf(upwards), true);
+    Refuse(remembered_, controls_.SignOf(upwards), true);
   } else if (stepped.refused || stepped.unchanged) {
-    ShowRefusal(*this, SignOf(upwards));
+    ShowRefusal(*this, controls_.SignOf(upwards));
   }
   return stepped;
 }

@@ -14,11 +14,9 @@
 
 namespace {
 
-constexpr std::chrono::seconds kPause{5};
+namespace Id = ControlId::Status;
 
-constexpr int kPower = 20008;
-constexpr int kError = 20010;
-constexpr int kLampTime = 20014;
+constexpr std::chrono::seconds kPause{5};
 
 constexpr int kNoError = 0;
 constexpr int kLampError = 3;
@@ -66,12 +64,12 @@ void CStatusTabDlg::ReadIfQuiet() {
 
 void CStatusTabDlg::ShowState(int control, std::optional<int> value) {
   using enum StateLabel::Mark;
-  if (control == kPower) {
+  if (control == Id::Power) {
     Item<StateLabel>(control).SetMark(value ? PowerMark(*value) : None);
-  } else if (control == kError) {
+  } else if (control == Id::Error) {
     error_ = value;
     Item<StateLabel>(control).SetMark(!value ? None : *value == kNoError ? Good : Bad);
-  } else if (control == kLampTime) {
+  } else if (control == Id::LampTime) {
     ShowLampTime(value);
   }
 }
@@ -79,7 +77,7 @@ void CStatusTabDlg::ShowState(int control, std::optional<int> value) {
 // The error status is read before the lamp time.
 void CStatusTabDlg::ShowLampTime(std::optional<int> hours) {
   using enum StateLabel::Mark;
-  auto& label = Item<StateLabel>(kLampTime);
+  auto& label = Item<StateLabel>(Id::LampTime);
   const bool isRated = hours && ratedLampHours_ > 0;
   const double share = isRated ? static_cast<double>(*hours) / ratedLampHours_ : 0;
   label.SetShare(isRated ? std::optional(share) : std::nullopt);

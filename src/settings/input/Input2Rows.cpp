@@ -12,19 +12,26 @@ constexpr auto kBncs = Numbered("RGB", "Component");
 constexpr auto kSyncOnGreen = Numbered(ListText::SwitchOn, ListText::SwitchOff);
 constexpr auto kPinPInputs = Numbered<1>(ListText::PinPInputVideo, ListText::PinPInputSVideo);
 
-// clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"input.bnc", 63, 20046, kBncs, Get(CommandCode::Bnc), Named(Op::SetBNC), kSendsPosition},
+    ListRow{"input.bnc", 63, 20046, kBncs, Get(CommandCode::Bnc), Named(Op::SetBNC),
+            kSendsPosition},
     VideoFormatRow(20055),
-    ListRow{"input.hdtv", 64, 20047, kHdtvs, Get(CommandCode::Hdtv), Named(Op::SetHDTV), kSendsPosition},
-    ListRow{"input.sync-on-green", 65, 20048, kSyncOnGreen, Get(CommandCode::SyncOnGreen), Named(Op::SetSyncOnG), kSendsPosition},
+    ListRow{"input.hdtv", 64, 20047, kHdtvs, Get(CommandCode::Hdtv), Named(Op::SetHDTV),
+            kSendsPosition},
+    ListRow{"input.sync-on-green", 65, 20048, kSyncOnGreen, Get(CommandCode::SyncOnGreen),
+            Named(Op::SetSyncOnG), kSendsPosition},
     shared::AutoAdjust("input.auto-adjust", 20049),
-    ListRow{"input.p-in-p-input", 42, 20050, kPinPInputs, Get(CommandCode::PinPInput), Named(Op::SetPinPInput), kSendsPosition},
-    ListRow{"input.p-in-p-position", 43, 20051, kPinPPositions, Get(CommandCode::PinPPosition), Named(Op::SetPinPPosition), kSendsPosition},
-    ListRow{"input.p-in-p-audio", 44, 20052, kPinPAudios, Get(CommandCode::PinPAudio), Named(Op::SetPinPAudio), kSendsPosition},
-    ListRow{"input.p-in-p-size", 45, 20053, kPinPSizes, Get(CommandCode::PinPSize), Named(Op::SetPinPSize), kSendsPosition},
+    ListRow{"input.p-in-p-input", 42, 20050, kPinPInputs, Get(CommandCode::PinPInput),
+            Named(Op::SetPinPInput), kSendsPosition},
+    ListRow{"input.p-in-p-position", 43, 20051, kPinPPositions, Get(CommandCode::PinPPosition),
+            Named(Op::SetPinPPosition), kSendsPosition},
+    ListRow{"input.p-in-p-audio", 44, 20052, kPinPAudios, Get(CommandCode::PinPAudio),
+            Named(Op::SetPinPAudio), kSendsPosition},
+    ListRow{"input.p-in-p-size", 45, 20053, kPinPSizes, Get(CommandCode::PinPSize),
+            Named(Op::SetPinPSize), kSendsPosition},
 };
 
+// clang-format off
 constexpr ModelRows kModels[] = {
     //              BNC           P.IN P.Input
     //              |Video Format |P.IN P.Position

@@ -25,24 +25,40 @@ std::vector<ListEntry> PowerUpInputs(const ModelData& model) {
   return entries;
 }
 
-// clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"input.color-space", 54, 21074, kColorSpaces, Get(CommandCode::ColorSpace), Named(Op::SetColorSpace), kSendsPosition},
-    ListRow{"input.component", 174, 21075, kComponents, Get(CommandCode::Component), Named(Op::SetComponent), kSendsPosition},
+    ListRow{"input.color-space", 54, 21074, kColorSpaces, Get(CommandCode::ColorSpace),
+            Named(Op::SetColorSpace), kSendsPosition},
+    ListRow{"input.component", 174, 21075, kComponents, Get(CommandCode::Component),
+            Named(Op::SetComponent), kSendsPosition},
     VideoFormatRow(21076),
-    ListRow{"input.frame-lock", 59, 21059, kSwitch, Get(CommandCode::FrameLock), Named(Op::SetFrameLock), kSendsPosition},
-    ListRow{"input.3d-ycs", 57, 21077, kYcs, Get(CommandCode::Ycs3D), Named(Op::Set3DYCS), kSendsPosition},
-    ListRow{"input.video-nr", 1058, 21053, kLegacyNoiseReductions, Get(CommandCode::VideoNr), Flagged(Op::SetVideoNR, 1), kSendsPosition},
-    ListRow{"input.progressive", 60, 21060, kLegacyProgressive, Get(CommandCode::Progressive), Named(Op::SetProgressive), kSendsPosition},
-    ListRow{"input.s2-aspect", 61, 21058, kSwitch, Get(CommandCode::S2Aspect), Named(Op::SetS2Aspect), kSendsPosition},
-    ListRow{"input.p-in-p-input", 42, 21054, kPinPInputs, Get(CommandCode::PinPInput), Named(Op::SetPinPInput), kSendsPosition},
-    ListRow{"input.p-in-p-position", 43, 21055, kPinPPositions, Get(CommandCode::PinPPosition), Named(Op::SetPinPPosition), kSendsPosition},
-    ListRow{"input.p-in-p-audio", 44, 21056, kPlainPinPAudios, Get(CommandCode::PinPAudio), Named(Op::SetPinPAudio), kSendsPosition},
+    ListRow{"input.frame-lock", 59, 21059, kSwitch, Get(CommandCode::FrameLock),
+            Named(Op::SetFrameLock), kSendsPosition},
+    ListRow{"input.3d-ycs", 57, 21077, kYcs, Get(CommandCode::Ycs3D), Named(Op::Set3DYCS),
+            kSendsPosition},
+    ListRow{"input.video-nr", 1058, 21053, kLegacyNoiseReductions, Get(CommandCode::VideoNr),
+            Flagged(Op::SetVideoNR, 1), kSendsPosition},
+    ListRow{"input.progressive", 60, 21060, kLegacyProgressive, Get(CommandCode::Progressive),
+            Named(Op::SetProgressive), kSendsPosition},
+    ListRow{"input.s2-aspect", 61, 21058, kSwitch, Get(CommandCode::S2Aspect),
+            Named(Op::SetS2Aspect), kSendsPosition},
+    ListRow{"input.p-in-p-input", 42, 21054, kPinPInputs, Get(CommandCode::PinPInput),
+            Named(Op::SetPinPInput), kSendsPosition},
+    ListRow{"input.p-in-p-position", 43, 21055, kPinPPositions, Get(CommandCode::PinPPosition),
+            Named(Op::SetPinPPosition), kSendsPosition},
+    ListRow{"input.p-in-p-audio", 44, 21056, kPlainPinPAudios, Get(CommandCode::PinPAudio),
+            Named(Op::SetPinPAudio), kSendsPosition},
     // Intended: the size is only shown here; a choice is not sent.
     ListRow{"input.p-in-p-size", 45, 21061, kInputPinPSizes, Get(CommandCode::PinPSize)},
-    ListRow{"input.power-up-input", 62, ControlId::Input::PowerUpInput, PowerUpInputs, Get(CommandCode::PowerUpInput), Set(CommandCode::PowerUpInput), {.error = ErrorText::PowerUpInputRefused}},
+    ListRow{"input.power-up-input",
+            62,
+            ControlId::Input::PowerUpInput,
+            PowerUpInputs,
+            Get(CommandCode::PowerUpInput),
+            Set(CommandCode::PowerUpInput),
+            {.error = ErrorText::PowerUpInputRefused}},
 };
 
+// clang-format off
 constexpr ModelRows kModels[] = {
     //          Color Space     P.IN P.Input
     //          |Component      |P.IN P.Position

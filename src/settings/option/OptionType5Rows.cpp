@@ -22,22 +22,41 @@ constexpr ListRules kMyButton{
     .refused = Refused::ReadsBackPosition,
     .placeholder = {std::nullopt, kCodesWithOtherFunction, kOtherFunction}};
 
-// clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"option.auto-search", 16, Id::AutoSearch, kSwitch, Named(Op::GetAutoSearch), Named(Op::SetAutoSearch), kReadBack},
-    ListRow{"option.auto-keystone", 18, Id::AutoKeystone, kSwitch, Named(Op::GetAutoKeystone), Named(Op::SetAutoKeystone), kReadBack},
-    ListRow{"option.auto-on", 93, Id::AutoOn, kSwitch, Named(Op::GetAutoOn), Named(Op::SetAutoPowerOn), kReadBack},
-    InUnit(ListText::Minutes, NamedSlider("option.auto-off", 94, {Id::AutoOffMinus, Id::AutoOff, Id::AutoOffPlus, Id::AutoOffField}, {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff, Op::IncrementAutoPowerOff}, RangeIndex::AutoOff, {0, 99}, 5)),
-    ListRow{"option.my-button-1", 95, Id::MyButton1, MyButtonEntries, Named(Op::GetMyButton1), Named(Op::SetMyButton1), kMyButton},
-    ListRow{"option.my-button-2", 96, Id::MyButton2, MyButtonEntries, Named(Op::GetMyButton2), Named(Op::SetMyButton2), kMyButton},
+    ListRow{"option.auto-search", 16, Id::AutoSearch, kSwitch, Named(Op::GetAutoSearch),
+            Named(Op::SetAutoSearch), kReadBack},
+    ListRow{"option.auto-keystone", 18, Id::AutoKeystone, kSwitch, Named(Op::GetAutoKeystone),
+            Named(Op::SetAutoKeystone), kReadBack},
+    ListRow{"option.auto-on", 93, Id::AutoOn, kSwitch, Named(Op::GetAutoOn),
+            Named(Op::SetAutoPowerOn), kReadBack},
+    InUnit(ListText::Minutes,
+           NamedSlider("option.auto-off", 94,
+                       {Id::AutoOffMinus, Id::AutoOff, Id::AutoOffPlus, Id::AutoOffField},
+                       {Op::GetAutoOff, Op::SetAutoPowerOff, Op::DecrementAutoPowerOff,
+                        Op::IncrementAutoPowerOff},
+                       RangeIndex::AutoOff, {0, 99}, 5)),
+    ListRow{"option.my-button-1", 95, Id::MyButton1, MyButtonEntries, Named(Op::GetMyButton1),
+            Named(Op::SetMyButton1), kMyButton},
+    ListRow{"option.my-button-2", 96, Id::MyButton2, MyButtonEntries, Named(Op::GetMyButton2),
+            Named(Op::SetMyButton2), kMyButton},
     // Unlike in other reads, any result but 0 is a success.
-    ListRow{"option.my-source", 216, Id::MySource, SourceEntries, AnyResult(Get(CommandCode::MySource)), Set(CommandCode::MySource), {.error = ErrorText::MySourceRefused}},
+    ListRow{"option.my-source",
+            216,
+            Id::MySource,
+            SourceEntries,
+            AnyResult(Get(CommandCode::MySource)),
+            Set(CommandCode::MySource),
+            {.error = ErrorText::MySourceRefused}},
     PopUpRow{"option.service", 3097, Id::Service},
-    ListRow{"option.cc-display", 191, Id::CcDisplay, kCcDisplays, Named(Op::GetCCDisplay), Named(Op::SetCCDisplay)},
-    ListRow{"option.cc-mode", 192, Id::CcMode, kCcModes, Named(Op::GetCCMode), Named(Op::SetCCMode)},
-    ListRow{"option.cc-channel", 193, Id::CcChannel, kCcChannels, Named(Op::GetCCChannel), Named(Op::SetCCChannel)},
+    ListRow{"option.cc-display", 191, Id::CcDisplay, kCcDisplays, Named(Op::GetCCDisplay),
+            Named(Op::SetCCDisplay)},
+    ListRow{"option.cc-mode", 192, Id::CcMode, kCcModes, Named(Op::GetCCMode),
+            Named(Op::SetCCMode)},
+    ListRow{"option.cc-channel", 193, Id::CcChannel, kCcChannels, Named(Op::GetCCChannel),
+            Named(Op::SetCCChannel)},
 };
 
+// clang-format off
 constexpr ModelRows kModels[] = {
     //                                                  Auto Search  Service
     //                                                  |Auto Keyst. |C.C. Display

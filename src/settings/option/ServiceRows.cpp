@@ -19,17 +19,22 @@ constexpr ModelEntries kAutoAdjust[] = {
 
 constexpr ListRules kReadBack{.refused = Refused::ReadsBack};
 
-// clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"service.auto-adjust", 1085, Id::AutoAdjust, kAutoAdjust, Named(Op::GetAutoAdjustEnable), Named(Op::SetAutoAdjustEnable), kReadBack},
-    CheckRow{"service.ir-front", 81, Id::IrFront, Named(Op::GetIRRemoteFront), Named(Op::SetIRFront)},
+    ListRow{"service.auto-adjust", 1085, Id::AutoAdjust, kAutoAdjust,
+            Named(Op::GetAutoAdjustEnable), Named(Op::SetAutoAdjustEnable), kReadBack},
+    CheckRow{"service.ir-front", 81, Id::IrFront, Named(Op::GetIRRemoteFront),
+             Named(Op::SetIRFront)},
     CheckRow{"service.ir-rear", 82, Id::IrRear, Named(Op::GetIRRemoteRear), Named(Op::SetIRRear)},
     CheckRow{"service.ir-top", 83, Id::IrTop, Named(Op::GetIRRemoteTop), Named(Op::SetIRTop)},
-    ListRow{"service.ir-frequency-normal", 1134, Id::IrFrequencyNormal, kEnable, Named(Op::GetIRREmoteFreqNormal), Named(Op::SetIRRemoteFreqNormal), kReadBack},
-    ListRow{"service.ir-frequency-high", 1135, Id::IrFrequencyHigh, kEnable, Named(Op::GetIRRemoteFreqHigh), Named(Op::SetIRRemoteFreqHigh), kReadBack},
-    ListRow{"service.focus-lock", 196, Id::FocusLock, kFocusLock, Named(Op::GetFocusLock), Named(Op::SetFocusLock), kReadBack},
+    ListRow{"service.ir-frequency-normal", 1134, Id::IrFrequencyNormal, kEnable,
+            Named(Op::GetIRREmoteFreqNormal), Named(Op::SetIRRemoteFreqNormal), kReadBack},
+    ListRow{"service.ir-frequency-high", 1135, Id::IrFrequencyHigh, kEnable,
+            Named(Op::GetIRRemoteFreqHigh), Named(Op::SetIRRemoteFreqHigh), kReadBack},
+    ListRow{"service.focus-lock", 196, Id::FocusLock, kFocusLock, Named(Op::GetFocusLock),
+            Named(Op::SetFocusLock), kReadBack},
 };
 
+// clang-format off
 constexpr ModelRows kModels[] = {
     //                                                   Auto Adjust Enable
     //                                                   | IR Remote Front, Rear, Top

@@ -14,19 +14,20 @@ constexpr auto kScreenTypes = Numbered("4:3", "16:9", "16:10");
 constexpr auto kPicturePositions =
     Numbered(ListText::PositionCenter, ListText::PositionTop, ListText::PositionBottom);
 
-// clang-format off
 constexpr PageRow kRows[] = {
     shared::Power(ControlId::Other::Power),
     shared::InputSource(ControlId::Other::InputSource),
     shared::Blank(20104),
     shared::Mute(20105),
     shared::Freeze(20106),
-    ListRow{"other.lens-lock", 4203, 20107, kSwitch, Get(CommandCode::LensLock), Named(Op::SetLensLock), shared::kSilent},
-    ListRow{"other.lens-type", 4204, 20108, kLensTypes, Get(CommandCode::LensType), Named(Op::SetLensType), shared::kSilent},
-    ListRow{"other.screen-type", 4205, 20109, kScreenTypes, Get(CommandCode::ScreenType), Named(Op::SetScreenType), shared::kSilent},
-    ListRow{"other.picture-position", 4206, 20110, kPicturePositions, Get(CommandCode::PicturePosition), Named(Op::SetPicturePosition), shared::kSilent},
+    shared::Silent("other.lens-lock", 4203, 20107, kSwitch, CommandCode::LensLock, Op::SetLensLock),
+    shared::Silent("other.lens-type", 4204, 20108, kLensTypes, CommandCode::LensType,
+                   Op::SetLensType),
+    shared::Silent("other.screen-type", 4205, 20109, kScreenTypes, CommandCode::ScreenType,
+                   Op::SetScreenType),
+    shared::Silent("other.picture-position", 4206, 20110, kPicturePositions,
+                   CommandCode::PicturePosition, Op::SetPicturePosition),
 };
-// clang-format on
 
 }  // namespace
 

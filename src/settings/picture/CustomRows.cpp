@@ -76,17 +76,21 @@ constexpr ValueRow Adjust(std::string_view key, int index, int code, const Value
 
 constexpr int kGain = CommandCode::ColorTempGainR;
 constexpr int kOffset = CommandCode::ColorTempOffsetR;
-// clang-format off
 constexpr PageRow kColorTemp[] = {
     Pattern("color-temp.pattern"),
-    Adjust("color-temp.gain-r", 0, kGain, {20182, 20181, 20188, 20194}, Op::ExecColorTempGainRReset, Op::GetColorTempGainR),
-    Adjust("color-temp.gain-g", 1, kGain + 1, {20183, 21024, 20189, 20195}, Op::ExecColorTempGainGReset, Op::GetColorTempGainG),
-    Adjust("color-temp.gain-b", 2, kGain + 2, {20184, 21025, 20190, 20196}, Op::ExecColorTempGainBReset, Op::GetColorTempGainB),
-    Adjust("color-temp.offset-r", 3, kOffset, {20185, 21026, 20191, 20197}, Op::ExecColorTempOffsetRReset, Op::GetColorTempOffsetR),
-    Adjust("color-temp.offset-g", 4, kOffset + 1, {20186, 21027, 20192, 20198}, Op::ExecColorTempOffsetGReset, Op::GetColorTempOffsetG),
-    Adjust("color-temp.offset-b", 5, kOffset + 2, {20187, 21028, 20193, 20199}, Op::ExecColorTempOffsetBReset, Op::GetColorTempOffsetB),
+    Adjust("color-temp.gain-r", 0, kGain, {20182, 20181, 20188, 20194}, Op::ExecColorTempGainRReset,
+           Op::GetColorTempGainR),
+    Adjust("color-temp.gain-g", 1, kGain + 1, {20183, 21024, 20189, 20195},
+           Op::ExecColorTempGainGReset, Op::GetColorTempGainG),
+    Adjust("color-temp.gain-b", 2, kGain + 2, {20184, 21025, 20190, 20196},
+           Op::ExecColorTempGainBReset, Op::GetColorTempGainB),
+    Adjust("color-temp.offset-r", 3, kOffset, {20185, 21026, 20191, 20197},
+           Op::ExecColorTempOffsetRReset, Op::GetColorTempOffsetR),
+    Adjust("color-temp.offset-g", 4, kOffset + 1, {20186, 21027, 20192, 20198},
+           Op::ExecColorTempOffsetGReset, Op::GetColorTempOffsetG),
+    Adjust("color-temp.offset-b", 5, kOffset + 2, {20187, 21028, 20193, 20199},
+           Op::ExecColorTempOffsetBReset, Op::GetColorTempOffsetB),
 };
-// clang-format on
 
 }  // namespace
 

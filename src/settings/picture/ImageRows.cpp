@@ -21,28 +21,40 @@ constexpr ResetEntry kResets[] = {{ListText::Keystone, Op::ExecKeyStoneReset}};
 constexpr ValueRow Keystone() {
   ValueRow row =
       CentredSlider("image.keystone", 77, {21046, 21045, 21047, 21117}, CommandCode::Keystone,
-                    ErrorText::KeystoneRefused, ValueRow::kNoRangeText, Range{-128, 127}, 16);
+                    ErrorText::KeystoneRefused, kNoRangeText, Range{-128, 127}, 16);
   row.on = NotOn(71);
   return row;
 }
 
-// clang-format off
 constexpr PageRow kRows[] = {
     Keystone(),
-    ListRow{"image.blank", 38, 20112, kBlanks, Get(CommandCode::BlankColor), Named(Op::SetBlankColor), kBlankRules},
-    ListRow{"image.startup", 39, 20113, kOffOn, Get(CommandCode::ImageStartup), Named(Op::SetStartup)},
-    ListRow{"image.mirror", 40, 20114, kImageMirrors, Get(CommandCode::ImageMirror), Named(Op::SetMirror)},
-    ListRow{"image.pin-p-input", 42, 20116, kPinPInputs, Get(CommandCode::ImagePinPInput), Named(Op::SetPinPInput)},
-    ListRow{"image.pin-p-position", 43, 20117, kPinPPositions, Get(CommandCode::PinPPosition), Named(Op::SetPinPPosition)},
-    ListRow{"image.pin-p-audio", 44, 20118, kPinPAudios, Get(CommandCode::ImagePinPAudio), Named(Op::SetPinPAudio)},
-    ListRow{"image.pin-p-size", 45, 20119, kPinPSizes, Get(CommandCode::ImagePinPSize), Named(Op::SetPinPSize)},
-    ListRow{"image.gamma", 41, 20115, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
+    ListRow{"image.blank", 38, 20112, kBlanks, Get(CommandCode::BlankColor),
+            Named(Op::SetBlankColor), kBlankRules},
+    ListRow{"image.startup", 39, 20113, kOffOn, Get(CommandCode::ImageStartup),
+            Named(Op::SetStartup)},
+    ListRow{"image.mirror", 40, 20114, kImageMirrors, Get(CommandCode::ImageMirror),
+            Named(Op::SetMirror)},
+    ListRow{"image.pin-p-input", 42, 20116, kPinPInputs, Get(CommandCode::ImagePinPInput),
+            Named(Op::SetPinPInput)},
+    ListRow{"image.pin-p-position", 43, 20117, kPinPPositions, Get(CommandCode::PinPPosition),
+            Named(Op::SetPinPPosition)},
+    ListRow{"image.pin-p-audio", 44, 20118, kPinPAudios, Get(CommandCode::ImagePinPAudio),
+            Named(Op::SetPinPAudio)},
+    ListRow{"image.pin-p-size", 45, 20119, kPinPSizes, Get(CommandCode::ImagePinPSize),
+            Named(Op::SetPinPSize)},
+    ListRow{"image.gamma", 41, 20115, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma),
+            kGammaRules},
     // These projectors set the colour temperature with gamma's code, but report it with its own
     // code.
-    ListRow{"image.color-temp", 115, 20121, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::Gamma), {.error = ErrorText::ImageColorTempRefused, .emptyIsNotRead = true}},
+    ListRow{"image.color-temp",
+            115,
+            20121,
+            ColorTempEntries,
+            Get(CommandCode::ColorTemp),
+            Set(CommandCode::Gamma),
+            {.error = ErrorText::ImageColorTempRefused, .emptyIsNotRead = true}},
     ResetRow{"image.reset", 20120, 20643, kResets},
 };
-// clang-format on
 
 }  // namespace
 

@@ -21,16 +21,23 @@ constexpr ResetEntry kResets[] = {
     {ListText::Picture22OverScan, Op::ExecOverScanReset},
 };
 
-// clang-format off
 constexpr PageRow kRows[] = {
     PositionV("picture.position-v", kArrows),
     PositionH("picture.position-h", kArrows),
-    CentredSlider("picture.h-phase", 49, {20801, 20036, 20802, 20038}, CommandCode::HPhase, ErrorText::HPhaseRefused, RangeIndex::HPhase, kHPhase, kHPhaseTicks),
-    SteppedField("picture.h-size", 50, {.minus = 20803, .plus = 20804, .field = 20040}, CommandCode::HSize, ErrorText::HSizeRefused),
-    ListRow{"picture.over-scan", 47, 20030, kOverScans, Get(CommandCode::OverScan), Set(CommandCode::OverScan), {.error = ErrorText::OverScanRefused}, NotOn(15)},
+    CentredSlider("picture.h-phase", 49, {20801, 20036, 20802, 20038}, CommandCode::HPhase,
+                  ErrorText::HPhaseRefused, RangeIndex::HPhase, kHPhase, kHPhaseTicks),
+    SteppedField("picture.h-size", 50, {.minus = 20803, .plus = 20804, .field = 20040},
+                 CommandCode::HSize, ErrorText::HSizeRefused),
+    ListRow{"picture.over-scan",
+            47,
+            20030,
+            kOverScans,
+            Get(CommandCode::OverScan),
+            Set(CommandCode::OverScan),
+            {.error = ErrorText::OverScanRefused},
+            NotOn(15)},
     ResetRow{"picture.position-reset", 20042, 20043, kResets},
 };
-// clang-format on
 
 }  // namespace
 

@@ -17,16 +17,17 @@ constexpr ResetEntry kResets[] = {
     {ListText::OverScan, Op::ExecOverScanReset, 21050},
 };
 
-// clang-format off
 constexpr PageRow kRows[] = {
     PositionV("picture.position-v", kArrows),
     PositionH("picture.position-h", kArrows),
-    CentredSlider("picture.h-phase", 49, {20801, 21071, 20802, 21117}, CommandCode::HPhase, ErrorText::HPhaseRefused, RangeIndex::HPhase, kHPhase, kHPhaseTicks),
-    SteppedField("picture.h-size", 50, {.minus = 20803, .plus = 20804, .field = 21109}, CommandCode::HSize, ErrorText::HSizeRefused),
-    CentredSlider("picture.over-scan", 47, {20805, 21050, 20806, 21115}, CommandCode::OverScan, ErrorText::OverScanRefused, RangeIndex::OverScan, kOverScan, 1),
+    CentredSlider("picture.h-phase", 49, {20801, 21071, 20802, 21117}, CommandCode::HPhase,
+                  ErrorText::HPhaseRefused, RangeIndex::HPhase, kHPhase, kHPhaseTicks),
+    SteppedField("picture.h-size", 50, {.minus = 20803, .plus = 20804, .field = 21109},
+                 CommandCode::HSize, ErrorText::HSizeRefused),
+    CentredSlider("picture.over-scan", 47, {20805, 21050, 20806, 21115}, CommandCode::OverScan,
+                  ErrorText::OverScanRefused, RangeIndex::OverScan, kOverScan, 1),
     ResetRow{"picture.position-reset", 21073, 21078, kResets},
 };
-// clang-format on
 
 }  // namespace
 

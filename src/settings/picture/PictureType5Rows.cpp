@@ -54,21 +54,44 @@ constexpr ValueRow Sharpness() {
   return row;
 }
 
-// clang-format off
 constexpr PageRow kRows[] = {
-    Slider("picture.brightness", 73, {Id::BrightnessMinus, Id::Brightness, Id::BrightnessPlus, Id::BrightnessField}, CommandCode::Brightness, Op::SetBrightness, RangeIndex::Brightness, ErrorText::BrightnessRefused),
-    Slider("picture.contrast", 74, {Id::ContrastMinus, Id::Contrast, Id::ContrastPlus, Id::ContrastField}, CommandCode::Contrast, Op::SetContrast, RangeIndex::Contrast, ErrorText::ContrastRefused),
-    Slider("picture.color", 116, {Id::ColorMinus, Id::Color, Id::ColorPlus, Id::ColorField}, CommandCode::Color, Op::SetColor, RangeIndex::Color, ErrorText::ColorRefused),
-    Slider("picture.tint", 117, {Id::TintMinus, Id::Tint, Id::TintPlus, Id::TintField}, CommandCode::Tint, Op::SetTint, RangeIndex::Tint, ErrorText::TintRefused),
+    Slider("picture.brightness", 73,
+           {Id::BrightnessMinus, Id::Brightness, Id::BrightnessPlus, Id::BrightnessField},
+           CommandCode::Brightness, Op::SetBrightness, RangeIndex::Brightness,
+           ErrorText::BrightnessRefused),
+    Slider("picture.contrast", 74,
+           {Id::ContrastMinus, Id::Contrast, Id::ContrastPlus, Id::ContrastField},
+           CommandCode::Contrast, Op::SetContrast, RangeIndex::Contrast,
+           ErrorText::ContrastRefused),
+    Slider("picture.color", 116, {Id::ColorMinus, Id::Color, Id::ColorPlus, Id::ColorField},
+           CommandCode::Color, Op::SetColor, RangeIndex::Color, ErrorText::ColorRefused),
+    Slider("picture.tint", 117, {Id::TintMinus, Id::Tint, Id::TintPlus, Id::TintField},
+           CommandCode::Tint, Op::SetTint, RangeIndex::Tint, ErrorText::TintRefused),
     Sharpness(),
-    ListRow{"picture.gamma", 41, Id::Gamma, GammaEntries, Get(CommandCode::Gamma), Named(Op::SetGamma), kGammaRules},
-    ListRow{"picture.color-temp", 115, Id::ColorTemp, ColorTempEntries, Get(CommandCode::ColorTemp), Set(CommandCode::ColorTemp), kColorTempRules},
+    ListRow{"picture.gamma", 41, Id::Gamma, GammaEntries, Get(CommandCode::Gamma),
+            Named(Op::SetGamma), kGammaRules},
+    ListRow{"picture.color-temp", 115, Id::ColorTemp, ColorTempEntries, Get(CommandCode::ColorTemp),
+            Set(CommandCode::ColorTemp), kColorTempRules},
     // A mode without an entry does not change the row.
-    ListRow{"picture.active-iris", 128, Id::ActiveIris, kActiveIris, Get(CommandCode::ActiveIris), Set(CommandCode::ActiveIris), {.noEntry = NoEntry::Ignored, .error = ErrorText::ActiveIrisRefused}, OnlyOn(30, 31, 41, 43, 46, 51, 52, 54)},
-    ActionRow{"picture.my-memory", 119, Id::MyMemoryExecute, Named(Op::SetMyMemory), Rereads::WhenDone, ActionList{Id::MyMemory, kMyMemories}, {}, 0, ListText::MemoryDoneBase},
+    ListRow{"picture.active-iris",
+            128,
+            Id::ActiveIris,
+            kActiveIris,
+            Get(CommandCode::ActiveIris),
+            Set(CommandCode::ActiveIris),
+            {.noEntry = NoEntry::Ignored, .error = ErrorText::ActiveIrisRefused},
+            OnlyOn(30, 31, 41, 43, 46, 51, 52, 54)},
+    ActionRow{"picture.my-memory",
+              119,
+              Id::MyMemoryExecute,
+              Named(Op::SetMyMemory),
+              Rereads::WhenDone,
+              ActionList{Id::MyMemory, kMyMemories},
+              {},
+              0,
+              ListText::MemoryDoneBase},
     ResetRow{"picture.reset", Id::Reset, Id::ResetExecute, kResets, Rereads::Always},
 };
-// clang-format on
 
 }  // namespace
 

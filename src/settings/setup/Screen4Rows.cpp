@@ -54,26 +54,43 @@ constexpr ResetEntry kResets[] = {
 };
 
 // Every model has all rows. If it does not have a setting, the row is disabled.
-// clang-format off
 constexpr PageRow kRows[] = {
-    ListRow{"screen.language", 76, 20226, LanguageEntries, Get(CommandCode::Language), Named(Op::SetLanguage)},
+    ListRow{"screen.language", 76, 20226, LanguageEntries, Get(CommandCode::Language),
+            Named(Op::SetLanguage)},
     MenuPosition("screen.menu-position-v", {20230, 0, 20227, 20231}, CommandCode::MenuPositionV),
     MenuPosition("screen.menu-position-h", {20228, 0, 20229, 20232}, CommandCode::MenuPositionH),
-    ValueRow{.key = "screen.osd-brightness", .caption = 133, .ids = {20233, 20234, 20235, 20236}, .code = CommandCode::OsdBrightness, .rangeText = RangeIndex::OsdBrightness, .range = Range{0, 255}, .bounds = kUnbounded, .ticks = 32, .error = ErrorText::OsdBrightRefused},
-    ListRow{"screen.blank", 38, 20237, kBlanks, Get(CommandCode::BlankColor), Named(Op::SetBlankColor), kBlankRules},
-    ListRow{"screen.startup", 1039, 21086, kStartups, Get(CommandCode::Startup), Named(Op::SetStartup), kStartupRules},
-    ListRow{"screen.my-screen-lock", 1130, 20238, kSwitch, Get(CommandCode::MyScreenLock), Named(Op::SetMyScreenLock)},
-    ListRow{"screen.message", 131, 20239, kSwitch, Get(CommandCode::Message), Named(Op::SetMessage)},
-    WithError("screen.template", 209, 20242, kTemplates, CommandCode::Template, ErrorText::TemplateRefused),
+    ValueRow{.key = "screen.osd-brightness",
+             .caption = 133,
+             .ids = {20233, 20234, 20235, 20236},
+             .code = CommandCode::OsdBrightness,
+             .rangeText = RangeIndex::OsdBrightness,
+             .range = Range{0, 255},
+             .bounds = kUnbounded,
+             .ticks = 32,
+             .error = ErrorText::OsdBrightRefused},
+    ListRow{"screen.blank", 38, 20237, kBlanks, Get(CommandCode::BlankColor),
+            Named(Op::SetBlankColor), kBlankRules},
+    ListRow{"screen.startup", 1039, 21086, kStartups, Get(CommandCode::Startup),
+            Named(Op::SetStartup), kStartupRules},
+    ListRow{"screen.my-screen-lock", 1130, 20238, kSwitch, Get(CommandCode::MyScreenLock),
+            Named(Op::SetMyScreenLock)},
+    ListRow{"screen.message", 131, 20239, kSwitch, Get(CommandCode::Message),
+            Named(Op::SetMessage)},
+    WithError("screen.template", 209, 20242, kTemplates, CommandCode::Template,
+              ErrorText::TemplateRefused),
     WithError("screen.p-by-p", 210, 20243, kSwitch, CommandCode::PbyP, ErrorText::PbyPRefused),
-    WithError("screen.p-by-p-size", 211, 20244, kSizes, CommandCode::PbyPSize, ErrorText::PbyPSizeRefused),
-    WithError("screen.p-by-p-sub-source", 212, 20245, SourcePositions, CommandCode::PbyPSubSource, ErrorText::PbyPSubSourceRefused),
-    WithError("screen.p-by-p-main-area", 213, 20246, kAreas, CommandCode::PbyPMainArea, ErrorText::PbyPMainAreaRefused),
-    WithError("screen.p-by-p-start-area", 214, 20247, kAreas, CommandCode::PbyPStartArea, ErrorText::PbyPStartAreaRefused),
-    WithError("screen.p-by-p-main-source", 215, 20248, SourcePositions, CommandCode::PbyPMainSource, ErrorText::PbyPMainSourceRefused),
+    WithError("screen.p-by-p-size", 211, 20244, kSizes, CommandCode::PbyPSize,
+              ErrorText::PbyPSizeRefused),
+    WithError("screen.p-by-p-sub-source", 212, 20245, SourcePositions, CommandCode::PbyPSubSource,
+              ErrorText::PbyPSubSourceRefused),
+    WithError("screen.p-by-p-main-area", 213, 20246, kAreas, CommandCode::PbyPMainArea,
+              ErrorText::PbyPMainAreaRefused),
+    WithError("screen.p-by-p-start-area", 214, 20247, kAreas, CommandCode::PbyPStartArea,
+              ErrorText::PbyPStartAreaRefused),
+    WithError("screen.p-by-p-main-source", 215, 20248, SourcePositions, CommandCode::PbyPMainSource,
+              ErrorText::PbyPMainSourceRefused),
     ResetRow{"screen.reset", 20240, 20241, kResets},
 };
-// clang-format on
 
 }  // namespace
 

@@ -37,26 +37,48 @@ constexpr ResetEntry kResets[] = {
     {ListText::ColorBalB, Op::ExecColorBalBReset, 21043},
 };
 
-// clang-format off
 constexpr PageRow kRows[] = {
-    Bounded(kBalance, CentredSlider("setup.brightness", 73, {20078, 20079, 20080, 20081}, CommandCode::Brightness, ErrorText::BrightnessRefused, RangeIndex::Brightness)),
+    Bounded(kBalance, CentredSlider("setup.brightness", 73, {20078, 20079, 20080, 20081},
+                                    CommandCode::Brightness, ErrorText::BrightnessRefused,
+                                    RangeIndex::Brightness)),
     // − and + of the contrast stop at the slider's bounds.
-    CentredSlider("setup.contrast", 74, {20082, 20083, 20084, 20085}, CommandCode::Contrast, ErrorText::ContrastRefused, RangeIndex::Contrast, kContrast),
+    CentredSlider("setup.contrast", 74, {20082, 20083, 20084, 20085}, CommandCode::Contrast,
+                  ErrorText::ContrastRefused, RangeIndex::Contrast, kContrast),
     PositionV("setup.position-v", kArrows),
     PositionH("setup.position-h", kArrows),
-    ValueRow{.key = "setup.h-phase", .caption = 49, .ids = {20092, 20093, 20094, 20095}, .code = CommandCode::HPhase,
-             .range = Range{0, 248}, .ticks = 32, .error = ErrorText::HPhaseRefused},
-    SteppedField("setup.h-size", 50, {20096, 0, 20098, 20097}, CommandCode::HSize, ErrorText::HSizeRefused),
-    Bounded(kSharpness, CentredSlider("setup.sharpness", 118, {21056, 21057, 21058, 20100}, CommandCode::Sharpness, ErrorText::SharpnessRefused, RangeIndex::Sharpness, kSharpness, 1)),
-    Bounded(kColor, CentredSlider("setup.color", 116, {21059, 21060, 21061, 20101}, CommandCode::Color, ErrorText::ColorRefused, RangeIndex::Color, kColor)),
-    Bounded(kTint, CentredSlider("setup.tint", 117, {21062, 21063, 21064, 20102}, CommandCode::Tint, ErrorText::TintRefused, RangeIndex::Tint, kTint)),
-    Bounded(kBalance, CentredSlider("setup.color-balance-r", 125, {20103, 20104, 20105, 20106}, CommandCode::ColorBalR, ErrorText::ColorBalRRefused, RangeIndex::ColorBalR)),
-    Bounded(kBalance, CentredSlider("setup.color-balance-b", 127, {21042, 21043, 21068, 20107}, CommandCode::ColorBalB, ErrorText::ColorBalBRefused, RangeIndex::ColorBalB)),
+    ValueRow{.key = "setup.h-phase",
+             .caption = 49,
+             .ids = {20092, 20093, 20094, 20095},
+             .code = CommandCode::HPhase,
+             .range = Range{0, 248},
+             .ticks = 32,
+             .error = ErrorText::HPhaseRefused},
+    SteppedField("setup.h-size", 50, {20096, 0, 20098, 20097}, CommandCode::HSize,
+                 ErrorText::HSizeRefused),
+    Bounded(kSharpness, CentredSlider("setup.sharpness", 118, {21056, 21057, 21058, 20100},
+                                      CommandCode::Sharpness, ErrorText::SharpnessRefused,
+                                      RangeIndex::Sharpness, kSharpness, 1)),
+    Bounded(kColor,
+            CentredSlider("setup.color", 116, {21059, 21060, 21061, 20101}, CommandCode::Color,
+                          ErrorText::ColorRefused, RangeIndex::Color, kColor)),
+    Bounded(kTint, CentredSlider("setup.tint", 117, {21062, 21063, 21064, 20102}, CommandCode::Tint,
+                                 ErrorText::TintRefused, RangeIndex::Tint, kTint)),
+    Bounded(kBalance, CentredSlider("setup.color-balance-r", 125, {20103, 20104, 20105, 20106},
+                                    CommandCode::ColorBalR, ErrorText::ColorBalRRefused,
+                                    RangeIndex::ColorBalR)),
+    Bounded(kBalance, CentredSlider("setup.color-balance-b", 127, {21042, 21043, 21068, 20107},
+                                    CommandCode::ColorBalB, ErrorText::ColorBalBRefused,
+                                    RangeIndex::ColorBalB)),
     // The projector expects the position in the model's list, but reports the value.
-    ListRow{"setup.aspect", 46, 20099, AspectEntries, Get(CommandCode::Aspect), Named(Op::SetAspect), {.sendsPosition = true, .emptyIsNotRead = true}},
+    ListRow{"setup.aspect",
+            46,
+            20099,
+            AspectEntries,
+            Get(CommandCode::Aspect),
+            Named(Op::SetAspect),
+            {.sendsPosition = true, .emptyIsNotRead = true}},
     ResetRow{"setup.reset", 21069, 21073, kResets},
 };
-// clang-format on
 
 }  // namespace
 

@@ -6,6 +6,8 @@ namespace AdvancedControl {
 
 namespace {
 
+namespace Id = ControlId::Status;
+
 using Op = PjtOperation;
 
 constexpr ListEntry kErrors[] = {
@@ -39,22 +41,21 @@ constexpr StateRow State(std::string_view key, int caption, int label, std::uint
           .frame = ListText::StatusValue};
 }
 
-constexpr ResetEntry kResets[] = {{ListText::LampTime, Op::ExecLampTimeReset, 20014},
+constexpr ResetEntry kResets[] = {{ListText::LampTime, Op::ExecLampTimeReset, Id::LampTime},
                                   {ListText::FilterTime, Op::ExecFilterTimeReset, 20015}};
 
-// clang-format off
 constexpr PageRow kRows[] = {
-    State("status.power", 145, 20008, CommandCode::RunningState, shared::kPowers, ListText::Off),
+    State("status.power", 145, Id::Power, CommandCode::RunningState, shared::kPowers,
+          ListText::Off),
     State("status.input-source", 146, 20009, CommandCode::InputSource, SourcesInAnySlot, 0),
-    State("status.error", 147, 20010, CommandCode::ErrorStatus, kErrors, ListText::ErrorOther),
+    State("status.error", 147, Id::Error, CommandCode::ErrorStatus, kErrors, ListText::ErrorOther),
     State("status.blank", 148, 20011, CommandCode::BlankState, kOn, ListText::Off),
     State("status.mute", 149, 20012, CommandCode::Mute, kOn, ListText::Off),
     State("status.freeze", 150, 20013, CommandCode::Freeze, kFreeze, ListText::FreezeNormal),
-    State("status.lamp-time", 151, 20014, CommandCode::LampTime, {}, ListText::Hours),
+    State("status.lamp-time", 151, Id::LampTime, CommandCode::LampTime, {}, ListText::Hours),
     State("status.filter-time", 152, 20015, CommandCode::FilterTime, {}, ListText::Hours),
-    ResetRow{"status.reset", ControlId::Status::Reset, 20018, kResets},
+    ResetRow{"status.reset", Id::Reset, 20018, kResets},
 };
-// clang-format on
 
 }  // namespace
 

@@ -1,8 +1,9 @@
 // Writes a file as the host application does, so that scripts/faults.py can make calls fail
 // meanwhile:
 //
-//   host_files edit FILE   renames the first projector of a profile file, as the profile editor
-//   does host_files log FILE    saves a command log
+//   host_files edit FILE   notes something about the first projector of a profile file, as the
+//                          profile editor does
+//   host_files log FILE    saves a command log
 //
 // An error is printed, and ends the program with 1.
 
@@ -29,7 +30,7 @@ QString Edit(const QString& file) {
   BeginFailing();
   ProfileDocument document;
   const QString error = document.Load(file);
-  return error.isEmpty() ? document.Change(0, {{"name", "Renamed"}}) : error;
+  return error.isEmpty() ? document.Change(0, {{"notes", "Changed"}}) : error;
 }
 
 QString SaveLog(const QString& file) {

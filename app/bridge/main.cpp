@@ -2,7 +2,6 @@
 #include <cstdio>
 #include <exception>
 #include <new>
-#include <sys/resource.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -12,6 +11,7 @@
 #include "app/bridge/Bridge.h"
 #include "app/bridge/Log.h"
 #include "app/bridge/Options.h"
+#include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
 #include "app/profiles/Translations.h"
 #include "fleet/ProfileFile.h"
@@ -35,14 +35,6 @@ int SignalFile() {
   for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGUSR1, SIGUSR2}) sigaddset(&signals, signal);
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
   return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
-}
-
-/// The fleet uses half the files that the process may open.
-void RaiseDescriptorLimit() {
-  rlimit limit{};
-  if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
-  limit.rlim_cur = limit.rlim_max;
-  setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 void TakeSignals(int file, Bridge& bridge) {

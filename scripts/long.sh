@@ -21,7 +21,7 @@
 # The sanitizers watch the walks; PRESET=dev takes another build. What was found is said at the end, with what to run
 # to see it again, and ends the script with 1.
 set -uo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit
 
 case "${1:-2h}" in
   *h) seconds=$((${1%h} * 3600)) ;;
@@ -89,10 +89,11 @@ run_faults() {
 }
 
 run_languages() {
-  local screen
+  local screen name
   for screen in "TEST_SCREEN=1024x768 QT_SCALE_FACTOR=1" "TEST_SCREEN=1920x1080 QT_SCALE_FACTOR=2" \
     "TEST_SCREEN=1920x1080 QT_SCALE_FACTOR=3"; do
-    further "languages ${screen//[^0-9x]/ }" \
+    name=${screen//[A-Z_=]/}
+    further "languages-${name/ /-}" \
       "TEST_LANGUAGES=all $screen $bin/sweep_tests --gtest_filter='*NothingIsClipped*'"
   done
 }

@@ -16,7 +16,7 @@ libraries="ProjectorCommon ProjectorSettings ProjectorFleet AdvancedControl"
 then=build/abi/then
 git worktree remove --force "$then" 2>/dev/null || true
 trap 'git worktree remove --force "$then" 2>/dev/null || true' EXIT
-git worktree add --detach "$then" "$since" >/dev/null
+git worktree add --quiet --detach "$then" "$since"
 for source in . "$then"; do
   into=build/abi/$([ "$source" = . ] && echo now || echo before)
   cmake -S "$source" -B "$into" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DADVANCEDCONTROL_TESTS=OFF \

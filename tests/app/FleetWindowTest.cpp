@@ -216,24 +216,6 @@ TEST(FleetWindow, TestConnectionSaysWhatAnswers) {
   EXPECT_EQ(said(TcpAddress{.host = "127.0.0.1", .port = 1}), "No answer");
 }
 
-TEST(FleetWindow, DoesNotVisitWhileAClosedDialogsChannelIsConnected) {
-  Served served;
-  FleetProfile profile = Profile("A");
-  profile.link = ProjectorLink::PjLink;
-  profile.connection = {.isNetwork = true,
-                        .address = "127.0.0.1",
-                        .port = static_cast<std::int32_t>(served.pjLink.Port()),
-                        .secret = "secret"};
-  FleetWatch watch(kOften);
-  watch.SetProfiles({profile});
-  ASSERT_TRUE(Soon([&] { return watch.Projectors().Tally().answered > 0; }));
-  watch.LeaveToDialog(FleetIdOf(profile));
-  watch.TakeBack(FleetIdOf(profile));
-  const auto begun = watch.Projectors().Tally().begun;
-  QTest::qWait(600);
-  EXPECT_EQ(watch.Projectors().Tally().begun, begun);
-}
-
 TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
   Served served;
   served.device->Execute({PjtOperation::SetPowerOn});

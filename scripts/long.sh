@@ -41,6 +41,7 @@ bin="build/$preset/bin"
 share=$((seconds / 4))
 logs=build/long
 findings=()
+commit=$(git rev-parse --short HEAD)
 runs=0 actions=0 kills=0 faults=0
 export QT_QPA_PLATFORM=offscreen
 mkdir -p "$logs"
@@ -128,7 +129,7 @@ done
 said=none
 [ ${#findings[@]} -eq 0 ] || said="${#findings[@]}, to be mended"
 if [ $((runs + actions + kills + faults)) -gt 0 ]; then
-  printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$(git rev-parse --short HEAD)" \
+  printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$commit" \
     "$preset" "$seconds" "$runs" "$actions" "$kills" "$faults" "$said" | tee -a docs/reliability.md
 fi
 [ ${#findings[@]} -eq 0 ] && exit

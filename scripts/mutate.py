@@ -29,10 +29,10 @@ from concurrent.futures import ThreadPoolExecutor
 from dataclasses import replace
 from pathlib import Path
 
-from mutation.build import Builder, read_units
+from mutation.build import Builder, Links, read_units
 from mutation.equivalent import Equivalents
 from mutation.mutants import read_source
-from mutation.trial import Reach, Trial
+from mutation.trial import UNREACHED, Reach, Trial
 
 ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build/mutation"
@@ -57,6 +57,7 @@ def parse_arguments():
     parser.add_argument("--build", default="build/dev", help="the build to take objects from (default: build/dev)")
     parser.add_argument("--least", type=float, default=100, metavar="PERCENT",
                         help="fail only if fewer are killed (default: 100)")
+    parser.add_argument("--few", type=int, default=1, metavar="N", help="never fail if fewer are tried")
     return parser.parse_args()
 
 
@@ -74,7 +75,7 @@ def changed_lines(revision):
     return lines
 
 
-def choose(arguments):
+def choose(arguments, units, links):
     """The chosen mutants, and the files that they are in."""
     listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "src", "app"],
                             cwd=ROOT, capture_output=True, text=True, check=True).stdout.split()
@@ -82,7 +83,8 @@ def choose(arguments):
     patterns = arguments.files or (["*"] if lines else ["src/*"])
     if arguments.only:
         patterns = [mutant.split(":")[0] for mutant in arguments.only]
-    flags = {member: unit.flags for unit in read_units(ROOT, ROOT / arguments.build) for member in unit.members}
+    tested = links.all_objects()
+    flags = {member: unit.flags for unit in units if unit.object in tested for member in unit.members}
     files = [file for file in listed if file in flags and any(fnmatch.fnmatch(file, pattern) for pattern in patterns)
              and (lines is None or file in lines)]
     with ThreadPoolExecutor(arguments.jobs) as pool:
@@ -132,11 +134,11 @@ def one_line(text):
 class Run:
     """Tests mutants on several processors."""
 
-    def __init__(self, sources, results, arguments):
+    def __init__(self, units, links, sources, results, arguments):
         self.work = WORK / arguments.build.replace("/", "-")
         self.work.mkdir(parents=True, exist_ok=True)
         self.results, self.jobs = results, arguments.jobs
-        self.builder = Builder(ROOT, ROOT / arguments.build, self.work, sources)
+        self.builder = Builder(ROOT, ROOT / arguments.build, self.work, units, links, sources)
         with ThreadPoolExecutor(self.jobs) as pool:
             suites = self.builder.build_all(pool)
             self.reach = Reach([suite for suite in suites if not arguments.suites or suite.name in arguments.suites],
@@ -217,38 +219,38 @@ class Run:
             raise failures[0]
 
 
-def report(mutants, results, equivalents):
-    """Prints what is known of the mutants. Returns how many percent are killed."""
+def report(mutants, results, equivalents, suites):
+    """Prints what is known of the mutants. Returns how many were tried, and how many percent of them are killed."""
     scores, alive = defaultdict(Counter), []
     for mutant in mutants:
         result = results.find(mutant)
-        folder = "/".join(mutant.file.split("/")[:2])
-        if equivalents.has(mutant):
-            scores[folder]["equivalent"] += 1
-            continue
-        if result is None:
-            continue
-        scores[folder][result["outcome"]] += 1
-        if result["outcome"] == "alive":
+        outcome = "equivalent" if equivalents.has(mutant) else result["outcome"] if result else "open"
+        if suites and outcome == "alive" and result["detail"] == UNREACHED:
+            outcome = "unreached"  # another suite may reach it
+        scores["/".join(mutant.file.split("/")[:2])][outcome] += 1
+        if outcome == "alive":
             alive.append((mutant, result["detail"]))
     if alive:
         print("\nAlive:")
     for mutant, detail in alive:
         print(f"  {mutant.file}:{mutant.line}: {one_line(mutant.before)}  ->  {one_line(mutant.after) or 'nothing'}"
               f"{'  (' + detail + ')' if detail else ''}\n    scripts/mutate.py --only {mutant.id}")
-    print("\nfolder              killed  alive  score   equivalent  invalid")
+    columns = ("killed", "alive", "equivalent", "invalid", "unreached", "open")
+    print(f"\n{'folder':20}" + "".join(f"{column:>11}" for column in columns) + "      score")
     for folder, score in sorted(scores.items()):
         tried = score["killed"] + score["alive"]
-        share = f"{100 * score['killed'] / tried:4.0f} %" if tried else "     -"
-        print(f"{folder:18} {score['killed']:7} {score['alive']:6} {share} {score['equivalent']:12} {score['invalid']:8}")
+        share = f"{100 * score['killed'] / tried:9.0f} %" if tried else ""
+        print(f"{folder:20}" + "".join(f"{score[column]:11}" for column in columns) + share)
     killed = sum(score["killed"] for score in scores.values())
-    return 100 * killed / (killed + len(alive)) if killed + len(alive) else 100
+    tried = killed + len(alive)
+    return tried, 100 * killed / tried if tried else 100
 
 
 def main():
     arguments = parse_arguments()
     WORK.mkdir(parents=True, exist_ok=True)
-    mutants, sources = choose(arguments)
+    units, links = read_units(ROOT, ROOT / arguments.build), Links(ROOT / arguments.build)
+    mutants, sources = choose(arguments, units, links)
     if arguments.list:
         for mutant in mutants:
             print(f"{mutant.id}  {one_line(mutant.before)}  ->  {one_line(mutant.after) or 'nothing'}")
@@ -265,8 +267,9 @@ def main():
     wanted = [mutant for mutant in mutants if is_open(mutant) and not equivalents.has(mutant)]
     if wanted:
         random.Random(arguments.seed).shuffle(wanted)  # an interrupted run is a sample, too
-        Run(sources, results, arguments).all(wanted)
-    return 0 if report(mutants, results, equivalents) >= arguments.least else 1
+        Run(units, links, sources, results, arguments).all(wanted)
+    tried, score = report(mutants, results, equivalents, arguments.suites)
+    return 0 if score >= arguments.least or tried < arguments.few else 1
 
 
 if __name__ == "__main__":

@@ -36,6 +36,32 @@ def read_units(root, build):
     return [Unit(root, entry) for entry in json.loads((build / "compile_commands.json").read_text())]
 
 
+class Links:
+    """How a build links its test programs and its libraries."""
+
+    def __init__(self, build):
+        def command(name):
+            told = subprocess.run(["ninja", "-C", build, "-t", "commands", "-s", name], capture_output=True, text=True,
+                                  check=True).stdout
+            return shlex.split(told.split(" && ")[1])
+
+        targets = subprocess.run(["ninja", "-C", build, "-t", "targets", "all"], capture_output=True, text=True,
+                                 check=True).stdout
+        names = [name for name in re.findall(r"^(\S+): CXX_\w+_LINKER__", targets, re.MULTILINE)
+                 if (build / name).exists()]
+        self.archives = {name: command(name) for name in names if name.endswith(".a")}
+        self.commands = {name: command(name) for name in names if re.search(r"_tests$|/lib\w+\.so", name)}
+
+    def objects(self, name):
+        """The objects that a program or library is made of, also those in archives."""
+        words = self.commands[name]
+        archived = [self.archives[word] for word in words if word in self.archives]
+        return {word for part in [words, *archived] for word in part if word.endswith(".o")}
+
+    def all_objects(self):
+        return {word for name in self.commands for word in self.objects(name)}
+
+
 class Rendering:
     """A file with its mutants, numbered from `first`; without those that are `out` and with `fixed` tables as they are."""
 
@@ -116,9 +142,9 @@ class Rendering:
 
 
 class Builder:
-    def __init__(self, root, build, work, sources):
+    def __init__(self, root, build, work, units, links, sources):
         self.root, self.build, self.work = root, build, work
-        self.units = read_units(root, build)
+        self.units, self.links = units, links
         self.sources = {source.name: source for source in sources}
         # A file has the same numbers whatever others are chosen.
         members = sorted({member for unit in self.units for member in unit.members})
@@ -143,7 +169,7 @@ class Builder:
             main.write_text("".join(f'#include "{files.get(member, self.root / member)}"\n' for member in unit.members))
         output.parent.mkdir(parents=True, exist_ok=True)
         beside = [f"-iquote{(self.root / member).parent}" for member in unit.members]
-        done = subprocess.run([*unit.command, *beside, "-w", "-Wno-narrowing", "-fdiagnostics-column-unit=byte",
+        done = subprocess.run([*unit.command, *beside, "-w", "-Wno-narrowing", "-D_GLIBCXX_ASSERTIONS", "-fdiagnostics-column-unit=byte",
                                "-fno-diagnostics-show-caret", *options, "-o", str(output), "-c", str(main)],
                               cwd=unit.folder, capture_output=True, text=True, errors="replace",
                               env=os.environ | {"LC_ALL": "C"})
@@ -155,7 +181,7 @@ class Builder:
         state = output.with_suffix(".json")
         names = [member for member in unit.members if member in self.sources]
         digest = hashlib.sha256(repr([unit.command, [(name, self.first[name]) for name in names]]).encode())
-        for file in [*(self.root / member for member in unit.members), HERE / "build.py", HERE / "mutants.py", HERE / "Mutant.h"]:
+        for file in [*(self.root / member for member in unit.members), HERE / "mutants.py", HERE / "Mutant.h"]:
             digest.update(file.read_bytes())
         if state.exists() and output.exists() and (kept := json.loads(state.read_text()))["digest"] == digest.hexdigest() \
                 and newer(output, [self.build / unit.object]):
@@ -222,37 +248,16 @@ class Builder:
         file.write_bytes(text)
         return self.compile(unit, output, {name: file}, options)
 
-    def links(self):
-        """The command line that links each test program and library, without its -o: {path: words}."""
-        targets = subprocess.run(["ninja", "-C", self.build, "-t", "targets", "all"], capture_output=True, text=True,
-                                 check=True).stdout
-        links = {}
-        for name in re.findall(r"^(\S+): CXX_\w+_LINKER__", targets, re.MULTILINE):
-            if (self.build / name).exists() and not name.endswith(".a"):
-                told = subprocess.run(["ninja", "-C", self.build, "-t", "commands", "-s", name], capture_output=True,
-                                      text=True, check=True).stdout
-                links[name] = shlex.split(told.split(" && ")[1])
-        archives = {}
-        for name in re.findall(r"^(\S+\.a): CXX_\w+_LINKER__", targets, re.MULTILINE):
-            told = subprocess.run(["ninja", "-C", self.build, "-t", "commands", "-s", name], capture_output=True,
-                                  text=True, check=True).stdout
-            archives[name] = [word for word in shlex.split(told) if word.endswith(".o")]
-        return links, archives
-
     def link(self, objects, folder, wanted=None, extra=()):
         """Links what has any of the objects, {original: replacement}, into `folder`. The rest is linked to."""
         folder.mkdir(parents=True, exist_ok=True)
-        if not hasattr(self, "known"):
-            self.known = self.links()
-        links, archives = self.known
         made = []
-        for name, words in links.items():
+        for name, words in self.links.commands.items():
             program = Path(name).name
-            isSuite, isLibrary = program.endswith("_tests"), ".so" in program
-            inArchives = [new for archive, members in archives.items() if archive in words
-                          for old, new in objects.items() if old in members]
-            if not (isSuite and (wanted is None or program in wanted) or isLibrary) \
-                    or not (inArchives or any(word in objects for word in words)):
+            isSuite = program.endswith("_tests")
+            used = self.links.objects(name) & objects.keys()
+            inArchives = [objects[old] for old in sorted(used.difference(words))]
+            if not used or isSuite and wanted is not None and program not in wanted:
                 continue
             at = words.index("-o")
             soname = next((word.split(",")[-1] for word in words if word.startswith("-Wl,-soname,")), program)
@@ -270,6 +275,9 @@ class Builder:
                     raise SystemExit(f"{output} cannot be linked:\n{done.stderr[-3000:]}")
             if isSuite:
                 made.append(output)
+        for file in (self.build / "bin").iterdir():  # programs find catalogs and each other beside them
+            if not (folder / file.name).exists():
+                (folder / file.name).symlink_to(file)
         return made
 
     def build_all(self, pool):

@@ -64,6 +64,7 @@ class Finder:
         self.constants = []  # extents of what the compiler may evaluate
         self.tables = []  # extents of those constants that may be made while the program starts
         self.assertions = []  # extents of those that the compiler checks
+        self.passed_over = []  # extents of what only takes time or memory
 
     def add(self, kind, start, length, after, extent=None):
         extent = extent or (start, start + length)
@@ -122,8 +123,9 @@ class Finder:
     def statement(self, cursor):
         drops = (cursor.kind in JUMPS or cursor.kind == CursorKind.RETURN_STMT
                  or cursor.kind.is_expression())
-        onlyTime = re.search(r"(\.|->)(reserve|shrink_to_fit)\(", self.text(cursor))
-        if drops and not onlyTime and self.written_here(cursor):
+        if cursor.kind == CursorKind.CALL_EXPR and cursor.spelling in ("reserve", "shrink_to_fit"):
+            self.passed_over.append((cursor.extent.start.offset, cursor.extent.end.offset))
+        elif drops and self.written_here(cursor):
             self.add("dropped", cursor.extent.start.offset, len(self.text(cursor).encode()), "(void)0")
 
     def cell(self, cursor):
@@ -183,7 +185,7 @@ class Finder:
         self.operators()
         mutants = []
         for mutant in sorted(self.found.values(), key=lambda mutant: (mutant.offset, mutant.kind)):
-            if not is_in(self.assertions, mutant.offset):
+            if not is_in(self.assertions + self.passed_over, mutant.offset):
                 mutant.constant = is_in(self.constants, mutant.offset)
                 mutants.append(mutant)
         return mutants

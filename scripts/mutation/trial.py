@@ -16,6 +16,7 @@ from mutation.build import newer
 
 # Random walks reach nearly everything and take minutes, so no mutant is worth them.
 LEFT_OUT = ("soak_tests", "walk_tests")
+UNREACHED = "no test reaches it"
 
 
 def run(program, arguments, folder, libraries, variables, limit, processor=None):
@@ -120,7 +121,7 @@ class Trial:
     def test(self, mutant, tests, programs, variables):
         """How the mutant ends: outcome and detail."""
         if not tests:
-            return "alive", "no test reaches it"
+            return "alive", UNREACHED
         batches, skipped = self.batches(mutant, set(tests))
         for batch in batches:
             suite = batch[0][0]

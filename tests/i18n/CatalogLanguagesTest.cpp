@@ -49,10 +49,11 @@ TEST(CatalogLanguages, AreFoundByWhatPeopleCallThem) {
       {3079, {"de_AT", "de-AT.UTF-8@euro", "3079"}},
       {3084, {"fr-CA"}},
       {2058, {"es_MX"}},
+      {1034, {"es", "64522"}},
       {2070, {"pt-PT"}},
       {1046, {"pt", "português", "pt-BR"}},
       {2052, {"zh", "zh-CN", "zh-Hans", "zh-SG", "2052", "简体中文"}},
-      {1028, {"zh-TW", "zh-Hant", "traditional chinese"}},
+      {1028, {"zh-TW", "zh-Hant", "64516", "traditional chinese"}},
       {3076, {"zh-HK"}},
   };
   for (const auto& [id, names] : kCases) {

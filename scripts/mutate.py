@@ -140,9 +140,8 @@ class Run:
         self.results, self.jobs = results, arguments.jobs
         self.builder = Builder(ROOT, ROOT / arguments.build, self.work, units, links, sources)
         with ThreadPoolExecutor(self.jobs) as pool:
-            suites = self.builder.build_all(pool)
-            self.reach = Reach([suite for suite in suites if not arguments.suites or suite.name in arguments.suites],
-                               self.work, self.builder, pool)
+            suites = self.builder.build_all(pool, arguments.suites)
+            self.reach = Reach(suites, self.work, self.builder, pool)
         self.trial = Trial(self.reach, self.work, arguments.budget)
         self.plain = {}  # file: its optimised object without a mutant
         self.lock = threading.Lock()

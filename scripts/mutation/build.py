@@ -198,7 +198,7 @@ class Builder:
                 file.write_bytes(made.output)
                 rendered[name] = (file, made)
             messages = self.compile(unit, output, {name: file for name, (file, _) in rendered.items()},
-                                    ["-include", str(HERE / "Mutant.h")])
+                                    ["-include", str(HERE / "Mutant.h"), "-O0", "-U_FORTIFY_SOURCE"])
             if messages is None:
                 state.write_text(json.dumps({"digest": digest.hexdigest(), "single": sorted(single),
                                              "invalid": sorted(invalid)}))
@@ -280,7 +280,7 @@ class Builder:
                 (folder / file.name).symlink_to(file)
         return made
 
-    def build_all(self, pool):
+    def build_all(self, pool, suites):
         extra = []
         for name in ("Mutant", "Recorder"):
             output = self.work / f"{name}.o"
@@ -295,7 +295,7 @@ class Builder:
             self.single |= single
             self.invalid |= invalid
         self.single -= self.invalid
-        return self.link(objects, self.work / "bin", None, extra)
+        return self.link(objects, self.work / "bin", suites, extra)
 
 
 def newer(output, inputs):

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <optional>
 #include <string>
@@ -21,6 +22,7 @@ TEST(CatalogLanguages, AreThoseOfBothModules) {
     all.push_back(language.tag + ' ' + language.name + ' ' + language.englishName);
   }
   EXPECT_EQ(all.size(), CATALOG_LANGUAGE_COUNT);
+  EXPECT_TRUE(std::ranges::is_sorted(all));
   const std::vector<std::string> known{"cs Čeština Czech",
                                        "de Deutsch German",
                                        "en English English",

@@ -21,6 +21,7 @@ check "Packaging" "scripts/check-packaging.sh"
 cmake --preset check >/dev/null
 check "Optimised build (build/check): warnings are errors" "cmake --build --preset check"
 check "Tests, optimised" "ctest --preset check -j $jobs --repeat until-pass:2"
+check "Mutants of the last changes" "scripts/mutate.py --build build/check --changed HEAD~3 --sample 40 --few 10 --least 80 --budget 20 --suites i18n_tests settings_tests snapshot_tests device_tests toolkit_tests page_tests host_tests bridge_tests"
 check "Calls that fail" "scripts/faults.py build/check 15"
 check "Installed library" "cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake"
 check "Benchmarks for a moment" \

@@ -129,7 +129,9 @@ TEST(SettingTexts, ParsesTypedValues) {
         {"17", 17},
         {"1", {}},
         {"+1", 16, 0},
-        {"+1", {}, 17}}},
+        {"+1", {}, 17},
+        {"-1", {}, 0},
+        {"+1", {}, 99}}},
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
   for (const auto& [key, cases] : kCases) {
@@ -140,6 +142,8 @@ TEST(SettingTexts, ParsesTypedValues) {
       EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << text;
     }
   }
+  const ModelSetting& brightness = *target.settings.Find("picture.brightness");
+  EXPECT_EQ(Texts().Parse(brightness, std::string_view("51", 1))->amount, 133);
 }
 
 }  // namespace

@@ -25,8 +25,9 @@ import sys
 import threading
 import time
 from collections import Counter, defaultdict
-from concurrent.futures import ThreadPoolExecutor
+from concurrent.futures import ProcessPoolExecutor, ThreadPoolExecutor
 from dataclasses import replace
+from functools import partial
 from pathlib import Path
 
 from mutation.build import Builder, Links, read_units
@@ -87,8 +88,8 @@ def choose(arguments, units, links):
     flags = {member: unit.flags for unit in units if unit.object in tested for member in unit.members}
     files = [file for file in listed if file in flags and any(fnmatch.fnmatch(file, pattern) for pattern in patterns)
              and (lines is None or file in lines)]
-    with ThreadPoolExecutor(arguments.jobs) as pool:
-        sources = list(pool.map(lambda file: read_source(ROOT, flags[file], WORK / "mutants", file), files))
+    with ProcessPoolExecutor(arguments.jobs) as pool:
+        sources = list(pool.map(partial(read_source, ROOT, WORK / "mutants"), files, map(flags.get, files)))
     mutants = [mutant for source in sources for mutant in source.mutants
                if (lines is None or mutant.line in lines[mutant.file])
                and (not arguments.kinds or mutant.kind in arguments.kinds)

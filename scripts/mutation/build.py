@@ -43,7 +43,7 @@ class Links:
         def command(name):
             told = subprocess.run(["ninja", "-C", build, "-t", "commands", "-s", name], capture_output=True, text=True,
                                   check=True).stdout
-            return shlex.split(told.split(" && ")[1])
+            return shlex.split(told if name.endswith(".a") else told.split(" && ")[1])
 
         targets = subprocess.run(["ninja", "-C", build, "-t", "targets", "all"], capture_output=True, text=True,
                                  check=True).stdout

@@ -204,7 +204,7 @@ class SourceFile:
     assertions: list
 
 
-def read_source(root, flags, cache, file):
+def read_source(root, cache, file, flags):
     digest = hashlib.sha256((root / file).read_bytes() + Path(__file__).read_bytes()).hexdigest()
     kept = cache / (file.replace("/", "+") + ".json")
     if kept.exists() and (stored := json.loads(kept.read_text()))["digest"] == digest:

@@ -13,6 +13,5 @@ cmake --build --preset asan --target format-check ||
   { echo "Files are not formatted. To format them: cmake --build --preset asan --target format" >&2; exit 1; }
 echo "Testing"
 # Many tests mostly wait.
-# A test that fails is tried once more: on a busy machine, a serial line may be too slow for its time-outs.
-time ctest --preset asan -j $((2 * $(nproc))) --repeat until-pass:2 "$@" ||
+time ctest --preset asan -j $((2 * $(nproc))) "$@" ||
   { echo "Tests failed. To see them again: ctest --preset asan --rerun-failed" >&2; exit 1; }

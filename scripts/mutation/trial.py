@@ -1,6 +1,5 @@
 """Runs the tests: once to record which mutants each reaches, then on each mutant those that reach it."""
 
-import json
 import math
 import os
 import resource

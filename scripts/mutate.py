@@ -12,6 +12,7 @@ Results are kept in build/mutation/results.jsonl: a run that was interrupted goe
 anew when its file has changed, or with --again if it lived. Needs python3-clang."""
 
 import argparse
+import fcntl
 import fnmatch
 import hashlib
 import json
@@ -138,6 +139,8 @@ class Run:
     def __init__(self, units, links, sources, results, arguments):
         self.work = WORK / arguments.build.replace("/", "-")
         self.work.mkdir(parents=True, exist_ok=True)
+        self.only = (self.work / "lock").open("w")  # another run of the same build waits
+        fcntl.flock(self.only, fcntl.LOCK_EX)
         self.results, self.jobs = results, arguments.jobs
         self.builder = Builder(ROOT, ROOT / arguments.build, self.work, units, links, sources)
         with ThreadPoolExecutor(self.jobs) as pool:

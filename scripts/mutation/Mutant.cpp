@@ -1,11 +1,10 @@
 #include "Mutant.h"
 
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <cstdlib>
 
 namespace {
 
@@ -17,7 +16,8 @@ struct Choice {
     struct stat status {};
     if (opened < 0 || fstat(opened, &status) != 0) return;
     size = static_cast<int>(status.st_size);
-    void* bytes = mmap(nullptr, static_cast<std::size_t>(size), PROT_READ | PROT_WRITE, MAP_SHARED, opened, 0);
+    void* bytes = mmap(nullptr, static_cast<std::size_t>(size), PROT_READ | PROT_WRITE, MAP_SHARED,
+                       opened, 0);
     if (bytes != MAP_FAILED) reached = static_cast<char*>(bytes);
     close(opened);
   }

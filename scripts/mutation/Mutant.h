@@ -2,8 +2,8 @@
 
 #include <type_traits>
 
-// Included first in every file with mutants. The environment variable MUTANT has the number of the active mutant.
-// With MUTANTS_REACHED, each mutant that is reached sets its byte in that file.
+// Included first in every file with mutants. The environment variable MUTANT has the number of the
+// active mutant. With MUTANTS_REACHED, each mutant that is reached sets its byte in that file.
 bool IsMutantActive(int number) noexcept;
 
 constexpr bool IsMutant(int number) noexcept {

@@ -181,7 +181,7 @@ class Builder:
         state = output.with_suffix(".json")
         names = [member for member in unit.members if member in self.sources]
         digest = hashlib.sha256(repr([unit.command, [(name, self.first[name]) for name in names]]).encode())
-        for file in [*(self.root / member for member in unit.members), HERE / "mutants.py", HERE / "Mutant.h"]:
+        for file in [*(self.root / member for member in unit.members), HERE / "build.py", HERE / "mutants.py", HERE / "Mutant.h"]:
             digest.update(file.read_bytes())
         if state.exists() and output.exists() and (kept := json.loads(state.read_text()))["digest"] == digest.hexdigest() \
                 and newer(output, [self.build / unit.object]):
@@ -268,11 +268,14 @@ class Builder:
             command += [str(file) for file in extra if isSuite or file.name != "Recorder.o"]
             command += ["-lgtest"] if isSuite else []
             inputs = [self.build / word for word in command if word.endswith((".o", ".a", ".so"))]
-            if not newer(output, [file for file in inputs if file.exists()]):
+            told = folder / f"{output.name}.command"  # other files may have had the mutants before
+            isSame = told.exists() and told.read_text() == repr(command)
+            if not isSame or not newer(output, [file for file in inputs if file.exists()]):
                 output.unlink(missing_ok=True)
                 done = subprocess.run(command, cwd=self.build, capture_output=True, text=True)
                 if done.returncode != 0:
                     raise SystemExit(f"{output} cannot be linked:\n{done.stderr[-3000:]}")
+                told.write_text(repr(command))
             if isSuite:
                 made.append(output)
         for file in (self.build / "bin").iterdir():  # programs find catalogs and each other beside them

@@ -59,7 +59,7 @@ class Reach:
         self.folder.mkdir(parents=True, exist_ok=True)
         self.size = builder.size
         suites = [suite for suite in suites if suite.name not in LEFT_OUT]
-        libraries = list((work / "bin").glob("*.so*"))
+        libraries = list((work / "bin").glob("*.so.?"))
         for suite, record in zip(suites, pool.map(lambda suite: self.record(suite, libraries), suites)):
             for line in record.read_text().splitlines():
                 name, seconds, passed, *numbers = line.split()

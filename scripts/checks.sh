@@ -31,4 +31,4 @@ cmake --preset tsan >/dev/null
 check "Build under the thread sanitizer (build/tsan)" "cmake --build --preset tsan --target device_tests fleet_tests"
 check "Channels and fleet under the thread sanitizer" \
   "ctest --preset tsan -j $jobs -R '^(device|fleet)_tests'"
-check "Fuzz targets for a moment" "scripts/fuzz.sh 2"
+check "Fuzz targets for a moment" "scripts/fuzz.sh 2 asan"

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Holds what tests reached against scripts/coverage.txt: scripts/coverage.py BUILD [EXPRESSION].
 
-BUILD is one of the preset `coverage` in which tests have run, see scripts/coverage.sh. With an expression, lists the
+BUILD is one of the preset `asan` in which tests have run, as ./test.sh does. With an expression, lists the
 branches that no test took in the files whose path it matches."""
 
 import json
@@ -78,7 +78,7 @@ def check(records):
         print(f"{expression:40} {shares[0]:5.1f} % {shares[1]:7.1f} % {count[2] - count[3]:7} {aim:>4} %")
         for what, share, limit in zip(("lines", "branches"), shares, limits):
             if share < float(limit):
-                print(f"{expression}: {what} are below {limit} %: scripts/coverage.py build/coverage '{expression}'")
+                print(f"{expression}: {what} are below {limit} %: scripts/coverage.py {sys.argv[1]} '{expression}'")
                 fits = False
     return fits
 

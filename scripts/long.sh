@@ -11,7 +11,6 @@
 #   languages  every page in every language has room, on three screens
 #   alone      each file is compiled without the headers of others
 #   tidy       clang-tidy with the analyzer, over everything
-#   coverage   what the tests reach
 #   release    the checks of a release
 #   load       a bridge with ten thousand projectors
 #   bridges    bridges through failures, ten times
@@ -31,7 +30,7 @@ case "${1:-2h}" in
 esac
 [ $# -eq 0 ] || shift
 timed="fuzzing walks kills faults"
-others="languages alone tidy coverage release load bridges sweeps mutants"
+others="languages alone tidy release load bridges sweeps mutants"
 wanted="${*:-$timed $others}"
 for part in $wanted; do
   [[ " $timed $others " == *" $part "* ]] || { echo "$part is none of: $timed $others" >&2; exit 2; }
@@ -101,7 +100,6 @@ run_languages() {
 
 run_alone() { further alone "cmake --preset dev && cmake --build --preset dev"; }
 run_tidy() { further tidy "scripts/tidy.py --deep"; }
-run_coverage() { further coverage "scripts/coverage.sh"; }
 run_release() { further release "scripts/check-release.sh"; }
 run_load() { further load "scripts/bridge-load.py build/check/bin"; }
 run_bridges() { further bridges "$bin/bridge_program_tests --gtest_filter='BridgeProgram.*' --gtest_repeat=10"; }

@@ -43,7 +43,7 @@ struct FailingCalls {
 };
 
 // What a sanitizer puts in the place of malloc cannot be preloaded over.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef SANITIZED
 #define SKIP_WHERE_CALLS_CANNOT_FAIL() GTEST_SKIP()
 #else
 #define SKIP_WHERE_CALLS_CANNOT_FAIL() static_cast<void>(0)
@@ -216,7 +216,7 @@ TEST(Adversity, TheSimulatorServesOnAfterAFailedAcceptAndBehindIdleConnections) 
     return Acctl({"--connect", simulator.Address(way), "--timeout", "20", "status", kRoom});
   };
   std::optional<Simulator> simulator;
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#ifndef SANITIZED
   {
     const FailingCalls calls("FAIL_ACCEPT", "1");
     simulator.emplace();

@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include <QAbstractButton>
+#include <QList>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -170,7 +171,7 @@ std::string WithTexts(const std::string& listing) {
 std::string Difference(const QStringList& expected, const QStringList& found) {
   const qsizetype ends[] = {expected.size(), found.size()};
   // Number of common lines from there on.
-  std::vector common(ends[0] + 1, std::vector<int>(ends[1] + 1));
+  QList common(ends[0] + 1, QList<int>(ends[1] + 1));
   for (qsizetype i = ends[0]; i-- > 0;) {
     for (qsizetype j = ends[1]; j-- > 0;) {
       common[i][j] = expected[i] == found[j] ? common[i + 1][j + 1] + 1

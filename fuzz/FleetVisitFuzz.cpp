@@ -5,17 +5,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
 
-#include "device/CPjtInterface.h"
 #include "fleet/MakeVisit.h"
 #include "fuzz/Check.h"
-
-// The tables of settings refer to it, but a visit has no use for it.
-PjtReply CPjtInterface::Execute(const PjtCommand&) const { std::abort(); }
 
 namespace {
 

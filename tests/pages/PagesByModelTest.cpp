@@ -171,7 +171,7 @@ std::string WithTexts(const std::string& listing) {
 std::string Difference(const QStringList& expected, const QStringList& found) {
   const qsizetype ends[] = {expected.size(), found.size()};
   // Number of common lines from there on.
-  QList common(ends[0] + 1, QList<int>(ends[1] + 1));
+  QList<QList<int>> common(ends[0] + 1, QList<int>(ends[1] + 1));
   for (qsizetype i = ends[0]; i-- > 0;) {
     for (qsizetype j = ends[1]; j-- > 0;) {
       common[i][j] = expected[i] == found[j] ? common[i + 1][j + 1] + 1

@@ -59,10 +59,11 @@ struct Parrot : ProjectorChannel {
 
 TEST(Responders, SayWhatTheProjectorCannotDo) {
   constexpr PjtReply kSilence{.answered = false};
+  constexpr PjtReply kOn{.result = 1, .value = 1};
   constexpr PjtReply kTwo{.result = 1, .value = 2};
   const std::tuple<PjtReply, const char*, const char*> cases[] = {
       {kSilence, "%1POWR ?", "ERR4"}, {kSilence, "%1POWR 1", "ERR4"}, {{}, "%1POWR ?", "ERR1"},
-      {kTwo, "%1POWR 0", "ERR3"},     {kTwo, "%0POWR ?", "ERR1"},     {kTwo, "%1AVMT 01", "ERR2"},
+      {kTwo, "%1POWR 0", "ERR3"},     {kTwo, "%0POWR ?", "ERR1"},     {kOn, "%1AVMT 01", "ERR2"},
       {kTwo, "%2INNM 5A", "ERR2"},    {kTwo, "%2INNM ?5A", "AB"},     {kTwo, "%1INNM ?5A", "ERR1"}};
   for (const auto& [reply, request, answer] : cases) {
     PjLinkResponder responder(std::make_shared<Parrot>(reply), {.inputs = {{"5A", 7, "A\r\nB"}}});

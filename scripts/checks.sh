@@ -20,7 +20,7 @@ check "Size of classes" "scripts/members.py"
 check "Packaging" "scripts/check-packaging.sh"
 cmake --preset check >/dev/null
 check "Optimised build (build/check): warnings are errors" "cmake --build --preset check"
-check "Tests, optimised" "ctest --preset check -j $jobs --repeat until-pass:2"
+check "Tests, optimised" "ctest --preset check -j $jobs"
 check "Calls that fail" "scripts/faults.py build/check 15"
 check "Installed library" "cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake"
 check "Benchmarks for a moment" \

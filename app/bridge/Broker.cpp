@@ -23,6 +23,8 @@ constexpr int kAtLeastOnce = 1;
 constexpr unsigned kAtOnce = 200;
 constexpr const char* kSystemAuthorities = "/etc/ssl/certs";
 
+std::atomic<int> threads = 0;
+
 mosquitto* MakeClient(void* owner) {
   // A thread may still use the library when the program ends, so nothing cleans it up.
   [[maybe_unused]] static const int kInitialized = mosquitto_lib_init();
@@ -80,7 +82,13 @@ Broker::Broker(const BrokerAddress& address, const std::optional<BrokerMessage>&
                Listener listener)
     : connection_(std::make_shared<Connection>(address, std::move(listener))),
       error_(connection_->Configure(will)) {
-  if (error_.isEmpty()) thread_ = std::thread([shared = connection_] { shared->Run(); });
+  if (!error_.isEmpty()) return;
+  ++threads;
+  thread_ = std::thread([shared = connection_]() mutable {
+    shared->Run();
+    shared.reset();
+    --threads;
+  });
 }
 
 Broker::~Broker() {
@@ -91,6 +99,8 @@ Broker::~Broker() {
     thread_.detach();
   }
 }
+
+bool Broker::HasThreadLeft() { return threads > 0; }
 
 std::optional<int> Broker::Subscribe(const QByteArray& topic) {
   return Subscribe(topic, kExactlyOnce);

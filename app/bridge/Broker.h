@@ -54,6 +54,10 @@ class Broker {
   Broker(const Broker&) = delete;
   Broker& operator=(const Broker&) = delete;
 
+  /// Whether a thread still connects for a `Broker` that is gone. A program must not run its exit
+  /// handlers then, since they take away what the thread uses.
+  static bool HasThreadLeft();
+
   /// Why the parameters cannot be used, such as a file that cannot be read; empty when all is well.
   const QString& Error() const { return error_; }
 

@@ -1,5 +1,6 @@
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <new>
 #include <sys/signalfd.h>
@@ -9,6 +10,7 @@
 #include <QSocketNotifier>
 
 #include "app/bridge/Bridge.h"
+#include "app/bridge/Broker.h"
 #include "app/bridge/Log.h"
 #include "app/bridge/Options.h"
 #include "app/profiles/DescriptorLimit.h"
@@ -50,6 +52,13 @@ void TakeSignals(int file, Bridge& bridge) {
   }
 }
 
+/// Ends the program without its exit handlers if it must.
+int End(int code) {
+  if (!Broker::HasThreadLeft()) return code;
+  std::fflush(nullptr);
+  std::_Exit(code);
+}
+
 int Run(const Options& options, int signals) {
   ProfileList profiles = ReadProfileList(options.profiles);
   if (!profiles.error.isEmpty()) return Fail(profiles.error);
@@ -80,7 +89,7 @@ int main(int argc, char* argv[]) {
     return 0;
   }
   try {
-    return Run(options, signals);
+    return End(Run(options, signals));
   } catch (const std::bad_alloc&) {
     EndOutOfMemory();
   } catch (const std::exception& error) {

@@ -111,7 +111,7 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
   ShowProfiles();
   if (const int first = FirstSelected(profiles_.Projectors(), memory_.LastProjector()); first >= 0)
     pane_->View().Select(first);
-  memory_.Restore(*this, *pane_, *log_);
+  memory_.Restore(*this, *pane_, *log_, *alerts_);
   pane_->View().FocusTable();
 }
 
@@ -269,7 +269,7 @@ void MainWindow::Demonstrate() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  memory_.Store(*this, *pane_, *log_, profiles_.FileName());
+  memory_.Store(*this, *pane_, *log_, *alerts_, profiles_.FileName());
   // Abandons commands that wait. All event loops then end, also those of messages and pop-ups; the
   // dialogs are deleted with this window.
   dialogs_->RejectAll();

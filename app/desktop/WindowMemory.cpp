@@ -8,6 +8,7 @@
 
 #include "app/desktop/ListPane.h"
 #include "app/desktop/Modal.h"
+#include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/log/LogTable.h"
 
@@ -21,6 +22,7 @@ constexpr const char* kStateKey = "window/docks";
 constexpr const char* kSidesKey = "window/panes";
 constexpr const char* kProjectorColumnsKey = "window/liveColumns";
 constexpr const char* kLogColumnsKey = "window/commandColumns";
+constexpr const char* kAcknowledgedKey = "alerts/acknowledged";
 constexpr const char* kFolderKey = "window/folder";
 constexpr const char* kProjectorKey = "window/projector";
 constexpr const char* kProfilesKey = "window/profiles";
@@ -32,8 +34,12 @@ WindowMemory::WindowMemory(QSettings* settings, const QString& firstFile)
 
 // The first time, the window opens at the lower right, so that a dialog at the upper left covers
 // little of it.
-void WindowMemory::Restore(QMainWindow& window, ListPane& pane, CommandLog& log) const {
-  if (settings_ != nullptr) SetLastFolder(settings_->value(kFolderKey).toString());
+void WindowMemory::Restore(QMainWindow& window, ListPane& pane, CommandLog& log,
+                           AlertList& alerts) const {
+  if (settings_ != nullptr) {
+    SetLastFolder(settings_->value(kFolderKey).toString());
+    alerts.RememberAcknowledged(settings_->value(kAcknowledgedKey).toStringList());
+  }
   const QRect screen = window.screen()->availableGeometry();
   if (settings_ != nullptr &&
       window.restoreGeometry(settings_->value(kGeometryKey).toByteArray())) {
@@ -51,13 +57,14 @@ void WindowMemory::Restore(QMainWindow& window, ListPane& pane, CommandLog& log)
 }
 
 void WindowMemory::Store(const QMainWindow& window, const ListPane& pane, const CommandLog& log,
-                         const QString& file) const {
+                         const AlertList& alerts, const QString& file) const {
   if (settings_ == nullptr) return;
   settings_->setValue(kGeometryKey, window.saveGeometry());
   settings_->setValue(kStateKey, window.saveState());
   settings_->setValue(kSidesKey, pane.SaveState());
   settings_->setValue(kProjectorColumnsKey, pane.View().Columns().saveState());
   settings_->setValue(kLogColumnsKey, log.Table().SaveColumns());
+  settings_->setValue(kAcknowledgedKey, alerts.Acknowledged());
   settings_->setValue(kFolderKey, LastFolder());
   if (file != firstFile_) settings_->setValue(kProfilesKey, QFileInfo(file).absoluteFilePath());
   if (const ProjectorRow* current = pane.View().Current())

@@ -4,13 +4,14 @@
 
 #include <QString>
 
+class AlertList;
 class CommandLog;
 class ListPane;
 class QMainWindow;
 class QSettings;
 
-/// What the main window remembers between runs: its place, docks and columns, the profile file, the
-/// selected projector, and the folder of the last file.
+/// What the main window remembers between runs: its place, docks and columns, acknowledged
+/// alerts, the profile file, the selected projector, and the folder of the last file.
 class WindowMemory {
  public:
   /// `settings`, not owned, may be null: then nothing is remembered. `firstFile` is the profile
@@ -19,10 +20,10 @@ class WindowMemory {
 
   QSettings* Settings() const { return settings_; }
 
-  void Restore(QMainWindow& window, ListPane& pane, CommandLog& log) const;
+  void Restore(QMainWindow& window, ListPane& pane, CommandLog& log, AlertList& alerts) const;
   /// `file` is the present profile file.
   void Store(const QMainWindow& window, const ListPane& pane, const CommandLog& log,
-             const QString& file) const;
+             const AlertList& alerts, const QString& file) const;
 
   /// The name of the projector that was selected last.
   std::string LastProjector() const;

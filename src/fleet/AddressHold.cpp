@@ -59,17 +59,20 @@ AddressHold::~AddressHold() {
   }
 }
 
+std::size_t AddressHold::LengthOfLine(const Address& address) {
+  Lines& all = All();
+  const std::lock_guard lock(all.mutex);
+  const auto line = all.lines.find(address);
+  return line == all.lines.end() ? 0 : line->second.size();
+}
+
 bool AddressHold::IsHeld() const {
   Lines& all = All();
   const std::lock_guard lock(all.mutex);
   return all.lines.at(address_).front() == this;
 }
 
-bool AddressHold::IsWanted() const {
-  Lines& all = All();
-  const std::lock_guard lock(all.mutex);
-  return all.lines.at(address_).size() > 1;
-}
+bool AddressHold::IsWanted() const { return LengthOfLine(address_) > 1; }
 
 bool AddressHold::WaitFor(std::chrono::milliseconds time) const {
   Lines& all = All();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 
@@ -29,6 +30,9 @@ class PROJECTOR_FLEET_EXPORT AddressHold {
   ~AddressHold();
   AddressHold(const AddressHold&) = delete;
   AddressHold& operator=(const AddressHold&) = delete;
+
+  /// How many are in the line for the address, the holder included.
+  static std::size_t LengthOfLine(const Address& address);
 
   /// Whether it is the first in the line.
   bool IsHeld() const;

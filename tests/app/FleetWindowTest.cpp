@@ -216,24 +216,6 @@ TEST(FleetWindow, TestConnectionSaysWhatAnswers) {
   EXPECT_EQ(said(TcpAddress{.host = "127.0.0.1", .port = 1}), "No answer");
 }
 
-TEST(FleetWindow, DoesNotVisitWhileAClosedDialogsChannelIsConnected) {
-  Served served;
-  FleetProfile profile = Profile("A");
-  profile.link = ProjectorLink::PjLink;
-  profile.connection = {.isNetwork = true,
-                        .address = "127.0.0.1",
-                        .port = static_cast<std::int32_t>(served.pjLink.Port()),
-                        .secret = "secret"};
-  FleetWatch watch(kOften);
-  watch.SetProfiles({profile});
-  ASSERT_TRUE(Soon([&] { return watch.Projectors().Tally().answered > 0; }));
-  watch.LeaveToDialog(FleetIdOf(profile));
-  watch.TakeBack(FleetIdOf(profile));
-  const auto begun = watch.Projectors().Tally().begun;
-  QTest::qWait(600);
-  EXPECT_EQ(watch.Projectors().Tally().begun, begun);
-}
-
 TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
   Served served;
   served.device->Execute({PjtOperation::SetPowerOn});
@@ -286,6 +268,36 @@ TEST(FleetWindow, AlertsFollowTheRules) {
   row.state.since = now - 5min;
   EXPECT_EQ(found(), (Kinds{{Silent, ProjectorPart::Other}}));
   EXPECT_EQ(found({.silent = 0min}), Kinds());
+}
+
+TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
+  const WallTime now = std::chrono::system_clock::now();
+  ProjectorRow worn{.id = "a b", .profile = Profile("Worn")};
+  worn.profile.ratedLampHours = 2000;
+  ProjectorRow changed{.id = "c", .profile = Profile("Changed")};
+  QStringList said;
+  const auto look = [&](AlertList& list, int hours, std::optional<int> drift) {
+    worn.state.lamps = {{.hours = hours}};
+    changed.state.drift = drift;
+    said.clear();
+    list.Look({worn, changed}, now);
+    return list.Open().size();
+  };
+  AlertList first;
+  EXPECT_EQ(look(first, 1900, 2), 2U);
+  Find<QPushButton>(first, "Acknowledge All").click();
+
+  AlertList second;
+  QObject::connect(&second, &AlertList::Raised, [&](const QStringList& texts) { said = texts; });
+  second.RememberAcknowledged(first.Acknowledged() + QStringList{"what is this"});
+  EXPECT_EQ(look(second, 1950, {}), 0U);
+  EXPECT_EQ(said, QStringList());
+  AlertList third;
+  third.RememberAcknowledged(second.Acknowledged());
+  EXPECT_EQ(look(third, 1960, 3), 0U);
+  EXPECT_EQ(look(second, 10, 0), 0U);
+  EXPECT_EQ(look(second, 1950, 2), 2U) << "both have come back";
+  EXPECT_EQ(said.size(), 2);
 }
 
 TEST(FleetWindow, EnterSearchesForProjectors) {

@@ -120,7 +120,6 @@ class Peer {
       int line = -1, otherEnd = -1;
       if (transport == Transport::Serial) {
         openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
-        std::filesystem::remove(Device());
         std::filesystem::create_symlink(ttyname(otherEnd), Device());
       }
       finished_ = index;
@@ -133,6 +132,7 @@ class Peer {
       fcntl(line, F_SETFL, O_NONBLOCK);
       End end(line, [this, index] { return wanted_ > index; });
       behaviours_[std::min(static_cast<std::size_t>(index), behaviours_.size() - 1)](end);
+      std::filesystem::remove(Device());  // the terminal behind it is somebody else's soon
       close(line);
       close(otherEnd);
     }

@@ -5,6 +5,7 @@
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/HoldingChannel.h"
+#include "fleet/MakeVisit.h"
 #include "fleet/SearchDriver.h"
 #include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
@@ -63,6 +64,8 @@ TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
   cancelled->Cancel();
   EXPECT_TRUE(Becomes([&] { return IsOver(*cancelled); }));
   EXPECT_EQ(cancelled->Results().front().outcome, WorkOutcome::Stopped);
+  const auto address = PlaceOf({.id = {}, .address = silent.Address()});
+  ASSERT_TRUE(Becomes([&] { return AddressHold::LengthOfLine(address) == 3; }));
 
   const std::function<bool()> ends[] = {[&] { return hasSearched; }, [&] { return IsOver(*next); },
                                         [&] { return IsOver(*last); }};

@@ -1,6 +1,9 @@
 #include "app/desktop/alerts/AlertList.h"
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
+#include <utility>
 
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -26,6 +29,32 @@ QString IdentityOf(const Alert& alert) {
       .arg(static_cast<int>(alert.kind))
       .arg(static_cast<int>(alert.part))
       .arg(QString::fromStdString(alert.id));
+}
+
+std::optional<Alert> ParseIdentity(const QString& identity) {
+  constexpr int kNumbers = 2;
+  bool isKind = false, isPart = false;
+  const int kind = identity.section(' ', 0, 0).toInt(&isKind);
+  const int part = identity.section(' ', 1, 1).toInt(&isPart);
+  if (!isKind || !isPart) return std::nullopt;
+  return Alert{.id = identity.section(' ', kNumbers).toStdString(),
+               .kind = static_cast<Alert::Kind>(kind),
+               .part = static_cast<ProjectorPart>(part)};
+}
+
+/// Whether the state tells if there is such an alert.
+bool IsKnown(Alert::Kind kind, const LiveState& state) {
+  switch (kind) {
+    case Alert::Kind::Silent:
+      return state.reachability == Reachability::Answers;
+    case Alert::Kind::Lamp:
+      return !state.lamps.empty();
+    case Alert::Kind::Drift:
+      return state.drift.has_value();
+    case Alert::Kind::Problem:
+      return state.problems.has_value();
+  }
+  return true;
 }
 
 /// The number in the text of an alert; 0 if it has none.
@@ -98,14 +127,16 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
       const auto [found, isNew] = alerts_.try_emplace(alert, Entry{.since = since});
       Entry& entry = found->second;
       entry.seen = looks_;
+      if (isNew) entry.isAcknowledged = earlier_.erase(alert) > 0;
       // Hours and numbers of settings change while the alert stays.
       const int number = NumberOf(alert, row);
       if (!isNew && entry.number == number) continue;
       entry.number = number;
       entry.text = TextOf(alert, row);
-      if (isNew) raised += entry.text;
+      if (isNew && !entry.isAcknowledged) raised += entry.text;
       hasChanged = true;
     }
+    ForgetGone(row);
   }
   const auto isGone = [this](const auto& one) { return one.second.seen != looks_; };
   hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged;
@@ -121,6 +152,28 @@ std::vector<Alert> AlertList::Open() const {
     if (!entry.isAcknowledged) open.push_back(alert);
   }
   return open;
+}
+
+QStringList AlertList::Acknowledged() const {
+  QStringList acknowledged;
+  for (const auto& [alert, entry] : alerts_) {
+    if (entry.isAcknowledged) acknowledged += IdentityOf(alert);
+  }
+  for (const Alert& alert : earlier_) acknowledged += IdentityOf(alert);
+  return acknowledged;
+}
+
+void AlertList::RememberAcknowledged(const QStringList& alerts) {
+  for (const QString& one : alerts) {
+    if (auto alert = ParseIdentity(one)) earlier_.insert(std::move(*alert));
+  }
+}
+
+void AlertList::ForgetGone(const ProjectorRow& row) {
+  for (auto one = earlier_.lower_bound({.id = row.id, .kind = Alert::Kind::Silent, .part = {}});
+       one != earlier_.end() && one->id == row.id;) {
+    one = IsKnown(one->kind, row.state) ? earlier_.erase(one) : std::next(one);
+  }
 }
 
 void AlertList::Acknowledge(bool all) {

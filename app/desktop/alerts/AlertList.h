@@ -1,9 +1,11 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <vector>
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include "app/desktop/alerts/AlertRules.h"
@@ -25,6 +27,12 @@ class AlertList : public QWidget {
   /// Those that nobody has acknowledged.
   std::vector<Alert> Open() const;
 
+  /// The acknowledged alerts, for the next run of the program.
+  QStringList Acknowledged() const;
+  /// Those of the last run: each one that is still there when its projector is known again stays
+  /// acknowledged.
+  void RememberAcknowledged(const QStringList& alerts);
+
  Q_SIGNALS:
   /// The alerts have changed, or some were acknowledged.
   void Changed();
@@ -42,11 +50,13 @@ class AlertList : public QWidget {
   };
 
   QString TextOf(const Alert& alert, const ProjectorRow& row) const;
+  void ForgetGone(const ProjectorRow& row);
   void Acknowledge(bool all);
   void Show();
 
   AlertRules rules_;
   std::map<Alert, Entry> alerts_;
+  std::set<Alert> earlier_;  ///< Acknowledged in the last run, and not found yet.
   unsigned looks_ = 0;
   QTreeWidget* list_;
   QPushButton* acknowledge_;

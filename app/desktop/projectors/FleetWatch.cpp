@@ -44,7 +44,6 @@ void FleetWatch::SetProfiles(const std::vector<FleetProfile>& profiles) {
   }
   for (const auto& [id, gone] : before) {
     TakeBack(id);
-    uses_.erase(id);
     served_.erase(id);
     watched_.erase(id);
     fleet_->Remove(id);
@@ -87,8 +86,11 @@ void FleetWatch::LeaveToDialog(const std::string& id) {
   Hold(id, kUse);
 }
 
-// The channel keeps its connection for a while, and a projector may accept no other meanwhile.
-void FleetWatch::TakeBack(const std::string& id) { open_.erase(id); }
+// Visits wait until the channel has closed its connection, see `HoldingChannel`.
+void FleetWatch::TakeBack(const std::string& id) {
+  open_.erase(id);
+  uses_.erase(id);
+}
 
 // A simulated projector can be asked at the same time.
 void FleetWatch::Hold(const std::string& id, Clock::duration time) {

@@ -46,7 +46,7 @@ class FleetWatch : public QObject {
 
   /// The projector's dialog opens. It has the connection until half a minute after a command.
   void LeaveToDialog(const std::string& id);
-  /// The dialog is closed. Its channel keeps the connection as if it were open.
+  /// The dialog is closed. The projector is visited again once its channel has no connection.
   void TakeBack(const std::string& id);
   /// Updates the state with the reply to a command of a dialog or of other work, and leaves the
   /// connection to that work for a while.

@@ -37,7 +37,8 @@ def merge(build):
 
 
 def branches(name, record):
-    """{(line, column, outcome): times}, without those that are marked; instances of a template count together."""
+    """{(line, column, outcome): times}, without those that are marked, and those in functions that the compiler writes;
+    instances of a template count together."""
     lines = (ROOT / name).read_text().splitlines()
     taken = defaultdict(int)
     for line, column, _, _, true, false, *_ in record["branches"]:
@@ -45,7 +46,7 @@ def branches(name, record):
         while above > 0 and lines[above].lstrip().startswith("//") and not MARK.search(lines[above]):
             above -= 1
         comments = lines[line - 1] + (lines[above] if lines[above].lstrip().startswith("//") else "")
-        if not MARK.search(comments):
+        if not MARK.search(comments) and not lines[line - 1].endswith("= default;"):
             taken[line, column, True] += true
             taken[line, column, False] += false
     return taken

@@ -256,6 +256,7 @@ class Expansion {
       length = std::snprintf(digits.data(), digits.size(), format.c_str(), conversion.width,
                              conversion.precision, static_cast<unsigned long long>(value));
     }
+    // unreachable: TakeMeasure limits the width and the precision
     if (length < 0 || static_cast<std::size_t>(length) >= digits.size()) return false;
     result.append(digits.data(), static_cast<std::size_t>(length));
     return true;

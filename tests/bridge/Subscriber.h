@@ -45,7 +45,7 @@ class Subscriber {
   /// until there is one.
   QByteArray Find(const char* power, const std::vector<const char*>& settings) {
     for (const auto& [topic, payload] : Last()) {
-      const QByteArray level = topic.split('/')[1];
+      QByteArray level = topic.split('/')[1];
       const auto config = last_.find("homeassistant/device/" + level + "/config");
       if (!topic.endsWith("/state") || config == last_.end() || Json(topic)["power"] != power) {
         continue;

@@ -44,6 +44,8 @@ install(FILES app/desktop/icons/advanced-control.png
 install_compressed(advanced-control.1 ${CMAKE_INSTALL_MANDIR}/man1/advanced-control.1.gz program)
 install_compressed(advanced-control-simulator.1
   ${CMAKE_INSTALL_MANDIR}/man1/advanced-control-simulator.1.gz program)
+install(FILES packaging/lintian-overrides RENAME advanced-control
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT program)
 
 # Alerts and dashboard, and the service with its options.
 install(FILES packaging/bridge/projector-alerts.yml packaging/bridge/projectors-dashboard.json
@@ -109,7 +111,8 @@ and the files for CMake.")
 
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME advanced-control)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${version})")
+# The plugin for monitoring is a script.
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${version}), python3:any")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
     "qt6-translations-l10n, qt6-wayland, fonts-dejavu-core | fonts-noto-core, fonts-noto-cjk | fonts-wqy-microhei")
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION "read and change the settings of projectors

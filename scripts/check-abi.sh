@@ -16,14 +16,18 @@ libraries="ProjectorCommon ProjectorSettings ProjectorFleet AdvancedControl"
 then=build/abi/then
 git worktree remove --force "$then" 2>/dev/null || true
 trap 'git worktree remove --force "$then" 2>/dev/null || true' EXIT
-git worktree add --detach "$then" "$since" >/dev/null
+git worktree add --quiet --detach "$then" "$since"
 for source in . "$then"; do
   into=build/abi/$([ "$source" = . ] && echo now || echo before)
   cmake -S "$source" -B "$into" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DADVANCEDCONTROL_TESTS=OFF \
     -DADVANCEDCONTROL_BENCHMARKS=OFF -DADVANCEDCONTROL_PRECOMPILE=ON -DADVANCEDCONTROL_COMBINE=ON >/dev/null
-  # A library that an earlier state has not is not compared.
+  # A library that the earlier state does not have is not compared.
   for library in $libraries; do
-    cmake --build "$into" --target "$library" >/dev/null || [ "$source" != . ]
+    rm -f "$into/bin/lib$library.so"*
+    if [ "$source" = . ] || grep -q "^build bin/lib$library.so" "$into/build.ninja"; then
+      cmake --build "$into" --target "$library" >"build/abi/$library.log" ||
+        { echo "$library does not build in $source: see build/abi/$library.log" >&2; exit 1; }
+    fi
   done
 done
 broken=0
@@ -34,7 +38,8 @@ for library in $libraries; do
     --drop-private-types "$before" "build/abi/now/bin/lib$library.so" >"build/abi/$library.txt"; then
     echo "$library: compatible with $since"
   else
-    echo "$library: see build/abi/$library.txt"
+    echo "$library: not compatible with $since, see build/abi/$library.txt"
+    grep 'changes summary' "build/abi/$library.txt" || true
     broken=1
   fi
 done

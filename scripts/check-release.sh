@@ -19,7 +19,7 @@ scripts/package.sh
 other=build/reproduced/somewhere/else
 git worktree remove --force "$other" 2>/dev/null || true
 trap 'git worktree remove --force "$other" 2>/dev/null || true' EXIT
-git worktree add --detach "$other" HEAD >/dev/null
+git worktree add --quiet --detach "$other" HEAD
 echo "Making them again ($other)"
 (cd "$other" && umask 077 && TZ=Pacific/Auckland LC_ALL=C scripts/package.sh >/dev/null)
 for package in build/package/packages/*.deb; do

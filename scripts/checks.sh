@@ -26,6 +26,7 @@ check "Installed library" "cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD 
 check "Benchmarks for a moment" \
   "build/check/bin/advanced-control-bench --benchmark_min_time=0.01 --benchmark_filter='OpenDialog|RefreshPicture/ms:0' >/dev/null"
 check "clang-tidy over the last changes" "scripts/tidy.py --since HEAD~3"
+check "Mutants of the last changes" "scripts/mutate.py --build build/check --changed HEAD~3 --sample 40 --few 10 --least 60 --budget 20 --suites i18n_tests settings_tests snapshot_tests device_tests toolkit_tests page_tests host_tests bridge_tests"
 cmake --preset tsan >/dev/null
 check "Build under the thread sanitizer (build/tsan)" "cmake --build --preset tsan --target device_tests fleet_tests"
 check "Channels and fleet under the thread sanitizer" \

@@ -215,8 +215,8 @@ def try_points(rig, points, end, found):
             rig.commands[name](rig.environment(how, int(number)))
         except Found as what:
             found.append(f"{point}: {what}")
-            rig.stop()
-            rig.start_simulator()  # nobody knows what it has now
+            Rig.stop(rig)  # the simulator alone
+            rig.start_simulator()  # nobody knows what it had
             rig.forget_undo()
         tried += 1
     return tried

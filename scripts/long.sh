@@ -1,105 +1,135 @@
 #!/usr/bin/env bash
-# What takes too long for every change: fuzzing on the kept corpus, random walks over the host application and the
-# dialogs of every model, kills of both ends, and calls that fail; then every page in every language, each file
-# compiled without the headers of others, clang-tidy over everything, what the tests reach, the checks of a release,
-# bridges with ten thousand projectors and with broken brokers, whether memory grows in a hundred sweeps of a fleet, and
-# whether the tests notice four of five mutants of what was changed since the last run. Adds a line to the table in
-# docs/reliability.md.
-# Usage: scripts/long.sh [time, such as 2h or 20m]
+# What takes too long for every change. Usage: scripts/long.sh [TIME, such as 2h or 20m] [PART...]
 #
-# A quarter of the time goes to each of the first four. The sanitizers watch the walks; PRESET=dev takes another build.
-# What was found is told at the end, with what to run to see it again, and ends the script with 1.
+# A quarter of the time goes to each of the first four parts, and a line about them is added to the table in
+# docs/reliability.md. The others take what they need, a few hours altogether. Without PART, all of them run:
+#
+#   fuzzing    every fuzz target, on the kept corpus
+#   walks      random actions in the host application and in the dialogs of every model
+#   kills      of acctl and of the simulator
+#   faults     one call fails in each run
+#   languages  every page in every language has room, on three screens
+#   alone      each file is compiled without the headers of others
+#   tidy       clang-tidy with the analyzer, over everything
+#   release    the checks of a release
+#   load       a bridge with ten thousand projectors
+#   bridges    bridges through failures, ten times
+#   sweeps     whether memory grows in a hundred sweeps of a fleet
+#   mutants    whether the tests notice four of five mutants of what was changed since the last run in the table
+#
+# The sanitizers watch the walks; PRESET=dev takes another build. What was found is said at the end, with what to run
+# to see it again, and ends the script with 1.
 set -uo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit
 
 case "${1:-2h}" in
   *h) seconds=$((${1%h} * 3600)) ;;
   *m) seconds=$((${1%m} * 60)) ;;
-  *) seconds="${1%s}" ;;
+  *s) seconds=${1%s} ;;
+  *) sed -n '2,/^set/ s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
 esac
+[ $# -eq 0 ] || shift
+timed="fuzzing walks kills faults"
+others="languages alone tidy release load bridges sweeps mutants"
+wanted="${*:-$timed $others}"
+for part in $wanted; do
+  [[ " $timed $others " == *" $part "* ]] || { echo "$part is none of: $timed $others" >&2; exit 2; }
+done
 preset="${PRESET:-asan}"
 bin="build/$preset/bin"
-part=$((seconds / 4))
+share=$((seconds / 4))
 logs=build/long
 findings=()
+commit=$(git rev-parse --short HEAD)
+runs=0 actions=0 kills=0 faults=0
+export QT_QPA_PLATFORM=offscreen
 mkdir -p "$logs"
 
-echo "Building (build/$preset)"
-cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" || exit 1
-echo "Building (build/check)"
-cmake --preset check >/dev/null && cmake --build --preset check || exit 1
-
-targets=$(ls fuzz/corpus | wc -l)
-if ! scripts/fuzz.sh $((part * $(nproc) / targets)) | tee "$logs/fuzz.log"; then
-  findings+=("fuzzing: scripts/fuzz.sh, and build/fuzz/findings")
-fi
-runs=$(awk '/ Done [0-9]+ runs/ { for (i = 1; i < NF; ++i) if ($i == "Done") sum += $(i + 1) } END { print sum + 0 }' "$logs/fuzz.log")
-
-export QT_QPA_PLATFORM=offscreen
-actions=0
-# walk <name> <program> <variables>...: adds the actions that it made.
-walk() {
-  local name="$1" program="$2" made
-  shift 2
-  if env "$@" "$bin/$program" >"$logs/$name.log" 2>&1; then
-    made=$(grep -c '^\[       OK' "$logs/$name.log")
-    actions=$((actions + made * each))
-  else
-    findings+=("a walk: $* $bin/$program, and $logs/$name.log")
-  fi
-}
-echo "Walking for $part s"
-end=$((SECONDS + part))
-seed=$(date +%s)
-while [ $SECONDS -lt $end ] && [ ${#findings[@]} -eq 0 ]; do
-  each=5000 walk "walk" walk_tests "WALK_SEED=$seed" WALK_ACTIONS=5000
-  [ $SECONDS -lt $end ] && each=1000 walk "soak" soak_tests "SOAK_SEED=$seed" SOAK_ACTIONS=1000
-  seed=$((seed + 1))
-done
-
-echo "Killing for $part s"
-if ! kills=$(scripts/kills.py "$bin" "$part" "$seed" 2>"$logs/kills.log"); then
-  findings+=("kills: scripts/kills.py $bin $part $seed, and $logs/kills.log")
-fi
-
-echo "Failing calls for $part s"
-faults=$(scripts/faults.py build/check "$part" "$seed" 2>"$logs/faults.log") ||
-  findings+=("calls that fail: $(tail -n 1 "$logs/faults.log"), and $logs/faults.log")
-
-echo "Every page in every language"
-for screen in "1024x768 1" "1920x1080 2" "1920x1080 3"; do
-  read -r size scale <<<"$screen"
-  if ! TEST_LANGUAGES=all TEST_SCREEN=$size QT_SCALE_FACTOR=$scale "$bin/sweep_tests" \
-    '--gtest_filter=*NothingIsClipped*' >"$logs/languages-$size-$scale.log" 2>&1; then
-    findings+=("a text without room: TEST_LANGUAGES=all TEST_SCREEN=$size QT_SCALE_FACTOR=$scale $bin/sweep_tests, and $logs/languages-$size-$scale.log")
-  fi
-done
-
-# further <what> <command line>
+# further <part> <command line>: what only succeeds or fails.
 further() {
-  echo "$1"
-  bash -euo pipefail -c "$2" >"$logs/${1// /-}.log" 2>&1 || findings+=("$1: $2, and $logs/${1// /-}.log")
+  bash -euo pipefail -c "$2" >"$logs/$1.log" 2>&1 || findings+=("$1: $2; see $logs/$1.log")
 }
-further "each file alone" "cmake --preset dev && cmake --build --preset dev"
-further "clang-tidy over everything" "scripts/tidy.py --deep"
-further "coverage" "scripts/coverage.sh"
-further "the checks of a release" "scripts/check-release.sh"
 
-further "a bridge with ten thousand projectors" "scripts/bridge-load.py build/check/bin"
-further "bridges through failures" "$bin/bridge_program_tests --gtest_filter='BridgeProgram.*' --gtest_repeat=10"
-further "a hundred sweeps of a fleet" \
-  "! build/check/bin/fleet-bench --benchmark_filter=ManySweeps 2>&1 | tee /dev/stderr | grep -q 'ERROR OCCURRED'"
+run_fuzzing() {
+  scripts/fuzz.sh $((share * $(nproc) / $(ls fuzz/corpus | wc -l))) | tee "$logs/fuzz.log" ||
+    findings+=("fuzzing: scripts/fuzz.sh; see build/fuzz/findings")
+  runs=$(awk '/ Done [0-9]+ runs/ { for (i = 1; i < NF; ++i) if ($i == "Done") sum += $(i + 1) } END { print sum + 0 }' "$logs/fuzz.log")
+}
 
-# Of the lines changed since the last run that is in the table.
-last=$(awk -F'|' '/^\| 20/ { commit = $3 } END { gsub(/ /, "", commit); print commit }' docs/reliability.md)
-git cat-file -e "$last" 2>/dev/null || last=HEAD~20
-further "forty mutants" "scripts/mutate.py --changed $last --sample 40 --least 80"
-sed -n '/^Alive/,$p' "$logs/forty-mutants.log"
+# walk <program> <prefix of its variables> <actions of each of its tests>
+walk() {
+  local variables=("$2_SEED=$seed" "$2_ACTIONS=$3")
+  env "${variables[@]}" "$bin/$1" >"$logs/$1.log" 2>&1 || {
+    findings+=("walks: ${variables[*]} $bin/$1; see $logs/$1.log")
+    return 1
+  }
+  actions=$((actions + $3 * $(grep -c '^\[       OK' "$logs/$1.log")))
+}
+run_walks() {
+  local end=$((SECONDS + share)) seed
+  seed=$(date +%s)
+  while [ $SECONDS -lt $end ]; do
+    walk walk_tests WALK 5000 || break
+    [ $SECONDS -ge $end ] || walk soak_tests SOAK 1000 || break
+    seed=$((seed + 1))
+  done
+}
+
+run_kills() {
+  local seed=$RANDOM
+  kills=$(scripts/kills.py "$bin" "$share" "$seed" 2>"$logs/kills.log") ||
+    findings+=("kills: scripts/kills.py $bin $share $seed; see $logs/kills.log")
+  kills=${kills:-0}
+}
+
+run_faults() {
+  faults=$(scripts/faults.py build/check "$share" $RANDOM 2>"$logs/faults.log") ||
+    findings+=("faults: $(tail -n 1 "$logs/faults.log"); see $logs/faults.log")
+  faults=${faults%% *} faults=${faults:-0}  # "12 of 3456 points"
+}
+
+run_languages() {
+  local screen name
+  for screen in "TEST_SCREEN=1024x768 QT_SCALE_FACTOR=1" "TEST_SCREEN=1920x1080 QT_SCALE_FACTOR=2" \
+    "TEST_SCREEN=1920x1080 QT_SCALE_FACTOR=3"; do
+    name=${screen//[A-Z_=]/}
+    further "languages-${name/ /-}" \
+      "TEST_LANGUAGES=all $screen $bin/sweep_tests --gtest_filter='*NothingIsClipped*'"
+  done
+}
+
+run_alone() { further alone "cmake --preset dev && cmake --build --preset dev"; }
+run_tidy() { further tidy "scripts/tidy.py --deep"; }
+run_release() { further release "scripts/check-release.sh"; }
+run_load() { further load "scripts/bridge-load.py build/check/bin"; }
+run_bridges() { further bridges "$bin/bridge_program_tests --gtest_filter='BridgeProgram.*' --gtest_repeat=10"; }
+run_sweeps() {
+  further sweeps "build/check/bin/fleet-bench --benchmark_filter=ManySweeps 2>&1 | tee $logs/figures.log; ! grep 'ERROR OCCURRED' $logs/figures.log"
+}
+
+run_mutants() {
+  local last
+  last=$(awk -F'|' '/^\| 20/ { commit = $3 } END { gsub(/ /, "", commit); print commit }' docs/reliability.md)
+  git cat-file -e "$last" 2>/dev/null || last=HEAD~20
+  further mutants "scripts/mutate.py --changed $last --sample 40 --least 80"
+  sed -n '/^Alive/,$p' "$logs/mutants.log"
+}
+
+for build in "$preset" check; do
+  echo "Building (build/$build)"
+  cmake --preset "$build" >/dev/null && cmake --build --preset "$build" || exit 1
+done
+for part in $wanted; do
+  echo "$part ($(date +%T))"
+  "run_$part"
+done
 
 said=none
 [ ${#findings[@]} -eq 0 ] || said="${#findings[@]}, to be mended"
-printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$(git rev-parse --short HEAD)" "$preset" \
-  "$seconds" "$runs" "$actions" "${kills:-0}" "${faults%% *}" "$said" | tee -a docs/reliability.md
+if [ $((runs + actions + kills + faults)) -gt 0 ]; then
+  printf "| %s | %s | %s | %d s | %'d | %'d | %'d | %'d | %s |\n" "$(date -u +%F)" "$commit" \
+    "$preset" "$seconds" "$runs" "$actions" "$kills" "$faults" "$said" | tee -a docs/reliability.md
+fi
 [ ${#findings[@]} -eq 0 ] && exit
 printf 'Found by %s\n' "${findings[@]}" >&2
 exit 1

@@ -1,17 +1,18 @@
 #!/usr/bin/python3
-"""How much the tests notice: makes small changes to the code, one at a time, and runs the tests that reach each.
+"""How much the tests notice: makes small changes to the code, and runs the tests that reach each.
 
   scripts/mutate.py --sample 60 --files 'src/settings/**' 'src/i18n/*'
   scripts/mutate.py --changed main        what the lines changed since main are worth
   scripts/mutate.py --only ID             one mutant again
-  scripts/mutate.py --sample 20 --files 'src/i18n/*' --suites i18n_tests     at once, without a record of the reach
 
 A mutant is killed when a test fails or does not end. One that lives shows a fault that no test would notice, code that
-nothing needs, or a change that makes no difference. Results are kept in build/mutation/results.jsonl: a run that was
-interrupted goes on where it was, and a mutant is tried anew when its file has changed, or with --again if it lived.
-Needs llvm and python3-clang; ccache and mold are used where they are. MUTATE_CMAKE holds further options for cmake."""
+nothing needs, or a change that makes no difference. All mutants of the chosen files are built at once, from the objects
+of a build that exists. What the compiler must know beforehand is built and tested by itself.
+Results are kept in build/mutation/results.jsonl: a run that was interrupted goes on where it was, and a mutant is tried
+anew when its file has changed, or with --again if it lived. Needs python3-clang."""
 
 import argparse
+import fcntl
 import fnmatch
 import hashlib
 import json
@@ -19,19 +20,21 @@ import os
 import queue
 import random
 import re
+import shutil
 import subprocess
 import sys
 import threading
 import time
 from collections import Counter, defaultdict
-from concurrent.futures import ProcessPoolExecutor
+from concurrent.futures import ProcessPoolExecutor, ThreadPoolExecutor
+from dataclasses import replace
 from functools import partial
 from pathlib import Path
 
+from mutation.build import Builder, Links, read_units
 from mutation.equivalent import Equivalents
-from mutation.mutants import find_mutants
-from mutation.reach import Reach, Suites
-from mutation.workplace import Workplace
+from mutation.mutants import read_source
+from mutation.trial import UNREACHED, Reach, Trial
 
 ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build/mutation"
@@ -41,7 +44,7 @@ def parse_arguments():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--files", nargs="+", metavar="PATTERN",
-                        help="files to mutate (default: src/**.cpp; headers cost long builds)")
+                        help="files to mutate (default: src/**.cpp)")
     parser.add_argument("--changed", metavar="REVISION", help="only lines changed since the revision")
     parser.add_argument("--kinds", nargs="+", help="comparison boundary logic arithmetic negation dropped cell")
     parser.add_argument("--sample", type=int, metavar="N", help="N of the mutants, the same each time")
@@ -50,14 +53,13 @@ def parse_arguments():
     parser.add_argument("--again", action="store_true", help="try those anew that lived")
     parser.add_argument("--list", action="store_true", help="list the mutants, and test nothing")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
-    parser.add_argument("--budget", type=float, default=300, metavar="SECONDS",
-                        help="of tests for one mutant, the quickest first (default: 300)")
-    parser.add_argument("--suites", nargs="+", metavar="SUITE",
-                        help="run these test programs, or SUITE:PATTERN, on each mutant, and record no reach")
+    parser.add_argument("--budget", type=float, default=60, metavar="SECONDS",
+                        help="of tests for one mutant, the quickest first (default: 60)")
+    parser.add_argument("--suites", nargs="+", metavar="SUITE", help="use only these test programs")
+    parser.add_argument("--build", default="build/dev", help="the build to take objects from (default: build/dev)")
     parser.add_argument("--least", type=float, default=100, metavar="PERCENT",
                         help="fail only if fewer are killed (default: 100)")
-    parser.add_argument("--keep-reach", action="store_true",
-                        help="take the recorded reach of the tests, though the sources have changed since")
+    parser.add_argument("--few", type=int, default=1, metavar="N", help="never fail if fewer are tried")
     return parser.parse_args()
 
 
@@ -75,28 +77,28 @@ def changed_lines(revision):
     return lines
 
 
-def choose(arguments):
+def choose(arguments, units, links):
+    """The chosen mutants, and the files that they are in."""
     listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "src", "app"],
                             cwd=ROOT, capture_output=True, text=True, check=True).stdout.split()
-    sources = [file for file in listed if file.endswith((".cpp", ".h")) and (ROOT / file).exists()]
     lines = changed_lines(arguments.changed) if arguments.changed else None
-    patterns = arguments.files or (["*"] if lines else ["src/*.cpp"])
+    patterns = arguments.files or (["*"] if lines else ["src/*"])
     if arguments.only:
         patterns = [mutant.split(":")[0] for mutant in arguments.only]
-    files = [file for file in sources if any(fnmatch.fnmatch(file, pattern) for pattern in patterns)
+    tested = links.all_objects()
+    flags = {member: unit.flags for unit in units if unit.object in tested for member in unit.members}
+    files = [file for file in listed if file in flags and any(fnmatch.fnmatch(file, pattern) for pattern in patterns)
              and (lines is None or file in lines)]
-    commands = WORK / "commands"  # which name every file; other builds combine them
-    subprocess.run(["cmake", "--preset", "dev", "-B", commands], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
-    find = partial(find_mutants, ROOT, commands, WORK / "mutants")
     with ProcessPoolExecutor(arguments.jobs) as pool:
-        found = list(pool.map(find, files))
-    mutants = [mutant for ofFile in found for mutant in ofFile
-               if (lines is None or mutant.line in lines[file])
+        sources = list(pool.map(partial(read_source, ROOT, WORK / "mutants"), files, map(flags.get, files)))
+    mutants = [mutant for source in sources for mutant in source.mutants
+               if (lines is None or mutant.line in lines[mutant.file])
                and (not arguments.kinds or mutant.kind in arguments.kinds)
                and (not arguments.only or mutant.id in arguments.only)]
     if arguments.sample and arguments.sample < len(mutants):
         mutants = random.Random(arguments.seed).sample(mutants, arguments.sample)
-    return mutants
+    chosen = {mutant.file for mutant in mutants}
+    return mutants, [source for source in sources if source.name in chosen]
 
 
 def digest(file):
@@ -131,72 +133,127 @@ def one_line(text):
     return text if len(text) <= 60 else text[:57] + "..."
 
 
-def run(mutants, reach, results, arguments):
-    waiting = queue.SimpleQueue()
-    for mutant in mutants:
-        waiting.put(mutant)
-    needed = {test for mutant in mutants for test in reach.of(mutant)}
-    suites = sorted({test.split(":")[0] for test in needed})
-    tried = {suite: [test.split(":", 1)[1] for test in needed if test.startswith(f"{suite}:")]
-             for suite in (suites if arguments.suites else ())}
-    failures = []
+class Run:
+    """Tests mutants on several processors."""
 
-    def work(number):
-        workplace = Workplace(ROOT, WORK / str(number), suites, tried)
-        try:
-            while not failures:
-                mutant = waiting.get_nowait()
-                started = time.monotonic()
-                outcome, detail = workplace.test(mutant, reach, arguments.budget)
-                results.add(mutant, outcome, detail, time.monotonic() - started)
-                print(f"{outcome:10} {mutant.id}  {detail}", flush=True)
-        except queue.Empty:
-            pass
-        except BaseException as error:  # told in the main thread
-            failures.append(error)
+    def __init__(self, units, links, sources, results, arguments):
+        self.work = WORK / arguments.build.replace("/", "-")
+        self.work.mkdir(parents=True, exist_ok=True)
+        self.only = (self.work / "lock").open("w")  # another run of the same build waits
+        fcntl.flock(self.only, fcntl.LOCK_EX)
+        self.results, self.jobs = results, arguments.jobs
+        self.builder = Builder(ROOT, ROOT / arguments.build, self.work, units, links, sources)
+        with ThreadPoolExecutor(self.jobs) as pool:
+            suites = self.builder.build_all(pool, arguments.suites)
+            self.reach = Reach(suites, self.work, self.builder, pool)
+        self.trial = Trial(self.reach, self.work, arguments.budget)
+        self.plain = {}  # file: its optimised object without a mutant
+        self.lock = threading.Lock()
 
-    workers = [threading.Thread(target=work, args=(number,), daemon=True)
-               for number in range(1, arguments.jobs + 1)]
-    for worker in workers:
-        worker.start()
-    for worker in workers:
-        worker.join()
-    if failures:
-        raise failures[0]
+    def unit_of(self, mutant):
+        return next(unit for unit in self.builder.mutated_units() if mutant.file in unit.members)
+
+    def optimised(self, mutant, folder):
+        """What the optimising compiler makes of the mutant: the object, or the messages."""
+        output = folder / "optimised.o"
+        messages = self.builder.compile_one(self.unit_of(mutant), output, mutant, ["-O2", "-g0"])
+        return messages or output.read_bytes()
+
+    def alone(self, mutant, folder):
+        """Tests a mutant that is built by itself."""
+        unit = self.unit_of(mutant)
+        output = folder / "alone.o"
+        shutil.rmtree(folder / "bin", ignore_errors=True)
+        if messages := self.builder.compile_one(unit, output, mutant):
+            held = "static assertion failed" in messages or "CheckCatalog" in messages
+            return ("killed", "the build") if held else ("invalid", "does not compile")
+        tests = {test for other in self.builder.sources[mutant.file].mutants
+                 for test in self.reach.tests[self.builder.numbers[other.id]]}
+        suites = {suite.name for suite, _ in tests}
+        self.builder.link({unit.object: output}, folder / "bin", suites)
+        return self.trial.test(mutant, tests, folder / "bin", {})
+
+    def test(self, mutant, folder):
+        number = self.builder.numbers[mutant.id]
+        if number in self.builder.invalid:
+            return "invalid", "does not compile"
+        tests = self.reach.tests[number]
+        if number in self.builder.single or mutant.constant and not tests:
+            outcome, detail = self.alone(mutant, folder)
+        else:
+            outcome, detail = self.trial.test(mutant, tests, self.work / "bin", {"MUTANT": str(number)})
+        if outcome == "alive":
+            with self.lock:
+                if mutant.file not in self.plain:
+                    self.plain[mutant.file] = self.optimised(replace(mutant, after=None), folder)
+            made = self.optimised(mutant, folder)
+            if isinstance(made, str):
+                return "killed", "the build"
+            if made == self.plain[mutant.file]:
+                return "equivalent", "compiles to the same"
+        return outcome, detail
+
+    def all(self, mutants):
+        waiting = queue.SimpleQueue()
+        for mutant in mutants:
+            waiting.put(mutant)
+        failures = []
+
+        def work(place):
+            try:
+                while not failures:
+                    mutant = waiting.get_nowait()
+                    started = time.monotonic()
+                    outcome, detail = self.test(mutant, place)
+                    self.results.add(mutant, outcome, detail, time.monotonic() - started)
+                    print(f"{outcome:10} {mutant.id}  {detail}", flush=True)
+            except queue.Empty:
+                pass
+            except BaseException as error:  # told in the main thread
+                failures.append(error)
+
+        workers = [threading.Thread(target=work, args=(self.work / f"alone-{number}",), daemon=True)
+                   for number in range(self.jobs)]
+        for worker in workers:
+            worker.start()
+        for worker in workers:
+            worker.join()
+        if failures:
+            raise failures[0]
 
 
-def report(mutants, results, equivalents):
-    """Prints what is known of the mutants. Returns how many percent are killed."""
+def report(mutants, results, equivalents, suites):
+    """Prints what is known of the mutants. Returns how many were tried, and how many percent of them are killed."""
     scores, alive = defaultdict(Counter), []
     for mutant in mutants:
         result = results.find(mutant)
-        folder = "/".join(mutant.file.split("/")[:2])
-        if equivalents.has(mutant):
-            scores[folder]["equivalent"] += 1
-            continue
-        if result is None:
-            continue
-        scores[folder][result["outcome"]] += 1
-        if result["outcome"] == "alive":
+        outcome = "equivalent" if equivalents.has(mutant) else result["outcome"] if result else "open"
+        if suites and outcome == "alive" and result["detail"] == UNREACHED:
+            outcome = "unreached"  # another suite may reach it
+        scores["/".join(mutant.file.split("/")[:2])][outcome] += 1
+        if outcome == "alive":
             alive.append((mutant, result["detail"]))
     if alive:
         print("\nAlive:")
     for mutant, detail in alive:
         print(f"  {mutant.file}:{mutant.line}: {one_line(mutant.before)}  ->  {one_line(mutant.after) or 'nothing'}"
               f"{'  (' + detail + ')' if detail else ''}\n    scripts/mutate.py --only {mutant.id}")
-    print("\nfolder              killed  alive  score   equivalent  invalid")
+    columns = ("killed", "alive", "equivalent", "invalid", "unreached", "open")
+    print(f"\n{'folder':20}" + "".join(f"{column:>11}" for column in columns) + "      score")
     for folder, score in sorted(scores.items()):
         tried = score["killed"] + score["alive"]
-        share = f"{100 * score['killed'] / tried:4.0f} %" if tried else "     -"
-        print(f"{folder:18} {score['killed']:7} {score['alive']:6} {share} {score['equivalent']:12} {score['invalid']:8}")
+        share = f"{100 * score['killed'] / tried:9.0f} %" if tried else ""
+        print(f"{folder:20}" + "".join(f"{score[column]:11}" for column in columns) + share)
     killed = sum(score["killed"] for score in scores.values())
-    return 100 * killed / (killed + len(alive)) if killed + len(alive) else 100
+    tried = killed + len(alive)
+    return tried, 100 * killed / tried if tried else 100
 
 
 def main():
     arguments = parse_arguments()
     WORK.mkdir(parents=True, exist_ok=True)
-    mutants = choose(arguments)
+    units, links = read_units(ROOT, ROOT / arguments.build), Links(ROOT / arguments.build)
+    mutants, sources = choose(arguments, units, links)
     if arguments.list:
         for mutant in mutants:
             print(f"{mutant.id}  {one_line(mutant.before)}  ->  {one_line(mutant.after) or 'nothing'}")
@@ -212,10 +269,10 @@ def main():
     equivalents = Equivalents(ROOT)
     wanted = [mutant for mutant in mutants if is_open(mutant) and not equivalents.has(mutant)]
     if wanted:
-        reach = (Suites(arguments.suites) if arguments.suites
-                 else Reach(ROOT, WORK, arguments.jobs, arguments.keep_reach))
-        run(wanted, reach, results, arguments)
-    return 0 if report(mutants, results, equivalents) >= arguments.least else 1
+        random.Random(arguments.seed).shuffle(wanted)  # an interrupted run is a sample, too
+        Run(units, links, sources, results, arguments).all(wanted)
+    tried, score = report(mutants, results, equivalents, arguments.suites)
+    return 0 if score >= arguments.least or tried < arguments.few else 1
 
 
 if __name__ == "__main__":

@@ -29,7 +29,7 @@ def identifier(*words):
 def needed_by(deb):
     """The names of the packages that it needs; of alternatives the first."""
     for relation in said("dpkg-deb", "-f", deb, "Depends").split(","):
-        if name := relation.split("|")[0].split("(")[0].strip():
+        if name := relation.split("|")[0].split("(")[0].strip().removesuffix(":any"):
             yield name
 
 

@@ -11,6 +11,7 @@ Most of the time goes into the headers that the files share. So a few files of a
 one. Where that finds anything, also that they do not go together, each of them is looked at alone, and only that
 counts."""
 
+import itertools
 import json
 import os
 import shlex
@@ -113,12 +114,14 @@ def main():
         files = sys.argv[1:]
     jobs = [(batch, ANALYZER) for batch in batches(sorted(analyzed))]
     jobs += [(batch, "") for batch in batches(sorted(set(files) - set(analyzed)))]
+    has_found = False
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        found = "".join(pool.map(lambda job: tidy_together(job[0], job[1][0], commands, job[1][1]), enumerate(jobs)))
-        if since:
-            found += "".join(pool.map(lambda file: read_alone(file, commands[file]), files))
-    print(found, end="")
-    return bool(found)
+        tidied = pool.map(lambda job: tidy_together(job[0], job[1][0], commands, job[1][1]), enumerate(jobs))
+        read = pool.map(lambda file: read_alone(file, commands[file]), files if since else [])
+        for found in itertools.chain(tidied, read):
+            has_found = has_found or bool(found)
+            print(found, end="", flush=True)  # all of it may take an hour
+    return has_found
 
 
 if __name__ == "__main__":

@@ -3,7 +3,6 @@
 import hashlib
 import json
 import re
-import shlex
 from dataclasses import asdict, dataclass
 from pathlib import Path
 
@@ -27,7 +26,8 @@ BUILT_IN = {CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR,
 
 @dataclass
 class Mutant:
-    """`length` bytes at `offset` become `after`. `function` is the first line of the function around it, or 0."""
+    """`length` bytes at `offset` become `after`. `start` and `end` hold the expression or statement that can be chosen
+    while the program runs. `constant` if the compiler may evaluate it."""
     file: str
     line: int
     column: int
@@ -36,7 +36,9 @@ class Mutant:
     length: int
     before: str
     after: str
-    function: int = 0
+    start: int
+    end: int
+    constant: bool = False
 
     @property
     def id(self):
@@ -58,14 +60,18 @@ class Finder:
         self.unit = unit
         self.bytes = (root / file).read_bytes()
         self.found = {}
-        self.functions = []  # extents: first offset, last offset, first line
-        self.passed_over = []  # what the compiler alone evaluates
+        self.expressions = []  # extents of those with an operator
+        self.constants = []  # extents of what the compiler may evaluate
+        self.tables = []  # extents of those constants that may be made while the program starts
+        self.assertions = []  # extents of those that the compiler checks
+        self.passed_over = []  # extents of what only takes time or memory
 
-    def add(self, kind, start, length, after):
+    def add(self, kind, start, length, after, extent=None):
+        extent = extent or (start, start + length)
         before = self.bytes[start:start + length].decode()
         line = self.bytes.count(b"\n", 0, start) + 1
         column = start - self.bytes.rfind(b"\n", 0, start)
-        mutant = Mutant(self.file, line, column, kind, start, length, before, after)
+        mutant = Mutant(self.file, line, column, kind, start, length, before, after, *extent)
         self.found.setdefault(mutant.id, mutant)
 
     def text(self, cursor):
@@ -77,19 +83,25 @@ class Finder:
         return (extent.start.file is not None and extent.start.file.name == self.path
                 and extent.end.offset > extent.start.offset)
 
+    def around(self, offset, length):
+        """The smallest expression around an operator."""
+        return min(((start, end) for start, end in self.expressions
+                    if start <= offset and offset + length <= end and end - start > length),
+                   key=lambda extent: extent[1] - extent[0], default=(offset, offset))
+
     def operators(self):
         for token in self.unit.get_tokens(extent=self.unit.cursor.extent):
             if token.kind != TokenKind.PUNCTUATION:
                 continue
             spelling, at = token.spelling, token.extent.start.offset
             if spelling == "!" and token.cursor.kind == CursorKind.UNARY_OPERATOR:
-                self.add("negation", at, 1, "")
+                self.add("negation", at, 1, "", self.around(at, 1))
             for kind, table in (("comparison", COMPARISON), ("boundary", BOUNDARY), ("logic", LOGIC),
                                 ("arithmetic", ARITHMETIC)):
                 if spelling in table and is_operator(token.cursor, spelling):
                     unary = token.cursor.kind == CursorKind.UNARY_OPERATOR
                     if not unary or spelling in ("++", "--"):
-                        self.add(kind, at, len(spelling), table[spelling])
+                        self.add(kind, at, len(spelling), table[spelling], self.around(at, len(spelling)))
 
     def condition(self, cursor):
         children = list(cursor.get_children())
@@ -111,8 +123,9 @@ class Finder:
     def statement(self, cursor):
         drops = (cursor.kind in JUMPS or cursor.kind == CursorKind.RETURN_STMT
                  or cursor.kind.is_expression())
-        onlyTime = re.search(r"(\.|->)(reserve|shrink_to_fit)\(", self.text(cursor))
-        if drops and not onlyTime and self.written_here(cursor):
+        if cursor.kind == CursorKind.CALL_EXPR and cursor.spelling in ("reserve", "shrink_to_fit"):
+            self.passed_over.append((cursor.extent.start.offset, cursor.extent.end.offset))
+        elif drops and self.written_here(cursor):
             self.add("dropped", cursor.extent.start.offset, len(self.text(cursor).encode()), "(void)0")
 
     def cell(self, cursor):
@@ -127,79 +140,82 @@ class Finder:
             changed = number + (1 if up else -1)
             self.add("cell", start, len(text), hex(changed) if text[:2] in ("0x", "0X") else str(changed))
 
-    def walk(self, cursor, table, function):
-        for child in cursor.get_children():
-            inTable, inFunction = table, function
+    def walk(self, cursor, table, last):
+        """`last` says whether the function may end behind the cursor."""
+        children = list(cursor.get_children())
+        for child in children:
+            inTable = table
             kind = child.kind
+            extent = (child.extent.start.offset, child.extent.end.offset)
             if kind == CursorKind.STATIC_ASSERT:
-                self.passed_over.append((child.extent.start.offset, child.extent.end.offset))
+                self.assertions.append(extent)
                 continue
+            if kind in BUILT_IN or kind == CursorKind.CALL_EXPR and child.spelling.startswith("operator"):
+                self.expressions.append(extent)
             if kind in FUNCTIONS and self.written_here(child):
-                inFunction = True
-                self.functions.append((child.extent.start.offset, child.extent.end.offset,
-                                       child.extent.start.line))
-            if kind == CursorKind.VAR_DECL:
+                inTable = False
+                if b"constexpr" in self.bytes[extent[0]:extent[1]].split(b"{")[0]:
+                    self.constants.append(extent)
+            if kind == CursorKind.VAR_DECL and self.written_here(child):
                 words = self.text(child).split("=")[0].split("{")[0].split()
                 inTable = cursor.kind in SCOPES or "constexpr" in words or "static" in words
+                if inTable or "const" in words:
+                    self.constants.append(extent)
+                if inTable and (cursor.kind in SCOPES or "static" in words) and "*" not in words:
+                    self.tables.append(extent)
             if kind in (CursorKind.IF_STMT, CursorKind.WHILE_STMT, CursorKind.CONDITIONAL_OPERATOR):
                 self.condition(child)
             if cursor.kind == CursorKind.COMPOUND_STMT and kind != CursorKind.RETURN_STMT:
                 self.statement(child)
-            if cursor.kind == CursorKind.IF_STMT and kind in JUMPS | {CursorKind.RETURN_STMT}:
+            if cursor.kind == CursorKind.IF_STMT and kind in JUMPS | {CursorKind.RETURN_STMT} and not last:
                 self.statement(child)
+            ends = (kind == CursorKind.COMPOUND_STMT and (last or cursor.kind in FUNCTIONS)
+                    or kind == CursorKind.IF_STMT and last and child == children[-1]
+                    or cursor.kind == CursorKind.IF_STMT and last)
             if inTable and kind in (CursorKind.INTEGER_LITERAL, CursorKind.CXX_BOOL_LITERAL_EXPR):
                 self.cell(child)
-            self.walk(child, inTable, inFunction)
+            self.walk(child, inTable, ends)
 
     def all(self):
-        self.operators()
         for child in self.unit.cursor.get_children():
             if child.location.file is not None and child.location.file.name == self.path:
                 holder = type("Holder", (), {"kind": CursorKind.TRANSLATION_UNIT,
                                              "get_children": lambda _, child=child: [child]})()
                 self.walk(holder, False, False)
+        self.operators()
         mutants = []
         for mutant in sorted(self.found.values(), key=lambda mutant: (mutant.offset, mutant.kind)):
-            if any(start <= mutant.offset < end for start, end in self.passed_over):
-                continue
-            for start, end, line in self.functions:  # the innermost comes last
-                if start <= mutant.offset < end:
-                    mutant.function = line
-            mutants.append(mutant)
+            if not is_in(self.assertions + self.passed_over, mutant.offset):
+                mutant.constant = is_in(self.constants, mutant.offset)
+                mutants.append(mutant)
         return mutants
 
 
-def compile_arguments(root, build):
-    """For each source file of the project, what clang needs to read it."""
-    arguments = {}
-    for entry in json.loads((build / "compile_commands.json").read_text()):
-        words = shlex.split(entry["command"].replace("-isystem ", "-isystem"))
-        arguments[entry["file"]] = [word for word in words
-                                    if word.startswith(("-I", "-D", "-std", "-isystem"))]
-    return {file[len(str(root)) + 1:]: flags for file, flags in arguments.items()
-            if file.startswith(str(root) + "/")}
+def is_in(extents, offset):
+    return any(start <= offset < end for start, end in extents)
 
 
-def find_mutants(root, build, cache, file):
-    """The mutants of `file`, in order. A header is read through a source file that is named alike or that includes it."""
+@dataclass
+class SourceFile:
+    """A file with its mutants; the extents of its tables and of its static assertions."""
+    name: str
+    mutants: list
+    tables: list
+    assertions: list
+
+
+def read_source(root, cache, file, flags):
     digest = hashlib.sha256((root / file).read_bytes() + Path(__file__).read_bytes()).hexdigest()
     kept = cache / (file.replace("/", "+") + ".json")
-    if kept.exists():
-        stored = json.loads(kept.read_text())
-        if stored["digest"] == digest:
-            return [Mutant(**mutant) for mutant in stored["mutants"]]
-    arguments = compile_arguments(root, build)
-    flags = arguments.get(file) or arguments.get(file.removesuffix(".h") + ".cpp")
-    if flags is None:
-        users = [user for user in arguments if f'#include "{file.split("/", 1)[1]}"'
-                 in (root / user).read_text()]
-        flags = arguments[users[0]] if users else next(iter(arguments.values()))
+    if kept.exists() and (stored := json.loads(kept.read_text()))["digest"] == digest:
+        return SourceFile(file, [Mutant(**mutant) for mutant in stored["mutants"]], stored["tables"], stored["assertions"])
     unit = clang.cindex.Index.create().parse(str(root / file), args=["-xc++", *flags])
     errors = [str(found) for found in unit.diagnostics
               if found.severity >= clang.cindex.Diagnostic.Error]
     if errors:
         raise SystemExit(f"libclang cannot read {file}: {errors[0]}")
-    mutants = Finder(root, file, unit).all()
+    finder = Finder(root, file, unit)
+    source = SourceFile(file, finder.all(), finder.tables, finder.assertions)
     kept.parent.mkdir(parents=True, exist_ok=True)
-    kept.write_text(json.dumps({"digest": digest, "mutants": [asdict(mutant) for mutant in mutants]}))
-    return mutants
+    kept.write_text(json.dumps(asdict(source) | {"digest": digest}))
+    return source

@@ -19,15 +19,25 @@
 
 namespace {
 
-/// Calls may fail from here on.
-void BeginFailing() {
-  if (void* const begin = dlsym(RTLD_DEFAULT, "BeginFailing")) {
-    reinterpret_cast<void (*)()>(begin)();
+/// Calls may fail as long as it lives. At the end, Qt loads the fonts only to forget them, and a
+/// call that fails then is not ours.
+class Failing {
+ public:
+  Failing() { Call("BeginFailing"); }
+  ~Failing() { Call("EndFailing"); }
+  Failing(const Failing&) = delete;
+  Failing& operator=(const Failing&) = delete;
+
+ private:
+  static void Call(const char* name) {
+    if (void* const function = dlsym(RTLD_DEFAULT, name)) {
+      reinterpret_cast<void (*)()>(function)();
+    }
   }
-}
+};
 
 QString Edit(const QString& file) {
-  BeginFailing();
+  const Failing failing;
   ProfileDocument document;
   const QString error = document.Load(file);
   return error.isEmpty() ? document.Change(0, {{"notes", "Changed"}}) : error;
@@ -41,7 +51,7 @@ QString SaveLog(const QString& file) {
     log.Add({{}, "A", "Sharpness", {}, {PjtOperation::Set, 0x2201, value}, {.result = 1}, {}});
   }
   untilShown.exec();
-  BeginFailing();
+  const Failing failing;
   return log.Save(file);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <set>
 
 #include <QByteArray>
 #include <QJsonDocument>
@@ -28,6 +29,10 @@ class Subscriber {
       const auto topic = line.left(line.indexOf(' '));
       last_[topic] = line.mid(topic.size() + 3);
       ++counts_[topic];
+      if (topic.endsWith("/state")) {
+        const QJsonObject state = QJsonDocument::fromJson(last_[topic]).object();
+        names_[state["reachability"].toString()].insert(state["name"].toString().toUtf8());
+      }
     }
     return last_;
   }
@@ -40,7 +45,7 @@ class Subscriber {
   /// until there is one.
   QByteArray Find(const char* power, const std::vector<const char*>& settings) {
     for (const auto& [topic, payload] : Last()) {
-      const QByteArray level = topic.split('/')[1];
+      QByteArray level = topic.split('/')[1];
       const auto config = last_.find("homeassistant/device/" + level + "/config");
       if (!topic.endsWith("/state") || config == last_.end() || Json(topic)["power"] != power) {
         continue;
@@ -61,6 +66,10 @@ class Subscriber {
   }
   bool Saw(const char* text) { return daemon_->Said().contains(text); }
   int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
+  /// The projectors that ever had this reachability.
+  const std::set<QByteArray>& NamesThatWere(const char* reachability) {
+    return Last(), names_[reachability];
+  }
   /// How many topics with this end have a message that contains a text.
   int With(const char* end, const char* text = "") {
     int count = 0;
@@ -74,4 +83,5 @@ class Subscriber {
   qsizetype read_ = 0;
   std::map<QByteArray, QByteArray> last_;
   std::map<QByteArray, int> counts_;
+  std::map<QString, std::set<QByteArray>> names_;
 };

@@ -2,6 +2,7 @@
 // time.
 
 #include <QString>
+#include <QStringList>
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <optional>
 #include <string>
@@ -21,6 +22,7 @@ TEST(CatalogLanguages, AreThoseOfBothModules) {
     all.push_back(language.tag + ' ' + language.name + ' ' + language.englishName);
   }
   EXPECT_EQ(all.size(), CATALOG_LANGUAGE_COUNT);
+  EXPECT_TRUE(std::ranges::is_sorted(all));
   const std::vector<std::string> known{"cs Čeština Czech",
                                        "de Deutsch German",
                                        "en English English",
@@ -49,10 +51,11 @@ TEST(CatalogLanguages, AreFoundByWhatPeopleCallThem) {
       {3079, {"de_AT", "de-AT.UTF-8@euro", "3079"}},
       {3084, {"fr-CA"}},
       {2058, {"es_MX"}},
+      {1034, {"es", "64522"}},
       {2070, {"pt-PT"}},
       {1046, {"pt", "português", "pt-BR"}},
       {2052, {"zh", "zh-CN", "zh-Hans", "zh-SG", "2052", "简体中文"}},
-      {1028, {"zh-TW", "zh-Hant", "traditional chinese"}},
+      {1028, {"zh-TW", "zh-Hant", "64516", "traditional chinese"}},
       {3076, {"zh-HK"}},
   };
   for (const auto& [id, names] : kCases) {

@@ -5,6 +5,8 @@
 #include <fstream>
 #include <span>
 #include <string>
+#include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include <QString>
@@ -79,6 +81,9 @@ TEST_F(CatalogTest, SystemLanguage) {
       {1031, {"de_DE@euro", "de"}},
       {1041, {"ja_JP.eucJP"}},
       {1068, {"az_AZ", "AZ_AZ"}},
+      {1281, {"qps_ploc", "QPS-PLOC.UTF-8"}},
+      {2559, {"qps_plocm", "qps-plocM"}},
+      {1033, {"qps_plod", "qps.ploc", "zps_ploc", "q@s_ploc"}},
       {1033, {"en_US.UTF-8", "en", "C", "C.UTF-8", "POSIX", "xx_YY", "???"}},
       // The locale library hangs or fails on some of these.
       {1033, {"i-default_DE", "i-klingon", "x", "_", "12_34", "-"}},
@@ -90,8 +95,10 @@ TEST_F(CatalogTest, SystemLanguage) {
       EXPECT_EQ(SystemLanguageId(), expected) << locale;
     }
   }
-  SetLocale(std::string(100000, 'z').c_str());
-  EXPECT_EQ(SystemLanguageId(), 1033U);
+  for (const auto& [length, expected] : {std::pair(58U, 1031U), {59U, 1033U}, {100000U, 1033U}}) {
+    SetLocale(("de_DE_" + std::string(length, 'z')).c_str());
+    EXPECT_EQ(SystemLanguageId(), expected) << length;
+  }
 
   setenv("LANG", "de_DE", 1);
   setenv("LC_MESSAGES", "zh_CN", 1);
@@ -101,6 +108,9 @@ TEST_F(CatalogTest, SystemLanguage) {
   EXPECT_EQ(SystemLanguageId(), 2052U);
   unsetenv("LC_MESSAGES");
   EXPECT_EQ(SystemLanguageId(), 1031U);
+  char** const variables = std::exchange(environ, nullptr);
+  EXPECT_EQ(SystemLanguageId(), 1033U);
+  environ = variables;
 }
 
 TEST_F(CatalogTest, ChoosesTheModule) {
@@ -162,14 +172,15 @@ TEST_F(CatalogTest, TheTextsOfAllModulesNameTheModuleThatIsMissing) {
   EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(),
             "./mcschn.dll is damaged or cannot be read; its texts are missing");
   fs::create_directory("second");
-  TestModule({{2052, {{kFirst, {Unicode(u"a\r\n")}}}}}).Save("second/mcschn.dll");
+  TestModule({{2052, {{kFirst, {Unicode(u"%%\r\n")}}}}}).Save("second/mcschn.dll");
   const std::string both[] = {".", "second"};
   EXPECT_FALSE(CatalogTexts(both).Find(2052, 4, 1)) << "the first file counts";
-  EXPECT_EQ(CatalogTexts(std::span(both).last(1)).Find(2052, 4, 1), "a");
+  EXPECT_EQ(CatalogTexts(std::span(both).last(1)).Find(2052, 4, 1), "%");
 }
 
 TEST_F(CatalogTest, ModulesAreLookedForBesideTheLibraryAndInItsShare) {
   const auto folders = CatalogFolders();
+  EXPECT_EQ(folders.at(1), fs::read_symlink("/proc/self/exe").parent_path());
   for (const char* share : {"/../share/advanced-control", "/../../share/advanced-control"}) {
     EXPECT_EQ(std::ranges::count(folders, folders.front() + share), 1) << share;
   }

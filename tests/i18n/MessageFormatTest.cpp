@@ -57,7 +57,7 @@ const Case kCases[] = {
     {"%1!c!%2!C!%3!wc!|%1!3c!|", {'A', 0x4EAE, "中文"}, "A亮中|  A|"},
     {"[%1!6s!|%1!-6S!|%1!.2ws!|%1!hs!]", {"亮度é"}, "[   亮度é|亮度é   |亮度|亮度é]"},
     {"%1!*.*s! %4 %5!*s!", {4, 2, "Bill", "Bob", 6, "Bill"}, "  Bi Bob   Bill"},
-    {"[%1!*d!]", {-4, 7}, "[7   ]"},
+    {"[%1!*d!%3!*s!]", {-4, 7, -3, "x"}, "[7   x  ]"},
     // Inserts of the other kind.
     {"%1|%1!4s!|%2!d!|%3!*s!", {-7, "-12", "3", "x"}, "-7|  -7|-12|  x"},
     {"%1!d!", {"12 apples"}, kNoResult},
@@ -66,6 +66,8 @@ const Case kCases[] = {
     {"%1!*d!", {"wide", 1}, kNoResult},
     {"%1!c!", {0x110000}, kNoResult},
     {"%1!c!", {0xD800}, kNoResult},
+    {"%1!c!", {0xDFFF}, kNoResult},
+    {"%1!c!%2!c!%3!c!", {0xD7FF, 0xE000, 0x10FFFF}, "\uD7FF\uE000\U0010FFFF"},
     {"%1", {static_cast<const char*>(nullptr)}, ""},
 };
 

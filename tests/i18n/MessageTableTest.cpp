@@ -26,7 +26,7 @@ std::vector<TestTable> SampleTables() {
   return {
       {1033,
        {{0x01040001,
-         {Unicode(u"One\r\n"), Unicode(u"Two\r\n"), Unicode(u"\x7F\u0080\u07FF\u0800")}},
+         {Unicode(u"One\r\n"), Unicode(u"Two\r\n"), Unicode(u"\x7F\u0080\u07FF\u0800\r")}},
         {0xFFFFFFFE, {Ansi("Stra\337e\r\n"), Ansi("")}}}},
       {2052, {{0x01040001, {Unicode(u"\u4EAE\u5EA6\r\n"), Ansi("\xD6\xD0\xCE\xC4\r\n")}}}},
       {1041, {{7, {Ansi("\x93\xFA\x96\x7B"), Unicode(u"\xD83D\xDE00|\xD83D|")}}}, 9},
@@ -44,7 +44,7 @@ TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
     };
     EXPECT_EQ(table->Count(), 9U);
     EXPECT_EQ(texts(1033, {0x01040001, 0x01040002}), "One\r\n;Two\r\n;");
-    EXPECT_EQ(texts(1033, {0x01040003}), "\x7F\u0080\u07FF\u0800;");
+    EXPECT_EQ(texts(1033, {0x01040003}), "\x7F\u0080\u07FF\u0800\r;");
     EXPECT_EQ(texts(1033, {0xFFFFFFFE, 0xFFFFFFFF}), "Straße\r\n;;");
     EXPECT_EQ(texts(2052, {0x01040001, 0x01040002}), "亮度\r\n;中文\r\n;");
     EXPECT_EQ(texts(1041, {7, 8}), "日本;😀|\uFFFD|;");
@@ -110,11 +110,12 @@ TEST(MessageTable, FindsNumbersFarApartInManyCategories) {
 
 TEST(MessageTable, LowerResourceComesFirst) {
   const TestModule module({{1033, {{1, {Unicode(u"second"), Unicode(u"only here")}}}, 5},
-                           {1033, {{1, {Unicode(u"first")}}}, 1}});
+                           {1033, {{1, {Unicode(u"first")}}, {3, {Unicode(u"third")}}}, 1}});
   const auto table = MessageTable::Parse(module.bytes);
   ASSERT_TRUE(table);
   EXPECT_EQ(TextIn(*table, 1033, 1), "first");
   EXPECT_EQ(TextIn(*table, 1033, 2), "only here");
+  EXPECT_EQ(TextIn(*table, 1033, 3), "third");
 }
 
 TEST(MessageTable, MarksEnglishTextsThatEveryLanguageHas) {
@@ -188,6 +189,9 @@ TEST(MessageTable, RefusesDamagedModules) {
       EXPECT_FALSE(MessageTable::Parse(module.bytes)) << damage.what << ": " << value;
     }
   }
+  TestModule unknown(SampleTables(), false);
+  unknown.Put16(options, 0x0107);
+  EXPECT_FALSE(MessageTable::Parse(unknown.bytes)) << "kind of module";
   for (auto end = m.bytes.begin(); end != m.bytes.end(); ++end) {
     EXPECT_FALSE(MessageTable::Parse(std::vector(m.bytes.begin(), end))) << end - m.bytes.begin();
   }
@@ -196,6 +200,7 @@ TEST(MessageTable, RefusesDamagedModules) {
     const TestModule blocks({{1033, {{1, {Ansi("a"), Ansi("b")}}, {second, {Ansi("c")}}}}});
     EXPECT_FALSE(MessageTable::Parse(blocks.bytes)) << second;
   }
+  EXPECT_FALSE(MessageTable::Parse(TestModule({{1033, {{1, {Ansi("a")}}, {3, {}}}}}).bytes));
 }
 
 // A module with a flipped bit is refused, or only the text with the bit differs.

@@ -79,7 +79,11 @@ TEST(PatientChannel, RepeatsOnlySafeCommandsAndNeverCutsOneShort) {
 
 TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   ConnectedProjector target(Profiles().front());
-  const Snapshot snapshot = target.Take();
+  Snapshot snapshot = target.Take();
+  snapshot.isUndo = true;
+  snapshot.settings[0].key = std::string(1024, 'k');  // the longest, and the outermost values
+  snapshot.settings[0].value = -32768;
+  snapshot.settings[1].value = 65535;
   const QByteArray text = WriteSnapshot(snapshot);
   EXPECT_EQ(ReadSnapshot(text).snapshot, snapshot);
   for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
@@ -87,13 +91,18 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
            {"\"version\": 1", "\"version\": 2", "only version 1"},
            {"\"value\": ", "\"value\": 0.5, \"x\": ", "settings[0].value: must be a whole"},
            {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
-           {"\"value\": ", "\"other\": ", "settings[0].value: a whole number is missing"},
+           {"\"value\": ", "\"other\": ", "k: settings[0].value: a whole number is missing"},
            {"\"value\": ", "\"value\": -32769, \"x\": ", "settings[0].value: must be a whole"},
            {"\"value\": ", "\"value\": 65536, \"x\": ", "settings[0].value: must be a whole"},
            {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
            {"\"settings\"", "\"settingz\"", "settings: must be an array"},
            {"\"settings\"", "\"beforehand\": 1, \"settings\"", "beforehand: must be an array"},
            {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a line"},
+           {"\"key\": \"", "\"key\": \"k", "settings[0].key: must be a line"},
+           {"\"key\": \"k", "\"key\": \"\\n", "settings[0].key: must be a line"},
+           {"\"settings\": [",
+            "\"settings\": [{\"key\": \"a\", \"value\": 1}, {\"key\": \"a\", \"value\": 1},",
+            "settings[1].key: \"a\" is here twice"},
            {"\"model\": {", "\"model\": {]", "line 3: "}}) {
     QByteArray wrong = text;
     wrong.replace(wrong.indexOf(from), static_cast<int>(strlen(from)), to);
@@ -129,7 +138,9 @@ TEST(SettingTexts, ParsesTypedValues) {
         {"17", 17},
         {"1", {}},
         {"+1", 16, 0},
-        {"+1", {}, 17}}},
+        {"+1", {}, 17},
+        {"-1", {}, 0},
+        {"+1", {}, 99}}},
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
   for (const auto& [key, cases] : kCases) {
@@ -140,6 +151,8 @@ TEST(SettingTexts, ParsesTypedValues) {
       EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << text;
     }
   }
+  const ModelSetting& brightness = *target.settings.Find("picture.brightness");
+  EXPECT_EQ(Texts().Parse(brightness, std::string_view("51", 1))->amount, 133);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 //                      "cut" (one byte is read or written; any other call is left alone) or
 //                      "interrupt"
 //   FAIL_COUNTS=PATH   writes to this file how many allocations and system calls main has made
-//   FAIL_LATER=1       the two above count from the program's call of BeginFailing on
+//   FAIL_LATER=1       the two above count from the program's call of BeginFailing to EndFailing
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
 //   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
@@ -126,6 +126,7 @@ int __libc_start_main(Main* program, int argc, char** argv, void (*init)(), void
 }
 
 void BeginFailing() { isInMain = true; }
+void EndFailing() { isInMain = false; }
 
 void* malloc(std::size_t size) { return FailsAllocation() ? nullptr : __libc_malloc(size); }
 

@@ -50,6 +50,9 @@ int Fail(std::string problem) {
 // Whether the current directory contains this name.
 bool MarkerExists(const char* name) { return access(name, F_OK) == 0; }
 
+// Whether a marker selects the text of 1033; either does.
+bool HasMarker() { return MarkerExists(kChineseMarker) || MarkerExists(kEnglishMarker); }
+
 // Expands a text into `storage`. Its data is null if that fails.
 std::string_view Expanded(std::string_view text, std::span<const CatalogInsert> inserts,
                           std::string& storage) {
@@ -78,9 +81,7 @@ std::optional<MessageTable::Part> OwnPart(const MessageCatalog& catalog) {
   const std::uint32_t language = SystemLanguageId();
   if (language == kEnglishUnitedStates) return {};
   const auto own = catalog.PartOf(language);
-  // Either marker selects the text of 1033.
-  if (!own || MarkerExists(kChineseMarker) || MarkerExists(kEnglishMarker)) return {};
-  return own;
+  return own && !HasMarker() ? own : std::nullopt;
 }
 
 /// What the outermost batch has found.
@@ -136,25 +137,20 @@ void CopyText(std::string_view text, int bufferSize, char* buffer) {
 }  // namespace
 
 std::vector<std::string> CatalogFolders() {
-  Dl_info library{};
-  fs::path libraryFolder;
-  if (dladdr(reinterpret_cast<const void*>(&IsCatalogLoaded), &library) != 0 && library.dli_fname) {
-    libraryFolder = fs::path(library.dli_fname).parent_path();
-  }
+  Dl_info library{};  // is always found, since it contains the function
+  dladdr(reinterpret_cast<const void*>(&IsCatalogLoaded), &library);
+  const fs::path libraryFolder = fs::path(library.dli_fname).parent_path();
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);
 
-  std::vector<std::string> folders;
-  if (!libraryFolder.empty()) folders.push_back(libraryFolder.string());
-  if (!program.empty()) folders.push_back(program.parent_path().string());
-  if (!libraryFolder.empty()) {
-    folders.push_back((libraryFolder / "../share/advanced-control").string());
-    // For a library in a folder named after its architecture.
-    folders.push_back((libraryFolder / "../../share/advanced-control").string());
-  }
+  std::vector<std::string> folders{libraryFolder.string(), program.parent_path().string(),
+                                   (libraryFolder / "../share/advanced-control").string(),
+                                   // For a library in a folder named after its architecture.
+                                   (libraryFolder / "../../share/advanced-control").string()};
 #ifdef ADVANCEDCONTROL_DATADIR
   folders.emplace_back(ADVANCEDCONTROL_DATADIR);
 #endif
+  std::erase(folders, std::string());  // of the program, if there is no /proc
   folders.emplace_back();
   return folders;
 }
@@ -216,8 +212,7 @@ std::uint32_t ShownLanguageId() {
   const auto& catalog = LoadedCatalog();
   if (!catalog) return kEnglishUnitedStates;
   const std::uint32_t language = SystemLanguageId();
-  const bool hasMarker = MarkerExists(kChineseMarker) || MarkerExists(kEnglishMarker);
-  if (catalog->HasLanguage(language) && !hasMarker) return language;
+  if (catalog->HasLanguage(language) && !HasMarker()) return language;
   return catalog->HasLanguage(kChineseSimplified) ? kChineseSimplified : kEnglishUnitedStates;
 }
 

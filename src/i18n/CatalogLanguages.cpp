@@ -55,12 +55,9 @@ std::string DisplayName(const std::string& locale, const std::string& in, bool w
   ULocaleDisplayNames* const names =
       uldn_openForContext(in.c_str(), contexts.data(), std::ssize(contexts), &error);
   std::array<char16_t, 128> name{};
-  const std::int32_t length =
-      uldn_localeDisplayName(names, shown.c_str(), name.data(), std::ssize(name), &error);
+  uldn_localeDisplayName(names, shown.c_str(), name.data(), std::ssize(name) - 1, &error);
   uldn_close(names);
-  return U_FAILURE(error) || length > std::ssize(name)
-             ? locale
-             : QString::fromUtf16(name.data(), length).toStdString();
+  return QString::fromUtf16(name.data()).toStdString();
 }
 
 bool SameName(const std::string& a, const QString& b) {

@@ -160,7 +160,7 @@ class Expansion {
   bool TakeConversion(Conversion& conversion) {
     constexpr std::string_view kFlags = "-+ #0";
     while (!rest_.empty() && kFlags.find(rest_.front()) != std::string_view::npos) {
-      if (!conversion.HasFlag(rest_.front())) conversion.flags += rest_.front();
+      conversion.flags += rest_.front();
       rest_.remove_prefix(1);
     }
     if (!TakeMeasure(conversion.width)) return false;

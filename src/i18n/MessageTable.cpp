@@ -142,7 +142,7 @@ class MessageTable::Reader {
     if (!header) return false;
     const std::uint64_t blockCount = U32(*header, 0);
     const auto blocks = Slice(table, 4, 12 * blockCount);
-    if (!blocks || !Spend(blocks->size())) return false;
+    if (!blocks) return false;
     // The texts must follow the blocks without overlap or gap, and the identifiers must ascend.
     // Otherwise a damaged number could assign a text to the wrong message.
     std::uint64_t offset = 4 + blocks->size();
@@ -174,10 +174,10 @@ class MessageTable::Reader {
     if (table_.ids_.size() == kMaxMessages) return false;
     std::vector<char>& texts = table_.texts_;
     const std::size_t start = texts.size();
-    const bool decoded = flags == 1   ? decoder_.AppendUnicode(text, texts)
-                         : flags == 0 ? decoder_.AppendAnsi(languageId, text, texts)
-                                      : false;
-    if (!decoded) return false;
+    bool isDecoded = flags == 1;
+    if (flags == 1) decoder_.AppendUnicode(text, texts);
+    if (flags == 0) isDecoded = decoder_.AppendAnsi(languageId, text, texts);
+    if (!isDecoded) return false;
     const std::size_t length = texts.size() - start;
     table_.ids_.push_back(id);
     table_.places_.push_back({.offset = static_cast<std::uint32_t>(start),
@@ -249,7 +249,6 @@ std::optional<MessageTable> MessageTable::Read(const std::string& path) {
 }
 
 std::optional<MessageTable> MessageTable::Parse(std::span<const std::byte> module) {
-  if (module.size() > kMaxModuleBytes) return {};
   const auto image = ModuleImage::Open(module);
   if (!image) return {};
   MessageTable table;

@@ -41,7 +41,7 @@ class MessageTable {
   /// a part that leads to its messages, or contains no message.
   static std::optional<MessageTable> Read(const std::string& path);
 
-  /// The same for a module in memory. Time and memory are bounded by its size.
+  /// The same for a module in memory of at most 32 MiB. Time and memory are bounded by its size.
   static std::optional<MessageTable> Parse(std::span<const std::byte> module);
 
   /// The message in exactly this language, or nothing. Its text is valid for the lifetime of the

@@ -1,6 +1,5 @@
 #include "i18n/ModuleImage.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,13 +20,12 @@ std::vector<std::byte> ReadModule(const std::string& path) {
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (file < 0) return bytes;
   struct stat status {};
-  if (fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
-      std::cmp_less_equal(status.st_size, kMaxModuleBytes)) {
+  fstat(file, &status);
+  if (S_ISREG(status.st_mode) && std::cmp_less_equal(status.st_size, kMaxModuleBytes)) {
     bytes.resize(static_cast<std::size_t>(status.st_size));
     std::size_t got = 0;
     while (got < bytes.size()) {
-      const ssize_t count = read(file, bytes.data() + got, bytes.size() - got);
-      if (count < 0 && errno == EINTR) continue;
+      const ssize_t count = TEMP_FAILURE_RETRY(read(file, bytes.data() + got, bytes.size() - got));
       if (count <= 0) break;
       got += static_cast<std::size_t>(count);
     }

@@ -77,8 +77,7 @@ std::optional<std::uint32_t> LanguageIdOf(std::string_view name) {
   std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
   UErrorCode error = U_ZERO_ERROR;
   uloc_canonicalize(plain.c_str(), canonical.data(), ULOC_FULLNAME_CAPACITY, &error);
-  if (U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING) return {};
-  // The upper half may contain a sort order.
+  // The upper half may contain a sort order. A name that was refused leaves no text, which is 0.
   const std::uint32_t languageId = uloc_getLCID(canonical.data()) & 0xFFFF;
   return languageId == 0 ? std::nullopt : std::optional(WithRegion(languageId));
 }

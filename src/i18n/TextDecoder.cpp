@@ -51,7 +51,7 @@ const char* AnsiConverter(std::uint32_t languageId) {
 
 void TextDecoder::CloseConverter::operator()(UConverter* converter) const { ucnv_close(converter); }
 
-bool TextDecoder::AppendUnicode(Bytes bytes, std::vector<char>& texts) {
+void TextDecoder::AppendUnicode(Bytes bytes, std::vector<char>& texts) {
   // Nearly all texts have no surrogates, and a module may have ten thousand texts.
   const std::size_t start = texts.size();
   texts.resize(start + 3 * (bytes.size() / 2));
@@ -75,15 +75,15 @@ bool TextDecoder::AppendUnicode(Bytes bytes, std::vector<char>& texts) {
     }
   }
   texts.resize(isSimple ? static_cast<std::size_t>(out - texts.data()) : start);
-  return isSimple || AppendWithSurrogates(bytes, texts);
+  if (!isSimple) AppendWithSurrogates(bytes, texts);
 }
 
-bool TextDecoder::AppendWithSurrogates(Bytes bytes, std::vector<char>& texts) {
+void TextDecoder::AppendWithSurrogates(Bytes bytes, std::vector<char>& texts) {
   utf16_.clear();
   for (std::size_t i = 0; i + 1 < bytes.size() && U16(bytes, i) != 0; i += 2) {
     utf16_.push_back(static_cast<char16_t>(U16(bytes, i)));
   }
-  return AppendUtf16(utf16_.size(), texts);
+  AppendUtf16(utf16_.size(), texts);
 }
 
 bool TextDecoder::AppendAnsi(std::uint32_t languageId, Bytes bytes, std::vector<char>& texts) {
@@ -91,28 +91,26 @@ bool TextDecoder::AppendAnsi(std::uint32_t languageId, Bytes bytes, std::vector<
   const char* codePage = AnsiConverter(languageId);
   if (codePage != codePage_) {
     converter_.reset(ucnv_open(codePage, &error));
-    codePage_ = converter_ ? codePage : nullptr;
+    codePage_ = codePage;
   }
-  if (!converter_) return false;
   const auto end = std::find(bytes.begin(), bytes.end(), std::byte{0});
   const auto length = static_cast<std::int32_t>(end - bytes.begin());
   utf16_.resize(4 * static_cast<std::size_t>(length) + 8);
   const std::int32_t units =
       ucnv_toUChars(converter_.get(), utf16_.data(), static_cast<std::int32_t>(utf16_.size()),
                     reinterpret_cast<const char*>(bytes.data()), length, &error);
-  return U_SUCCESS(error) && AppendUtf16(static_cast<std::size_t>(units), texts);
+  AppendUtf16(static_cast<std::size_t>(units), texts);
+  return U_SUCCESS(error);
 }
 
-bool TextDecoder::AppendUtf16(std::size_t units, std::vector<char>& texts) {
+void TextDecoder::AppendUtf16(std::size_t units, std::vector<char>& texts) {
   const std::size_t start = texts.size();
   texts.resize(start + 3 * units);
   std::int32_t length = 0;
   UErrorCode error = U_ZERO_ERROR;
   u_strToUTF8WithSub(texts.data() + start, static_cast<std::int32_t>(3 * units), &length,
                      utf16_.data(), static_cast<std::int32_t>(units), 0xFFFD, nullptr, &error);
-  if (U_FAILURE(error)) return false;
   texts.resize(start + static_cast<std::size_t>(length));
-  return true;
 }
 
 }  // namespace AdvancedControl

@@ -17,17 +17,16 @@ namespace AdvancedControl {
 /// page. Use it from one thread.
 class TextDecoder {
  public:
-  /// Appends the text up to its first zero character; invalid characters become U+FFFD. False if it
-  /// cannot be decoded.
-  bool AppendUnicode(Bytes bytes, std::vector<char>& texts);
+  /// Appends the text up to its first zero character; invalid characters become U+FFFD.
+  void AppendUnicode(Bytes bytes, std::vector<char>& texts);
 
-  /// The same for a text in the ANSI code page of its language.
+  /// The same for a text in the ANSI code page of its language. False if there is no converter.
   bool AppendAnsi(std::uint32_t languageId, Bytes bytes, std::vector<char>& texts);
 
  private:
-  bool AppendWithSurrogates(Bytes bytes, std::vector<char>& texts);
+  void AppendWithSurrogates(Bytes bytes, std::vector<char>& texts);
   // Appends the first units of `utf16_`.
-  bool AppendUtf16(std::size_t units, std::vector<char>& texts);
+  void AppendUtf16(std::size_t units, std::vector<char>& texts);
 
   struct CloseConverter {
     void operator()(UConverter* converter) const;

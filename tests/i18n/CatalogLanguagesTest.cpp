@@ -61,9 +61,22 @@ TEST(CatalogLanguages, AreFoundByWhatPeopleCallThem) {
   for (const auto& [id, names] : kCases) {
     for (const char* name : names) EXPECT_EQ(FindLanguage(languages, name), id) << name;
   }
-  for (const char* name : {"", "smn", "9275", "C", "klingon", "0", "99999999999", "x\xFF"}) {
+  for (const char* name :
+       {"", "smn", "9275", "C", "klingon", "0", "99999999999", "1033x", "x\xFF"}) {
     EXPECT_FALSE(FindLanguage(languages, name)) << name;
   }
+  EXPECT_FALSE(FindLanguage(std::span(languages).first(1), "zh-HK"));
+}
+
+TEST(CatalogLanguages, HaveALocale) {
+  const std::pair<std::uint32_t, const char*> kCases[] = {{kPseudo, "qps_PLOC.UTF-8"},
+                                                          {kPseudoMirrored, "qps_PLOCM.UTF-8"},
+                                                          {9, "en.UTF-8"},
+                                                          {3079, "de_AT.UTF-8"},
+                                                          {0x3FF, "en_US.UTF-8"}};
+  for (const auto& [id, locale] : kCases) EXPECT_EQ(LocaleOf(id), locale);
+  EXPECT_TRUE(IsRightToLeft(kPseudoMirrored));
+  EXPECT_FALSE(IsRightToLeft(kPseudo));
 }
 
 // The captions of a language; those that it lacks are empty.

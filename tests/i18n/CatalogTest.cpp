@@ -83,10 +83,10 @@ TEST_F(CatalogTest, SystemLanguage) {
       {1068, {"az_AZ", "AZ_AZ"}},
       {1281, {"qps_ploc", "QPS-PLOC.UTF-8"}},
       {2559, {"qps_plocm", "qps-plocM"}},
-      {1033, {"qps_plod", "qps.ploc", "zps_ploc", "q@s_ploc"}},
+      {1033, {"qps_plod", "qps_1loc", "qps.ploc", "zps_ploc", "q@s_ploc"}},
       {1033, {"en_US.UTF-8", "en", "C", "C.UTF-8", "POSIX", "xx_YY", "???"}},
       // The locale library hangs or fails on some of these.
-      {1033, {"i-default_DE", "i-klingon", "x", "_", "12_34", "-"}},
+      {1033, {"i-default_DE", "i-klingon", "x", "_", "12_34", "-", "d{_DE", "d[_DE"}},
   };
   EXPECT_EQ(SystemLanguageId(), 1033U);
   for (const auto& [expected, locales] : kCases) {
@@ -158,6 +158,11 @@ TEST_F(CatalogTest, LoadsTheFirstFileOrNoneIfItIsDamagedAndSaysWhy) {
   // The previous catalog must be released too.
   EXPECT_FALSE(IsCatalogLoaded());
   EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
+  // The administrator may read every file.
+  fs::permissions("empty/mcdll.dll", fs::perms::none);
+  const bool isAdministrator = setresuid(65534, 65534, 0) == 0;
+  expectFailure(folders, "empty/mcdll.dll is refused: Permission denied");
+  EXPECT_TRUE(!isAdministrator || setresuid(0, 0, 0) == 0);
   expectFailure(std::vector<std::string>{"absent", ""}, "mcdll.dll is not found in absent, .");
   EXPECT_EQ(LoadCatalog(), 0);
   EXPECT_EQ(CatalogProblem(), "");
@@ -169,8 +174,11 @@ TEST_F(CatalogTest, TheTextsOfAllModulesNameTheModuleThatIsMissing) {
   const std::string here = ".";
   EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(), "");
   Touch("mcschn.dll");
-  EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(),
-            "./mcschn.dll is damaged or cannot be read; its texts are missing");
+  for (const std::string module : {"mcschn.dll", "mcdll.dll"}) {
+    Touch(module.c_str());
+    EXPECT_EQ(CatalogTexts(std::span(&here, 1)).Problem(),
+              "./" + module + " is damaged or cannot be read; its texts are missing");
+  }
   fs::create_directory("second");
   TestModule({{2052, {{kFirst, {Unicode(u"%%\r\n")}}}}}).Save("second/mcschn.dll");
   const std::string both[] = {".", "second"};
@@ -209,8 +217,10 @@ TEST_F(CatalogTest, EachCallUsesThePresentLanguage) {
     fs::remove(marker);
     expectTexts("in 2052", "only");
   }
-  SetLocale("de_DE");
-  expectTexts("in 1033", kNoCatalog);
+  for (const char* locale : {"de_DE", "fr_FR"}) {
+    SetLocale(locale);
+    expectTexts("in 1033", kNoCatalog);
+  }
 }
 
 TEST_F(CatalogTest, TheShownLanguageIsThatOfTheTexts) {
@@ -224,14 +234,22 @@ TEST_F(CatalogTest, TheShownLanguageIsThatOfTheTexts) {
   LoadTables({german, english, chinese});
   EXPECT_EQ(shown("de_DE"), 1031U);
   EXPECT_EQ(shown("fr_FR"), 2052U) << "all texts of such a module are Chinese";
-  Touch("GETENG");
-  EXPECT_EQ(shown("de_DE"), 2052U);
-  LoadTables({german, english});
-  EXPECT_EQ(shown("de_DE"), 1033U);
+  for (const char* marker : {"GETENG", "GETSCH"}) {
+    Touch(marker);
+    LoadTables({german, english, chinese});
+    EXPECT_EQ(shown("de_DE"), 2052U);
+    LoadTables({german, english});
+    EXPECT_EQ(shown("de_DE"), 1033U);
+    fs::remove(marker);
+  }
 }
 
 TEST_F(CatalogTest, ABatchUsesTheLanguageOfItsBeginning) {
   SetLocale("de_DE");
+  {
+    const CatalogBatch withoutCatalog;
+    EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
+  }
   const std::vector<TestTable> tables = {
       {1031, {{kFirst, {Unicode(u"own\r\n")}}}},
       {1033, {{kFirst, {Unicode(u"english\r\n"), Unicode(u"only\r\n")}}}}};

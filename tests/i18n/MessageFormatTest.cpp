@@ -64,6 +64,7 @@ const Case kCases[] = {
     {"%1!d!", {""}, kNoResult},
     {"%1!p!", {"text"}, kNoResult},
     {"%1!*d!", {"wide", 1}, kNoResult},
+    {"%1!c!", {0}, kNoResult},
     {"%1!c!", {0x110000}, kNoResult},
     {"%1!c!", {0xD800}, kNoResult},
     {"%1!c!", {0xDFFF}, kNoResult},
@@ -74,7 +75,7 @@ const Case kCases[] = {
 TEST(MessageFormat, ExpandsMessages) {
   for (const Case& c : kCases) EXPECT_EQ(ExpandMessage(c.text, c.inserts), c.expected) << c.text;
   for (const char* malformed : {"%1!", "%1!!", "%1!d", "%1!d x", "%1!f!", "%1!n!", "%1!5%!",
-                                "%1!I65d!", "%1!.-1d!", "%1!*s!"}) {
+                                "%1!I65d!", "%1!.-1d!", "%1!*s!", "%2!*d!"}) {
     EXPECT_EQ(ExpandMessage(malformed, std::vector<CatalogInsert>{1}), kNoResult) << malformed;
   }
 }

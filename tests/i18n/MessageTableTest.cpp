@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <ctime>
 #include <filesystem>
 #include <string>
 #include <sys/stat.h>
@@ -11,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "i18n/MessageTable.h"
+#include "i18n/ModuleImage.h"
 #include "tests/i18n/ModuleBuilder.h"
 
 namespace {
@@ -29,7 +29,10 @@ std::vector<TestTable> SampleTables() {
          {Unicode(u"One\r\n"), Unicode(u"Two\r\n"), Unicode(u"\x7F\u0080\u07FF\u0800\r")}},
         {0xFFFFFFFE, {Ansi("Stra\337e\r\n"), Ansi("")}}}},
       {2052, {{0x01040001, {Unicode(u"\u4EAE\u5EA6\r\n"), Ansi("\xD6\xD0\xCE\xC4\r\n")}}}},
-      {1041, {{7, {Ansi("\x93\xFA\x96\x7B"), Unicode(u"\xD83D\xDE00|\xD83D|")}}}, 9},
+      {1041,
+       {{7,
+         {Ansi("\x93\xFA\x96\x7B"), Unicode(u"\xD83D\xDE00|\xD83D|"), Unicode(u"\xD83D\xDE00")}}},
+       9},
   };
 }
 
@@ -42,12 +45,12 @@ TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
       for (const std::uint32_t id : ids) all += TextIn(*table, language, id) + ';';
       return all;
     };
-    EXPECT_EQ(table->Count(), 9U);
+    EXPECT_EQ(table->Count(), 10U);
     EXPECT_EQ(texts(1033, {0x01040001, 0x01040002}), "One\r\n;Two\r\n;");
     EXPECT_EQ(texts(1033, {0x01040003}), "\x7F\u0080\u07FF\u0800\r;");
     EXPECT_EQ(texts(1033, {0xFFFFFFFE, 0xFFFFFFFF}), "Straße\r\n;;");
     EXPECT_EQ(texts(2052, {0x01040001, 0x01040002}), "亮度\r\n;中文\r\n;");
-    EXPECT_EQ(texts(1041, {7, 8}), "日本;😀|\uFFFD|;");
+    EXPECT_EQ(texts(1041, {7, 8, 9}), "日本;😀|\uFFFD|;😀;");
     // Finds neither messages of another language nor neighbours of a block.
     EXPECT_EQ(texts(1041, {0x01040001}) + texts(9, {0x01040001}), "(none);(none);");
     EXPECT_EQ(texts(1033, {0x01040000, 0x01040004, 0xFFFFFFFD, 0}), "(none);(none);(none);(none);");
@@ -171,7 +174,8 @@ TEST(MessageTable, RefusesDamagedModules) {
       {"no message table", 4, {{types + 16, 10}}},
       {"directories that are leaves", 4, {{types + 20, 24}, {names + 20, 24}}},
       {"directories in themselves, outside", 4, {{types + 20, m.kDirectory}, {names + 20, ~0U}}},
-      {"too many entries, a number among names", 4, {{names + 12, ~0U}, {names + 12, 1}}},
+      {"too many entries", 4, {{types + 12, ~0U}, {names + 12, ~0U}}},
+      {"a number among names", 4, {{names + 12, 1}}},
       {"leaves that are directories, outside",
        4,
        {{leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF}}},
@@ -201,6 +205,26 @@ TEST(MessageTable, RefusesDamagedModules) {
     EXPECT_FALSE(MessageTable::Parse(blocks.bytes)) << second;
   }
   EXPECT_FALSE(MessageTable::Parse(TestModule({{1033, {{1, {Ansi("a")}}, {3, {}}}}}).bytes));
+  const TestTable english{1033, {{1, {Unicode(u"a")}}}};
+  EXPECT_FALSE(MessageTable::Parse(TestModule({english, english}).bytes)) << "twice in a resource";
+}
+
+// Headers behind everything else, with a section for the messages and others without content.
+TEST(MessageTable, SectionsAreLimited) {
+  const TestModule m(SampleTables());
+  const auto isRead = [&m](std::uint32_t sections) {
+    TestModule module = m;
+    const auto header = static_cast<std::uint32_t>(m.bytes.size());
+    const std::size_t size = m.section + 40 - m.kHeader;
+    module.bytes.resize(header + size + 40 * (sections - 1));
+    std::copy_n(m.bytes.begin() + m.kHeader, size, module.bytes.begin() + header);
+    module.Put32(0x3C, header);
+    module.Put16(header + 6, sections);
+    module.Put32(module.bytes.size() - 20, ~0U);  // outside, as it may be without content
+    return MessageTable::Parse(module.bytes).has_value();
+  };
+  EXPECT_TRUE(isRead(96));
+  EXPECT_FALSE(isRead(97));
 }
 
 // A module with a flipped bit is refused, or only the text with the bit differs.
@@ -233,20 +257,47 @@ TEST(MessageTable, NoFlippedBitAssignsATextToAnotherNumber) {
   EXPECT_GT(accepted, 0) << "a changed letter is a text all the same";
 }
 
-// A few bytes of the file that serve as the texts of very many languages.
-TEST(MessageTable, SharedBytesDoNotMultiply) {
-  constexpr std::uint32_t kLanguages = 3000;
+// A module whose resources all have the same languages, which all have the same table.
+TestModule Overlapping(std::uint32_t resources, std::uint32_t languages,
+                       const std::vector<TestEntry>& entries) {
   std::vector<TestTable> tables;
-  for (std::uint32_t i = 0; i < kLanguages; ++i) tables.push_back({i, {{1, {Ansi("")}}}});
-  tables.back().blocks.front().entries = {Ansi(std::string(60000, 'x'))};
+  for (std::uint32_t i = 1; i < resources; ++i) tables.push_back({0, {{1, {Ansi("")}}}, i});
+  for (std::uint32_t i = 0; i < languages; ++i) tables.push_back({i, {{1, {Ansi("")}}}, resources});
+  tables.back().blocks.front().entries = entries;
   TestModule module(tables);
-  ASSERT_TRUE(MessageTable::Parse(module.bytes));
-  const auto longOne = static_cast<std::uint32_t>(module.lastLeaf - module.types);
-  const std::size_t languages = module.names + 24;
-  for (std::uint32_t i = 0; i < kLanguages; ++i) module.Put32(languages + 20 + 8 * i, longOne);
-  const std::clock_t start = std::clock();
-  EXPECT_FALSE(MessageTable::Parse(module.bytes));
-  EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC);
+  const auto leaf = static_cast<std::uint32_t>(module.lastLeaf - module.types);
+  const std::size_t slots = module.names + 20;
+  const std::uint32_t directory = U32(module.bytes, slots + 8 * (resources - 1));
+  for (std::uint32_t i = 0; i < resources; ++i) module.Put32(slots + 8 * i, directory);
+  const std::size_t leaves = module.types + (directory & ~module.kDirectory) + 20;
+  for (std::uint32_t i = 0; i < languages; ++i) module.Put32(leaves + 8 * i, leaf);
+  return module;
+}
+
+TEST(MessageTable, SharedBytesDoNotMultiply) {
+  const std::vector<TestEntry> ansi{Ansi(std::string(60000, 'x'))};
+  const std::vector<TestEntry> unicode{Unicode(u"x")};
+  constexpr std::size_t kMost = std::size_t{1} << 20;
+  const std::vector<TestEntry> half(kMost / 2 + 1, Unicode(u""));
+  const std::vector<TestEntry> all(kMost + 1, Unicode(u""));
+  const struct {
+    const char* what;
+    std::uint32_t resources, languages;
+    const std::vector<TestEntry>& entries;
+    bool isRead;
+  } cases[] = {
+      {"a text read twice", 1, 2, ansi, true},
+      {"a text read three times", 1, 3, ansi, false},
+      {"a text read very often", 1, 3000, ansi, false},
+      {"a directory read twice", 2, 300, unicode, true},
+      {"a directory read very often", 300, 300, unicode, false},
+      {"too many messages", 1, 1, all, false},
+      {"too many messages in two resources", 2, 1, half, false},
+  };
+  for (const auto& one : cases) {
+    const TestModule module = Overlapping(one.resources, one.languages, one.entries);
+    EXPECT_EQ(MessageTable::Parse(module.bytes).has_value(), one.isRead) << one.what;
+  }
 }
 
 TEST(MessageTable, ReadsOnlyRegularFiles) {
@@ -258,6 +309,10 @@ TEST(MessageTable, ReadsOnlyRegularFiles) {
   const TestModule good({{1033, {{1, std::vector(20000, Ansi(std::string(100, 'x')))}}}});
   good.Save(path("good"));
   EXPECT_TRUE(MessageTable::Read(path("good")));
+  for (const std::size_t more : {0U, 1U}) {
+    fs::resize_file(path("good"), kMaxModuleBytes + more);
+    EXPECT_EQ(MessageTable::Read(path("good")).has_value(), more == 0);
+  }
   std::atomic<bool> done = false;
   std::thread cutter([&] {
     for (int i = 0; i < 30; ++i) {

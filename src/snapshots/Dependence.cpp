@@ -9,21 +9,10 @@ namespace {
 /// Whether sending the setting `sent` may change `other`.
 bool DependsOn(const RestoredSetting& other, const RestoredSetting& sent) {
   if (&other == &sent) return false;
-  if (IsSame(other.saved, sent.saved)) return true;
-  const auto& own = other.saved.source;
-  switch (RankOf(*sent.setting)) {
-    case Rank::Source:
-      return !own;
-    case Rank::Choice:
-      return RankOf(*other.setting) != Rank::Source;
-    case Rank::Number:
-      break;
-  }
-  // Two settings with the same caption may be one setting on two pages. They are not if they belong
-  // to different sources, or one is horizontal and the other vertical.
-  const bool isElsewhere = own && sent.saved.source && own != sent.saved.source;
-  const bool isAcross = other.setting->key.ends_with("-h") != sent.setting->key.ends_with("-h");
-  return !isElsewhere && !isAcross && other.setting->caption == sent.setting->caption;
+  const Rank rank = RankOf(*sent.setting);
+  if (rank == Rank::Source) return !other.saved.source;
+  if (rank == Rank::Choice) return RankOf(*other.setting) != Rank::Source;
+  return IsSame(other.saved, sent.saved);
 }
 
 }  // namespace

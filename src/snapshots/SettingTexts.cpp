@@ -12,7 +12,7 @@ namespace AdvancedControl {
 
 namespace {
 
-// Larger than any value, and the sum of two such numbers does not overflow.
+// Larger than any value; the sum of two such numbers does not overflow.
 constexpr int kLargest = 1'000'000;
 // Device values of the power state; any other is standby, too.
 constexpr int kStandby = 0;
@@ -23,9 +23,8 @@ std::optional<int> Number(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
   int number = 0;
   const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  const bool whole = error == std::errc() && stop == text.data() + text.size();
-  if (!whole || number < -kLargest || number > kLargest) return {};
-  return number;
+  if (error != std::errc() || stop != text.data() + text.size()) return {};
+  return std::clamp(number, -kLargest, kLargest);
 }
 
 QString Wide(std::string_view text) {
@@ -37,9 +36,9 @@ bool SameText(std::string_view a, std::string_view b) {
 }
 
 bool IsNameShared(const ModelSetting& setting, const ListEntry& entry) {
-  return !entry.text && !entry.name.empty() &&
+  return !entry.name.empty() &&
          std::ranges::any_of(setting.entries, [&entry](const ListEntry& other) {
-           return !other.text && other.value != entry.value && SameText(other.name, entry.name);
+           return other.value != entry.value && SameText(other.name, entry.name);
          });
 }
 
@@ -54,14 +53,14 @@ int Direction(std::string_view key) {
   return key.ends_with("-h") ? 53 : 0;
 }
 
-/// The setting on the same tab whose own window has a setting such as "gamma.pattern"; null for
-/// settings of a page.
-const ModelSetting* OpenerOf(const ModelSettings& model, const ModelSetting& setting) {
+/// The setting on the same tab whose own window has a setting such as "gamma.pattern".
+const ModelSetting& OpenerOf(const ModelSettings& model, const ModelSetting& setting) {
   const std::string end = '.' + std::string(setting.key.substr(0, setting.key.find('.')));
   const auto opener = std::ranges::find_if(model.All(), [&](const ModelSetting& other) {
     return other.tab == setting.tab && other.key.ends_with(end);
   });
-  return opener == model.All().end() ? nullptr : &*opener;
+  // unreachable: every window has an opener
+  return opener == model.All().end() ? setting : *opener;
 }
 
 /// The last part of a key in capitals: the caption of settings called the same in every language.
@@ -100,10 +99,8 @@ std::string SettingTexts::Name(const ModelSettings& model, const ModelSetting& s
   std::string name = Caption(setting);
   if (isShared) {
     const int direction = Direction(setting.key);
-    const ModelSetting* const opener = OpenerOf(model, setting);
-    name += direction != 0
-                ? ' ' + Text(kCaptionCategory, direction)
-                : " (" + (opener != nullptr ? Caption(*opener) : std::string(setting.key)) + ')';
+    name += direction != 0 ? ' ' + Text(kCaptionCategory, direction)
+                           : " (" + Caption(OpenerOf(model, setting)) + ')';
   }
   if (source) name += " (" + Source(model, *source) + ')';
   return name;

@@ -83,6 +83,9 @@ struct Disturbed : ProjectorChannel {
     const PjtReply reply = CarryOut(command);
     return Happens(trouble.lostPercent) ? lost : reply;
   }
+  void Announce(std::span<const PjtCommand> reads) override {
+    announced += static_cast<int>(reads.size());
+  }
   PjtReply CarryOut(const PjtCommand& command) {
     const PjtReply reply = projector.Execute(command);
     for (Memory& memory : memories) memory.Follow(projector);
@@ -106,7 +109,7 @@ struct Disturbed : ProjectorChannel {
     int lateChange = 0;               ///< The number of the late change, from 1.
   } trouble{};
   std::multimap<int, PjtCommand> late{};
-  int count = 0, sent = 0;
+  int count = 0, sent = 0, announced = 0;
 };
 
 inline Restoration Restore(

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "settings/CatalogNumbers.h"
 #include "tests/snapshots/DisturbedProjector.h"
 
 namespace {
@@ -89,7 +90,9 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
            {"\"format\"", "\"formal\"", "not a file of saved settings"},
            {"\"version\": 1", "\"version\": 2", "only version 1"},
-           {"\"value\": ", "\"value\": 0.5, \"x\": ", "settings[0].value: must be a whole"},
+           {"\"value\": ", "\"value\": 0.5, \"x\": ", "from -32768 to 65535, and is 0.5"},
+           {"\"value\": ", "\"value\": \"1234567890123456789012345678901234567890\", \"x\": ",
+            "is \"123456789012345678901234567890123456789..."},
            {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
            {"\"value\": ", "\"other\": ", "k: settings[0].value: a whole number is missing"},
            {"\"value\": ", "\"value\": -32769, \"x\": ", "settings[0].value: must be a whole"},
@@ -116,6 +119,17 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   EXPECT_EQ(ReadSnapshot(withSettings(free)).path, "settings[0]");
   EXPECT_EQ(ReadSnapshot(withSettings(free + 1)).path, "settings");
   EXPECT_FALSE(ReadSnapshot("[1]").error.isEmpty());
+  constexpr qsizetype kMost = qsizetype{4} << 20;
+  EXPECT_EQ(ReadSnapshot(text.leftJustified(kMost)).error, "");
+  EXPECT_EQ(ReadSnapshot(text.leftJustified(kMost + 1)).error, "is larger than 4 MiB");
+}
+
+TEST(Snapshot, StopsOnRequest) {
+  ConnectedProjector target(Profiles().front());
+  int steps = 0;
+  const Progress progress{.goesOn = [&steps] { return steps < 3; }, .step = [&steps] { ++steps; }};
+  EXPECT_EQ(TakeSnapshot("", target.settings, target.connection, Texts(), progress).settings.size(),
+            3U);
 }
 
 TEST(SettingTexts, ParsesTypedValues) {
@@ -127,7 +141,14 @@ TEST(SettingTexts, ParsesTypedValues) {
   };
   const std::pair<const char*, std::vector<Typed>> kCases[] = {
       {"picture.brightness",
-       {{"5", 133}, {"=-31", 97}, {"32", {}}, {"", {}}, {"5x", {}}, {"99999999999", {}}}},
+       {{"5", 133},
+        {"=-31", 97},
+        {"32", {}},
+        {"", {}},
+        {"5x", {}},
+        {"99999999999", {}},
+        {"2147483647", {}},
+        {"-2147483648", {}}}},
       {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
       {"picture.sharpness", {{"4", 128}}},
       {"picture.active-iris",
@@ -140,6 +161,8 @@ TEST(SettingTexts, ParsesTypedValues) {
         {"+1", 16, 0},
         {"+1", {}, 17},
         {"-1", {}, 0},
+        {"-1", 0, 16},
+        {"standby", {}},
         {"+1", {}, 99}}},
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
@@ -153,6 +176,98 @@ TEST(SettingTexts, ParsesTypedValues) {
   }
   const ModelSetting& brightness = *target.settings.Find("picture.brightness");
   EXPECT_EQ(Texts().Parse(brightness, std::string_view("51", 1))->amount, 133);
+}
+
+// Entries of a host's model: two of a name, one without a name, and one of the catalog.
+ModelSetting HostsList() {
+  return {
+      .key = "input.hosts-list",
+      .kind = ModelSetting::Kind::Choice,
+      .bias = 2,
+      .entries = {{"HDMI", 31}, {"HDMI", 32}, {"VGA (1)", 1}, {"", 7}, {ListText::SwitchOff, 0}}};
+}
+
+TEST(SettingTexts, AreThoseOfTheDialog) {
+  const ConnectedProjector target(Profile("Projector 5-30"));
+  const ModelSetting hosts = HostsList();
+  const auto setting = [&](const char* key) -> const ModelSetting& {
+    const ModelSetting* const found = target.settings.Find(key);
+    return found != nullptr ? *found : hosts;
+  };
+  using enum PowerState;
+  const struct {
+    const char* key;
+    int value;
+    std::optional<PowerState> power;
+    const char* text;
+  } cases[] = {
+      {"other.power", 0, {}, "Standby"},
+      {"other.power", 1, {}, "On"},
+      {"other.power", 2, {}, "Cooling Down"},
+      {"other.power", 9, {}, "Standby"},
+      {"other.power", 1, WarmingUp, "Warming Up"},
+      {"other.power", 0, WarmingUp, "Standby"},
+      {"other.power", 1, On, "On"},
+      {"other.blank", 1, WarmingUp, "On"},
+      {"status.blank", 5, {}, "Off"},
+      {"status.lamp-time", 12, {}, "12 h"},
+      {"picture.brightness", 131, {}, "3"},
+      {"hosts", 31, {}, "HDMI (31)"},
+      {"hosts", 1, {}, "VGA (1)"},
+      {"hosts", 7, {}, "5"},
+      {"hosts", 9, {}, "7"},
+      {"hosts", 0, {}, "Off"},
+  };
+  for (const auto& one : cases) {
+    EXPECT_EQ(Texts().Value(setting(one.key), one.value, one.power), one.text) << one.key;
+  }
+  EXPECT_EQ(Texts().Values(setting("other.power")), "Standby, On");
+  EXPECT_EQ(Texts().Values(setting("picture.brightness")), "-31 to 31");
+  EXPECT_EQ(Texts().Values(setting("image.h-size")), "a number");
+  EXPECT_EQ(Texts().Values(setting("picture.active-iris")), "Off, Theater, Presentation");
+  EXPECT_EQ(Texts().Caption(setting("picture.tint")) +
+                Texts().Caption({.key = "input.dvi", .entries = {}}),
+            "TintDVI");
+  EXPECT_EQ(Texts().Source(target.settings, 4), "RGB2");
+  const ModelSettings withoutInputs(Profile("Projector 9-1").model->data);
+  EXPECT_EQ(Texts().Source(withoutInputs, 4), "4");
+  const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  EXPECT_EQ(SettingTexts(folders, 0x3FF).Caption(setting("picture.tint")), "Tint") << "in English";
+  EXPECT_EQ(SettingTexts(folders, 1031).Caption(setting("picture.brightness")), "Helligkeit");
+}
+
+TEST(SettingTexts, AreRecognised) {
+  const ConnectedProjector target(Profile("Projector 5-30"));
+  const ModelSetting hosts = HostsList();
+  const std::pair<const char*, std::optional<int>> kTyped[] = {
+      {"hdmi (32)", 32}, {"hdmi", {}}, {"vga", 1}, {"vga (1)", 1}, {"off", 0}, {"5", 7}, {"", 7}};
+  for (const auto& [text, value] : kTyped) {
+    const auto typed = Texts().Parse(hosts, text);
+    EXPECT_EQ(typed ? std::optional(typed->amount) : std::nullopt, value) << text;
+  }
+  const ModelSetting& power = *target.settings.Find("other.power");
+  EXPECT_EQ(Texts().Parse(power, "standby")->amount, 0);
+  EXPECT_FALSE(Resolve(power, {.amount = 1, .relative = true}, {}));
+  const struct {
+    const ModelSetting& setting;
+    int value;
+    const char* text;
+    bool isShown;
+  } cases[] = {
+      {*target.settings.Find("picture.active-iris"), 16, "theater", true},
+      {*target.settings.Find("picture.active-iris"), 16, "シアター", true},
+      {*target.settings.Find("picture.active-iris"), 16, "16", true},
+      {*target.settings.Find("picture.active-iris"), 16, "off", false},
+      {*target.settings.Find("picture.active-iris"), 16, "17", false},
+      {*target.settings.Find("picture.brightness"), 131, "3", true},
+      {*target.settings.Find("picture.brightness"), 131, "131", false},
+      {hosts, 31, "HDMI (31)", true},
+      {hosts, 31, "HDMI (32)", false},
+      {power, 0, "Standby", true},
+  };
+  for (const auto& one : cases) {
+    EXPECT_EQ(Texts().IsShownAs(one.setting, one.value, one.text), one.isShown) << one.text;
+  }
 }
 
 }  // namespace

@@ -178,13 +178,17 @@ TEST(SettingTexts, ParsesTypedValues) {
   EXPECT_EQ(Texts().Parse(brightness, std::string_view("51", 1))->amount, 133);
 }
 
-// Entries of a host's model: two of a name, one without a name, and one of the catalog.
+// Two entries of a name, one without a name, one of the catalog, and one that the catalog lacks.
 ModelSetting HostsList() {
-  return {
-      .key = "input.hosts-list",
-      .kind = ModelSetting::Kind::Choice,
-      .bias = 2,
-      .entries = {{"HDMI", 31}, {"HDMI", 32}, {"VGA (1)", 1}, {"", 7}, {ListText::SwitchOff, 0}}};
+  return {.key = "input.hosts-list",
+          .kind = ModelSetting::Kind::Choice,
+          .bias = 2,
+          .entries = {{"HDMI", 31},
+                      {"HDMI", 32},
+                      {"VGA (1)", 1},
+                      {"", 7},
+                      {ListText::SwitchOff, 0},
+                      {9999, 8}}};
 }
 
 TEST(SettingTexts, AreThoseOfTheDialog) {
@@ -215,6 +219,7 @@ TEST(SettingTexts, AreThoseOfTheDialog) {
       {"hosts", 31, {}, "HDMI (31)"},
       {"hosts", 1, {}, "VGA (1)"},
       {"hosts", 7, {}, "5"},
+      {"hosts", 8, {}, "6"},
       {"hosts", 9, {}, "7"},
       {"hosts", 0, {}, "Off"},
   };

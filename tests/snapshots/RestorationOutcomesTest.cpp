@@ -1,0 +1,239 @@
+// What a restoration says about each setting, and what it keeps for undoing it.
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "device/CommandCode.h"
+#include "tests/snapshots/DisturbedProjector.h"
+
+namespace {
+
+/// Replies to the changes, or else the reads, of one code as scripted, and forwards everything
+/// else.
+struct Scripted : ProjectorChannel {
+  PjtReply Execute(const PjtCommand& command) override {
+    const bool isScripted =
+        command.code == code && IsRead(command.operation) == ofReads && isOn(*inner);
+    scripted += isScripted;
+    isGone = isGone || (isScripted && !reply.answered);
+    return isScripted || isGone ? reply : inner->Execute(command);
+  }
+  void Announce(std::span<const PjtCommand> reads) override { inner->Announce(reads); }
+
+  std::shared_ptr<Disturbed> inner;
+  std::uint16_t code = 0;
+  bool ofReads = false;
+  PjtReply reply;
+  std::function<bool(const Disturbed&)> isOn = [](const Disturbed&) { return true; };
+  bool isGone = false;
+  int scripted = 0;
+};
+
+struct ScriptedProjector : ConnectedProjector {
+  ScriptedProjector(std::uint16_t code, bool ofReads, const PjtReply& reply)
+      : ConnectedProjector(Profile("Projector 5-30")) {
+    script->inner = channel;
+    script->code = code;
+    script->ofReads = ofReads;
+    script->reply = reply;
+    connection.SetChannel(script);
+  }
+
+  std::shared_ptr<Scripted> script = std::make_shared<Scripted>();
+};
+
+std::vector<Outcome> OutcomesOf(const std::vector<RestoredSetting>& settings) {
+  std::vector<Outcome> outcomes;
+  for (const RestoredSetting& restored : settings) outcomes.push_back(restored.outcome);
+  return outcomes;
+}
+
+using enum Outcome;
+using Outcomes = std::vector<Outcome>;
+
+constexpr PjtReply kRefused{.result = 0};
+constexpr PjtReply kPending{.result = 1, .pending = true};
+constexpr PjtReply kSilent{.answered = false};
+
+TEST(Restoration, SaysWhyAChangeHasNotTakenEffect) {
+  Snapshot wanted;
+  wanted.settings = {
+      {"picture.gamma", 16, ""}, {"picture.tint", 131, ""}, {"picture.active-iris", 16, ""}};
+  const std::pair<PjtReply, Outcomes> kCases[] = {
+      {{.result = 1}, {Changed, Changed, Refused}},
+      {kPending, {Unconfirmed, Unconfirmed, Pending}},
+      {{.result = 0, .busy = true}, {Changed, Changed, Busy}},
+      {kSilent, {Unconfirmed, Unconfirmed, Unconfirmed}},
+      {{.answered = false, .unsent = true}, {Unconfirmed, Unconfirmed, NotReached}},
+  };
+  for (const auto& [reply, outcomes] : kCases) {
+    ScriptedProjector target(CommandCode::ActiveIris, false, reply);
+    const Restoration restoration = target.Restore(wanted);
+    EXPECT_EQ(OutcomesOf(restoration.Settings()), outcomes);
+    for (const RestoredSetting& restored : restoration.Settings()) {
+      EXPECT_TRUE(restored.outcome != Unconfirmed || !restored.now) << restored.saved.key;
+    }
+  }
+}
+
+TEST(Restoration, SaysWhyASettingCannotBeRead) {
+  Snapshot wanted;
+  wanted.settings = {{"picture.contrast", 130, ""}, {"picture.tint", 131, ""}};
+  const struct {
+    PjtReply reply;
+    bool stops;
+    Outcomes outcomes;
+    std::size_t unread;
+  } cases[] = {{kRefused, false, {Refused, Changed}, 1},
+               {{.result = 0, .busy = true}, false, {Busy, Changed}, 1},
+               {{.result = 0, .offered = false}, false, {NotOffered, Changed}, 0},
+               {kSilent, false, {NotReached, NotReached}, 0},
+               {kRefused, true, {NotReached, NotReached}, 0}};
+  for (const auto& one : cases) {
+    ScriptedProjector target(CommandCode::Contrast, true, one.reply);
+    const Progress progress{.goesOn = [&] { return !one.stops || target.script->scripted == 0; }};
+    int steps = 0;
+    Restoration restoration(wanted, target.settings, target.connection);
+    restoration.Read({.goesOn = progress.goesOn, .step = [&steps] { ++steps; }});
+    EXPECT_EQ(steps, one.stops ? 1 : 2);
+    restoration.Send(Texts(), progress);
+    EXPECT_EQ(OutcomesOf(restoration.Settings()), one.outcomes);
+    const Snapshot undo = restoration.Undo("", Texts());
+    EXPECT_EQ(undo.settings.size(), std::ranges::count(one.outcomes, Changed));
+    if (one.stops || !one.reply.answered) continue;
+    std::vector<std::string> unread;
+    const Snapshot taken =
+        TakeSnapshot("", target.settings, target.connection, Texts(), {}, &unread);
+    EXPECT_EQ(unread, std::vector<std::string>(one.unread, "picture.contrast"));
+    EXPECT_EQ(std::ranges::count(taken.settings, "picture.contrast", &SavedSetting::key), 0);
+  }
+}
+
+// Contrast can be read only with another iris, and is read again after that was set.
+TEST(Restoration, ReadsAgainWhatAModeHasMadeReadable) {
+  Snapshot wanted;
+  wanted.settings = {{"picture.active-iris", 16, ""}, {"picture.contrast", 131, ""}};
+  ScriptedProjector target(CommandCode::Contrast, true, kRefused);
+  target.script->isOn = [](const Disturbed& inner) {
+    return inner.projector.Value(SettingId::ActiveIris) == 0;
+  };
+  target.channel->projector.SetValue(SettingId::ActiveIris, 0);
+  target.channel->projector.SetValue(SettingId::Contrast, 131);
+  EXPECT_EQ(OutcomesOf(target.Restore(wanted).Settings()), (Outcomes{Changed, AlreadySo}));
+}
+
+TEST(Restoration, SendsBeforehandInOrderUpToAModeThatCannotBeSet) {
+  const SavedSetting iris{"picture.active-iris", 16, ""}, tint{"picture.tint", 140, ""};
+  const SavedSetting unknown{"no.such", 1, ""}, wrong{"picture.active-iris", 99, ""};
+  const auto volume = [](int value, int source) {
+    return SavedSetting{"audio.volume", value, "", source};
+  };
+  const struct {
+    std::vector<SavedSetting> beforehand;
+    std::optional<PjtReply> reply;  // to setting the iris
+    Outcomes outcomes;
+    Outcome after;
+    int changes = 1000;  // until the user stops
+  } cases[] = {
+      {{iris, tint}, {}, {Changed, Changed}, Changed},
+      {{{"picture.active-iris", 0, ""}, tint}, {}, {AlreadySo, Changed}, Changed},
+      {{unknown, tint}, {}, {Unknown, NotReached}, Changed},
+      {{wrong, tint}, {}, {NotAllowed, NotReached}, Changed},
+      {{{"picture.tint", 999, ""}, tint}, {}, {NotAllowed, Changed}, Changed},
+      {{iris, tint}, kRefused, {Refused, NotReached}, Changed},
+      {{iris, tint}, kPending, {Pending, NotReached}, Unconfirmed},
+      {{iris, tint}, {}, {Changed, NotReached}, Unconfirmed, 1},
+      {{volume(5, 0), volume(6, 4), volume(7, 0)}, {}, {Changed, Changed, Changed}, Changed},
+  };
+  for (const auto& one : cases) {
+    ScriptedProjector target(CommandCode::ActiveIris, false, one.reply.value_or(PjtReply()));
+    target.script->isOn = [&one](const Disturbed&) { return one.reply.has_value(); };
+    Snapshot wanted;
+    wanted.beforehand = one.beforehand;
+    wanted.settings = {{"picture.contrast", 131, ""}};
+    const Restoration restoration =
+        target.Restore(wanted, nullptr, [&] { return target.channel->sent < one.changes; });
+    EXPECT_EQ(OutcomesOf(restoration.Beforehand()), one.outcomes);
+    EXPECT_EQ(OutcomesOf(restoration.Settings()), Outcomes{one.after});
+  }
+}
+
+// The volumes of two sources are different settings.
+TEST(Restoration, ASettingOfAnotherSourceIsNotAffected) {
+  ConnectedProjector target(Profile("Projector 5-30"));
+  target.channel->trouble = {.lateBy = 1 << 20, .lateChange = 1};
+  Snapshot wanted;
+  wanted.settings = {{"audio.volume", 5, "", 0}, {"audio.volume", 6, "", 4}};
+  EXPECT_EQ(OutcomesOf(target.Restore(wanted).Settings()), (Outcomes{Unconfirmed, Changed}));
+}
+
+TEST(Restoration, UndoHoldsWhatHasChanged) {
+  const SavedSetting input{"other.input-source", 4, ""}, gamma{"picture.gamma", 16, ""};
+  const SavedSetting tint{"picture.tint", 131, ""}, contrast{"picture.contrast", 130, ""};
+  const struct {
+    std::vector<SavedSetting> wanted;
+    std::string settings, beforehand;
+    int changes = 1000;
+  } cases[] = {
+      {{tint}, "picture.tint=128;", ""},
+      {{gamma}, "picture.gamma=32;", ""},
+      {{gamma, tint},
+       "picture.gamma=32;picture.tint=128;",
+       "picture.gamma=16;picture.tint=128;picture.gamma=32;"},
+      {{gamma, tint, contrast},
+       "picture.gamma=32;picture.tint=128;picture.contrast=128;",
+       "picture.gamma=16;picture.tint=128;picture.gamma=32;",
+       2},
+      {{input, gamma},
+       "other.input-source=0;picture.gamma=32;",
+       "other.input-source=4;picture.gamma=16;picture.gamma=32;other.input-source=0;"},
+  };
+  const auto list = [](const std::vector<SavedSetting>& settings) {
+    std::string all;
+    for (const SavedSetting& saved : settings)
+      all += saved.key + '=' + std::to_string(saved.value) + ';';
+    return all;
+  };
+  for (const auto& one : cases) {
+    // The input cannot be read any more after the first change.
+    ScriptedProjector target(CommandCode::InputSource, true, kRefused);
+    target.script->isOn = [](const Disturbed& inner) { return inner.sent > 0; };
+    for (const SettingId id : {SettingId::Tint, SettingId::Contrast})
+      target.channel->projector.SetValue(id, 128);
+    target.channel->projector.SetValue(SettingId::Gamma, 32);
+    Snapshot wanted;
+    wanted.settings = one.wanted;
+    target.channel->count = 0;
+    const Restoration restoration =
+        target.Restore(wanted, nullptr, [&] { return target.channel->sent < one.changes; });
+    const Snapshot undo = restoration.Undo("", Texts());
+    EXPECT_EQ(list(undo.settings), one.settings);
+    EXPECT_EQ(list(undo.beforehand), one.beforehand);
+    const int reads = target.channel->count + target.script->scripted - target.channel->sent;
+    EXPECT_EQ(target.channel->announced, reads) << "so that they are sent at once";
+    if (one.changes == 1000) {
+      EXPECT_EQ(list(target.Restore(wanted).Undo("", Texts()).settings), "") << "nothing differs";
+    }
+  }
+}
+
+TEST(Restoration, SkipsWhatTheModelLacksAndStopsOnRequest) {
+  ConnectedProjector target(Profile("Projector 5-30"));
+  Snapshot snapshot = target.Take();
+  snapshot.settings = {{"picture.brightness", 1000, ""}, {"picture.gamma", 99, ""},
+                       {"status.power", 0, ""},          {"no.such", 1, ""},
+                       {"audio.volume", 3, "", 6},       {"picture.tint", 131, "", 0},
+                       {"picture.contrast", 130, ""},    {"picture.tint", 131, ""}};
+  Restoration restoration(snapshot, target.settings, target.connection);
+  restoration.Read();
+  restoration.Send(Texts(), {.goesOn = [&target] { return target.channel->sent == 0; }});
+  EXPECT_EQ(OutcomesOf(restoration.Settings()),
+            (Outcomes{NotAllowed, NotAllowed, NotSettable, Unknown, NotAllowed, NotAllowed, Changed,
+                      Differs}));
+}
+
+}  // namespace

@@ -150,7 +150,8 @@ std::vector<std::string> CatalogFolders() {
 #ifdef ADVANCEDCONTROL_DATADIR
   folders.emplace_back(ADVANCEDCONTROL_DATADIR);
 #endif
-  std::erase(folders, std::string());  // of the program, if there is no /proc
+  // The program's, if there is no /proc.
+  std::erase(folders, std::string());
   folders.emplace_back();
   return folders;
 }

@@ -234,6 +234,7 @@ class Expansion {
   bool AppendNumber(const Conversion& conversion, const CatalogInsert& insert) {
     const auto number = NumberOf(insert);
     if (!number) return false;
+    // Large enough for every width and precision, a prefix and a sign.
     std::array<char, kMaxInsertWidth + 64> digits;
     int length = 0;
     if (conversion.kind == 'p') {
@@ -256,8 +257,6 @@ class Expansion {
       length = std::snprintf(digits.data(), digits.size(), format.c_str(), conversion.width,
                              conversion.precision, static_cast<unsigned long long>(value));
     }
-    // unreachable: TakeMeasure limits the width and the precision
-    if (length < 0 || static_cast<std::size_t>(length) >= digits.size()) return false;
     result.append(digits.data(), static_cast<std::size_t>(length));
     return true;
   }

@@ -13,7 +13,7 @@ namespace AdvancedControl {
 
 namespace {
 
-constexpr std::size_t kMaxMessages = std::size_t{1} << 20;
+constexpr std::size_t kMaxMessages = std::size_t{1} << 18;
 // No byte of a well-formed module is read twice, except that two languages may share an ANSI table.
 constexpr std::uint64_t kMaxReadsOfAByte = 2;
 constexpr std::size_t kUsualEntryBytes = 24;

@@ -189,6 +189,7 @@ TEST_F(CatalogTest, TheTextsOfAllModulesNameTheModuleThatIsMissing) {
 TEST_F(CatalogTest, ModulesAreLookedForBesideTheLibraryAndInItsShare) {
   const auto folders = CatalogFolders();
   EXPECT_EQ(folders.at(1), fs::read_symlink("/proc/self/exe").parent_path());
+  EXPECT_EQ(folders.back(), "") << "the current one";
   for (const char* share : {"/../share/advanced-control", "/../../share/advanced-control"}) {
     EXPECT_EQ(std::ranges::count(folders, folders.front() + share), 1) << share;
   }
@@ -257,7 +258,7 @@ TEST_F(CatalogTest, ABatchUsesTheLanguageOfItsBeginning) {
   {
     const CatalogBatch batch;
     Touch("GETENG");
-    const CatalogBatch within;
+    { const CatalogBatch within; }
     EXPECT_EQ(CatalogText(4, 1) + CatalogText(4, 2) + CatalogText(4, 3),
               std::string("ownonly") + kNoCatalog);
   }
@@ -286,8 +287,9 @@ TEST_F(CatalogTest, InvalidNumbers) {
                 {0xFFFF0000, {Unicode(u"highest\r\n")}}}}});
   EXPECT_EQ(CatalogText(-256, 0xFFFF), "lowest");
   EXPECT_EQ(CatalogText(0xFEFF, 0), "highest");
-  constexpr std::pair<int, int> kNone[] = {{4, 0},       {4, 2},    {3, 0x10001}, {4, -1},
-                                           {0x10004, 1}, {-257, 1}, {5, 0x1FFFF}};
+  constexpr std::pair<int, int> kNone[] = {
+      {4, 0},       {4, 2},    {3, 0x10001}, {4, -1}, {0xFEFF, 0x10000},
+      {0x10004, 1}, {-257, 0}, {5, 0x1FFFF}};
   for (const auto& [category, number] : kNone) {
     EXPECT_EQ(CatalogText(category, number), kNoCatalog) << category << ", " << number;
   }

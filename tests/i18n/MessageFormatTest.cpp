@@ -43,7 +43,10 @@ const Case kCases[] = {
     {"[%1!5d!|%1!-5d!|%1!05d!|%1!+d!|%1!.3i!]", {42}, "[   42|42   |00042|+42|042]"},
     {"%1!x! %1!X! %1!#x! %1!o! %1!u!", {255}, "ff FF 0xff 377 255"},
     {"%1!u! %1!hu! %1!hhx! %1!I64x!", {-1}, "4294967295 65535 ff ffffffffffffffff"},
-    {"%1!Ix! %1!jx! %1!zx! %1!tx!", {0x100000001}, "100000001 100000001 100000001 100000001"},
+    {"%1!I32x! %1!lx! %1!wx! %1!hx!", {-1}, "ffffffff ffffffff ffffffff ffff"},
+    {"%1!Ix!|%1!jx!|%1!zx!|%1!tx!|%1!llx!",
+     {-1},
+     "ffffffffffffffff|ffffffffffffffff|ffffffffffffffff|ffffffffffffffff|ffffffffffffffff"},
     {"%1 %1!d! %1!I64d! %1!lld! %1!I32u! %1!ld!",
      {std::int64_t{0x100000001}},
      "4294967297 1 4294967297 4294967297 1 1"},
@@ -55,7 +58,7 @@ const Case kCases[] = {
      "-9223372036854775808 -9223372036854775808"},
     {"%1!p!", {255}, "00000000000000FF"},
     {"%1!c!%2!C!%3!wc!|%1!3c!|", {'A', 0x4EAE, "中文"}, "A亮中|  A|"},
-    {"[%1!6s!|%1!-6S!|%1!.2ws!|%1!hs!]", {"亮度é"}, "[   亮度é|亮度é   |亮度|亮度é]"},
+    {"[%1!6s!|%1!-6S!|%1!.2ws!|%1!.0s!|%1!hs!]", {"亮度é"}, "[   亮度é|亮度é   |亮度||亮度é]"},
     {"%1!*.*s! %4 %5!*s!", {4, 2, "Bill", "Bob", 6, "Bill"}, "  Bi Bob   Bill"},
     {"[%1!*d!%3!*s!]", {-4, 7, -3, "x"}, "[7   x  ]"},
     // Inserts of the other kind.
@@ -92,6 +95,7 @@ TEST(MessageFormat, SizesAreBounded) {
   std::string wide;
   for (int i = 0; i < 16; ++i) wide += "%1!4096d!";
   EXPECT_EQ(ExpandMessage(wide, one)->size(), kMaxMessageBytes);
+  EXPECT_EQ(ExpandMessage(wide + "%0", one)->size(), kMaxMessageBytes);
   EXPECT_FALSE(ExpandMessage(wide + ".", one));
   EXPECT_FALSE(ExpandMessage(wide + wide, one));
 }

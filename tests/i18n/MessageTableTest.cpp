@@ -102,23 +102,36 @@ TEST(MessageTable, FindsNumbersFarApartInManyCategories) {
     return table;
   };
   const auto table =
-      MessageTable::Parse(TestModule({tableOf(1031, true), tableOf(1033, false)}).bytes);
+      MessageTable::Parse(TestModule({tableOf(0xFFFF, true), tableOf(1033, false)}).bytes);
   ASSERT_TRUE(table);
   for (const std::uint32_t id : ids) {
     EXPECT_EQ(TextIn(*table, 1033, id), "x") << id;
-    EXPECT_EQ(TextIn(*table, 1031, id), id % 3 != 0 ? "x" : "(none)") << id;
+    EXPECT_EQ(TextIn(*table, 0xFFFF, id), id % 3 != 0 ? "x" : "(none)") << id;
     EXPECT_EQ(TextIn(*table, 1033, id ^ 4), "(none)") << id;
   }
 }
 
 TEST(MessageTable, LowerResourceComesFirst) {
   const TestModule module({{1033, {{1, {Unicode(u"second"), Unicode(u"only here")}}}, 5},
+                           {1033, {{2, {Unicode(u"last")}}}, 9},
                            {1033, {{1, {Unicode(u"first")}}, {3, {Unicode(u"third")}}}, 1}});
   const auto table = MessageTable::Parse(module.bytes);
   ASSERT_TRUE(table);
   EXPECT_EQ(TextIn(*table, 1033, 1), "first");
   EXPECT_EQ(TextIn(*table, 1033, 2), "only here");
   EXPECT_EQ(TextIn(*table, 1033, 3), "third");
+  const auto part = table->PartOf(1033);
+  EXPECT_EQ(part->end - part->begin, 3U);
+}
+
+TEST(MessageTable, MarksTextsThatExpandingWouldNotChange) {
+  const std::pair<const char*, bool> kTexts[] = {
+      {"", true},     {"plain\r\n", true}, {"a\r\nb\r\n", true}, {"100%\r\n", false},
+      {"a\n", false}, {"\r\n\n", false},   {"a\rb", false},      {"a\r", false}};
+  for (const auto& [text, plain] : kTexts) {
+    const auto table = MessageTable::Parse(TestModule({{1033, {{1, {Ansi(text)}}}}}).bytes);
+    EXPECT_EQ(table && table->FindEnglish(1).plain, plain) << text;
+  }
 }
 
 TEST(MessageTable, MarksEnglishTextsThatEveryLanguageHas) {
@@ -179,7 +192,7 @@ TEST(MessageTable, RefusesDamagedModules) {
       {"leaves that are directories, outside",
        4,
        {{leaf - 4, m.kDirectory}, {leaf - 4, 0x7FFFFFFF}}},
-      {"a leaf of no language", 4, {{leaf - 8, 0x10411}}},
+      {"a leaf of no language", 4, {{leaf - 8, 0x10000}}},
       {"tables outside, too long, too short", 4, {{leaf, ~0U}, {leaf + 4, ~0U}, {leaf + 4, 3}}},
       {"blocks too many, upside down", 4, {{table, 0x15555556}, {table + 4, 9}}},
       {"blocks endless, outside", 4, {{table + 8, ~0U}, {table + 12, 0xFFFFFFFC}}},
@@ -199,6 +212,13 @@ TEST(MessageTable, RefusesDamagedModules) {
   for (auto end = m.bytes.begin(); end != m.bytes.end(); ++end) {
     EXPECT_FALSE(MessageTable::Parse(std::vector(m.bytes.begin(), end))) << end - m.bytes.begin();
   }
+  for (const std::uint32_t padding : {3U, 4U}) {
+    TestModule padded = m;
+    padded.bytes.resize(m.bytes.size() + padding);
+    padded.Put32(section + 16, U32(m.bytes, section + 16) + padding);
+    padded.Put32(leaf + 4, U32(m.bytes, leaf + 4) + padding);
+    EXPECT_EQ(MessageTable::Parse(padded.bytes).has_value(), padding < 4);
+  }
   // Two texts for one message, and descending identifiers.
   for (const std::uint32_t second : {2U, 0U}) {
     const TestModule blocks({{1033, {{1, {Ansi("a"), Ansi("b")}}, {second, {Ansi("c")}}}}});
@@ -215,12 +235,14 @@ TEST(MessageTable, SectionsAreLimited) {
   const auto isRead = [&m](std::uint32_t sections) {
     TestModule module = m;
     const auto header = static_cast<std::uint32_t>(m.bytes.size());
-    const std::size_t size = m.section + 40 - m.kHeader;
-    module.bytes.resize(header + size + 40 * (sections - 1));
+    const std::size_t size = m.section - m.kHeader;
+    module.bytes.resize(header + size + 40 * sections);
     std::copy_n(m.bytes.begin() + m.kHeader, size, module.bytes.begin() + header);
+    std::copy_n(m.bytes.begin() + static_cast<std::ptrdiff_t>(m.section), 40,
+                module.bytes.end() - 40);
     module.Put32(0x3C, header);
     module.Put16(header + 6, sections);
-    module.Put32(module.bytes.size() - 20, ~0U);  // outside, as it may be without content
+    module.Put32(header + size + 20, ~0U);  // outside, as it may be without content
     return MessageTable::Parse(module.bytes).has_value();
   };
   EXPECT_TRUE(isRead(96));
@@ -257,27 +279,10 @@ TEST(MessageTable, NoFlippedBitAssignsATextToAnotherNumber) {
   EXPECT_GT(accepted, 0) << "a changed letter is a text all the same";
 }
 
-// A module whose resources all have the same languages, which all have the same table.
-TestModule Overlapping(std::uint32_t resources, std::uint32_t languages,
-                       const std::vector<TestEntry>& entries) {
-  std::vector<TestTable> tables;
-  for (std::uint32_t i = 1; i < resources; ++i) tables.push_back({0, {{1, {Ansi("")}}}, i});
-  for (std::uint32_t i = 0; i < languages; ++i) tables.push_back({i, {{1, {Ansi("")}}}, resources});
-  tables.back().blocks.front().entries = entries;
-  TestModule module(tables);
-  const auto leaf = static_cast<std::uint32_t>(module.lastLeaf - module.types);
-  const std::size_t slots = module.names + 20;
-  const std::uint32_t directory = U32(module.bytes, slots + 8 * (resources - 1));
-  for (std::uint32_t i = 0; i < resources; ++i) module.Put32(slots + 8 * i, directory);
-  const std::size_t leaves = module.types + (directory & ~module.kDirectory) + 20;
-  for (std::uint32_t i = 0; i < languages; ++i) module.Put32(leaves + 8 * i, leaf);
-  return module;
-}
-
 TEST(MessageTable, SharedBytesDoNotMultiply) {
   const std::vector<TestEntry> ansi{Ansi(std::string(60000, 'x'))};
   const std::vector<TestEntry> unicode{Unicode(u"x")};
-  constexpr std::size_t kMost = std::size_t{1} << 20;
+  constexpr std::size_t kMost = std::size_t{1} << 18;
   const std::vector<TestEntry> half(kMost / 2 + 1, Unicode(u""));
   const std::vector<TestEntry> all(kMost + 1, Unicode(u""));
   const struct {

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "i18n/ModuleImage.h"
+
 // Makes small message-table modules, and records offsets for damaging them.
 
 struct TestEntry {
@@ -149,3 +151,20 @@ class TestModule {
     return entryAt;
   }
 };
+
+/// A module whose resources all have the same languages, which all have the same table.
+inline TestModule Overlapping(std::uint32_t resources, std::uint32_t languages,
+                              const std::vector<TestEntry>& entries) {
+  std::vector<TestTable> tables;
+  for (std::uint32_t i = 1; i < resources; ++i) tables.push_back({0, {{1, {Ansi("")}}}, i});
+  for (std::uint32_t i = 0; i < languages; ++i) tables.push_back({i, {{1, {Ansi("")}}}, resources});
+  tables.back().blocks.front().entries = entries;
+  TestModule module(tables);
+  const auto leaf = static_cast<std::uint32_t>(module.lastLeaf - module.types);
+  const std::size_t slots = module.names + 20;
+  const std::uint32_t directory = U32(module.bytes, slots + 8 * (resources - 1));
+  for (std::uint32_t i = 0; i < resources; ++i) module.Put32(slots + 8 * i, directory);
+  const std::size_t leaves = module.types + (directory & ~module.kDirectory) + 20;
+  for (std::uint32_t i = 0; i < languages; ++i) module.Put32(leaves + 8 * i, leaf);
+  return module;
+}

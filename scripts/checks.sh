@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The checks besides the tests under the sanitizers: floors, classes with too many members, an optimised build without
-# warnings with its tests and benchmarks, calls that fail, the installed library, what goes into the packages, clang-tidy
+# warnings with its tests and benchmarks, mutants, calls that fail, the installed library, what goes into the packages, clang-tidy
 # over the last changes, channels and fleet under the thread sanitizer, and a moment of each fuzz target. A check that
 # fails says what to run to see it again.
 set -euo pipefail
@@ -21,6 +21,8 @@ check "Packaging" "scripts/check-packaging.sh"
 cmake --preset check >/dev/null
 check "Optimised build (build/check): warnings are errors" "cmake --build --preset check"
 check "Tests, optimised" "ctest --preset check -j $jobs"
+check "Mutants of the last changes" \
+  "scripts/mutate.py --build build/check --changed HEAD~3 --files 'src/*' --sample 40 --seconds 75 --least 70"
 check "Calls that fail" "scripts/faults.py build/check 15"
 check "Installed library" "cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake"
 check "Benchmarks for a moment" \

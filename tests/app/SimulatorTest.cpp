@@ -94,7 +94,7 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
            {"pjlink", "1 silent", NoAnswer},
            {"pjlink", "1 garbage", NoAnswer},
            {"pjlink", "1 cut 7", Lost},
-           {"serial", "1 late 1800", NoAnswer},
+           {"serial", "1 late 900", NoAnswer},
            {"serial", "1 silent", NoAnswer},
            {"serial", "1 garbage", NoAnswer},
            {"serial", "1 cut 7", NoAnswer},
@@ -102,11 +102,13 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
     SCOPED_TRACE(testing::Message() << transport << ' ' << fault);
     mute ^= 1;
     ASSERT_TRUE(tcp->Execute({PjtOperation::SetMute, 0, mute}).answered);
-    BoundedChannel channel(MakeUnboundedChannel(Address(transport)),
-                           {.timeOut = 10s, .retryAfter = 0ms});
+    const auto line = MakeUnboundedChannel(Address(transport));
+    BoundedChannel channel(line, {.timeOut = 10s, .retryAfter = 0ms});
     EXPECT_EQ(channel.Execute(kIsMuted).value, mute);
     EXPECT_EQ(Control(fault), "ok");
+    if (state == NoAnswer) line->GiveUpAfter(300ms);
     const PjtReply reply = channel.Execute(kIsMuted);
+    line->GiveUpAfter(1500ms);
     EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
     EXPECT_EQ(reply.answered, state == Connected);
     EXPECT_EQ(reply.value, reply.answered ? mute : 0);

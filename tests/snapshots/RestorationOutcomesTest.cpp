@@ -88,19 +88,21 @@ TEST(Restoration, SaysWhyASettingCannotBeRead) {
     bool stops;
     Outcomes outcomes;
     std::size_t unread;
-  } cases[] = {{kRefused, false, {Refused, Changed}, 1},
-               {{.result = 0, .busy = true}, false, {Busy, Changed}, 1},
-               {{.result = 0, .offered = false}, false, {NotOffered, Changed}, 0},
-               {kSilent, false, {NotReached, NotReached}, 0},
-               {kRefused, true, {NotReached, NotReached}, 0}};
+    int steps;
+  } cases[] = {{kRefused, false, {Refused, Changed}, 1, 4},
+               {{.result = 0, .busy = true}, false, {Busy, Changed}, 1, 4},
+               {{.result = 0, .offered = false}, false, {NotOffered, Changed}, 0, 4},
+               {kSilent, false, {NotReached, NotReached}, 0, 2},
+               {kRefused, true, {NotReached, NotReached}, 0, 1}};
   for (const auto& one : cases) {
     ScriptedProjector target(CommandCode::Contrast, true, one.reply);
-    const Progress progress{.goesOn = [&] { return !one.stops || target.script->scripted == 0; }};
     int steps = 0;
+    const Progress progress{.goesOn = [&] { return !one.stops || target.script->scripted == 0; },
+                            .step = [&steps] { ++steps; }};
     Restoration restoration(wanted, target.settings, target.connection);
-    restoration.Read({.goesOn = progress.goesOn, .step = [&steps] { ++steps; }});
-    EXPECT_EQ(steps, one.stops ? 1 : 2);
+    restoration.Read(progress);
     restoration.Send(Texts(), progress);
+    EXPECT_EQ(steps, one.steps);
     EXPECT_EQ(OutcomesOf(restoration.Settings()), one.outcomes);
     const Snapshot undo = restoration.Undo("", Texts());
     EXPECT_EQ(undo.settings.size(), std::ranges::count(one.outcomes, Changed));
@@ -178,8 +180,15 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
     std::vector<SavedSetting> wanted;
     std::string settings, beforehand;
     int changes = 1000;
+    std::vector<Memory> memories{};
   } cases[] = {
       {{tint}, "picture.tint=128;", ""},
+      // The other gamma has the wanted tint.
+      {{gamma, tint},
+       "picture.gamma=32;picture.tint=128;",
+       "",
+       1000,
+       {{{SettingId::Gamma}, {SettingId::Tint}, {32}, {{{16}, {131}}, {{32}, {128}}}}}},
       {{gamma}, "picture.gamma=32;", ""},
       {{gamma, tint},
        "picture.gamma=32;picture.tint=128;",
@@ -205,9 +214,9 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
     for (const SettingId id : {SettingId::Tint, SettingId::Contrast})
       target.channel->projector.SetValue(id, 128);
     target.channel->projector.SetValue(SettingId::Gamma, 32);
+    target.channel->memories = one.memories;
     Snapshot wanted;
     wanted.settings = one.wanted;
-    target.channel->count = 0;
     const Restoration restoration =
         target.Restore(wanted, nullptr, [&] { return target.channel->sent < one.changes; });
     const Snapshot undo = restoration.Undo("", Texts());
@@ -215,8 +224,11 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
     EXPECT_EQ(list(undo.beforehand), one.beforehand);
     const int reads = target.channel->count + target.script->scripted - target.channel->sent;
     EXPECT_EQ(target.channel->announced, reads) << "so that they are sent at once";
+    Snapshot kept;
+    const Restoration again = target.Restore(wanted, &kept);
     if (one.changes == 1000) {
-      EXPECT_EQ(list(target.Restore(wanted).Undo("", Texts()).settings), "") << "nothing differs";
+      EXPECT_EQ(kept, Snapshot()) << "nothing was sent";
+      EXPECT_EQ(list(again.Undo("", Texts()).settings), "") << "nothing differs";
     }
   }
 }

@@ -233,7 +233,12 @@ TEST(SettingTexts, AreThoseOfTheDialog) {
   EXPECT_EQ(Texts().Caption(setting("picture.tint")) +
                 Texts().Caption({.key = "input.dvi", .entries = {}}),
             "TintDVI");
-  EXPECT_EQ(Texts().Source(target.settings, 4), "RGB2");
+  const auto name = [&](const char* key, std::optional<int> source = {}) {
+    return Texts().Name(target.settings, setting(key), source);
+  };
+  EXPECT_EQ(name("picture.tint") + name("image.position-h"), "TintPosition H");
+  EXPECT_EQ(name("gamma.pattern") + name("audio.volume", 4),
+            "User Gamma Pattern (Gamma)Volume (RGB2)");
   const ModelSettings withoutInputs(Profile("Projector 9-1").model->data);
   EXPECT_EQ(Texts().Source(withoutInputs, 4), "4");
   const std::vector<std::string> folders{TEST_CATALOG_DIR};

@@ -82,7 +82,7 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   ConnectedProjector target(Profiles().front());
   Snapshot snapshot = target.Take();
   snapshot.isUndo = true;
-  snapshot.settings[0].key = std::string(1024, 'k');  // the longest, and the outermost values
+  snapshot.settings[0].key = std::string(1022, 'k') + " k";  // the longest; the outermost values
   snapshot.settings[0].value = -32768;
   snapshot.settings[1].value = 65535;
   const QByteArray text = WriteSnapshot(snapshot);
@@ -118,7 +118,7 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   const int free = 10'000 - static_cast<int>(snapshot.settings.size());
   EXPECT_EQ(ReadSnapshot(withSettings(free)).path, "settings[0]");
   EXPECT_EQ(ReadSnapshot(withSettings(free + 1)).path, "settings");
-  EXPECT_FALSE(ReadSnapshot("[1]").error.isEmpty());
+  EXPECT_EQ(ReadSnapshot("[1]").error, "must hold an object");
   constexpr qsizetype kMost = qsizetype{4} << 20;
   EXPECT_EQ(ReadSnapshot(text.leftJustified(kMost)).error, "");
   EXPECT_EQ(ReadSnapshot(text.leftJustified(kMost + 1)).error, "is larger than 4 MiB");
@@ -236,7 +236,8 @@ TEST(SettingTexts, AreThoseOfTheDialog) {
   const auto name = [&](const char* key, std::optional<int> source = {}) {
     return Texts().Name(target.settings, setting(key), source);
   };
-  EXPECT_EQ(name("picture.tint") + name("image.position-h"), "TintPosition H");
+  EXPECT_EQ(name("picture.tint") + name("image.position-v") + name("image.position-h"),
+            "TintPosition VPosition H");
   EXPECT_EQ(name("gamma.pattern") + name("audio.volume", 4),
             "User Gamma Pattern (Gamma)Volume (RGB2)");
   const ModelSettings withoutInputs(Profile("Projector 9-1").model->data);
@@ -255,8 +256,10 @@ TEST(SettingTexts, AreRecognised) {
     const auto typed = Texts().Parse(hosts, text);
     EXPECT_EQ(typed ? std::optional(typed->amount) : std::nullopt, value) << text;
   }
+  const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  const SettingTexts texts(folders, kEnglishUnitedStates);
   const ModelSetting& power = *target.settings.Find("other.power");
-  EXPECT_EQ(Texts().Parse(power, "standby")->amount, 0);
+  EXPECT_EQ(texts.Parse(power, "standby")->amount, 0);
   EXPECT_FALSE(Resolve(power, {.amount = 1, .relative = true}, {}));
   const struct {
     const ModelSetting& setting;
@@ -276,7 +279,7 @@ TEST(SettingTexts, AreRecognised) {
       {power, 0, "Standby", true},
   };
   for (const auto& one : cases) {
-    EXPECT_EQ(Texts().IsShownAs(one.setting, one.value, one.text), one.isShown) << one.text;
+    EXPECT_EQ(texts.IsShownAs(one.setting, one.value, one.text), one.isShown) << one.text;
   }
 }
 

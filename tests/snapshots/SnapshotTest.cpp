@@ -198,34 +198,22 @@ TEST(SettingTexts, AreThoseOfTheDialog) {
     const ModelSetting* const found = target.settings.Find(key);
     return found != nullptr ? *found : hosts;
   };
-  using enum PowerState;
-  const struct {
-    const char* key;
-    int value;
-    std::optional<PowerState> power;
-    const char* text;
-  } cases[] = {
-      {"other.power", 0, {}, "Standby"},
-      {"other.power", 1, {}, "On"},
-      {"other.power", 2, {}, "Cooling Down"},
-      {"other.power", 9, {}, "Standby"},
-      {"other.power", 1, WarmingUp, "Warming Up"},
-      {"other.power", 0, WarmingUp, "Standby"},
-      {"other.power", 1, On, "On"},
-      {"other.blank", 1, WarmingUp, "On"},
-      {"status.blank", 5, {}, "Off"},
-      {"status.lamp-time", 12, {}, "12 h"},
-      {"picture.brightness", 131, {}, "3"},
-      {"hosts", 31, {}, "HDMI (31)"},
-      {"hosts", 1, {}, "VGA (1)"},
-      {"hosts", 7, {}, "5"},
-      {"hosts", 8, {}, "6"},
-      {"hosts", 9, {}, "7"},
-      {"hosts", 0, {}, "Off"},
-  };
-  for (const auto& one : cases) {
-    EXPECT_EQ(Texts().Value(setting(one.key), one.value, one.power), one.text) << one.key;
+  const std::pair<const char*, std::vector<std::pair<int, const char*>>> kTexts[] = {
+      {"other.power", {{0, "Standby"}, {1, "On"}, {2, "Cooling Down"}, {9, "Standby"}}},
+      {"status.blank", {{1, "On"}, {5, "Off"}}},
+      {"status.lamp-time", {{12, "12 h"}}},
+      {"picture.brightness", {{131, "3"}}},
+      {"hosts", {{31, "HDMI (31)"}, {1, "VGA (1)"}, {7, "5"}, {8, "6"}, {9, "7"}, {0, "Off"}}}};
+  for (const auto& [key, texts] : kTexts) {
+    for (const auto& [value, text] : texts) EXPECT_EQ(Texts().Value(setting(key), value), text);
   }
+  const auto inPower = [&](const char* key, int value, PowerState power) {
+    return Texts().Value(setting(key), value, power);
+  };
+  EXPECT_EQ(inPower("other.power", 1, PowerState::WarmingUp), "Warming Up");
+  EXPECT_EQ(inPower("other.power", 0, PowerState::WarmingUp), "Standby");
+  EXPECT_EQ(inPower("other.power", 1, PowerState::On), "On");
+  EXPECT_EQ(inPower("other.blank", 1, PowerState::WarmingUp), "On");
   EXPECT_EQ(Texts().Values(setting("other.power")), "Standby, On");
   EXPECT_EQ(Texts().Values(setting("picture.brightness")), "-31 to 31");
   EXPECT_EQ(Texts().Values(setting("image.h-size")), "a number");
@@ -261,26 +249,15 @@ TEST(SettingTexts, AreRecognised) {
   const ModelSetting& power = *target.settings.Find("other.power");
   EXPECT_EQ(texts.Parse(power, "standby")->amount, 0);
   EXPECT_FALSE(Resolve(power, {.amount = 1, .relative = true}, {}));
-  const struct {
-    const ModelSetting& setting;
-    int value;
-    const char* text;
-    bool isShown;
-  } cases[] = {
-      {*target.settings.Find("picture.active-iris"), 16, "theater", true},
-      {*target.settings.Find("picture.active-iris"), 16, "シアター", true},
-      {*target.settings.Find("picture.active-iris"), 16, "16", true},
-      {*target.settings.Find("picture.active-iris"), 16, "off", false},
-      {*target.settings.Find("picture.active-iris"), 16, "17", false},
-      {*target.settings.Find("picture.brightness"), 131, "3", true},
-      {*target.settings.Find("picture.brightness"), 131, "131", false},
-      {hosts, 31, "HDMI (31)", true},
-      {hosts, 31, "HDMI (32)", false},
-      {power, 0, "Standby", true},
-  };
-  for (const auto& one : cases) {
-    EXPECT_EQ(texts.IsShownAs(one.setting, one.value, one.text), one.isShown) << one.text;
+  const ModelSetting& iris = *target.settings.Find("picture.active-iris");
+  for (const char* text : {"theater", "シアター", "16"}) {
+    EXPECT_TRUE(texts.IsShownAs(iris, 16, text)) << text;
   }
+  for (const char* text : {"off", "17", ""}) EXPECT_FALSE(texts.IsShownAs(iris, 16, text)) << text;
+  const ModelSetting& brightness = *target.settings.Find("picture.brightness");
+  EXPECT_TRUE(texts.IsShownAs(brightness, 131, "3") && !texts.IsShownAs(brightness, 131, "131"));
+  EXPECT_TRUE(texts.IsShownAs(hosts, 31, "hdmi (31)") && !texts.IsShownAs(hosts, 31, "HDMI (32)"));
+  EXPECT_TRUE(texts.IsShownAs(power, 0, "Standby"));
 }
 
 }  // namespace

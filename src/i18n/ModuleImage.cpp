@@ -1,5 +1,6 @@
 #include "i18n/ModuleImage.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

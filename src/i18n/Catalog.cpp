@@ -137,21 +137,29 @@ void CopyText(std::string_view text, int bufferSize, char* buffer) {
 }  // namespace
 
 std::vector<std::string> CatalogFolders() {
-  Dl_info library{};  // is always found, since it contains the function
-  dladdr(reinterpret_cast<const void*>(&IsCatalogLoaded), &library);
-  const fs::path libraryFolder = fs::path(library.dli_fname).parent_path();
+  Dl_info library{};
+  fs::path libraryFolder;
+  // unreachable: no library; the tests load one that is a file
+  if (dladdr(reinterpret_cast<const void*>(&IsCatalogLoaded), &library) != 0 && library.dli_fname) {
+    libraryFolder = fs::path(library.dli_fname).parent_path();
+  }
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);
 
-  std::vector<std::string> folders{libraryFolder.string(), program.parent_path().string(),
-                                   (libraryFolder / "../share/advanced-control").string(),
-                                   // For a library in a folder named after its architecture.
-                                   (libraryFolder / "../../share/advanced-control").string()};
+  std::vector<std::string> folders;
+  // unreachable: no folder; only a library that is part of a program may have none
+  if (!libraryFolder.empty()) folders.push_back(libraryFolder.string());
+  // unreachable: no program; there is a /proc
+  if (!program.empty()) folders.push_back(program.parent_path().string());
+  // unreachable: the same
+  if (!libraryFolder.empty()) {
+    folders.push_back((libraryFolder / "../share/advanced-control").string());
+    // For a library in a folder named after its architecture.
+    folders.push_back((libraryFolder / "../../share/advanced-control").string());
+  }
 #ifdef ADVANCEDCONTROL_DATADIR
   folders.emplace_back(ADVANCEDCONTROL_DATADIR);
 #endif
-  // The program's, if there is no /proc.
-  std::erase(folders, std::string());
   folders.emplace_back();
   return folders;
 }

@@ -57,7 +57,8 @@ std::string DisplayName(const std::string& locale, const std::string& in, bool w
   std::array<char16_t, 128> name{};
   uldn_localeDisplayName(names, shown.c_str(), name.data(), std::ssize(name) - 1, &error);
   uldn_close(names);
-  return QString::fromUtf16(name.data()).toStdString();
+  // unreachable: a failure; the names of all languages fit, and memory does not fail here
+  return U_FAILURE(error) ? locale : QString::fromUtf16(name.data()).toStdString();
 }
 
 bool SameName(const std::string& a, const QString& b) {

@@ -245,7 +245,7 @@ void Restoration::RereadAffected(const Progress& progress) {
   });
   Group unread;
   std::ranges::copy_if(changed, std::back_inserter(unread), [&](const RestoredSetting* restored) {
-    return !MayStillChange(*restored, sent);
+    return restored->turn == 0 && !MayStillChange(*restored, sent);
   });
   Read(unread, progress);
   for (RestoredSetting* restored : changed) {
@@ -286,9 +286,10 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   const SentSettings sent = SentInOrder();
   for (const RestoredSetting& restored : settings_) {
     if (!restored.first) continue;
-    const bool wasSo =
-        restored.outcome == Outcome::AlreadySo && restored.first == restored.saved.value;
-    if (wasSo && !MayHaveChanged(restored, sent)) continue;
+    const bool isUntouched =
+        restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::NotReached;
+    const bool isSo = restored.first == restored.saved.value;
+    if (isUntouched && isSo && !MayHaveChanged(restored, sent)) continue;
     add(snapshot.settings, restored, *restored.first);
   }
   const auto first = std::ranges::find_if_not(

@@ -14,10 +14,9 @@ namespace {
 /// has no file left.
 FleetPolicy WithinLimits(FleetPolicy policy) {
   rlimit files{};
-  if (getrlimit(RLIMIT_NOFILE, &files) == 0 && files.rlim_cur != RLIM_INFINITY) {
-    const auto most = std::max<std::size_t>(files.rlim_cur / 2, 1);
-    policy.visitsAtOnce = std::min(policy.visitsAtOnce, most);
-  }
+  getrlimit(RLIMIT_NOFILE, &files);
+  const auto most = std::max<std::size_t>(files.rlim_cur / 2, 1);
+  policy.visitsAtOnce = std::min(policy.visitsAtOnce, most);
   return policy;
 }
 

@@ -190,10 +190,8 @@ WorkResult ProjectorWork::OutcomeOf(const Restoration& restoration) const {
 /// Changes a state that is a switch. Snapshots do not contain it.
 WorkResult ProjectorWork::SetState(const ModelSetting& setting, int value) {
   const CPjtInterface::Tally before = connection_.Sent();
-  const Sent sent = settings_.Change(connection_, setting, value, {texts_.Value(setting, value)});
+  settings_.Change(connection_, setting, value, {texts_.Value(setting, value)});
   if (auto trouble = Trouble(before)) return *trouble;
-  if (sent != Sent::Accepted) return Refused("refused");
-  if (!setting.readable) return {.outcome = WorkOutcome::Done};
   const auto now = settings_.Read(connection_, setting);
   if (IsGone()) return Unanswered();
   return {.outcome = now == value ? WorkOutcome::Done : WorkOutcome::Pending};

@@ -61,7 +61,8 @@ bool WriteAll(int file, const QByteArray& bytes) {
 
 // A pipe has no disk behind it, and some file systems cannot be asked.
 bool Sync(int file) {
-  return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
+  constexpr std::array kCannotBeAsked{EINVAL, ENOSYS, ENOTSUP};
+  return fsync(file) == 0 || std::ranges::find(kCannotBeAsked, errno) != kCannotBeAsked.end();
 }
 
 bool SyncFolderOf(const QString& path) {
@@ -103,8 +104,7 @@ class StagedFile {
     isNamed_ = renameat2(AT_FDCWD, Encoded().constData(), AT_FDCWD, name.constData(),
                          RENAME_NOREPLACE) == 0;
     // Some file systems only know the older way.
-    if (!isNamed_ && (errno == EINVAL || errno == ENOSYS) &&
-        link(Encoded().constData(), name.constData()) == 0) {
+    if (!isNamed_ && errno != EEXIST && link(Encoded().constData(), name.constData()) == 0) {
       isNamed_ = unlink(Encoded().constData()) == 0;
     }
     return isNamed_;

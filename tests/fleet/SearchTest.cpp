@@ -9,6 +9,9 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QNetworkDatagram>
+#include <QNetworkProxy>
+#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -20,6 +23,7 @@
 #include "fleet/SearchRange.h"
 #include "simulator/PjLinkProjectorSession.h"
 #include "simulator/SimulatedProjector.h"
+#include "tests/support/Limited.h"
 #include "tests/support/Programs.h"
 
 namespace {
@@ -64,6 +68,14 @@ TEST(SearchRange, IsReadAsPeopleWriteIt) {
       {"192.0.2", "\"192.0.2\" is neither"},
       {"192.0.2.1/33", "\"192.0.2.1/33\" is neither"},
       {"projector.example", "\"projector.example\" is neither"},
+      {"192.0.2.0001", "\"192.0.2.0001\" is neither"},
+      {"192.0.2.1a", "\"192.0.2.1a\" is neither"},
+      {"x/24", "\"x/24\" is neither"},
+      {"x-7", "\"x-7\" is neither"},
+      {"192.0.2.9-192.0.2.7", "\"192.0.2.9-192.0.2.7\" is neither"},
+      {"192.0.2.9-x", "\"192.0.2.9-x\" is neither"},
+      {"2001:db8::1-00001", "\"2001:db8::1-00001\" is neither"},
+      {"2001:db8::1-2001:db9::1", "\"2001:db8::1-2001:db9::1\" is neither"},
   };
   for (const auto& [text, expected] : cases) {
     const SearchRange range = ParseSearchRange(text);
@@ -99,20 +111,24 @@ TEST(NetworkBroadcasts, AreThoseOfNetworksThatAreUp) {
   EXPECT_THAT(BroadcastsOf(networks),
               ElementsAre(QHostAddress("192.0.2.255"), QHostAddress("198.51.103.255")));
   EXPECT_THAT(BroadcastsOf({}), SizeIs(0));
+  for (const QHostAddress& own : NetworkBroadcasts()) EXPECT_FALSE(own.isNull());
 }
 
 TEST(SearchAnswer, IsAMacNumber) {
   EXPECT_EQ(ParseSearchAnswer("%2ACKN=00:00:5E:00:53:01\r"), "00:00:5e:00:53:01");
   EXPECT_EQ(ParseSearchAnswer("%2ackn=00-00-5e-00-53-01\r\n"), "00:00:5e:00:53:01");
-  for (const char* other : {"", "%2SRCH\r", "%2ACKN=\r", "%2ACKN=00:00:5e:00:53\r",
-                            "%2ACKN=00:00:5e:00:53:0x\r", "%2LKUP=00:00:5e:00:53:01\r"}) {
+  EXPECT_EQ(ParseSearchAnswer({"%2ACKN=00:00:5e:00:53:01 \0", 26}), "00:00:5e:00:53:01");
+  for (const char* other :
+       {"", "%2SRCH\r", "%2ACKN=\r", "%2ACKN=00:00:5e:00:53\r", "%2ACKN=00:00:5e:00:53:0x\r",
+        "%2ACKN=00:00:5e:00:53:0/\r", "%2ACKN=00:00:5e:00:53:0:\r", "%2ACKN=00:00:5e.00:53:01\r",
+        "%2ACKN 00:00:5e:00:53:01\r", "%2ACKN=00:00:5e:00:53:0`\r", "%2LKUP=00:00:5e:00:53:01\r"}) {
     EXPECT_EQ(ParseSearchAnswer(other), std::nullopt) << other;
   }
 }
 
 // The whole of a conversation in memory.
 FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
-                       const std::string& given) {
+                       const std::string& given, int answers = 100) {
   SimulatedProjector projector;
   PjLinkResponder responder(std::shared_ptr<ProjectorChannel>(&projector, [](auto*) {}), served);
   std::optional<PjLinkProjectorSession> end;
@@ -130,6 +146,10 @@ FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
         inquiry.Connection().Received(end->Greeting(), now);
         break;
       case PjLinkStep::Kind::Send:
+        if (--answers < 0) {
+          inquiry.Connection().Closed(now);
+          break;
+        }
         end->Add(step.bytes);
         while (const auto exchange = end->Next())
           inquiry.Connection().Received(exchange->reply, now);
@@ -165,6 +185,9 @@ TEST(SearchInquiry, LearnsWhoAndWhatAProjectorIs) {
   served.inputs.clear();
   found = Inquire(served, "", "");
   EXPECT_EQ(found.name + '/' + found.serial, "Hall/");
+  found = Inquire(served, "", "", 2);
+  EXPECT_EQ(found.name + '/' + found.maker + '/' + found.model, "Hall/Advanced Control/")
+      << "it has left then";
   EXPECT_THAT(found.inputs, SizeIs(0));
 }
 
@@ -177,7 +200,7 @@ constexpr char kFile[] = R"({
      "connection": {"network": {"address": "192.0.2.2", "port": 4352}}},
     {"name": "By address", "like": "hall",
      "connection": {"network": {"address": "2001:db8:0::3", "port": 4352}}},
-    {"name": "Hall", "like": "hall",
+    {"name": "Hall", "like": "hall", "identity": "serial:Maker/8",
      "connection": {"serial": {"port": 1}}}
   ]
 })";
@@ -222,11 +245,75 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
   EXPECT_TRUE(taken.text.contains("\"x-mine\": true"));
 
   EXPECT_EQ(TakeFound(kFile, {At("192.0.2.1", "A", "1")}, "").text, kFile) << "nothing new";
+  FoundProjector unknown = At("192.0.2.1", "Z", "9"), locked{.address = "192.0.2.20", .port = 4352};
+  unknown.model = "Other";
+  locked.needsPassword = true;
+  const TakenProjectors others =
+      TakeFound(kFile, {unknown, unknown, locked, At("192.0.2.2", "Y", "")}, "secret");
+  EXPECT_EQ(others.known, 2U);
+  EXPECT_THAT(others.added, ElementsAre("Z", "192.0.2.20")) << "another one at the same address";
+  const auto profiles = ParseProfileList(others.text, "p.json").profiles;
+  ASSERT_THAT(profiles, SizeIs(6));
+  EXPECT_EQ(profiles[4].model->info.ModelName + '/' + profiles[5].model->info.ModelName,
+            "Other/PJLink");
+  EXPECT_EQ(profiles[4].connection.secret + '/' + profiles[5].connection.secret, "secret/");
+  EXPECT_EQ(TakeFound(kFile, {At("192.0.2.9", "", "8")}, "").known, 1U) << "at a serial port";
   // At an address whose identity was made up, and at one with another kind of identity.
   const TakenProjectors again = TakeFound(
       taken.text, {At("192.0.2.5", "", "5"), At("192.0.2.2", "A", "", "00:00:5e:00:53:01")}, "");
   EXPECT_EQ(again.known, 2U);
   EXPECT_EQ(again.text, taken.text);
+}
+
+// One that answers everywhere and leaves soon.
+TEST(SearchDriver, EndsWithWhatItHasLearnt) {
+  int count = 0;
+  QCoreApplication application(count, nullptr);
+  QTcpServer greets;
+  greets.setProxy(QNetworkProxy::NoProxy);
+  ASSERT_TRUE(greets.listen(QHostAddress::AnyIPv4));
+  QObject::connect(&greets, &QTcpServer::newConnection, [&greets] {
+    QTcpSocket* const client = greets.nextPendingConnection();
+    client->write("PJLINK 0\r");
+    client->disconnectFromHost();
+  });
+  QUdpSocket responder, taken;
+  for (QUdpSocket* const socket : {&responder, &taken}) socket->setProxy(QNetworkProxy::NoProxy);
+  ASSERT_TRUE(responder.bind(QHostAddress::LocalHost, greets.serverPort()));
+  ASSERT_TRUE(taken.bind(QHostAddress::AnyIPv4));
+  QObject::connect(&responder, &QUdpSocket::readyRead, [&responder] {
+    const auto asker = responder.receiveDatagram();
+    for (const char* const answer :
+         {"%2ACKN=?", "%2ACKN=02:00:00:00:00:01\r", "%2ACKN=02:00:00:00:00:02\r"}) {
+      responder.writeDatagram(answer, asker.senderAddress(),
+                              static_cast<quint16>(asker.senderPort()));
+    }
+  });
+  SearchOptions options{.addresses = {QHostAddress("127.0.0.2"), QHostAddress("127.0.0.1")},
+                        .broadcasts = {QHostAddress("127.0.0.1")},
+                        .port = greets.serverPort(),
+                        .answerPort = taken.localPort(),
+                        .atOnce = 1,
+                        .perSecond = 50,
+                        .answers = std::chrono::milliseconds(300)};
+  std::map<std::string, FoundProjector> found;
+  const auto search = [&](bool hasFiles) {
+    QEventLoop loop;
+    SearchDriver driver(
+        options, [&](const FoundProjector& one) { found[one.address] = one; },
+        [&] { loop.quit(); });
+    {
+      std::optional<NoFilesLeft> files;
+      if (!hasFiles) files.emplace();
+      driver.Start();
+    }
+    EXPECT_EQ(driver.Problem().isEmpty(), hasFiles) << qPrintable(driver.Problem());
+    loop.exec();
+  };
+  search(true);
+  EXPECT_THAT(found, SizeIs(2));
+  EXPECT_EQ(found["127.0.0.1"].mac, "02:00:00:00:00:01");
+  search(false);
 }
 
 // The simulator program answers, at loopback addresses alone.

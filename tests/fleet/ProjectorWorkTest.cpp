@@ -52,7 +52,7 @@ class UpsetProjector final : public ForwardingChannel {
   }
 };
 
-struct Case {
+struct WorkCase {
   FleetWork work;
   const char* expected;  ///< The outcome's name and the reason.
   Upset upset = Upset::Nothing;
@@ -88,7 +88,7 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
   const SetSetting mirror{"main.mirror", "H Inverse"}, brighter{"main.brightness", "+2"};
   const auto saved = Saved("main.mirror", 2);
   using enum Upset;
-  const Case cases[] = {
+  const WorkCase cases[] = {
       {adjust, "Done: "},
       {adjust, "Refused: refused", Refuses, Op::ExecAutoAdjust},
       {adjust, "NoAnswer: no connection", Silent, Op::ExecAutoAdjust},
@@ -127,7 +127,7 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
   };
   constexpr const char* kOutcomes[] = {"Waiting", "Working",  "Done",   "Pending",
                                        "Refused", "NoAnswer", "Stopped"};
-  for (const Case& one : cases) {
+  for (const WorkCase& one : cases) {
     const auto projector = std::make_shared<UpsetProjector>();
     projector->upset = one.upset;
     projector->at = one.at;

@@ -14,17 +14,17 @@
 
 namespace {
 
-using Kind = LineFault::Kind;
+using Faulty = LineFault::Kind;
 
 TEST(FaultyLine, ClosesWhenEverythingIsWritten) {
-  for (const Kind kind : {Kind::None, Kind::Late, Kind::Trickle}) {
+  for (const Faulty kind : {Faulty::None, Faulty::Late, Faulty::Trickle}) {
     QBuffer line;
     ASSERT_TRUE(line.open(QIODevice::WriteOnly));
     const LineFault fault{kind, 1};
     FaultyLine replies(line, fault);
     replies.Send("ab");
     replies.Send("cd");
-    EXPECT_EQ(replies.Backlog(), kind == Kind::None ? 0U : kind == Kind::Late ? 4U : 3U);
+    EXPECT_EQ(replies.Backlog(), kind == Faulty::None ? 0U : kind == Faulty::Late ? 4U : 3U);
     replies.Close();
     replies.Send("nothing more");
     EXPECT_TRUE(Soon([&] { return !line.isOpen(); }));
@@ -32,16 +32,16 @@ TEST(FaultyLine, ClosesWhenEverythingIsWritten) {
   }
   QBuffer line;
   ASSERT_TRUE(line.open(QIODevice::WriteOnly));
-  LineFault fault{Kind::Silent};
+  LineFault fault{Faulty::Silent};
   FaultyLine replies(line, fault);
   replies.Send("lost");
-  fault = {Kind::Garbage};
+  fault = {Faulty::Garbage};
   replies.Send("ab");
-  fault = {Kind::Cut, 1};
+  fault = {Faulty::Cut, 1};
   replies.Send("cut");
   EXPECT_EQ(line.data(), "??c");
   EXPECT_TRUE(line.isOpen()) << "as a serial line stays";
-  fault = {Kind::Late, 1};
+  fault = {Faulty::Late, 1};
   replies.Send("late");
   line.close();
   EXPECT_TRUE(Soon([&] { return replies.Backlog() == 0; }));

@@ -7,7 +7,8 @@
 //   FAIL_COUNTS=PATH   writes to this file how many allocations and system calls main has made
 //   FAIL_LATER=1       the two above count from the program's call of BeginFailing to EndFailing
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
-//   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
+//   FAIL_NEW_NAME=1    renaming that never replaces a file, as on a file system that does not know
+//   it FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
 #include <algorithm>
 #include <atomic>
@@ -128,6 +129,7 @@ int __libc_start_main(Main* program, int argc, char** argv, void (*init)(), void
 void BeginFailing() { isInMain = true; }
 void EndFailing() { isInMain = false; }
 
+#ifndef SANITIZED  // then the program has its own
 void* malloc(std::size_t size) { return FailsAllocation() ? nullptr : __libc_malloc(size); }
 
 void* calloc(std::size_t count, std::size_t size) {
@@ -137,6 +139,7 @@ void* calloc(std::size_t count, std::size_t size) {
 void* realloc(void* block, std::size_t size) {
   return FailsAllocation() ? nullptr : __libc_realloc(block, size);
 }
+#endif
 
 int open(const char* path, int flags, ...) {
   std::va_list arguments;
@@ -182,6 +185,10 @@ int ppoll(pollfd* files, nfds_t count, const timespec* timeOut, const sigset_t* 
 int rename(const char* from, const char* to) noexcept { return Call<int>("rename", EIO, from, to); }
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
               unsigned flags) noexcept {
+  if (flags != 0 && std::getenv("FAIL_NEW_NAME") != nullptr) {
+    errno = EINVAL;
+    return -1;
+  }
   return Call<int>("renameat2", EIO, fromFolder, from, toFolder, to, flags);
 }
 

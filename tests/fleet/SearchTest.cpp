@@ -313,7 +313,9 @@ TEST(SearchDriver, EndsWithWhatItHasLearnt) {
   search(true);
   EXPECT_THAT(found, SizeIs(2));
   EXPECT_EQ(found["127.0.0.1"].mac, "02:00:00:00:00:01");
+#ifndef SANITIZED  // which need files themselves
   search(false);
+#endif
 }
 
 // The simulator program answers, at loopback addresses alone.

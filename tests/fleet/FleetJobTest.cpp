@@ -10,6 +10,7 @@
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
+#include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
 
@@ -141,6 +142,12 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
   EXPECT_EQ(std::ranges::count(told, "HDMI (31)", &SavedSetting::text), 1);
   EXPECT_GT(taken[1].snapshot->settings.size(), 20);
   EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer}));
+  auto problem = SerialLine::Problem::None;
+  int file = -1;
+  ASSERT_TRUE(
+      Becomes([&] { return (file = SerialLine::Open(line.device, line.baud, problem)) >= 0; }));
+  EXPECT_EQ(Do(TakeSnapshots())[1].outcome, NoAnswer) << "another program has the port";
+  SerialLine::Close(file);
 }
 
 TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThread) {

@@ -64,6 +64,12 @@ TEST(FleetTurns, StaysAwayWhileSomebodyElseWorks) {
   EXPECT_FALSE(fleet.states.State("b"));
   fleet.RunFor(100s);
   EXPECT_EQ(other.connections.size(), asked + 4);
+  fleet.Add("c");
+  fleet.Add("d");
+  fleet.RunFor(10s);
+  for (const char* const id : {"a", "c", "d"}) {
+    EXPECT_EQ(fleet.State(id).reachability, Reachability::Answers) << id;
+  }
 }
 
 TEST(FleetTurns, TakesTurnsAtAnAddress) {

@@ -75,11 +75,12 @@ class ProjectorWorkTest : public testing::Test {
     model->ModelCode = 1;
     const std::function<bool()> goesOn = [&] { return projector->goesOn; };
     ProjectorWork one({"a", {}, model}, projector, texts, goesOn, [](auto&&...) {});
-    return one.Do(work, [](const Snapshot& undo) { EXPECT_FALSE(undo.settings.empty()); });
+    return one.Do(work, [this](const Snapshot& undo) { kept = undo.settings; });
   }
 
   const std::vector<std::string> folders{TEST_CATALOG_DIR};
   const SettingTexts texts{folders, 1033};
+  std::vector<SavedSetting> kept;  ///< The last undo.
 };
 
 TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
@@ -138,6 +139,10 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
               one.expected)
         << &one - cases;
   }
+  kept.clear();
+  EXPECT_EQ(Do(saved, std::make_shared<UpsetProjector>()).undo->settings, kept);
+  ASSERT_EQ(kept.size(), 1U);
+  EXPECT_EQ(kept[0].value, 0);
 }
 
 TEST_F(ProjectorWorkTest, TellsWhyASettingIsNotAsSaved) {

@@ -6,7 +6,6 @@
 #include <numeric>
 
 #include "app/simulator/PseudoTerminal.h"
-#include "device/channels/ForwardingChannel.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
@@ -84,15 +83,6 @@ TEST_F(FleetJobTest, SetsOnAllAndUndoesTheRun) {
   for (const char* const wrong : {"", "[]", R"({"undoOfJob":[{"id":"a","snapshot":{}}]})",
                                   R"({"undoOfJob":[{"snapshot":{}}]})"}) {
     EXPECT_NE(ReadFleetUndo(wrong).error, QString()) << wrong;
-  }
-}
-
-TEST_F(FleetJobTest, RefusesWhatNoModelTakes) {
-  for (const SetSetting& wrong :
-       {SetSetting{"no.such", "1"}, {"setup.mirror", "9999"}, {"status.lamp-time", "1"}}) {
-    for (const WorkResult& result : Do(wrong)) {
-      EXPECT_TRUE(result.outcome == Refused && !result.reason.empty()) << wrong.key;
-    }
   }
 }
 
@@ -186,31 +176,6 @@ TEST_F(FleetJobTest, WorksOnOneAtATimeAtAnAddress) {
     silent.connections.back()->close();
   }
   EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
-}
-
-/// Accepts to be switched off, and stays on.
-class LazyProjector final : public ForwardingChannel {
- public:
-  explicit LazyProjector(std::shared_ptr<ProjectorChannel> inner)
-      : ForwardingChannel(std::move(inner)) {}
-  PjtReply Execute(const PjtCommand& command) override {
-    if (command.operation != PjtOperation::SetPowerOff) return Inner().Execute(command);
-    return {.result = AcceptedResult(command.operation)};
-  }
-};
-
-TEST_F(FleetJobTest, TellsWhatIsAcceptedAndNotYetSo) {
-  const auto lazy = std::make_shared<LazyProjector>(served[0].device);
-  WireServer wire(lazy);
-  PjLinkServer pjLink(lazy, {});
-  ASSERT_TRUE(pjLink.Listen("127.0.0.1", 0));
-  targets = {
-      {"wire", TcpAddress{.host = "127.0.0.1", .port = wire.Listen(QHostAddress::LocalHost, 0)}},
-      {"pjlink", PjLinkAddress{.host = "127.0.0.1",
-                               .port = static_cast<std::uint16_t>(pjLink.Port()),
-                               .password = {}}}};
-  EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Pending, Pending}));
-  EXPECT_EQ(Outcomes(Do(SwitchPower{true})), (std::vector{Done, Done}));
 }
 
 TEST_F(FleetJobTest, StopsAtOnceWhenItIsCancelled) {

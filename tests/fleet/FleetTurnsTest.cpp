@@ -130,31 +130,6 @@ TEST(FleetTurns, OneThatWaitsMayLeave) {
   EXPECT_EQ(queue.Hold(place), 3U);
 }
 
-TEST(FleetTurns, WhatIsAskedOfNobodyChangesNothing) {
-  SteppedFleet fleet({.jitter = 0});
-  Projector& it = fleet.Add("a");
-  fleet.watcher.SetInterval(120s);
-  for (const char* const id : {"nobody", "a"}) {
-    if (*id == 'n') fleet.watcher.Remove(id);
-    fleet.watcher.Resume(id);
-    fleet.watcher.Pause("nobody");
-    fleet.watcher.AskSoon("nobody");
-    fleet.states.Change("nobody", [](LiveState&) { ADD_FAILURE(); });
-  }
-  EXPECT_TRUE(fleet.states.History("nobody").empty());
-  fleet.watcher.SetAsking(true);
-  it.device.answers = 500ms;
-  fleet.RunFor(1s);
-  ASSERT_EQ(it.open, 1);
-  fleet.watcher.SetInterval(60s);
-  EXPECT_EQ(it.open, 1) << "the visit goes on";
-  fleet.RunFor(61s);
-  EXPECT_EQ(it.connections.size(), 2) << "by the new interval";
-  fleet.watcher.Pause("a");
-  fleet.RunFor(300s);
-  EXPECT_EQ(it.connections.size(), 2);
-}
-
 TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
   SteppedFleet fleet({.visitsAtOnce = 2000});
   for (int i = 0; i < 1100; ++i) fleet.Add(std::to_string(i)).isThere = false;

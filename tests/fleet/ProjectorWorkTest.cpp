@@ -90,6 +90,9 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
   const auto saved = Saved("main.mirror", 2);
   using enum Upset;
   const WorkCase cases[] = {
+      {SetSetting{"no.such", "1"}, "Refused: the model has no such setting"},
+      {SetSetting{"status.lamp-time", "1"}, "Refused: it cannot be set"},
+      {SetSetting{mirror.key, "9999"}, "Refused: '9999' leads to no value that the setting allows"},
       {adjust, "Done: "},
       {adjust, "Refused: refused", Refuses, Op::ExecAutoAdjust},
       {adjust, "NoAnswer: no connection", Silent, Op::ExecAutoAdjust},

@@ -1,19 +1,10 @@
 // Finding projectors on the network, and entering them in a profile file.
 
 #include <algorithm>
-#include <chrono>
 #include <gmock/gmock.h>
-#include <map>
 #include <optional>
 #include <string>
 
-#include <QCoreApplication>
-#include <QEventLoop>
-#include <QNetworkDatagram>
-#include <QNetworkProxy>
-#include <QTcpServer>
-#include <QTcpSocket>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "fleet/ProfileEdits.h"
@@ -23,8 +14,6 @@
 #include "fleet/SearchRange.h"
 #include "simulator/PjLinkProjectorSession.h"
 #include "simulator/SimulatedProjector.h"
-#include "tests/support/Limited.h"
-#include "tests/support/Programs.h"
 
 namespace {
 
@@ -263,107 +252,6 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
       taken.text, {At("192.0.2.5", "", "5"), At("192.0.2.2", "A", "", "00:00:5e:00:53:01")}, "");
   EXPECT_EQ(again.known, 2U);
   EXPECT_EQ(again.text, taken.text);
-}
-
-// One that answers everywhere and leaves soon.
-TEST(SearchDriver, EndsWithWhatItHasLearnt) {
-  int count = 0;
-  QCoreApplication application(count, nullptr);
-  QTcpServer greets;
-  greets.setProxy(QNetworkProxy::NoProxy);
-  ASSERT_TRUE(greets.listen(QHostAddress::AnyIPv4));
-  QObject::connect(&greets, &QTcpServer::newConnection, [&greets] {
-    QTcpSocket* const client = greets.nextPendingConnection();
-    client->write("PJLINK 0\r");
-    client->disconnectFromHost();
-  });
-  QUdpSocket responder, taken;
-  for (QUdpSocket* const socket : {&responder, &taken}) socket->setProxy(QNetworkProxy::NoProxy);
-  ASSERT_TRUE(responder.bind(QHostAddress::LocalHost, greets.serverPort()));
-  ASSERT_TRUE(taken.bind(QHostAddress::AnyIPv4));
-  QObject::connect(&responder, &QUdpSocket::readyRead, [&responder] {
-    const auto asker = responder.receiveDatagram();
-    for (const char* const answer :
-         {"%2ACKN=?", "%2ACKN=02:00:00:00:00:01\r", "%2ACKN=02:00:00:00:00:02\r"}) {
-      responder.writeDatagram(answer, asker.senderAddress(),
-                              static_cast<quint16>(asker.senderPort()));
-    }
-  });
-  SearchOptions options{.addresses = {QHostAddress("127.0.0.2"), QHostAddress("127.0.0.1")},
-                        .broadcasts = {QHostAddress("127.0.0.1")},
-                        .port = greets.serverPort(),
-                        .answerPort = taken.localPort(),
-                        .atOnce = 1,
-                        .perSecond = 50,
-                        .answers = std::chrono::milliseconds(300)};
-  std::map<std::string, FoundProjector> found;
-  const auto search = [&](bool hasFiles) {
-    QEventLoop loop;
-    SearchDriver driver(
-        options, [&](const FoundProjector& one) { found[one.address] = one; },
-        [&] { loop.quit(); });
-    {
-      std::optional<NoFilesLeft> files;
-      if (!hasFiles) files.emplace();
-      driver.Start();
-    }
-    EXPECT_EQ(driver.Problem().isEmpty(), hasFiles) << qPrintable(driver.Problem());
-    loop.exec();
-  };
-  search(true);
-  EXPECT_THAT(found, SizeIs(2));
-  EXPECT_EQ(found["127.0.0.1"].mac, "02:00:00:00:00:01");
-#ifndef SANITIZED  // which need files themselves
-  search(false);
-#endif
-}
-
-// The simulator program answers, at loopback addresses alone.
-TEST(SearchDriver, FindsAFleetByRangeAndByBroadcast) {
-  constexpr std::size_t kCount = 20;
-  int count = 0;
-  QCoreApplication application(count, nullptr);
-  const SimulatorProcess simulator({"--fleet", QString::number(kCount), "--control", "0"});
-  SearchOptions options;
-  options.port = simulator.Address("pjlink").section(':', -1).toUShort();
-  options.answerPort = 0;
-  options.answers = std::chrono::seconds(60);
-  options.limits = {.connect = std::chrono::seconds(30), .answer = std::chrono::seconds(30)};
-  // Ends with so many, or with the search.
-  const auto search = [&](std::size_t wanted) {
-    std::map<std::string, FoundProjector> found;
-    QEventLoop loop;
-    SearchDriver driver(
-        options,
-        [&](const FoundProjector& projector) {
-          found[projector.address] = projector;
-          if (found.size() == wanted) loop.quit();
-        },
-        [&] { loop.quit(); });
-    driver.Start();
-    loop.exec();
-    EXPECT_EQ(driver.Problem(), "");
-    return found;
-  };
-  options.addresses = ParseSearchRange("127.64.0.1-127.64.0.20").addresses;
-  options.perSecond = 50;
-  const auto start = std::chrono::steady_clock::now();
-  const auto byRange = search(kCount + 1);
-  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(350));
-  ASSERT_THAT(byRange, SizeIs(kCount));
-  const auto isSecond = [](const auto& found) { return found.second.protocolClass == '2'; };
-  const auto ofSecondClass = std::ranges::count_if(byRange, isSecond);
-  options.addresses.clear();
-  options.broadcasts = {QHostAddress("127.255.255.255")};
-  const auto byBroadcast = search(static_cast<std::size_t>(ofSecondClass));
-  for (const auto& [address, found] : byRange) {
-    const auto same = byBroadcast.find(address);
-    EXPECT_EQ(same != byBroadcast.end(), found.protocolClass == '2') << address;
-    if (same == byBroadcast.end()) continue;
-    EXPECT_EQ(same->second.serial, found.serial);
-    EXPECT_EQ(same->second.inputs, found.inputs);
-    EXPECT_THAT(same->second.mac, HasSubstr("02:00:00:00:00:"));
-  }
 }
 
 }  // namespace

@@ -1,15 +1,9 @@
-// How a simulated projector's replies leave, and how its ports go on.
+// How a simulated projector's replies leave.
 
 #include <QBuffer>
-#include <QNetworkProxy>
-#include <QTcpSocket>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include "simulator/FaultyLine.h"
-#include "simulator/PjLinkServer.h"
-#include "simulator/SimulatedProjector.h"
-#include "tests/support/Limited.h"
 #include "tests/support/Soon.h"
 
 namespace {
@@ -46,30 +40,6 @@ TEST(FaultyLine, ClosesWhenEverythingIsWritten) {
   line.close();
   EXPECT_TRUE(Soon([&] { return replies.Backlog() == 0; }));
   EXPECT_EQ(line.data(), "??c") << "the other end has left meanwhile";
-}
-
-TEST(TcpListener, GoesOnWhenFilesWereUsedUp) {
-  PjLinkServer server(std::make_shared<SimulatedProjector>(), {});
-  ASSERT_TRUE(server.Listen("127.0.0.1", 0));
-  QTcpSocket first, second;
-  // Connects while the server cannot accept.
-  const auto connect = [&](QTcpSocket& client) {
-    client.setProxy(QNetworkProxy::NoProxy);
-    client.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(server.Port()));
-    const NoFilesLeft files;
-    EXPECT_TRUE(client.waitForConnected());
-    QTest::qWait(20);
-    EXPECT_EQ(client.bytesAvailable(), 0);
-  };
-  connect(first);
-  EXPECT_TRUE(Soon([&] { return first.canReadLine() || first.bytesAvailable() > 0; }));
-  connect(second);
-  server.Close();
-  QTest::qWait(150);  // it must not accept again
-  EXPECT_TRUE(Soon([&] {
-    return first.state() == QAbstractSocket::UnconnectedState &&
-           second.state() == QAbstractSocket::UnconnectedState;
-  }));
 }
 
 }  // namespace

@@ -14,7 +14,16 @@ namespace {
 
 using Op = PjtOperation;
 
-enum class Upset : std::uint8_t { Nothing, Refuses, Lacks, Busy, Pending, Silent, Cancels };
+enum class Upset : std::uint8_t {
+  Nothing,
+  Refuses,
+  Lacks,
+  Busy,
+  Pending,
+  Ignores,
+  Silent,
+  Cancels
+};
 
 /// A simulated projector that is upset by a command, and does not carry it out.
 class UpsetProjector final : public ForwardingChannel {
@@ -29,8 +38,8 @@ class UpsetProjector final : public ForwardingChannel {
     passes = 0;
     if (upset == Upset::Cancels) goesOn = false;
     if (upset == Upset::Cancels) return Inner().Execute(command);
-    if (upset == Upset::Pending) {
-      return {.result = AcceptedResult(command.operation), .pending = true};
+    if (upset == Upset::Pending || upset == Upset::Ignores) {
+      return {.result = AcceptedResult(command.operation), .pending = upset == Upset::Pending};
     }
     return {.result = RefusedResult(command.operation),
             .answered = upset != Upset::Silent,
@@ -111,6 +120,7 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
       {off, "NoAnswer: no connection", Silent, Op::Get, kPower},
       {off, "Pending: ", Refuses, Op::Get, kPower},
       {SwitchPower{false}, "Done: "},
+      {SwitchPower{false}, "Pending: ", Ignores, Op::SetPowerOff},
       {SwitchPower{false}, "Pending: ", Refuses, Op::Get, kPower},
       {SwitchPower{false}, "NoAnswer: no connection", Silent, Op::Get, kPower},
       {brighter, "Done: "},

@@ -111,7 +111,7 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
       {off, "Done: "},
       {on, "Done: "},
       {SetSetting{off.key, "x"}, "Refused: 'x' is not one of: Standby, On"},
-      {off, "Pending: ", Refuses, Op::SetPowerOff},
+      {off, "Refused: refused", Refuses, Op::SetPowerOff},
       {SwitchPower{false}, "Refused: refused", Refuses, Op::SetPowerOff},
       {off, "Refused: the projector does not have it", Lacks, Op::SetPowerOff},
       {off, "Refused: the projector is busy or in standby", Busy, Op::SetPowerOff},

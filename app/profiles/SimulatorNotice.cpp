@@ -1,6 +1,7 @@
 #include "app/profiles/SimulatorNotice.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QCryptographicHash>
@@ -32,11 +33,18 @@ struct flock Lock() {
 
 /// The file, locked by this process; −1 if that fails.
 int OpenLocked(const QString& path) {
-  const int file = open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  auto lock = Lock();
-  if (file < 0 || fcntl(file, F_SETLK, &lock) == 0) return file;
-  close(file);
-  return -1;
+  while (true) {
+    const int file = open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (file < 0) return -1;
+    auto lock = Lock();
+    struct stat status {};
+    // unreachable: an open file has a status
+    const bool isHeld = fcntl(file, F_SETLK, &lock) == 0 && fstat(file, &status) == 0;
+    // unreachable: the previous simulator would have to remove it just now
+    if (isHeld && status.st_nlink > 0) return file;
+    close(file);
+    if (!isHeld) return -1;  // unreachable: as above
+  }
 }
 
 }  // namespace
@@ -46,22 +54,24 @@ SimulatorNotice::SimulatorNotice(const QString& profiles, const ServedAddresses&
   if (path_.isEmpty()) return;
   QDir().mkpath(QFileInfo(path_).path());
   file_ = OpenLocked(path_);
-  if (file_ < 0) return;
   QJsonObject json;
   for (const auto& [name, address] : served) {
     json[QString::fromStdString(name)] = QString::fromStdString(address);
   }
   const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
-  // unreachable: a file that can be written can be emptied
-  if (ftruncate(file_, 0) != 0) return;
-  const auto written = write(file_, text.constData(), static_cast<std::size_t>(text.size()));
-  if (written == text.size()) return;
+  // unreachable: emptying fails only on a broken disk
+  const bool isTold = file_ >= 0 && ftruncate(file_, 0) == 0 &&
+                      write(file_, text.constData(), static_cast<std::size_t>(text.size())) ==
+                          static_cast<ssize_t>(text.size());
+  if (file_ < 0 || isTold) return;
   close(file_);
   file_ = -1;
 }
 
 SimulatorNotice::~SimulatorNotice() {
-  if (file_ >= 0) close(file_);
+  if (file_ < 0) return;
+  QFile::remove(path_);
+  close(file_);
 }
 
 ServedAddresses FindServed(const QString& profiles) {
@@ -72,8 +82,8 @@ ServedAddresses FindServed(const QString& profiles) {
   if (file < 0) return {};
   // Only tests for a lock: holding one would keep out a simulator that starts now.
   auto lock = Lock();
-  fcntl(file, F_GETLK, &lock);
-  const bool isHeld = lock.l_type != F_UNLCK;
+  // unreachable: asking fails only on a file system without locks
+  const bool isHeld = fcntl(file, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
   close(file);
   if (!isHeld) return {};
   ServedAddresses served;

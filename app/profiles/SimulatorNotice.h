@@ -9,9 +9,9 @@
 using ServedAddresses = std::map<std::string, std::string>;
 
 /// Publishes, while it exists, where a simulator serves the projectors of a profile file, for the
-/// other programs of the same user. Uses a locked file below XDG_RUNTIME_DIR, which stays there,
-/// unlocked, when nothing is published any more; without that variable nothing is published. If
-/// several simulators serve the same profile file, only the first one publishes.
+/// other programs of the same user. Uses a locked file below XDG_RUNTIME_DIR; without that variable
+/// nothing is published. If several simulators serve the same profile file, only the first one
+/// publishes.
 class SimulatorNotice {
  public:
   /// `profiles` is the path of the profile file.

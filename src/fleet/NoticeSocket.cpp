@@ -19,11 +19,11 @@ std::uint16_t NoticeSocket::Open(const std::string& address, std::uint16_t port)
   const int family = place->any.sa_family;
   socket_ = socket(family, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
   socklen_t size = place->Size();
-  if (socket_ < 0 || bind(socket_, &place->any, size) != 0) {
+  if (socket_ < 0 || bind(socket_, &place->any, size) != 0 ||
+      getsockname(socket_, &place->any, &size) != 0) {  // unreachable: only without buffers
     Close();
     return 0;
   }
-  getsockname(socket_, &place->any, &size);
   return ntohs(family == AF_INET ? place->v4.sin_port : place->v6.sin6_port);
 }
 

@@ -91,7 +91,8 @@ void SearchDriver::Visit::Drive() {
         Connect();
         break;
       case PjLinkStep::Kind::Send:
-        socket_->write(step.bytes.data(), static_cast<qint64>(step.bytes.size()));
+        // unreachable: the inquiry sends only while it is connected
+        if (socket_) socket_->write(step.bytes.data(), static_cast<qint64>(step.bytes.size()));
         break;
       case PjLinkStep::Kind::Close:
         Drop();

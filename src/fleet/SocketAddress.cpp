@@ -7,12 +7,14 @@
 
 namespace AdvancedControl {
 
-SocketAddress SocketAddress::Of(const sockaddr& address) {
+std::optional<SocketAddress> SocketAddress::Of(const sockaddr& address) {
   SocketAddress made{};
   if (address.sa_family == AF_INET) {
     made.v4 = reinterpret_cast<const sockaddr_in&>(address);
-  } else {
+  } else if (address.sa_family == AF_INET6) {  // unreachable: the system finds no others today
     made.v6 = reinterpret_cast<const sockaddr_in6&>(address);
+  } else {
+    return std::nullopt;
   }
   return made;
 }
@@ -31,13 +33,14 @@ std::optional<SocketAddress> ParseSocketAddress(const std::string& text, std::ui
   if (getaddrinfo(text.c_str(), nullptr, &hints, &found) != 0) return std::nullopt;
   const std::unique_ptr<addrinfo, decltype(&freeaddrinfo)> list(found, freeaddrinfo);
   auto address = SocketAddress::Of(*list->ai_addr);
-  address.SetPort(port);
+  if (address) address->SetPort(port);  // unreachable: as above
   return address;
 }
 
 std::string TextOf(const SocketAddress& address) {
   constexpr std::string_view kMapped = "::ffff:";
   std::array<char, NI_MAXHOST> text{};
+  // Leaves the text empty if it fails.
   getnameinfo(&address.any, address.Size(), text.data(), text.size(), nullptr, 0, NI_NUMERICHOST);
   const std::string_view whole = text.data();
   const bool isMapped = whole.starts_with(kMapped) && whole.find('.') != std::string_view::npos;

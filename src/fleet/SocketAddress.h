@@ -16,7 +16,7 @@ union SocketAddress {
   sockaddr_in6 v6;
 
   /// IPv4 or IPv6; nothing for other families.
-  static SocketAddress Of(const sockaddr& address);
+  static std::optional<SocketAddress> Of(const sockaddr& address);
   socklen_t Size() const;
   void SetPort(std::uint16_t port);
 };

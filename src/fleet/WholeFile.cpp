@@ -104,7 +104,8 @@ class StagedFile {
     isNamed_ = renameat2(AT_FDCWD, Encoded().constData(), AT_FDCWD, name.constData(),
                          RENAME_NOREPLACE) == 0;
     // Some file systems only know the older way.
-    if (!isNamed_ && errno != EEXIST && link(Encoded().constData(), name.constData()) == 0) {
+    if (!isNamed_ && (errno == EINVAL || errno == ENOSYS) &&
+        link(Encoded().constData(), name.constData()) == 0) {
       isNamed_ = unlink(Encoded().constData()) == 0;
     }
     return isNamed_;

@@ -95,7 +95,11 @@ TEST(Adversity, OnlyWhatTheDiskHasIsSaved) {
     EXPECT_EQ(Contents(file), kept);
     EXPECT_EQ(UndoFiles(), undo);
   }
-  const FailingCalls calls("FAIL_NEW_NAME", "1");
+  {
+    const FailingCalls calls("FAIL_NEW_NAME", QByteArray::number(ENOSPC));
+    EXPECT_THAT(Acctl(apply), Ends(1, HasSubstr(": No space left on device; nothing was sent\n")));
+  }
+  const FailingCalls calls("FAIL_NEW_NAME", QByteArray::number(EINVAL));
   EXPECT_EQ(Acctl(apply).exitCode, 0);
   EXPECT_EQ(UndoFiles().size(), undo.size() + 1) << "in the older way";
 }

@@ -7,8 +7,9 @@
 //   FAIL_COUNTS=PATH   writes to this file how many allocations and system calls main has made
 //   FAIL_LATER=1       the two above count from the program's call of BeginFailing to EndFailing
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
-//   FAIL_NEW_NAME=1    renaming that never replaces a file, as on a file system that does not know
-//   it FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
+//   FAIL_NEW_NAME=N    renaming that never replaces a file, with the error number N: EINVAL on a
+//                      file system that does not know it
+//   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
 #include <algorithm>
 #include <atomic>
@@ -185,8 +186,8 @@ int ppoll(pollfd* files, nfds_t count, const timespec* timeOut, const sigset_t* 
 int rename(const char* from, const char* to) noexcept { return Call<int>("rename", EIO, from, to); }
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
               unsigned flags) noexcept {
-  if (flags != 0 && std::getenv("FAIL_NEW_NAME") != nullptr) {
-    errno = EINVAL;
+  if (const long error = Number("FAIL_NEW_NAME"); flags != 0 && error != 0) {
+    errno = static_cast<int>(error);
     return -1;
   }
   return Call<int>("renameat2", EIO, fromFolder, from, toFolder, to, flags);

@@ -25,22 +25,32 @@ namespace {
 using testing::HasSubstr;
 using testing::SizeIs;
 
-// One that answers everywhere and leaves soon.
+// Two that greet and leave.
 TEST(SearchDriver, EndsWithWhatItHasLearnt) {
   int count = 0;
   QCoreApplication application(count, nullptr);
-  QTcpServer greets;
-  greets.setProxy(QNetworkProxy::NoProxy);
-  ASSERT_TRUE(greets.listen(QHostAddress::AnyIPv4));
-  QObject::connect(&greets, &QTcpServer::newConnection, [&greets] {
-    QTcpSocket* const client = greets.nextPendingConnection();
-    client->write("PJLINK 0\r");
-    client->disconnectFromHost();
-  });
+  const QHostAddress first("127.0.0.1"), second("127.0.0.2");
+  QTcpServer greets, others;
   QUdpSocket responder, taken;
+  for (QTcpServer* const server : {&greets, &others}) {
+    server->setProxy(QNetworkProxy::NoProxy);
+    QObject::connect(server, &QTcpServer::newConnection, [server] {
+      QTcpSocket* const client = server->nextPendingConnection();
+      client->write("PJLINK 0\r");
+      client->disconnectFromHost();
+    });
+  }
   for (QUdpSocket* const socket : {&responder, &taken}) socket->setProxy(QNetworkProxy::NoProxy);
-  ASSERT_TRUE(responder.bind(QHostAddress::LocalHost, greets.serverPort()));
-  ASSERT_TRUE(taken.bind(QHostAddress::AnyIPv4));
+  // A port that is free at all three places.
+  for (int i = 0; i < 100 && responder.state() != QAbstractSocket::BoundState; ++i) {
+    greets.close();
+    others.close();
+    if (greets.listen(first) && others.listen(second, greets.serverPort())) {
+      responder.bind(first, greets.serverPort());
+    }
+  }
+  ASSERT_EQ(responder.localPort(), greets.serverPort());
+  ASSERT_TRUE(taken.bind(first));
   QObject::connect(&responder, &QUdpSocket::readyRead, [&responder] {
     const auto asker = responder.receiveDatagram();
     for (const char* const answer :
@@ -49,18 +59,24 @@ TEST(SearchDriver, EndsWithWhatItHasLearnt) {
                               static_cast<quint16>(asker.senderPort()));
     }
   });
-  SearchOptions options{.addresses = {QHostAddress("127.0.0.2"), QHostAddress("127.0.0.1")},
-                        .broadcasts = {QHostAddress("127.0.0.1")},
+  using std::chrono::seconds;
+  SearchOptions options{.addresses = {second, first},
+                        .broadcasts = {first},
                         .port = greets.serverPort(),
                         .answerPort = taken.localPort(),
                         .atOnce = 1,
                         .perSecond = 50,
-                        .answers = std::chrono::milliseconds(300)};
+                        .answers = seconds(60),
+                        .limits = {.connect = seconds(30), .answer = seconds(30)}};
   std::map<std::string, FoundProjector> found;
   const auto search = [&](bool hasFiles) {
     QEventLoop loop;
     SearchDriver driver(
-        options, [&](const FoundProjector& one) { found[one.address] = one; },
+        options,
+        [&](const FoundProjector& one) {
+          found[one.address] = one;
+          if (hasFiles && found.size() == 2) loop.quit();
+        },
         [&] { loop.quit(); });
     {
       std::optional<NoFilesLeft> files;
@@ -74,6 +90,7 @@ TEST(SearchDriver, EndsWithWhatItHasLearnt) {
   EXPECT_THAT(found, SizeIs(2));
   EXPECT_EQ(found["127.0.0.1"].mac, "02:00:00:00:00:01");
 #ifndef SANITIZED  // which need files themselves
+  options.answers = {};
   search(false);
 #endif
 }

@@ -13,8 +13,9 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 MARK = re.compile(r"// unreachable: \S")
-# The compiler warns of a switch that leaves out an enumerator, so that nothing goes past all of its cases.
-SWITCH = re.compile(r"switch \(")
+# The compiler warns of a switch that leaves out an enumerator, so that nothing goes past all of its cases; those
+# over numbers count.
+SWITCH = re.compile(r"switch \(.*\n\s*case (\w+::)+\w+:")
 FOREVER = re.compile(r"while \(true\)")
 
 
@@ -52,7 +53,7 @@ def branches(name, record):
         if not MARK.search(comments) and not lines[line - 1].endswith("= default;"):
             if FOREVER.search(lines[line - 1]):
                 continue
-            if not SWITCH.search(lines[line - 1]):
+            if not SWITCH.search("\n".join(lines[line - 1:line + 1])):
                 taken[line, column, True] += true
             taken[line, column, False] += false
     return taken

@@ -19,9 +19,9 @@ int CloseFailed(int socket) {
   return -1;
 }
 
-bool SetOption(int socket, int level, int option) {
+void SetOption(int socket, int level, int option) {
   constexpr int kOn = 1;
-  return setsockopt(socket, level, option, &kOn, sizeof kOn) == 0;
+  setsockopt(socket, level, option, &kOn, sizeof kOn);
 }
 
 }  // namespace
@@ -34,9 +34,9 @@ int Open(int type, std::uint16_t port) {
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_ANY);
   address.sin_port = htons(port);
+  SetOption(made, SOL_SOCKET, SO_REUSEADDR);
   const bool isBound =
       setsockopt(made, SOL_SOCKET, SO_BINDTODEVICE, kLoopback, sizeof kLoopback) == 0 &&
-      SetOption(made, SOL_SOCKET, SO_REUSEADDR) &&
       bind(made, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
   return isBound ? made : CloseFailed(made);
 }

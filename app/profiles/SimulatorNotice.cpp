@@ -38,10 +38,12 @@ int OpenLocked(const QString& path) {
     if (file < 0) return -1;
     auto lock = Lock();
     struct stat status {};
+    // unreachable: an open file has a status
     const bool isHeld = fcntl(file, F_SETLK, &lock) == 0 && fstat(file, &status) == 0;
+    // unreachable: the previous simulator would have to remove it just now
     if (isHeld && status.st_nlink > 0) return file;
     close(file);
-    if (!isHeld) return -1;  // otherwise, the previous simulator has just removed it
+    if (!isHeld) return -1;  // unreachable: as above
   }
 }
 
@@ -57,6 +59,7 @@ SimulatorNotice::SimulatorNotice(const QString& profiles, const ServedAddresses&
     json[QString::fromStdString(name)] = QString::fromStdString(address);
   }
   const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
+  // unreachable: emptying fails only on a broken disk
   const bool isTold = file_ >= 0 && ftruncate(file_, 0) == 0 &&
                       write(file_, text.constData(), static_cast<std::size_t>(text.size())) ==
                           static_cast<ssize_t>(text.size());
@@ -79,6 +82,7 @@ ServedAddresses FindServed(const QString& profiles) {
   if (file < 0) return {};
   // Only tests for a lock: holding one would keep out a simulator that starts now.
   auto lock = Lock();
+  // unreachable: asking fails only on a file system without locks
   const bool isHeld = fcntl(file, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
   close(file);
   if (!isHeld) return {};

@@ -29,7 +29,6 @@ std::string Table::Text() const {
     std::string line;
     for (std::size_t i = 0; i < row.size(); ++i) {
       line += row[i];
-      if (i + 1 == row.size()) break;
       const int gap = widths[i] - DisplayWidth(row[i]) + 2;
       line.append(static_cast<std::size_t>(gap), ' ');
     }

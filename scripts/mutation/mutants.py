@@ -135,7 +135,8 @@ class Finder:
         if text in ("true", "false"):
             self.add("cell", start, len(text), "false" if text == "true" else "true")
         elif re.fullmatch(r"(0[xX][0-9A-Fa-f']+|[0-9']+)[uUlL]*", text):
-            number = int(text.rstrip("uUlL").replace("'", ""), 0)
+            digits = re.sub(r"^0(?=[0-7])", "0o", text.rstrip("uUlL").replace("'", ""))
+            number = int(digits, 0)
             up = number == 0 or hashlib.sha256(f"{self.file}{start}".encode()).digest()[0] % 2 == 0
             changed = number + (1 if up else -1)
             self.add("cell", start, len(text), hex(changed) if text[:2] in ("0x", "0X") else str(changed))

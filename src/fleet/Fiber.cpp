@@ -1,10 +1,9 @@
 #include "fleet/Fiber.h"
 
-#include <cerrno>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <sys/mman.h>
-#include <system_error>
 #include <ucontext.h>
 #include <unistd.h>
 
@@ -83,7 +82,7 @@ Fiber::Stack::Stack(Fiber* fiber) : guard_(static_cast<std::size_t>(sysconf(_SC_
   void* const memory = mmap(nullptr, guard_ + kStackBytes, PROT_READ | PROT_WRITE,
                             MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE | MAP_STACK, -1, 0);
   if (memory == MAP_FAILED || mprotect(memory, guard_, PROT_NONE) != 0) {
-    throw std::system_error(errno, std::generic_category(), "stack");
+    throw std::bad_alloc();
   }
   memory_ = static_cast<std::byte*>(memory);
   getcontext(&own_);

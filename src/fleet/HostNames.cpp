@@ -27,9 +27,7 @@ std::optional<SocketAddress> HostNames::AddressOf(const std::string& name,
   return address;
 }
 
-void HostNames::TakeFailure(const std::string& name) {
-  if (const auto known = known_.find(name); known != known_.end()) ++known->second.next;
-}
+void HostNames::TakeFailure(const std::string& name) { ++known_.at(name).next; }
 
 std::vector<HostNames::Answer> HostNames::Take() {
   std::vector<Answer> answers;

@@ -23,6 +23,7 @@ std::vector<SocketAddress> AddressesOf(const std::string& name) {
   const std::unique_ptr<addrinfo, decltype(&freeaddrinfo)> list(first, freeaddrinfo);
   std::vector<SocketAddress> addresses;
   for (const addrinfo* found = first; found != nullptr; found = found->ai_next) {
+    // unreachable: the system finds only addresses of the two kinds today
     if (const auto address = SocketAddress::Of(*found->ai_addr)) addresses.push_back(*address);
   }
   return addresses;

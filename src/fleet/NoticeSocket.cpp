@@ -1,7 +1,6 @@
 #include "fleet/NoticeSocket.h"
 
 #include <array>
-#include <cerrno>
 #include <string_view>
 #include <unistd.h>
 #include <utility>
@@ -21,7 +20,7 @@ std::uint16_t NoticeSocket::Open(const std::string& address, std::uint16_t port)
   socket_ = socket(family, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
   socklen_t size = place->Size();
   if (socket_ < 0 || bind(socket_, &place->any, size) != 0 ||
-      getsockname(socket_, &place->any, &size) != 0) {
+      getsockname(socket_, &place->any, &size) != 0) {  // unreachable: only without buffers
     Close();
     return 0;
   }
@@ -34,12 +33,11 @@ std::optional<FleetNetwork::Notice> NoticeSocket::Next() const {
   while (true) {
     socklen_t size = sizeof sender;
     const auto length = recvfrom(socket_, text.data(), text.size(), 0, &sender.any, &size);
-    if (length < 0 && errno != EINTR) return std::nullopt;
-    if (length <= 0) continue;
+    if (length < 0) return std::nullopt;
     const std::string_view datagram(text.data(), static_cast<std::size_t>(length));
     if (!PjLink::IsNotice(datagram)) continue;
     const auto line = PjLink::Parse(datagram.substr(0, datagram.find_first_of("\r\n")));
-    if (line) return FleetNetwork::Notice{TextOf(sender), line->command, line->parameter};
+    return FleetNetwork::Notice{TextOf(sender), line->command, line->parameter};
   }
 }
 

@@ -24,7 +24,7 @@ SessionTime PeerTimers::First() const {
 }
 
 std::optional<PeerTimers::Peer> PeerTimers::TakeDue(SessionTime now) {
-  if (First() > now || order_.empty()) return std::nullopt;
+  if (order_.empty() || First() > now) return std::nullopt;
   const Peer peer = order_.begin()->second;
   Clear(peer);
   return peer;

@@ -41,7 +41,6 @@ std::span<const Question> Questions() {
     std::vector<Question> questions;
     for (const StatusItem item : kAllStatusItems) {
       const PjLinkMapping* const mapping = PjLinkMapping::Find(ReadingOf(item).Command());
-      if (mapping == nullptr) continue;
       const auto same = std::ranges::find(questions, mapping->command, [](const auto& question) {
         return question.mapping->command;
       });

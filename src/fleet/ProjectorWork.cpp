@@ -82,11 +82,7 @@ WorkResult ProjectorWork::Do(const FleetWork& work,
 }
 
 WorkResult ProjectorWork::Do(const SwitchPower& power) {
-  const CPjtInterface::Tally before = connection_.Sent();
-  const auto operation = power.on ? PjtOperation::SetPowerOn : PjtOperation::SetPowerOff;
-  const PjtReply reply = connection_.Execute({operation});
-  if (auto trouble = Trouble(before)) return *trouble;
-  if (!IsSuccess(operation, reply.result)) return Refused("refused");
+  if (auto trouble = Switch(power.on)) return *trouble;
   LiveState state;
   const auto value = Read(connection_, ReadingOf(StatusItem::Power));
   if (!value) return IsGone() ? Unanswered() : WorkResult{.outcome = WorkOutcome::Pending};
@@ -108,7 +104,7 @@ WorkResult ProjectorWork::Do(const SetSetting& set) {
   if (IsGone()) return Unanswered();
   const auto value = Resolve(*setting, *typed, present);
   if (!value) return Refused("'" + set.text + "' leads to no value that the setting allows");
-  if (!setting->Restorable()) return SetState(*setting, *value);
+  if (setting->IsPower()) return SetPower(*setting, *value);
   Snapshot snapshot = EmptySnapshot(id_, settings_.Model());
   snapshot.settings.push_back({set.key, *value, texts_.Value(*setting, *value), source});
   return Apply(snapshot);
@@ -187,16 +183,22 @@ WorkResult ProjectorWork::OutcomeOf(const Restoration& restoration) const {
   return {.outcome = WorkOutcome::Done};
 }
 
-/// Changes a state that is a switch. Snapshots do not contain it.
-WorkResult ProjectorWork::SetState(const ModelSetting& setting, int value) {
-  const CPjtInterface::Tally before = connection_.Sent();
-  const Sent sent = settings_.Change(connection_, setting, value, {texts_.Value(setting, value)});
-  if (auto trouble = Trouble(before)) return *trouble;
-  if (sent != Sent::Accepted) return Refused("refused");
-  if (!setting.readable) return {.outcome = WorkOutcome::Done};
+/// The only state that is a switch. Snapshots do not contain it.
+WorkResult ProjectorWork::SetPower(const ModelSetting& setting, int value) {
+  if (auto trouble = Switch(value != 0)) return *trouble;
   const auto now = settings_.Read(connection_, setting);
   if (IsGone()) return Unanswered();
   return {.outcome = now == value ? WorkOutcome::Done : WorkOutcome::Pending};
+}
+
+/// Nothing if the projector accepts it. A dialog ignores the result of these commands.
+std::optional<WorkResult> ProjectorWork::Switch(bool on) {
+  const CPjtInterface::Tally before = connection_.Sent();
+  const auto operation = on ? PjtOperation::SetPowerOn : PjtOperation::SetPowerOff;
+  const PjtReply reply = connection_.Execute({operation});
+  if (auto trouble = Trouble(before)) return trouble;
+  if (!IsSuccess(operation, reply.result)) return Refused("refused");
+  return std::nullopt;
 }
 
 /// Does what a button does, with the entry of the list beside it, if there is one.

@@ -39,7 +39,8 @@ class ProjectorWork {
   WorkResult Apply(const Snapshot& snapshot);
   WorkResult OutcomeOf(const Restoration& restoration) const;
   WorkResult Run(const ModelSetting& action, const std::string& entry);
-  WorkResult SetState(const ModelSetting& setting, int value);
+  WorkResult SetPower(const ModelSetting& setting, int value);
+  std::optional<WorkResult> Switch(bool on);
   /// The outcome of a change whose reply led from `before` to the present tally, where that says
   /// more than that it was accepted.
   std::optional<WorkResult> Trouble(const CPjtInterface::Tally& before) const;

@@ -91,6 +91,7 @@ void SearchDriver::Visit::Drive() {
         Connect();
         break;
       case PjLinkStep::Kind::Send:
+        // unreachable: the inquiry sends only while it is connected
         if (socket_) socket_->write(step.bytes.data(), static_cast<qint64>(step.bytes.size()));
         break;
       case PjLinkStep::Kind::Close:
@@ -111,9 +112,8 @@ void SearchDriver::Visit::Connect() {
   Drop();
   socket_ = new QTcpSocket;
   socket_->setReadBufferSize(kReadBuffer);
-  const auto hear = [this, socket = socket_](auto signal, auto action) {
-    QObject::connect(socket, signal, &timer_, [this, socket, action] {
-      if (socket != socket_) return;
+  const auto hear = [this](auto signal, auto action) {
+    QObject::connect(socket_, signal, &timer_, [this, action] {
       action();
       Drive();
     });
@@ -121,9 +121,8 @@ void SearchDriver::Visit::Connect() {
   hear(&QTcpSocket::connected, [this] { inquiry_.Connection().Connected(); });
   hear(&QTcpSocket::readyRead,
        [this] { inquiry_.Connection().Received(socket_->readAll().toStdString(), Now()); });
-  QObject::connect(socket_, &QTcpSocket::errorOccurred, &timer_, [this, socket = socket_] {
-    if (socket != socket_) return;
-    const bool wasOpen = socket->error() == QAbstractSocket::RemoteHostClosedError;
+  QObject::connect(socket_, &QTcpSocket::errorOccurred, &timer_, [this] {
+    const bool wasOpen = socket_->error() == QAbstractSocket::RemoteHostClosedError;
     Drop();
     if (wasOpen) {
       inquiry_.Connection().Closed(Now());

@@ -143,7 +143,7 @@ void SocketNetwork::PassBytes(Peer peer, Listener& listener) {
   const std::uint32_t attempt = connection.Attempt();
   while (IsCurrent(peer, attempt)) {
     const auto size = connection.Receive(buffer_);
-    if (size < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) return;
+    if (size < 0 && errno == EAGAIN) return;
     if (size <= 0) {
       connection.Close();
       return listener.Closed(peer);

@@ -61,7 +61,8 @@ bool WriteAll(int file, const QByteArray& bytes) {
 
 // A pipe has no disk behind it, and some file systems cannot be asked.
 bool Sync(int file) {
-  return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
+  constexpr std::array kCannotBeAsked{EINVAL, ENOSYS, ENOTSUP};
+  return fsync(file) == 0 || std::ranges::find(kCannotBeAsked, errno) != kCannotBeAsked.end();
 }
 
 bool SyncFolderOf(const QString& path) {

@@ -6,10 +6,10 @@
 #include <numeric>
 
 #include "app/simulator/PseudoTerminal.h"
-#include "device/channels/ForwardingChannel.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
+#include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
 
@@ -86,15 +86,6 @@ TEST_F(FleetJobTest, SetsOnAllAndUndoesTheRun) {
   }
 }
 
-TEST_F(FleetJobTest, RefusesWhatNoModelTakes) {
-  for (const SetSetting& wrong :
-       {SetSetting{"no.such", "1"}, {"setup.mirror", "9999"}, {"status.lamp-time", "1"}}) {
-    for (const WorkResult& result : Do(wrong)) {
-      EXPECT_TRUE(result.outcome == Refused && !result.reason.empty()) << wrong.key;
-    }
-  }
-}
-
 TEST_F(FleetJobTest, TakesAndComparesSnapshotsAndSwitchesPower) {
   Fleet fleet;
   for (const FleetTarget& target : targets) fleet.Set(target);
@@ -141,6 +132,12 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
   EXPECT_EQ(std::ranges::count(told, "HDMI (31)", &SavedSetting::text), 1);
   EXPECT_GT(taken[1].snapshot->settings.size(), 20);
   EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer}));
+  auto problem = SerialLine::Problem::None;
+  int file = -1;
+  ASSERT_TRUE(
+      Becomes([&] { return (file = SerialLine::Open(line.device, line.baud, problem)) >= 0; }));
+  EXPECT_EQ(Do(TakeSnapshots())[1].outcome, NoAnswer) << "another program has the port";
+  SerialLine::Close(file);
 }
 
 TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThread) {
@@ -179,31 +176,6 @@ TEST_F(FleetJobTest, WorksOnOneAtATimeAtAnAddress) {
     silent.connections.back()->close();
   }
   EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
-}
-
-/// Accepts to be switched off, and stays on.
-class LazyProjector final : public ForwardingChannel {
- public:
-  explicit LazyProjector(std::shared_ptr<ProjectorChannel> inner)
-      : ForwardingChannel(std::move(inner)) {}
-  PjtReply Execute(const PjtCommand& command) override {
-    if (command.operation != PjtOperation::SetPowerOff) return Inner().Execute(command);
-    return {.result = AcceptedResult(command.operation)};
-  }
-};
-
-TEST_F(FleetJobTest, TellsWhatIsAcceptedAndNotYetSo) {
-  const auto lazy = std::make_shared<LazyProjector>(served[0].device);
-  WireServer wire(lazy);
-  PjLinkServer pjLink(lazy, {});
-  ASSERT_TRUE(pjLink.Listen("127.0.0.1", 0));
-  targets = {
-      {"wire", TcpAddress{.host = "127.0.0.1", .port = wire.Listen(QHostAddress::LocalHost, 0)}},
-      {"pjlink", PjLinkAddress{.host = "127.0.0.1",
-                               .port = static_cast<std::uint16_t>(pjLink.Port()),
-                               .password = {}}}};
-  EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Pending, Pending}));
-  EXPECT_EQ(Outcomes(Do(SwitchPower{true})), (std::vector{Done, Done}));
 }
 
 TEST_F(FleetJobTest, StopsAtOnceWhenItIsCancelled) {

@@ -48,6 +48,8 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   // Nobody is asked about a name that is too long.
   fleet.Set({"unnamed", TcpAddress{.host = std::string(64, 'a')}});
   fleet.Set({"closed", TcpAddress{.host = "127.0.0.1", .port = 1}});
+  fleet.Set({"closed by name", TcpAddress{.host = "localhost", .port = 1}});
+  fleet.Set({"nowhere", TcpAddress{.host = "255.255.255.255", .port = 1}});
   ASSERT_TRUE(Becomes([&] { return fleet.Tally().begun > 50; }));
   for (const char* const id : {"pjlink", "wire"}) {
     EXPECT_EQ(Reached(id), Reachability::Answers) << id;
@@ -55,7 +57,9 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   }
   EXPECT_EQ(Reached("locked"), Reachability::WrongPassword);
   EXPECT_EQ(Reached("other"), Reachability::NotUnderstood);
-  EXPECT_EQ(Reached("closed"), Reachability::Silent);
+  for (const char* const id : {"closed", "closed by name", "nowhere"}) {
+    EXPECT_TRUE(Becomes([&] { return Reached(id) == Reachability::Silent; })) << id;
+  }
   EXPECT_TRUE(Becomes([&] { return Reached("unnamed") == Reachability::Silent; }));
   EXPECT_EQ(fleet.State("unnamed")->connection, ConnectionState::NameUnknown);
 
@@ -136,12 +140,15 @@ TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {
     EXPECT_FALSE(PjLink::IsNotice(none)) << none;
   }
   EXPECT_EQ(fleet.ListenForNotices("127.0.0.1", port), 0) << "it is taken";
+  EXPECT_EQ(fleet.ListenForNotices("nowhere", port), 0);
   ASSERT_TRUE(Becomes([&] { return slow.Tally().answered == 1; }));
   QUdpSocket projector;
   projector.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
   const auto send = [&](const QByteArray& text) {
     projector.writeDatagram(text, QHostAddress::LocalHost, port);
   };
+  send("");
+  send("no notice");
   send("%2erst=002000\r\n");
   EXPECT_TRUE(Becomes([&] {
     const auto problems = slow.State("a")->problems;

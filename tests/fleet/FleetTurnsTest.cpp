@@ -64,6 +64,12 @@ TEST(FleetTurns, StaysAwayWhileSomebodyElseWorks) {
   EXPECT_FALSE(fleet.states.State("b"));
   fleet.RunFor(100s);
   EXPECT_EQ(other.connections.size(), asked + 4);
+  fleet.Add("c");
+  fleet.Add("d");
+  fleet.RunFor(10s);
+  for (const char* const id : {"a", "c", "d"}) {
+    EXPECT_EQ(fleet.State(id).reachability, Reachability::Answers) << id;
+  }
 }
 
 TEST(FleetTurns, TakesTurnsAtAnAddress) {
@@ -107,12 +113,50 @@ TEST(FleetTurns, TakesTurnsAtAnAddress) {
   EXPECT_GT(fleet.projectors["elsewhere"].connections.size(), 1);
 }
 
+TEST(FleetTurns, OneThatWaitsMayLeave) {
+  VisitQueue queue;
+  const VisitQueue::Address place{"shared", 1};
+  queue.Release(place);
+  for (const VisitQueue::Peer peer : {1U, 2U, 2U, 3U}) queue.Add(peer, place);
+  EXPECT_EQ(queue.Next(), 1U);
+  queue.Leave(2);
+  EXPECT_FALSE(queue.HasNext()) << "the first has its turn still";
+  EXPECT_EQ(queue.Hold(place), 1U);
+  queue.Leave(1);
+  EXPECT_EQ(queue.Next(), std::nullopt);
+  queue.Release(place);
+  queue.Release(place);
+  EXPECT_EQ(queue.Next(), 3U);
+  EXPECT_EQ(queue.Hold(place), 3U);
+}
+
+TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
+  SteppedFleet fleet({.visitsAtOnce = 2000});
+  for (int i = 0; i < 1100; ++i) fleet.Add(std::to_string(i)).isThere = false;
+  fleet.RunFor(30s);
+  for (const auto& [id, state] : fleet.states.States()) {
+    EXPECT_EQ(state.reachability, Reachability::Silent) << id;
+  }
+}
+
+TEST(FleetTurns, TellsThatChangesAreMissing) {
+  SteppedFleet fleet;
+  fleet.Add("a");
+  for (int i = 0; i <= 100'001; ++i)
+    fleet.states.Change("a", [i](LiveState& state) { state.drift = i; });
+  const FleetChanges oldest = fleet.states.TakeChanges();
+  EXPECT_TRUE(oldest.areMissing);
+  EXPECT_EQ(oldest.changes.front().change.now, FieldValue{2});
+  EXPECT_FALSE(fleet.states.TakeChanges().areMissing);
+}
+
 TEST(FleetTurns, KnowsAnAddressHoweverItIsWritten) {
   const auto place = [](const char* host) {
     return PlaceOf({"a", PjLinkAddress{.host = host, .password = {}}}).first;
   };
   EXPECT_EQ(place("2001:DB8:0::7"), "2001:db8::7");
   EXPECT_EQ(place("::ffff:192.0.2.7"), "192.0.2.7");
+  EXPECT_EQ(place("::FFFF:1:2:3"), "::ffff:1:2:3");
   EXPECT_EQ(place("Hall.example"), "hall.example");
 }
 

@@ -7,6 +7,8 @@
 //   FAIL_COUNTS=PATH   writes to this file how many allocations and system calls main has made
 //   FAIL_LATER=1       the two above count from the program's call of BeginFailing to EndFailing
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
+//   FAIL_NEW_NAME=N    renaming that never replaces a file, with the error number N: EINVAL on a
+//                      file system that does not know it
 //   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
 #include <algorithm>
@@ -128,6 +130,7 @@ int __libc_start_main(Main* program, int argc, char** argv, void (*init)(), void
 void BeginFailing() { isInMain = true; }
 void EndFailing() { isInMain = false; }
 
+#ifndef SANITIZED  // then the program has its own
 void* malloc(std::size_t size) { return FailsAllocation() ? nullptr : __libc_malloc(size); }
 
 void* calloc(std::size_t count, std::size_t size) {
@@ -137,6 +140,7 @@ void* calloc(std::size_t count, std::size_t size) {
 void* realloc(void* block, std::size_t size) {
   return FailsAllocation() ? nullptr : __libc_realloc(block, size);
 }
+#endif
 
 int open(const char* path, int flags, ...) {
   std::va_list arguments;
@@ -182,6 +186,10 @@ int ppoll(pollfd* files, nfds_t count, const timespec* timeOut, const sigset_t* 
 int rename(const char* from, const char* to) noexcept { return Call<int>("rename", EIO, from, to); }
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
               unsigned flags) noexcept {
+  if (const long error = Number("FAIL_NEW_NAME"); flags != 0 && error != 0) {
+    errno = static_cast<int>(error);
+    return -1;
+  }
   return Call<int>("renameat2", EIO, fromFolder, from, toFolder, to, flags);
 }
 

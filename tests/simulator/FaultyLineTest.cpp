@@ -1,0 +1,45 @@
+// How a simulated projector's replies leave.
+
+#include <QBuffer>
+#include <gtest/gtest.h>
+
+#include "simulator/FaultyLine.h"
+#include "tests/support/Soon.h"
+
+namespace {
+
+using Faulty = LineFault::Kind;
+
+TEST(FaultyLine, ClosesWhenEverythingIsWritten) {
+  for (const Faulty kind : {Faulty::None, Faulty::Late, Faulty::Trickle}) {
+    QBuffer line;
+    ASSERT_TRUE(line.open(QIODevice::WriteOnly));
+    const LineFault fault{kind, 1};
+    FaultyLine replies(line, fault);
+    replies.Send("ab");
+    replies.Send("cd");
+    EXPECT_EQ(replies.Backlog(), kind == Faulty::None ? 0U : kind == Faulty::Late ? 4U : 3U);
+    replies.Close();
+    replies.Send("nothing more");
+    EXPECT_TRUE(Soon([&] { return !line.isOpen(); }));
+    EXPECT_EQ(line.data(), "abcd");
+  }
+  QBuffer line;
+  ASSERT_TRUE(line.open(QIODevice::WriteOnly));
+  LineFault fault{Faulty::Silent};
+  FaultyLine replies(line, fault);
+  replies.Send("lost");
+  fault = {Faulty::Garbage};
+  replies.Send("ab");
+  fault = {Faulty::Cut, 1};
+  replies.Send("cut");
+  EXPECT_EQ(line.data(), "??c");
+  EXPECT_TRUE(line.isOpen()) << "as a serial line stays";
+  fault = {Faulty::Late, 1};
+  replies.Send("late");
+  line.close();
+  EXPECT_TRUE(Soon([&] { return replies.Backlog() == 0; }));
+  EXPECT_EQ(line.data(), "??c") << "the other end has left meanwhile";
+}
+
+}  // namespace

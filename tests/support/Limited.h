@@ -1,0 +1,30 @@
+#pragma once
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+/// Limits what the process may use of a resource, such as RLIMIT_NOFILE, while this lives.
+class Limited {
+ public:
+  Limited(__rlimit_resource resource, rlim_t most) : resource_(resource) {
+    getrlimit(resource_, &before_);
+    const rlimit limit{.rlim_cur = most, .rlim_max = before_.rlim_max};
+    setrlimit(resource_, &limit);
+  }
+  ~Limited() { setrlimit(resource_, &before_); }
+  Limited(const Limited&) = delete;
+  Limited& operator=(const Limited&) = delete;
+
+ private:
+  const __rlimit_resource resource_;
+  rlimit before_{};
+};
+
+/// The process can open no more files while it lives.
+struct NoFilesLeft {
+  Limited files{RLIMIT_NOFILE, [] {
+                  const int next = dup(STDIN_FILENO);
+                  close(next);
+                  return static_cast<rlim_t>(next);
+                }()};
+};

@@ -1,24 +1,17 @@
 // Files, sockets and texts that all programs share.
 
 #include <csignal>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QLocale>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/profiles/LoopbackSocket.h"
 #include "app/profiles/PjLinkCache.h"
 #include "app/profiles/PresetFolder.h"
 #include "app/profiles/SettingsFile.h"
 #include "app/profiles/SimulatorNotice.h"
-#include "app/profiles/Translations.h"
-#include "i18n/SystemLanguage.h"
 #include "tests/support/Limited.h"
 #include "tests/support/Programs.h"
 
@@ -168,27 +161,6 @@ TEST(SimulatorNotice, IsThatOfTheFirstSimulatorThatRuns) {
   runtime.Set({});
   { const SimulatorNotice nowhere(profiles, two); }
   EXPECT_EQ(FindServed(profiles), ServedAddresses());
-}
-
-TEST(LoopbackSocket, FailsAsTheSystemSays) {
-  const int first = LoopbackSocket::Listen(0);
-  ASSERT_GE(first, 0);
-  sockaddr_in address{};
-  socklen_t size = sizeof address;
-  ASSERT_EQ(getsockname(first, reinterpret_cast<sockaddr*>(&address), &size), 0);
-  EXPECT_EQ(LoopbackSocket::Listen(ntohs(address.sin_port)), -1);
-  EXPECT_EQ(errno, EADDRINUSE);
-  close(first);
-  const NoFilesLeft files;
-  EXPECT_EQ(LoopbackSocket::Listen(0), -1);
-  EXPECT_EQ(errno, EMFILE);
-}
-
-TEST(InstallTranslations, LeavesALanguageThatThereIsNotInEnglish) {
-  InstallTranslations(LanguageIdOf("af_ZA").value());
-  EXPECT_EQ(QLocale().language(), QLocale::Afrikaans) << "its numbers and dates";
-  EXPECT_EQ(QCoreApplication::translate("QCommandLineParser", "Options:"), "Options:");
-  InstallTranslations(kEnglishUnitedStates);
 }
 
 }  // namespace

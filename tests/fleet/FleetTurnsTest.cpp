@@ -113,23 +113,6 @@ TEST(FleetTurns, TakesTurnsAtAnAddress) {
   EXPECT_GT(fleet.projectors["elsewhere"].connections.size(), 1);
 }
 
-TEST(FleetTurns, OneThatWaitsMayLeave) {
-  VisitQueue queue;
-  const VisitQueue::Address place{"shared", 1};
-  queue.Release(place);
-  for (const VisitQueue::Peer peer : {1U, 2U, 2U, 3U}) queue.Add(peer, place);
-  EXPECT_EQ(queue.Next(), 1U);
-  queue.Leave(2);
-  EXPECT_FALSE(queue.HasNext()) << "the first has its turn still";
-  EXPECT_EQ(queue.Hold(place), 1U);
-  queue.Leave(1);
-  EXPECT_EQ(queue.Next(), std::nullopt);
-  queue.Release(place);
-  queue.Release(place);
-  EXPECT_EQ(queue.Next(), 3U);
-  EXPECT_EQ(queue.Hold(place), 3U);
-}
-
 TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
   SteppedFleet fleet({.visitsAtOnce = 2000});
   for (int i = 0; i < 1100; ++i) fleet.Add(std::to_string(i)).isThere = false;
@@ -137,17 +120,6 @@ TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
   for (const auto& [id, state] : fleet.states.States()) {
     EXPECT_EQ(state.reachability, Reachability::Silent) << id;
   }
-}
-
-TEST(FleetTurns, TellsThatChangesAreMissing) {
-  SteppedFleet fleet;
-  fleet.Add("a");
-  for (int i = 0; i <= 100'001; ++i)
-    fleet.states.Change("a", [i](LiveState& state) { state.drift = i; });
-  const FleetChanges oldest = fleet.states.TakeChanges();
-  EXPECT_TRUE(oldest.areMissing);
-  EXPECT_EQ(oldest.changes.front().change.now, FieldValue{2});
-  EXPECT_FALSE(fleet.states.TakeChanges().areMissing);
 }
 
 TEST(FleetTurns, KnowsAnAddressHoweverItIsWritten) {

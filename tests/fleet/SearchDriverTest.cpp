@@ -4,96 +4,21 @@
 #include <chrono>
 #include <gmock/gmock.h>
 #include <map>
-#include <optional>
 #include <string>
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QNetworkDatagram>
-#include <QNetworkProxy>
-#include <QTcpServer>
-#include <QTcpSocket>
+#include <QHostAddress>
 #include <gtest/gtest.h>
 
 #include "fleet/SearchDriver.h"
 #include "fleet/SearchRange.h"
-#include "tests/support/Limited.h"
 #include "tests/support/Programs.h"
 
 namespace {
 
 using testing::HasSubstr;
 using testing::SizeIs;
-
-// Two that greet and leave.
-TEST(SearchDriver, EndsWithWhatItHasLearnt) {
-  int count = 0;
-  QCoreApplication application(count, nullptr);
-  const QHostAddress first("127.0.0.1"), second("127.0.0.2");
-  QTcpServer greets, others;
-  QUdpSocket responder, taken;
-  for (QTcpServer* const server : {&greets, &others}) {
-    server->setProxy(QNetworkProxy::NoProxy);
-    QObject::connect(server, &QTcpServer::newConnection, [server] {
-      QTcpSocket* const client = server->nextPendingConnection();
-      client->write("PJLINK 0\r");
-      client->disconnectFromHost();
-    });
-  }
-  for (QUdpSocket* const socket : {&responder, &taken}) socket->setProxy(QNetworkProxy::NoProxy);
-  // A port that is free at all three places.
-  for (int i = 0; i < 100 && responder.state() != QAbstractSocket::BoundState; ++i) {
-    greets.close();
-    others.close();
-    if (greets.listen(first) && others.listen(second, greets.serverPort())) {
-      responder.bind(first, greets.serverPort());
-    }
-  }
-  ASSERT_EQ(responder.localPort(), greets.serverPort());
-  ASSERT_TRUE(taken.bind(first));
-  QObject::connect(&responder, &QUdpSocket::readyRead, [&responder] {
-    const auto asker = responder.receiveDatagram();
-    for (const char* const answer :
-         {"%2ACKN=?", "%2ACKN=02:00:00:00:00:01\r", "%2ACKN=02:00:00:00:00:02\r"}) {
-      responder.writeDatagram(answer, asker.senderAddress(),
-                              static_cast<quint16>(asker.senderPort()));
-    }
-  });
-  using std::chrono::seconds;
-  SearchOptions options{.addresses = {second, first},
-                        .broadcasts = {first},
-                        .port = greets.serverPort(),
-                        .answerPort = taken.localPort(),
-                        .atOnce = 1,
-                        .perSecond = 50,
-                        .answers = seconds(60),
-                        .limits = {.connect = seconds(30), .answer = seconds(30)}};
-  std::map<std::string, FoundProjector> found;
-  const auto search = [&](bool hasFiles) {
-    QEventLoop loop;
-    SearchDriver driver(
-        options,
-        [&](const FoundProjector& one) {
-          found[one.address] = one;
-          if (hasFiles && found.size() == 2) loop.quit();
-        },
-        [&] { loop.quit(); });
-    {
-      std::optional<NoFilesLeft> files;
-      if (!hasFiles) files.emplace();
-      driver.Start();
-    }
-    EXPECT_EQ(driver.Problem().isEmpty(), hasFiles) << qPrintable(driver.Problem());
-    loop.exec();
-  };
-  search(true);
-  EXPECT_THAT(found, SizeIs(2));
-  EXPECT_EQ(found["127.0.0.1"].mac, "02:00:00:00:00:01");
-#ifndef SANITIZED  // which need files themselves
-  options.answers = {};
-  search(false);
-#endif
-}
 
 // The simulator program answers, at loopback addresses alone.
 TEST(SearchDriver, FindsAFleetByRangeAndByBroadcast) {

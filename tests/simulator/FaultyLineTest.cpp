@@ -24,22 +24,6 @@ TEST(FaultyLine, ClosesWhenEverythingIsWritten) {
     EXPECT_TRUE(Soon([&] { return !line.isOpen(); }));
     EXPECT_EQ(line.data(), "abcd");
   }
-  QBuffer line;
-  ASSERT_TRUE(line.open(QIODevice::WriteOnly));
-  LineFault fault{Faulty::Silent};
-  FaultyLine replies(line, fault);
-  replies.Send("lost");
-  fault = {Faulty::Garbage};
-  replies.Send("ab");
-  fault = {Faulty::Cut, 1};
-  replies.Send("cut");
-  EXPECT_EQ(line.data(), "??c");
-  EXPECT_TRUE(line.isOpen()) << "as a serial line stays";
-  fault = {Faulty::Late, 1};
-  replies.Send("late");
-  line.close();
-  EXPECT_TRUE(Soon([&] { return replies.Backlog() == 0; }));
-  EXPECT_EQ(line.data(), "??c") << "the other end has left meanwhile";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <array>
 #include <functional>
+#include <new>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -25,7 +26,10 @@ class OneReply final : public ProjectorChannel {
         .value = -2};
   }
   void Abandon() override { MayBreak(); }
-  void Announce(std::span<const PjtCommand>) override { MayBreak(); }
+  void Announce(std::span<const PjtCommand>) override {
+    ++announced;
+    MayBreak();
+  }
   ConnectionState Connection() const override {
     MayBreak();
     return ConnectionState::Connected;
@@ -37,6 +41,7 @@ class OneReply final : public ProjectorChannel {
 
   bool accepted = true;
   bool breaks = false;
+  int announced = 0;
   PjtCommand last{};
 };
 
@@ -104,6 +109,58 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
   }
 }
 
+TEST(CPjtInterfaceTest, NothingReachesTheChannelWhileCutOffOrAbandonedOrWithoutOne) {
+  CPjtInterface p;
+  const auto channel = std::make_shared<OneReply>();
+  const auto announces = [&] {
+    p.Announce({});
+    return channel->announced > 0 || !p.Execute({Op::GetMirror}).unsent;
+  };
+  EXPECT_FALSE(announces());
+  p.AllowRetry();
+  EXPECT_EQ(p.Connection(), ConnectionState::None);
+  EXPECT_FALSE(p.Inputs() || p.Power());
+  p.SetChannel(channel);
+  {
+    const auto abandoned = p.Abandon();
+    EXPECT_FALSE(announces());
+  }
+  p.CutOff(true);
+  EXPECT_FALSE(announces() || p.Inputs() || p.Power());
+  EXPECT_EQ(p.Connection(), ConnectionState::Connected);
+  p.CutOff(false);
+  EXPECT_TRUE(announces());
+
+  struct Removing final : ProjectorChannel {
+    explicit Removing(CPjtInterface& p) : of(p) {}
+    PjtReply Execute(const PjtCommand&) override {
+      of.SetChannel(nullptr);
+      EXPECT_TRUE(of.IsWaiting());
+      const auto abandoned = of.Abandon();
+      return {};
+    }
+    CPjtInterface& of;
+  };
+  p.SetChannel(std::make_shared<Removing>(p));
+  EXPECT_TRUE(p.Execute({Op::GetMirror}).answered);
+}
+
+TEST(CPjtInterfaceTest, AFailedAllocationOfAChannelIsTheHostsBusiness) {
+  struct Starving final : ProjectorChannel {
+    PjtReply Execute(const PjtCommand&) override { throw std::bad_alloc(); }
+  };
+  static int calls = 0;
+  CPjtInterface p;
+  p.SetChannel(std::make_shared<Starving>());
+  for (const std::new_handler handler :
+       std::array<std::new_handler, 3>{nullptr, [] { ++calls; }, [] { throw ++calls; }}) {
+    const std::new_handler before = std::set_new_handler(handler);
+    EXPECT_FALSE(p.Execute({Op::GetMirror}).answered);
+    std::set_new_handler(before);
+  }
+  EXPECT_EQ(calls, 2);
+}
+
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
   CPjtInterface pjt;
   pjt.SetChannel(std::make_shared<OneReply>());
@@ -137,6 +194,11 @@ TEST(PjtOperationTest, SuccessDependsOnTheFamily) {
   EXPECT_FALSE(IsSuccess(Op::Set, 2)) << "only 1 is success of a generic operation";
   EXPECT_TRUE(IsSuccess(Op::SetColor, -1));
   EXPECT_FALSE(OperationByName("SetBrightnes"));
+  for (const Op once :
+       {Op::IncrementKeystoneV, Op::Dec, Op::ExecAutoAdjust, Op::ExecAutoKeyStone}) {
+    EXPECT_FALSE(IsAbsolute(once)) << OperationName(once) << " again has another effect";
+  }
+  EXPECT_TRUE(IsAbsolute(Op::ExecTintReset) && IsAbsolute(Op::Set) && IsAbsolute(Op::Get));
 }
 
 TEST(FormatCommandTest, ShowsCommandAndReply) {
@@ -149,6 +211,10 @@ TEST(FormatCommandTest, ShowsCommandAndReply) {
   EXPECT_EQ(FormatCommand({Op::Set, 0x3304, 0x10}, &refused), "Set 0x3304 (0x10) refused");
   EXPECT_EQ(FormatCommand({Op::ExecTintReset}, &silent), "ExecTintReset() no answer");
   EXPECT_EQ(FormatCommand({Op::SetVideoNR, 0, 1, 1}, &read), "SetVideoNR(1, 1)");
+  const PjtReply lacks{.offered = false}, busy{.busy = true}, pending{.result = 1, .pending = true};
+  EXPECT_EQ(FormatCommand({Op::GetMirror}, &lacks), "GetMirror() not offered");
+  EXPECT_EQ(FormatCommand({Op::GetMirror}, &busy), "GetMirror() busy");
+  EXPECT_EQ(FormatCommand({Op::SetColor, 0, 1}, &pending), "SetColor(1) accepted, not yet so");
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
        "POWR"},
   });
   for (const auto& [told, known] :
-       {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}}) {
+       {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}, {"A", '1'}}) {
     SteppedSession stepped;
     stepped.projector.facts["CLSS"] = told;
     stepped.Do(kGetInput);
@@ -146,7 +146,26 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
        "INPT 32, INPT, INPT, INPT, INPT, INPT, INPT"},
       {"mute", follows(100ms), Do(Op::SetMute, 1), "done", "AVMT 21, AVMT, AVMT"},
       {"freeze", follows(250ms), Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ, FREZ, FREZ"},
-      {"warming up is on", [](auto& it) { it.states["POWR"] = "3"; }, kOn, "done", "POWR 1, POWR"},
+      {"warming up is on",
+       [](auto& it) {
+         it.states["POWR"] = "3";
+         it.follows = 1h;
+       },
+       kOn, "done", "POWR 1, POWR"},
+      {"a garbled state",
+       [](auto& it) {
+         it.states["POWR"] = "x";
+         it.follows = 50ms;
+       },
+       kOn, "done", "POWR 1, POWR, POWR"},
+      {"a state that nobody tells",
+       [](auto& it) {
+         it.states["FREZ"] = "ERR1";
+         it.follows = 1h;
+       },
+       Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ"},
+      {"no such freeze", follows(0ms), Do(Op::SetFreeze, 2), "refused", ""},
+      {"no such mute", follows(0ms), Do(Op::SetMute, 2), "refused", ""},
       {"a step has no state", follows(3s), Inc(Code::Volume), "done", "SVOL 1"},
   });
   SteppedSession stepped;
@@ -191,7 +210,30 @@ TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
          it.refuses["POWR"] = 1;
        },
        kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
+      {"on in standby",
+       [](auto& it) {
+         it.states["POWR"] = "0";
+         it.refuses["POWR"] = 1;
+       },
+       kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
+      {"a garbled power state", refuses(1, "x"), kGetInput, "31", "INPT, POWR, INPT"},
+      {"no power state",
+       [](auto& it) {
+         it.refuses["INPT"] = 1;
+         it.loses["POWR"] = 1;
+       },
+       kGetInput, "busy", "INPT, POWR"},
   });
+  for (const auto& [pause, requests] :
+       {std::pair(989ms, "POWR, INPT, INPT, INPT"), {990ms, "POWR, INPT, POWR, INPT, INPT"}}) {
+    SteppedSession stepped;
+    stepped.session.RememberClass('2');
+    stepped.Do(Get(Code::RunningState));
+    stepped.now += pause;
+    refuses(2, "1")(stepped.projector);
+    EXPECT_EQ(Word(kGetInput, stepped.Do(kGetInput)), "31");
+    EXPECT_EQ(stepped.projector.TakeRequests(), requests);
+  }
   for (const auto& [told, power] : {std::pair("0", PowerState::Standby),
                                     {"2", PowerState::CoolingDown},
                                     {"3", PowerState::WarmingUp}}) {
@@ -224,6 +266,8 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndReconnectsAfterGrowingPauses)
          it.states.clear();
        },
        kGetInput, "not offered", "INPT, CLSS, INPT"},
+      {"has no mute", [](auto& it) { it.states.erase("AVMT"); }, Get(Code::Mute), "not offered",
+       "AVMT"},
   });
   SteppedSession ending;
   Expect({"closes behind the class", closesLate, Inc(Code::Volume), "done", "CLSS, SVOL 1"},

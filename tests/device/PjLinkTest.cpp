@@ -34,6 +34,7 @@ extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, cons
       reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
   ++lookUps;
   std::this_thread::sleep_for(kLookUp);
+  if (std::string_view(name) == "no-such-host") return EAI_NONAME;
   return system(name, service, hints, found);
 }
 
@@ -181,6 +182,7 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
       {replies(kOn + "%1POWR"), "1", State::Connected, false, {kGetPower}, "0", standby},
       {twice, "1", State::Connected, false, {kGetPower}, "0"},
       {Peer::Says({"PJLINK ERRA\r"}), "?", State::PasswordRequired},
+      {Peer::Says({}, false), "1", State::Connected, false, {kGetPower}, "1", goodTwice},
       {Peer::Says({kGreeting + '\n', kOn + '\n', kOn}), "1", State::Connected},
       {breaks, "1", State::Connected, false, {kGetPower}, "0", standby},
       {breaks, "1", State::Connected, false, {Do(Op::SetPowerOn), kGetPower}, "? 1"},
@@ -235,13 +237,35 @@ TEST(PjLinkTest, SaysWhyItCannotConnect) {
     EXPECT_EQ(Replies(channel, {kGetPower}), "?");
     EXPECT_FALSE(channel.AskForInputs().second);
     EXPECT_EQ(channel.Connection(), state);
+    EXPECT_EQ(Replies(channel, {Do(Op::GetMirror)}), "!");
   };
   const int before = lookUps;
   expect({"localhost", 1, "", {.connect = 50ms}}, State::NameUnknown);
   EXPECT_LE(lookUps, before + 2) << "once for the command, once for the inputs";
   expect({"localhost", 1, "", kLimits}, State::NotReachable);
+  expect({"no-such-host", 1, "", kLimits}, State::NameUnknown);
   expect({"", 4352, "", kLimits}, State::WrongParameters);
+  expect({kHost, 0, "", kLimits}, State::WrongParameters);
   expect({kHost, 65536 + 4352, "", kLimits}, State::WrongParameters);
+}
+
+TEST(PjLinkTest, WhatAnEarlierSessionLearntIsForgottenWhenAnotherProjectorIsThere) {
+  const PjLinkFacts facts{.protocolClass = '2', .inputs = {{31, "HDMI"}}};
+  for (const int protocolClass : {1, 2}) {
+    const Served served({.served = {.protocolClass = protocolClass}});
+    PjLinkChannel channel = served.Channel();
+    channel.Remember(facts);
+    EXPECT_EQ(Replies(channel, {kGetPower}), "1");
+    EXPECT_EQ(channel.Facts(), facts);
+    EXPECT_EQ(Replies(channel, {Get(CommandCode::Freeze)}), protocolClass == 1 ? "!" : "0");
+    EXPECT_EQ(channel.Facts(), protocolClass == 1 ? PjLinkFacts{.protocolClass = '1'} : facts);
+  }
+  const Peer silent(Transport::Tcp, {Peer::Says({kGreeting, ""}, false)});
+  PjLinkChannel channel(kHost, silent.port, "", kLimits);
+  channel.Remember(facts);
+  EXPECT_EQ(Replies(channel, {kGetPower}), "?");
+  EXPECT_EQ(channel.Facts(), (PjLinkFacts{.protocolClass = {}, .inputs = facts.inputs}))
+      << "it may be another";
 }
 
 TEST(PjLinkTest, TheServerFollowsTheStandard) {

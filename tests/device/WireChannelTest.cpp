@@ -9,6 +9,7 @@
 #include <QTcpServer>
 #include <gtest/gtest.h>
 
+#include "device/Connect.h"
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/SerialChannel.h"
 #include "device/channels/TcpChannel.h"
@@ -154,6 +155,13 @@ TEST(WireChannelTest, TheStatusOfAReplySaysWhatBecameOfTheCommand) {
   }
 }
 
+TEST(WireChannelTest, HasTheTimeThatIsAskedFor) {
+  const Peer wire(Transport::Tcp, {kServes});
+  const TcpAddress onWire{"127.0.0.1", wire.port};
+  EXPECT_EQ(Replies(*MakeUnboundedChannel(onWire, 0ms), {Get(5)}), "?");
+  EXPECT_EQ(Replies(*MakeUnboundedChannel(onWire), {Get(5)}), "5");
+}
+
 TEST(WireChannelTest, GivesUpEarlierWhenAsked) {
   const Peer peer(Transport::Tcp, {Peer::Says({})});
   const auto channel = std::make_shared<TcpChannel>(
@@ -205,6 +213,31 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
 
   neverAccepts.close();
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);
+}
+
+TEST(WireChannelTest, NoiseOnAnIdleConnectionEndsIt) {
+  std::atomic<bool> isRead = false;
+  const Peer peer(Transport::Tcp, {[&](End& end) {
+                                     Device device;
+                                     WireResponder responder(device);
+                                     std::string said;
+                                     while (said.size() < kWelcomeSize + kReplySize) {
+                                       said += responder.Receive(end.Receive());
+                                     }
+                                     end.Send(said);
+                                     isRead.wait(false);
+                                     end.Send("noise");
+                                     end.Listen();
+                                   },
+                                   kServes});
+  const auto channel = ChannelTo(peer);
+  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
+  EXPECT_TRUE(channel->TendConnection(0ms));
+  isRead = true;
+  isRead.notify_all();
+  while (channel->TendConnection(0ms)) std::this_thread::sleep_for(1ms);
+  EXPECT_EQ(channel->Connection(), Unused);
+  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
 }
 
 TEST(WireChannelTest, AConnectionThatEndsWhileIdleLosesNoCommand) {

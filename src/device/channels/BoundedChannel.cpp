@@ -74,9 +74,7 @@ bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
   }
 }
 
-bool HasEventLoop() {
-  return QCoreApplication::instance() && QAbstractEventDispatcher::instance() != nullptr;
-}
+bool HasEventLoop() { return QAbstractEventDispatcher::instance() != nullptr; }
 
 }  // namespace
 
@@ -134,7 +132,7 @@ void BoundedChannel::State::Work() {
   bool hasMoreToDo = false;
   bool isConnected = false;
   Clock::time_point lastUse;
-  while (true) {
+  for (;;) {
     while ((hasMoreToDo || isConnected) &&
            !commandGiven.wait_for(lock, hasMoreToDo ? limits.idle : limits.tend, isCalled)) {
       usesIdleTime = true;
@@ -228,8 +226,8 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   // Events handled during the wait may destroy this object.
   const std::shared_ptr<State> state = state_;
   std::unique_lock lock(state->mutex);
-  if (!state->inner || state->ended || state->waiting ||
-      (state->outstanding && !state->abandoned) || Clock::now() < state->silentUntil) {
+  if (!state->inner || state->waiting || (state->outstanding && !state->abandoned) ||
+      Clock::now() < state->silentUntil) {
     return Unsent(command);
   }
   if (!state->worker.joinable()) {

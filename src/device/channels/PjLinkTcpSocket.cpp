@@ -65,11 +65,9 @@ void PjLinkTcpSocket::Connect(const SessionStep& step) {
 
 void PjLinkTcpSocket::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
-  const bool isReady =
-      socket_->bytesAvailable() > 0 || socket_->waitForReadyRead(static_cast<int>(time.count()));
-  if (isReady) connection_.Received(socket_->readAll().toStdString(), Clock::now());
-  if (socket_->state() == QAbstractSocket::ConnectedState || socket_->bytesAvailable() > 0) return;
-  Close();
+  socket_->waitForReadyRead(static_cast<int>(time.count()));
+  connection_.Received(socket_->readAll().toStdString(), Clock::now());
+  if (socket_->state() != QAbstractSocket::ConnectedState) Close();
 }
 
 }  // namespace AdvancedControl

@@ -56,12 +56,12 @@ bool PjLinkInputs::Take(const PjLinkResult& result) {
     codes_ = PjLink::InputCodes(result.text);
     return !codes_.empty();
   }
-  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), result.text));
+  AddNext(result.text);
   return true;
 }
 
 void PjLinkInputs::SkipName() {
-  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), {}));
+  if (IsListKnown()) AddNext({});
 }
 
 PjLinkInputs::Asked PjLinkInputs::AskForAll(
@@ -73,7 +73,7 @@ PjLinkInputs::Asked PjLinkInputs::AskForAll(
     asked.isComplete = false;
     asked.isLost = asked.isLost || result.kind == PjLinkResult::Kind::Lost;
     if (!IsListKnown()) break;
-    SkipName();
+    AddNext({});
   }
   return asked;
 }
@@ -93,9 +93,8 @@ std::optional<PjLinkQuestion> PjLinkInputs::NameOf(int number) {
 }
 
 PjLinkInput PjLinkInputs::Named(int number, const std::string& name) {
-  const auto code = PjLink::InputCode(number);
-  return {number,
-          name.empty() && code ? NameByCode(*code) : std::string(CutText(name, kLongestName))};
+  return {number, name.empty() ? NameByCode(PjLink::InputCode(number).value())
+                               : std::string(CutText(name, kLongestName))};
 }
 
 /// The input to ask for next; nothing if all are known.
@@ -105,9 +104,11 @@ std::optional<std::string> PjLinkInputs::NextCode() const {
   return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(present_);
 }
 
-void PjLinkInputs::Add(PjLinkInput input) {
+/// Adds the input that `Next` asks for.
+void PjLinkInputs::AddNext(const std::string& name) {
+  const int number = PjLink::InputNumber(NextCode().value()).value();
   if (inputs_.size() == kMostInputs) inputs_.pop_back();
-  inputs_.push_back(std::move(input));
+  inputs_.push_back(Named(number, name));
 }
 
 }  // namespace AdvancedControl

@@ -88,15 +88,9 @@ bool WireSession::Advance(SessionTime now) {
       if (requests_.SkipTo(command_.Command())) {
         Await(Stage::AwaitingReply, command_.Within(limits_.answer, now));
       } else {
-        Await(Stage::AwaitingSlot, now + limits_.answer);
+        SendRequest();
       }
       return true;
-    case Stage::AwaitingSlot:
-      if (requests_.HasRoom()) {
-        SendRequest();
-        return true;
-      }
-      break;
     case Stage::Greeting:
     case Stage::AwaitingWelcome:
       if (connection_.Welcome()) {

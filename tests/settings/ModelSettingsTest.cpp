@@ -134,6 +134,13 @@ TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   EXPECT_FALSE(ListRow().Sending(3)) << "a list that only shows";
 }
 
+struct HearingProjector final : SimulatedProjector {
+  void Announce(std::span<const PjtCommand> reads) override {
+    announced.insert(announced.end(), reads.begin(), reads.end());
+  }
+  std::vector<PjtCommand> announced;
+};
+
 TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
   CModelInfo2 info = MakeModel(5, 49);
   const ModelSettings open(MakeModelData(info));
@@ -164,7 +171,7 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
                                                     {55, 0, 3, 3},
                                                     {49, 1, -1, kNone},
                                                     {46, 0, -1, kNone}}) {
-    const auto simulated = std::make_shared<SimulatedProjector>();
+    const auto simulated = std::make_shared<HearingProjector>();
     const auto channel = std::make_shared<FaultChannel>(simulated);
     CPjtInterface projector;
     projector.SetChannel(channel);
@@ -178,7 +185,14 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
     EXPECT_EQ(listed.PresentSource(projector, *listed.Find("audio.speaker")), kNone);
     EXPECT_EQ(listed.Change(projector, volume, 7), source ? Sent::Accepted : Sent::Nothing);
     EXPECT_EQ(listed.Read(projector, volume), source ? std::optional(7) : kNone);
-    EXPECT_EQ(listed.PrepareReads(projector, std::array{&volume}).front().source, source);
+    const auto sourced =
+        listed.PrepareReads(projector, std::array{&volume, listed.Find("audio.speaker")});
+    EXPECT_EQ(sourced.front().source, source);
+    std::vector<PjtCommand> reads{{PjtOperation::Get, CommandCode::RunningState},
+                                  {PjtOperation::GetInputSource}};
+    if (source) reads.push_back({PjtOperation::GetInputSrcVolume, 0, std::int16_t(*source)});
+    reads.push_back({PjtOperation::GetSpeaker});
+    EXPECT_EQ(simulated->announced, reads);
     channel->SetFault(CommandCode::RunningState, {.kind = Fault::Kind::Refuse});
     EXPECT_EQ(listed.PresentSource(projector, volume), kNone);
   }

@@ -108,6 +108,7 @@ TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
       {ParseAddress("tcp://a:9999999999"), AddressError{"wrong port in 'tcp://a:9999999999'"}},
       {ParseAddress("tcp://[::1]9"), AddressError{"wrong port in 'tcp://[::1]9'"}},
       {ParseAddress("/dev/pts/3?1"), SerialAddress{"/dev/pts/3", 1}},
+      {ParseAddress("/dev/pts/3?9x"), AddressError{"no line speed '9x'"}},
       {ParseAddress("/dev/pts/3?0"), AddressError{"no line speed '0'"}},
       {ParseAddress("tcp://[::1]:9", "pw"), TcpAddress{"::1", 9}},
       {ParseAddress("tcp://::1", "pw"), TcpAddress{"::1", 7240}},

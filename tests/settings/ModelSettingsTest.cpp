@@ -2,6 +2,7 @@
 // The simulation defines independently what a projector does, so settings and simulation check each
 // other.
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <set>
@@ -118,9 +119,10 @@ TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   struct Accepting final : ProjectorChannel {
     PjtReply Execute(const PjtCommand& command) override {
       sent = command;
-      return {.result = 1};
+      return {.result = result};
     }
     PjtCommand sent;
+    int result = 1;
   };
   const auto channel = std::make_shared<Accepting>();
   CPjtInterface projector;
@@ -130,7 +132,11 @@ TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
     EXPECT_EQ(channel->sent.first, -1);
   }
   const auto& gain = std::get<ValueRow>(*settings.Find("color-temp.gain-r")->row);
-  EXPECT_TRUE(Step(projector, gain, true, 0, {-8, 8}, 0).unchanged) << "0 is its answer";
+  const auto step = [&](int known) { return Step(projector, gain, true, 0, {-8, 8}, known); };
+  EXPECT_TRUE(step(0).unchanged) << "0 is its answer";
+  EXPECT_EQ(step(-1).value, gain.bias);
+  channel->result = 0;
+  EXPECT_TRUE(step(-1).unchanged);
   EXPECT_FALSE(ListRow().Sending(3)) << "a list that only shows";
 }
 
@@ -181,12 +187,14 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
     EXPECT_EQ(AskSource(projector, OfSource::None, model), 0);
     if (model != 49) continue;
     const ModelSetting& volume = *listed.Find("audio.volume");
+    const ModelSetting& action =
+        *std::ranges::find(listed.All(), Kind::Action, &ModelSetting::kind);
     EXPECT_EQ(listed.PresentSource(projector, volume), source);
     EXPECT_EQ(listed.PresentSource(projector, *listed.Find("audio.speaker")), kNone);
     EXPECT_EQ(listed.Change(projector, volume, 7), source ? Sent::Accepted : Sent::Nothing);
     EXPECT_EQ(listed.Read(projector, volume), source ? std::optional(7) : kNone);
     const auto sourced =
-        listed.PrepareReads(projector, std::array{&volume, listed.Find("audio.speaker")});
+        listed.PrepareReads(projector, std::array{&volume, listed.Find("audio.speaker"), &action});
     EXPECT_EQ(sourced.front().source, source);
     std::vector<PjtCommand> reads{{PjtOperation::Get, CommandCode::RunningState},
                                   {PjtOperation::GetInputSource}};

@@ -76,7 +76,7 @@ void WireSession::Start(SessionTime now) {
 
 bool WireSession::Advance(SessionTime now) {
   const bool isLate = connection_.Unsent().empty() && now >= until_;
-  switch (stage_) {
+  switch (stage_) {  // unreachable: there is a case for every stage
     case Stage::Idle:
     case Stage::Opening:
       return false;

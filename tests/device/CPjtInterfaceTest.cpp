@@ -1,7 +1,10 @@
 #include <array>
 #include <functional>
 #include <new>
+#include <optional>
+#include <stdexcept>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -35,6 +38,7 @@ class OneReply final : public ProjectorChannel {
     return ConnectionState::Connected;
   }
   std::optional<SourceList> Inputs() override { throw last; }
+  std::optional<PowerState> Power() const override { return PowerState::On; }
   void MayBreak() const {
     if (breaks) throw last;
   }
@@ -130,6 +134,8 @@ TEST(CPjtInterfaceTest, NothingReachesTheChannelWhileCutOffOrAbandonedOrWithoutO
   EXPECT_EQ(p.Connection(), ConnectionState::Connected);
   p.CutOff(false);
   EXPECT_TRUE(announces());
+  EXPECT_EQ(channel->announced, 1);
+  EXPECT_EQ(p.Power(), PowerState::On);
 
   struct Removing final : ProjectorChannel {
     explicit Removing(CPjtInterface& p) : of(p) {}
@@ -143,6 +149,43 @@ TEST(CPjtInterfaceTest, NothingReachesTheChannelWhileCutOffOrAbandonedOrWithoutO
   };
   p.SetChannel(std::make_shared<Removing>(p));
   EXPECT_TRUE(p.Execute({Op::GetMirror}).answered);
+}
+
+TEST(CPjtInterfaceTest, CountsWhatBecomesOfItsCommands) {
+  struct Scripted final : ProjectorChannel {
+    PjtReply Execute(const PjtCommand&) override {
+      if (!reply) throw std::runtime_error("no reply");
+      return *reply;
+    }
+    std::optional<PjtReply> reply;
+  };
+  const auto channel = std::make_shared<Scripted>();
+  CPjtInterface p;
+  p.SetChannel(channel);
+  const PjtCommand change{Op::SetColor, 0, 1}, read{Op::GetMirror};
+  const PjtReply silence{.answered = false};
+  const std::pair<PjtCommand, std::optional<PjtReply>> cases[] = {
+      {change, PjtReply{.result = 1}},
+      {change, PjtReply{}},
+      {change, silence},
+      {read, silence},
+      {change, {}},
+      {change, PjtReply{.answered = false, .unsent = true}},
+      {change, PjtReply{.offered = false}},
+      {read, PjtReply{.busy = true}},
+      {change, PjtReply{.result = 1, .pending = true}}};
+  for (const auto& [command, reply] : cases) {
+    channel->reply = reply;
+    p.Execute(command);
+  }
+  const CPjtInterface::Tally sent = p.Sent();
+  EXPECT_EQ(sent.commands, 9);
+  EXPECT_EQ(sent.refused, 3);
+  EXPECT_EQ(sent.unanswered, 4);
+  EXPECT_EQ(sent.notOffered, 1);
+  EXPECT_EQ(sent.busy, 1);
+  EXPECT_EQ(sent.pending, 1);
+  EXPECT_EQ(sent.uncertain, 2);
 }
 
 TEST(CPjtInterfaceTest, AFailedAllocationOfAChannelIsTheHostsBusiness) {
@@ -170,6 +213,8 @@ TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
 
   std::array<char, 70> unterminated{};
   unterminated.fill('x');
+  pjt.CopyData(1, 2, 23, "", "secret");
+  EXPECT_EQ(pjt.Network().Secret, "secret");
   pjt.CopyData(1, 2, 23, unterminated.data(), nullptr);
   EXPECT_EQ(pjt.ConnectionText1(), std::string(64, 'x'));
   EXPECT_EQ(pjt.ConnectionText2(), "");

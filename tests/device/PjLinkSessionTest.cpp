@@ -110,13 +110,25 @@ TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
       {"it breaks with a change", breaks("INPT", 1), kSetInput, "unanswered", "INPT 32"},
       {"it breaks with a step", breaks("SVOL", 1), Inc(Code::Volume), "unanswered", "SVOL 1"},
       {"a garbled reply", distorts("INPT", 1), kGetInput, "31", "INPT, INPT"},
-      {"two garbled replies", distorts("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
       {"a garbled reply to a change", distorts("INPT", 1), kSetInput, "unanswered", "INPT 32"},
       {"a reply that is no value", [](auto& it) { it.states["INPT"] = "x"; }, kGetInput, "refused",
        "INPT, INPT"},
   });
   SteppedSession stepped;
   Expect({"the class once", loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, stepped);
+  SteppedSession garbled;
+  garbled.session.RememberClass('2');
+  const auto start = garbled.now;
+  Expect({"two garbled replies", distorts("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
+         garbled);
+  EXPECT_EQ(garbled.now - start, 20ms) << "no third is waited for";
+  SteppedSession other;
+  other.session.RememberClass('2');
+  Expect(
+      {"maybe another projector", loses("POWR", 1), Get(Code::RunningState), "unanswered", "POWR"},
+      other);
+  Expect({"the class of this one", loses("INPT", 1), kGetInput, "unanswered", "CLSS, INPT"}, other);
+  Expect({"which is kept", loses("INPT", 0), kGetInput, "31", "INPT"}, other);
   SteppedSession lost;
   Expect({"the class twice", loses("CLSS", 2), kSetInput, "unsent", "CLSS, CLSS"}, lost);
   EXPECT_EQ(Word(kGetInput, lost.Do(kGetInput)), "31") << "one thing alone is lost";
@@ -180,6 +192,15 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
   stepped.now += 2s;
   stepped.projector.states["INPT"] = "5A";
   EXPECT_EQ(stepped.Do(kGetInput).value, 510) << "that was long ago";
+
+  SteppedSession quick;
+  quick.session.RememberClass('2');
+  quick.projector.follows = 50ms;
+  const auto before = quick.now;
+  EXPECT_EQ(Word(kSetInput, quick.Do(kSetInput)), "done");
+  EXPECT_EQ(quick.now - before, 130ms) << "three replies and a pause";
+  quick.Do(kOn);
+  EXPECT_EQ(quick.session.Power(), PowerState::On);
 
   SteppedSession patient(60s);
   follows(20s)(patient.projector);

@@ -128,6 +128,20 @@ TEST(Responders, SayWhatTheProjectorCannotDo) {
   EXPECT_EQ(PjLinkResponder(refusing, {}).Answer("%1AVMT 31"), "%1AVMT=ERR3");
   EXPECT_EQ(projector->CodeValue(CommandCode::Mute), 0) << "half of it is not done";
 
+  projector->SetCodeValue(CommandCode::RunningState, 0);
+  projector->SetPowerTimes(1h, 1h);
+  PjLinkResponder warming(projector, {.inputs = std::vector(51, ServedInput{"31"})});
+  EXPECT_EQ(warming.Answer("%1POWR 1"), "%1POWR=OK");
+  EXPECT_EQ(warming.Answer("%1POWR ?"), "%1POWR=3");
+  EXPECT_EQ(warming.Answer("%1INST ?")->size() + 1, PjLink::kLongestInputs);
+
+  const std::string text(200, 'x');
+  PjLinkResponder talkative(projector, {.texts = {{"NAME", text}, {"INF1", text}, {"SNUM", text}}});
+  for (const auto& [question, longest] :
+       {std::pair("%1NAME ?", 64), {"%1INF1 ?", 32}, {"%2SNUM ?", 128}}) {
+    EXPECT_EQ(talkative.Answer(question)->size(), 7 + longest) << question;
+  }
+
   SourceList sources{.count = 10};
   sources.firstValues = {20, 21, 22, 23, 24, 25, 26, 27, 28, 29};
   sources.names[9] = MakeNameSlot("Last");
@@ -190,30 +204,34 @@ TEST(Sessions, EventsAtTheWrongTimeChangeNothing) {
 }
 
 TEST(Sessions, AProjectorThatGreetsAndLeavesIsTriedAgainForAWhile) {
-  PjLinkConnection connection("", {.connect = 2s});
-  SessionTime now{1h};
-  connection.Ask({'1', "POWR", "?"}, 2s, now);
-  int attempts = 0;
-  for (auto step = connection.Next(now); step.kind != SessionStep::Kind::Finished && attempts < 99;
-       step = connection.Next(now)) {
-    if (step.kind == SessionStep::Kind::Wait) now = step.until;
-    if (step.kind != SessionStep::Kind::Connect) continue;
-    ++attempts;
-    connection.Connected();
-    connection.Received("PJLINK 0\r", now);
-    connection.Closed(now);
+  for (const auto* const greeting : {"PJLINK 0\r", ""}) {
+    PjLinkConnection connection("", {.connect = 2s});
+    SessionTime now{1h};
+    connection.Ask({'1', "POWR", "?"}, 2s, now);
+    int attempts = 0;
+    for (auto step = connection.Next(now);
+         step.kind != SessionStep::Kind::Finished && attempts < 99; step = connection.Next(now)) {
+      if (step.kind == SessionStep::Kind::Wait) now = step.until;
+      if (step.kind != SessionStep::Kind::Connect) continue;
+      ++attempts;
+      connection.Connected();
+      connection.Received(greeting, now);
+      connection.Closed(now);
+    }
+    EXPECT_EQ(attempts, 6) << "at 0, 50, 150, 350, 750 and 1550 ms";
+    EXPECT_EQ(connection.State(), ConnectionState::Lost);
+    EXPECT_FALSE(connection.Answer().sent);
   }
-  EXPECT_EQ(attempts, 6) << "at 0, 50, 150, 350, 750 and 1550 ms";
-  EXPECT_EQ(connection.State(), ConnectionState::Lost);
-  EXPECT_FALSE(connection.Answer().sent);
 }
 
 TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
   WireSession wire(WireSession::Medium::Reliable, {.connect = 1s, .answer = 1s}, 7);
-  wire.Begin(Get(CommandCode::Mute), {});
+  const PjtCommand reads[] = {Get(CommandCode::Mute), Get(CommandCode::Freeze)};
+  wire.Announce(reads);
+  wire.Begin(reads[0], {});
   wire.Next({});
   wire.Connected();
-  wire.Next({});
+  const std::size_t both = wire.Next({}).bytes.size();
   std::string bytes;
   for (const Wire::Frame& frame : {Wire::Frame{8, Wire::Welcome{}},
                                    {8, Wire::Welcome{0}},
@@ -225,6 +243,13 @@ TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
   wire.Received(bytes);
   EXPECT_EQ(wire.Next({}).kind, SessionStep::Kind::Finished);
   EXPECT_EQ(wire.Reply().value, 5);
+
+  wire.Closed();
+  wire.Begin(reads[1], {});
+  EXPECT_EQ(wire.Next({}).kind, SessionStep::Kind::Connect);
+  wire.Connected();
+  EXPECT_EQ(wire.Next({}).bytes.size(), both - Wire::kMaximumFrame)
+      << "what was sent on the last connection is sent again";
 }
 
 }  // namespace

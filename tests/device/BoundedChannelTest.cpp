@@ -222,6 +222,11 @@ TEST_F(BoundedChannelTest, DestructionDoesNotWait) {
   gate_->staysIdle = false;
   gate_->staysIdle.notify_all();
   EXPECT_TRUE(Eventually([&] { return gate_.use_count() == 2; }));
+
+  channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.idle = 1h});
+  EXPECT_TRUE(channel->Execute(kCommand).answered);
+  channel.reset();
+  EXPECT_EQ(gate_.use_count(), 2) << "a worker with nothing to do is waited for";
 }
 
 TEST_F(BoundedChannelTest, DestructionFromInsideTheWaitIsSafe) {

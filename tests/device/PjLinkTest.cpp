@@ -117,6 +117,7 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
             "0 0 0 -")
       << "nothing is changed in standby";
   EXPECT_EQ(served.projector->CodeValue(Code::Volume), 16);
+  EXPECT_EQ(Replies(channel, {Do(Op::SetFreeze, 2), Do(Op::SetMute, 2)}), "- -");
   EXPECT_EQ(channel.Connection(), State::Connected);
 }
 

@@ -163,6 +163,10 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
   EXPECT_TRUE(has(open, "audio.volume", 4)) << "the model does not list its inputs";
   EXPECT_EQ(ModelSettings(MakeModelData(MakeModel(0, 49))).Input(), nullptr);
   EXPECT_EQ(listed.Input()->key, "other.input-source");
+  EXPECT_TRUE(ModelSettings(MakeModelData(MakeModel(4, 0))).Find("setup.volume")->IsPerSource());
+  for (int model = 49; model <= 54; ++model) {
+    EXPECT_EQ(StandbySource(OfSource::Playing, model), 15) << model;
+  }
 
   struct Case {
     int model, power, input;

@@ -80,7 +80,7 @@ TEST(Servers, EndConnectionsOfWhoSaysNothingOrDoesNotRead) {
     wire.Serve(std::move(line));
     return served;
   };
-  const auto modest = serves(17'000), greedy = serves(18'000);
+  const auto modest = serves(17'475), greedy = serves(17'476);
   EXPECT_TRUE(Soon([&] { return greedy.isNull(); }));
   EXPECT_FALSE(modest.isNull()) << "a quarter of a megabyte may wait";
 

@@ -224,6 +224,13 @@ TEST(Sessions, AProjectorThatGreetsAndLeavesIsTriedAgainForAWhile) {
   }
 }
 
+TEST(Sessions, AClassThatIsNotToldNowIsDoneWithout) {
+  SteppedSession stepped;
+  stepped.projector.facts["CLSS"] = "ERR3";
+  EXPECT_EQ(stepped.Do(Get(CommandCode::InputSource)).value, 31);
+  EXPECT_EQ(stepped.projector.TakeRequests(), "CLSS, INPT");
+}
+
 TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
   WireSession wire(WireSession::Medium::Reliable, {.connect = 1s, .answer = 1s}, 7);
   const PjtCommand reads[] = {Get(CommandCode::Mute), Get(CommandCode::Freeze)};

@@ -65,7 +65,8 @@ void PjLinkTcpSocket::Connect(const SessionStep& step) {
 
 void PjLinkTcpSocket::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
-  socket_->waitForReadyRead(static_cast<int>(time.count()));
+  // What has been read into the socket's buffer must not wait for more.
+  if (socket_->bytesAvailable() == 0) socket_->waitForReadyRead(static_cast<int>(time.count()));
   connection_.Received(socket_->readAll().toStdString(), Clock::now());
   if (socket_->state() != QAbstractSocket::ConnectedState) Close();
 }

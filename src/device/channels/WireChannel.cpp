@@ -78,7 +78,8 @@ void WireChannel::Drive(const SessionStep& step) {
 
 void WireChannel::Write(const SessionStep& step) {
   const QDeadlineTimer deadline(step.until);
-  line_->write(step.bytes.data(), static_cast<qint64>(step.bytes.size()));
+  const auto size = static_cast<qint64>(step.bytes.size());
+  if (line_->write(step.bytes.data(), size) != size) return Disconnect(ConnectionState::Lost);
   while (line_->bytesToWrite() > 0) {
     if (line_->waitForBytesWritten(Remaining(deadline))) continue;
     return Disconnect(IsAlive(*line_) ? ConnectionState::NoAnswer : ConnectionState::Lost);

@@ -76,7 +76,10 @@ TEST(PjLinkInputs, AreAskedForOneByOne) {
             std::pair(false, true));
   const std::vector<PjLinkInput> known{
       {31, "Digital 1"}, {32, "Digital 2"}, {33, "Digital 3"}, {34, "D"}};
+  inputs.SkipName();
+  EXPECT_TRUE(inputs.Take({Kind::Text, "nobody asked"}));
   EXPECT_EQ(inputs.Known(), known);
+  EXPECT_EQ(PjLinkInputs::Named(7, "").name, "") << "there is no such input";
 
   // The present input takes the last place if there is none left.
   inputs.Forget();

@@ -93,8 +93,9 @@ std::optional<PjLinkQuestion> PjLinkInputs::NameOf(int number) {
 }
 
 PjLinkInput PjLinkInputs::Named(int number, const std::string& name) {
-  return {number, name.empty() ? NameByCode(PjLink::InputCode(number).value())
-                               : std::string(CutText(name, kLongestName))};
+  const auto code = PjLink::InputCode(number);
+  return {number,
+          name.empty() && code ? NameByCode(*code) : std::string(CutText(name, kLongestName))};
 }
 
 /// The input to ask for next; nothing if all are known.
@@ -104,11 +105,12 @@ std::optional<std::string> PjLinkInputs::NextCode() const {
   return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(present_);
 }
 
-/// Adds the input that `Next` asks for.
+/// Adds the input that `Next` asks for, if any.
 void PjLinkInputs::AddNext(const std::string& name) {
-  const int number = PjLink::InputNumber(NextCode().value()).value();
+  const auto code = NextCode();
+  if (!code) return;
   if (inputs_.size() == kMostInputs) inputs_.pop_back();
-  inputs_.push_back(Named(number, name));
+  inputs_.push_back(Named(*PjLink::InputNumber(*code), name));
 }
 
 }  // namespace AdvancedControl

@@ -40,7 +40,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   std::optional<PjLinkQuestion> Next() const;
   /// Takes the result of that question. False if it has to be repeated.
   bool Take(const PjLinkResult& result);
-  /// Skips the name that `Next` asks for, until `Forget`. Does nothing if that asks for the list.
+  /// Skips the name that `Next` asks for, until `Forget`. Does nothing if it asks for no name.
   void SkipName();
   bool IsListKnown() const { return !codes_.empty(); }
   /// Asks everything that is not known; `ask` returns the result of a question. What it could not

@@ -16,6 +16,7 @@
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
 #include "tests/device/Replies.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -220,25 +221,19 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
 
 TEST(WireChannelTest, NoiseOnAnIdleConnectionEndsIt) {
   std::atomic<bool> isRead = false;
-  const Peer peer(Transport::Tcp, {[&](End& end) {
-                                     Device device;
-                                     WireResponder responder(device);
-                                     std::string said;
-                                     while (said.size() < kWelcomeSize + kReplySize) {
-                                       said += responder.Receive(end.Receive());
-                                     }
-                                     end.Send(said);
-                                     isRead.wait(false);
-                                     end.Send("noise");
-                                     end.Listen();
-                                   },
-                                   kServes});
+  const auto noise = Answers([&](End& end, const std::string& answer) {
+    end.Send(answer);
+    if (answer.size() < kReplySize) return;
+    isRead.wait(false);
+    end.Send("noise");
+  });
+  const Peer peer(Transport::Tcp, {noise, kServes});
   const auto channel = ChannelTo(peer);
   EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
   EXPECT_TRUE(channel->TendConnection(0ms));
   isRead = true;
   isRead.notify_all();
-  while (channel->TendConnection(0ms)) std::this_thread::sleep_for(1ms);
+  EXPECT_TRUE(Soon([&] { return !channel->TendConnection(0ms); }));
   EXPECT_EQ(channel->Connection(), Unused);
   EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
 }

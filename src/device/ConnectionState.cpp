@@ -3,7 +3,7 @@
 namespace AdvancedControl {
 
 std::string_view ConnectionStateText(ConnectionState state) {
-  switch (state) {
+  switch (state) {  // unreachable: there is a case for every state
     case ConnectionState::None:
       return "no connection";
     case ConnectionState::Unused:

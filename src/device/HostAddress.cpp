@@ -1,7 +1,6 @@
 #include "device/HostAddress.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include <QHostAddress>
 #include <QUrl>
@@ -26,11 +25,9 @@ bool IsHostAddress(std::string_view text) {
     return !label.isEmpty() && std::ranges::all_of(label, [](QChar c) { return c.isDigit(); });
   };
   if (isNumber(labels.back())) return labels.size() == 4 && !QHostAddress(host).isNull();
-  // Letters of any language are allowed, because names are looked up in their ASCII form.
-  const QByteArray name = QUrl::toAce(host);
-  return !name.isEmpty() && std::ranges::all_of(name, [](char c) {
-    return c == '.' || c == '-' || c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
-  });
+  // Letters of any language are allowed, because names are looked up in their ASCII form, which
+  // only a valid name has.
+  return !QUrl::toAce(host).isEmpty();
 }
 
 }  // namespace AdvancedControl

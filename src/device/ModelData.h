@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -33,7 +34,7 @@ struct CountedList {
   std::array<NameSlot, kCapacity> names{};
 
   /// `count` clamped to 0..kCapacity.
-  int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
+  int Size() const { return std::clamp<int>(count, 0, kCapacity); }
 
   bool operator==(const CountedList&) const = default;
 };
@@ -47,7 +48,7 @@ struct SourceList {
   std::array<std::int32_t, kCapacity> firstValues{};   ///< Input source number of each entry.
   std::array<std::int32_t, kCapacity> secondValues{};  ///< Second host value of each entry.
 
-  int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
+  int Size() const { return std::clamp<int>(count, 0, kCapacity); }
 
   bool operator==(const SourceList&) const = default;
 };

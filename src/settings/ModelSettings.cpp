@@ -45,7 +45,7 @@ void Describe(const CheckRow&, const ModelData&, ModelSetting& setting) {
 void Describe(const StateRow& row, const ModelData& model, ModelSetting& setting) {
   setting.entries = row.texts.Of(model);
   setting.otherwise = row.otherwise;
-  setting.changeable = row.turnOn && row.turnOff;
+  setting.changeable = row.turnOn.has_value();
   if (setting.changeable) setting.entries.emplace(setting.entries.begin(), row.otherwise, 0);
 }
 

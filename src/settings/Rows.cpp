@@ -1,7 +1,6 @@
 #include "settings/Rows.h"
 
 #include <algorithm>
-#include <type_traits>
 
 namespace AdvancedControl {
 
@@ -14,17 +13,18 @@ const ModelRows* RowsOf(const PageTable& table, int modelCode) {
   return found == table.models.end() ? nullptr : &*found;
 }
 
+bool IsOnModel(const ResetRow&, int) { return true; }
+bool IsOnModel(const auto& row, int modelCode) { return row.on.Has(modelCode); }
+
 bool IsOn(const PageRow& row, int modelCode) {
-  return std::visit(
-      [modelCode](const auto& kind) {
-        if constexpr (std::is_same_v<decltype(kind), const ResetRow&>) {
-          return true;
-        } else {
-          return kind.on.Has(modelCode);
-        }
-      },
-      row);
+  return std::visit([modelCode](const auto& kind) { return IsOnModel(kind, modelCode); }, row);
 }
+
+int CaptionIn(const ResetRow&) { return 0; }
+int CaptionIn(const auto& row) { return row.caption; }
+
+int ControlIn(const ValueRow& row) { return row.Control(); }
+int ControlIn(const auto& row) { return row.control; }
 
 }  // namespace
 
@@ -33,27 +33,11 @@ std::string_view KeyOf(const PageRow& row) {
 }
 
 int CaptionOf(const PageRow& row) {
-  return std::visit(
-      [](const auto& kind) {
-        if constexpr (std::is_same_v<decltype(kind), const ResetRow&>) {
-          return 0;
-        } else {
-          return kind.caption;
-        }
-      },
-      row);
+  return std::visit([](const auto& kind) { return CaptionIn(kind); }, row);
 }
 
 int ControlOf(const PageRow& row) {
-  return std::visit(
-      [](const auto& kind) {
-        if constexpr (std::is_same_v<decltype(kind), const ValueRow&>) {
-          return kind.Control();
-        } else {
-          return kind.control;
-        }
-      },
-      row);
+  return std::visit([](const auto& kind) { return ControlIn(kind); }, row);
 }
 
 std::vector<int> ControlsOf(const PageRow& row) {

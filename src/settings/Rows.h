@@ -199,7 +199,7 @@ struct StateRow {
   Entries texts{};
   int otherwise = 0;  ///< Text for other values, with the value as its insert; 0 for an empty text.
   int frame = 0;      ///< Text into which the state's text is inserted; 0 for none.
-  std::optional<Call> turnOff{}, turnOn{};  ///< For a state that is a switch.
+  std::optional<Call> turnOff{}, turnOn{};  ///< Both or neither; for a state that is a switch.
   Presence on{};
 };
 

@@ -31,10 +31,11 @@ std::string Bounded(std::string text, std::size_t longest) {
   return std::string(CutText(text, longest));
 }
 
+/// `text` has only letters and digits.
 std::string Upper(std::string_view text) {
   std::string upper(text);
   for (char& c : upper) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    if (c >= 'a') c = static_cast<char>(c - 'a' + 'A');
   }
   return upper;
 }

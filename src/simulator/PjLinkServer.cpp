@@ -107,11 +107,6 @@ void PjLinkServer::Serve(std::unique_ptr<QTcpSocket> socket) {
   state_->Serve(std::move(socket))->setParent(&state_->others);
 }
 
-void PjLinkServer::Close() {
-  state_->server.CloseAll();
-  while (!state_->others.children().isEmpty()) delete state_->others.children().front();
-}
-
 void PjLinkServer::SetFault(const LineFault& fault) { state_->fault = fault; }
 
 }  // namespace AdvancedControl

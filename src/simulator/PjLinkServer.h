@@ -38,8 +38,6 @@ class PROJECTOR_COMMON_EXPORT PjLinkServer {
   int Port() const;
   /// Takes a connected socket and serves it until it closes, whatever the number of connections.
   void Serve(std::unique_ptr<QTcpSocket> socket);
-  /// Ends listening and all connections.
-  void Close();
 
   /// Sets a fault of all replies and the greeting.
   void SetFault(const LineFault& fault);

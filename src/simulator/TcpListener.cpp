@@ -30,11 +30,6 @@ TcpListener::TcpListener(const Limits& limits, Serve serve)
   });
 }
 
-void TcpListener::CloseAll() {
-  close();
-  while (!served_.children().isEmpty()) delete served_.children().front();
-}
-
 void TcpListener::incomingConnection(qintptr descriptor) {
   auto* const socket = new QTcpSocket(this);
   socket->setReadBufferSize(limits_.readBuffer);

@@ -36,9 +36,6 @@ class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
   /// they may use the same objects.
   TcpListener(const Limits& limits, Serve serve);
 
-  /// Ends listening and all connections.
-  void CloseAll();
-
  protected:
   void incomingConnection(qintptr descriptor) override;
 

@@ -63,6 +63,7 @@ TEST(NameSlotTest, ATextIsCutBetweenCharacters) {
   const std::string twoBytes = std::string(63, 'a') + "\u00e9";
   EXPECT_EQ(NameText(MakeNameSlot(twoBytes)), std::string(63, 'a'));
   EXPECT_EQ(NameText(MakeNameSlot(twoBytes.substr(1))), twoBytes.substr(1));
+  EXPECT_EQ(NameText(MakeNameSlot(std::string(65, '\x80'))), "") << "no character begins";
 }
 
 TEST(CountedListTest, AnyCountStaysInsideTheArrays) {

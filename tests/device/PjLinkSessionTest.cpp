@@ -76,7 +76,7 @@ TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
        "POWR"},
   });
   for (const auto& [told, known] :
-       {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}}) {
+       {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}, {"A", '1'}}) {
     SteppedSession stepped;
     stepped.projector.facts["CLSS"] = told;
     stepped.Do(kGetInput);
@@ -110,13 +110,24 @@ TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
       {"it breaks with a change", breaks("INPT", 1), kSetInput, "unanswered", "INPT 32"},
       {"it breaks with a step", breaks("SVOL", 1), Inc(Code::Volume), "unanswered", "SVOL 1"},
       {"a garbled reply", distorts("INPT", 1), kGetInput, "31", "INPT, INPT"},
-      {"two garbled replies", distorts("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
       {"a garbled reply to a change", distorts("INPT", 1), kSetInput, "unanswered", "INPT 32"},
       {"a reply that is no value", [](auto& it) { it.states["INPT"] = "x"; }, kGetInput, "refused",
        "INPT, INPT"},
   });
   SteppedSession stepped;
   Expect({"the class once", loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, stepped);
+  SteppedSession garbled;
+  garbled.session.RememberClass('2');
+  Expect({"two garbled replies", distorts("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
+         garbled);
+  EXPECT_EQ(garbled.now - SteppedSession().now, 20ms) << "no third is waited for";
+  SteppedSession other;
+  other.session.RememberClass('2');
+  Expect(
+      {"maybe another projector", loses("POWR", 1), Get(Code::RunningState), "unanswered", "POWR"},
+      other);
+  Expect({"the class of this one", loses("INPT", 1), kGetInput, "unanswered", "CLSS, INPT"}, other);
+  Expect({"which is kept", loses("INPT", 0), kGetInput, "31", "INPT"}, other);
   SteppedSession lost;
   Expect({"the class twice", loses("CLSS", 2), kSetInput, "unsent", "CLSS, CLSS"}, lost);
   EXPECT_EQ(Word(kGetInput, lost.Do(kGetInput)), "31") << "one thing alone is lost";
@@ -146,7 +157,24 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
        "INPT 32, INPT, INPT, INPT, INPT, INPT, INPT"},
       {"mute", follows(100ms), Do(Op::SetMute, 1), "done", "AVMT 21, AVMT, AVMT"},
       {"freeze", follows(250ms), Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ, FREZ, FREZ"},
-      {"warming up is on", [](auto& it) { it.states["POWR"] = "3"; }, kOn, "done", "POWR 1, POWR"},
+      {"warming up is on",
+       [](auto& it) {
+         it.states["POWR"] = "3";
+         it.follows = 1h;
+       },
+       kOn, "done", "POWR 1, POWR"},
+      {"a garbled state",
+       [](auto& it) {
+         it.states["POWR"] = "x";
+         it.follows = 50ms;
+       },
+       kOn, "done", "POWR 1, POWR, POWR"},
+      {"a state that nobody tells",
+       [](auto& it) {
+         it.states["FREZ"] = "ERR1";
+         it.follows = 1h;
+       },
+       Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ"},
       {"a step has no state", follows(3s), Inc(Code::Volume), "done", "SVOL 1"},
   });
   SteppedSession stepped;
@@ -161,6 +189,14 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
   stepped.now += 2s;
   stepped.projector.states["INPT"] = "5A";
   EXPECT_EQ(stepped.Do(kGetInput).value, 510) << "that was long ago";
+
+  SteppedSession quick;
+  quick.session.RememberClass('2');
+  quick.projector.follows = 50ms;
+  EXPECT_EQ(Word(kSetInput, quick.Do(kSetInput)), "done");
+  EXPECT_EQ(quick.now - SteppedSession().now, 130ms) << "three replies and a pause";
+  quick.Do(kOn);
+  EXPECT_EQ(quick.session.Power(), PowerState::On);
 
   SteppedSession patient(60s);
   follows(20s)(patient.projector);
@@ -191,7 +227,30 @@ TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
          it.refuses["POWR"] = 1;
        },
        kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
+      {"on in standby",
+       [](auto& it) {
+         it.states["POWR"] = "0";
+         it.refuses["POWR"] = 1;
+       },
+       kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
+      {"a garbled power state", refuses(1, "x"), kGetInput, "31", "INPT, POWR, INPT"},
+      {"no power state",
+       [](auto& it) {
+         it.refuses["INPT"] = 1;
+         it.loses["POWR"] = 1;
+       },
+       kGetInput, "busy", "INPT, POWR"},
   });
+  for (const auto& [pause, requests] :
+       {std::pair(989ms, "POWR, INPT, INPT, INPT"), {990ms, "POWR, INPT, POWR, INPT, INPT"}}) {
+    SteppedSession stepped;
+    stepped.session.RememberClass('2');
+    stepped.Do(Get(Code::RunningState));
+    stepped.now += pause;
+    refuses(2, "1")(stepped.projector);
+    EXPECT_EQ(Word(kGetInput, stepped.Do(kGetInput)), "31");
+    EXPECT_EQ(stepped.projector.TakeRequests(), requests);
+  }
   for (const auto& [told, power] : {std::pair("0", PowerState::Standby),
                                     {"2", PowerState::CoolingDown},
                                     {"3", PowerState::WarmingUp}}) {
@@ -224,6 +283,8 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndReconnectsAfterGrowingPauses)
          it.states.clear();
        },
        kGetInput, "not offered", "INPT, CLSS, INPT"},
+      {"has no mute", [](auto& it) { it.states.erase("AVMT"); }, Get(Code::Mute), "not offered",
+       "AVMT"},
   });
   SteppedSession ending;
   Expect({"closes behind the class", closesLate, Inc(Code::Volume), "done", "CLSS, SVOL 1"},

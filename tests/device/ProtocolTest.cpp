@@ -1,15 +1,20 @@
 // The parts of the protocols alone: parameters, the projector's answers, and events at the wrong
 // time.
 
+#include <algorithm>
+
 #include <QString>
 #include <QStringList>
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
+#include "device/protocol/PjLinkAttempts.h"
 #include "device/protocol/PjLinkInputs.h"
 #include "device/protocol/PjLinkLine.h"
 #include "device/protocol/WireSession.h"
+#include "simulator/FaultChannel.h"
 #include "simulator/PjLinkResponder.h"
+#include "simulator/SimulatedProjector.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/BadProjector.h"
 #include "tests/device/Replies.h"
@@ -40,8 +45,8 @@ TEST(PjLinkLine, ParametersAreValuesOrNothing) {
   EXPECT_EQ(PjLink::Lamps("70000 1 2 0 3"), (Lamps{{65535, true}, {2, false}, {3, {}}}));
   EXPECT_EQ(PjLink::Lamps("1 1 x 0"), Lamps());
   EXPECT_EQ(PjLink::Lamps("1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1").size(), 8);
-  for (const char* none :
-       {"", "%1POWR", "#1POWR=1", "%xPOWR=1", "%/POWR=1", "%1P[WR=1", "%1POW/=1", "%1POWR:1"}) {
+  for (const char* none : {"", "%1POWR", "#1POWR=1", "%xPOWR=1", "%/POWR=1", "%1P[WR=1", "%1POW{=1",
+                           "%1POW/=1", "%1POWR:1"}) {
     EXPECT_FALSE(PjLink::Parse(none)) << none;
   }
   for (const char* none : {"", " 2", " 1 0123abc", " 1 0123abcg", " 1 0123abc@", " 1 0123abc/"}) {
@@ -49,6 +54,54 @@ TEST(PjLinkLine, ParametersAreValuesOrNothing) {
   }
   const std::vector<PjLinkInput> many(SourceList::kCapacity + 1, {310, "HDMI"});
   EXPECT_EQ(SourcesOf(many, InputCodes::AllNames).count, SourceList::kCapacity);
+}
+
+TEST(PjLinkInputs, AreAskedForOneByOne) {
+  using Kind = PjLinkResult::Kind;
+  PjLinkInputs inputs;
+  inputs.SkipName();
+  EXPECT_EQ(inputs.Next()->command, "INST") << "no name was asked for";
+  const auto ask = [&](std::vector<PjLinkResult> results) {
+    std::ranges::reverse(results);
+    const auto asked = inputs.AskForAll([&](const PjLinkQuestion&) {
+      const PjLinkResult result = results.back();
+      results.pop_back();
+      return result;
+    });
+    EXPECT_TRUE(results.empty());
+    return std::pair(asked.isComplete, asked.isLost);
+  };
+  EXPECT_EQ(ask({{Kind::NotNow}}), std::pair(false, false));
+  EXPECT_EQ(ask({{Kind::Text, "31 32 33 34"}, {}, {Kind::NotNow}, {Kind::None}, {Kind::Text, "D"}}),
+            std::pair(false, true));
+  const std::vector<PjLinkInput> known{
+      {31, "Digital 1"}, {32, "Digital 2"}, {33, "Digital 3"}, {34, "D"}};
+  inputs.SkipName();
+  EXPECT_TRUE(inputs.Take({Kind::Text, "nobody asked"}));
+  EXPECT_EQ(inputs.Known(), known);
+  EXPECT_EQ(PjLinkInputs::Named(7, "").name, "") << "there is no such input";
+
+  // The present input takes the last place if there is none left.
+  inputs.Forget();
+  inputs.SetPresent(49);
+  std::vector<PjLinkResult> many(18, {Kind::None});
+  many[0] = {Kind::Text, "11 12 13 14 15 16 17 18 19 21 22 23 24 25 26 27 28 49"};
+  EXPECT_EQ(ask(many), std::pair(true, false));
+  EXPECT_EQ(inputs.Known().size(), SourceList::kCapacity);
+  EXPECT_EQ(inputs.Known().back(), (PjLinkInput{49, "Storage 9"}));
+  EXPECT_EQ(inputs.Known()[14], (PjLinkInput{26, "Video 6"}));
+
+  inputs.Remember({{7, "no PJLink"}, {31, "HDMI"}});
+  EXPECT_FALSE(inputs.Next() && inputs.Next()->command == "INST");
+}
+
+TEST(PjLinkAttempts, ALookUpThatRanOutOfTimeIsNotTheProblem) {
+  PjLinkAttempts attempts;
+  const SessionTime now{1h};
+  attempts.Start(now + 1s, 50ms);
+  EXPECT_EQ(attempts.Fail(ConnectionState::NotReachable, now), now + 50ms);
+  EXPECT_FALSE(attempts.Fail(ConnectionState::NameUnknown, now + 50ms));
+  EXPECT_EQ(attempts.Problem(), ConnectionState::NotReachable);
 }
 
 /// Gives the same reply to everything.
@@ -64,6 +117,7 @@ TEST(Responders, SayWhatTheProjectorCannotDo) {
   constexpr PjtReply kTwo{.result = 1, .value = 2};
   const std::tuple<PjtReply, const char*, const char*> cases[] = {
       {kSilence, "%1POWR ?", "ERR4"}, {kSilence, "%1POWR 1", "ERR4"}, {{}, "%1POWR ?", "ERR1"},
+      {{}, "%1POWR 0", "ERR3"},       {kOn, "%2FREZ 2", "ERR2"},      {kOn, "%2SVOL 2", "ERR2"},
       {kTwo, "%1POWR 0", "ERR3"},     {kTwo, "%0POWR ?", "ERR1"},     {kOn, "%1AVMT 01", "ERR2"},
       {kTwo, "%2INNM 5A", "ERR2"},    {kTwo, "%2INNM ?5A", "AB"},     {kTwo, "%1INNM ?5A", "ERR1"}};
   for (const auto& [reply, request, answer] : cases) {
@@ -71,6 +125,34 @@ TEST(Responders, SayWhatTheProjectorCannotDo) {
     EXPECT_EQ(responder.Answer(request).value_or("").substr(7), answer) << request;
     EXPECT_FALSE(responder.Answer("%1POWR=1"));
   }
+  const auto projector = std::make_shared<SimulatedProjector>();
+  const auto refusing = std::make_shared<FaultChannel>(projector);
+  refusing->SetFault(PjtOperation::SetBlank, {.kind = Fault::Kind::Refuse});
+  EXPECT_EQ(PjLinkResponder(refusing, {}).Answer("%1AVMT 31"), "%1AVMT=ERR3");
+  EXPECT_EQ(projector->CodeValue(CommandCode::Mute), 0) << "half of it is not done";
+
+  projector->SetCodeValue(CommandCode::RunningState, 0);
+  projector->SetPowerTimes(1h, 1h);
+  PjLinkResponder warming(projector, {.inputs = std::vector(51, ServedInput{"31"})});
+  EXPECT_EQ(warming.Answer("%1POWR 1"), "%1POWR=OK");
+  EXPECT_EQ(warming.Answer("%1POWR ?"), "%1POWR=3");
+  EXPECT_EQ(warming.Answer("%1INST ?")->size() + 1, PjLink::kLongestInputs);
+
+  const std::string text(200, 'x');
+  PjLinkResponder talkative(projector, {.texts = {{"NAME", text}, {"INF1", text}, {"SNUM", text}}});
+  for (const auto& [question, longest] :
+       {std::pair("%1NAME ?", 64), {"%1INF1 ?", 32}, {"%2SNUM ?", 128}}) {
+    EXPECT_EQ(talkative.Answer(question)->size(), 7 + longest) << question;
+  }
+
+  SourceList sources{.count = 10};
+  sources.firstValues = {20, 21, 22, 23, 24, 25, 26, 27, 28, 29};
+  sources.names[9] = MakeNameSlot("Last");
+  const std::vector<ServedInput> inputs = InputsOf(sources);
+  EXPECT_EQ(inputs.at(8).code + inputs.at(9).code, "3951");
+  EXPECT_EQ(inputs.at(9).source, 29);
+  EXPECT_EQ(inputs.at(9).name, "Last");
+
   using enum Wire::Status;
   Parrot silent(kSilence);
   WireResponder responder(silent);
@@ -103,6 +185,11 @@ TEST(Sessions, EventsAtTheWrongTimeChangeNothing) {
     connection.Closed(stepped.now);
     stepped.projector.Close(stepped.now);
   }
+  EXPECT_EQ(stepped.Do(Get(CommandCode::RunningState)).value, 1);
+  connection.Received(std::string(100'000, 'x'), stepped.now);
+  EXPECT_EQ(stepped.session.State(), ConnectionState::Connected) << "nobody asked anything";
+  EXPECT_EQ(stepped.Do(Get(CommandCode::RunningState)).value, 1);
+  EXPECT_EQ(stepped.projector.connections, 4);
   for (const auto medium : {WireSession::Medium::Noisy, WireSession::Medium::Reliable}) {
     using Kind = SessionStep::Kind;
     const bool isNoisy = medium == WireSession::Medium::Noisy;
@@ -117,6 +204,62 @@ TEST(Sessions, EventsAtTheWrongTimeChangeNothing) {
     wire.Received("noise");
     EXPECT_EQ(wire.Next({}).kind, isNoisy ? Kind::Send : Kind::Close);
   }
+}
+
+TEST(Sessions, AProjectorThatGreetsAndLeavesIsTriedAgainForAWhile) {
+  for (const auto* const greeting : {"PJLINK 0\r", ""}) {
+    PjLinkConnection connection("", {.connect = 2s});
+    SessionTime now{1h};
+    connection.Ask({'1', "POWR", "?"}, 2s, now);
+    int attempts = 0;
+    for (auto step = connection.Next(now);
+         step.kind != SessionStep::Kind::Finished && attempts < 99; step = connection.Next(now)) {
+      if (step.kind == SessionStep::Kind::Wait) now = step.until;
+      if (step.kind != SessionStep::Kind::Connect) continue;
+      ++attempts;
+      connection.Connected();
+      connection.Received(greeting, now);
+      connection.Closed(now);
+    }
+    EXPECT_EQ(attempts, 6) << "at 0, 50, 150, 350, 750 and 1550 ms";
+    EXPECT_EQ(connection.State(), ConnectionState::Lost);
+    EXPECT_FALSE(connection.Answer().sent);
+  }
+}
+
+TEST(Sessions, AClassThatIsNotToldNowIsDoneWithout) {
+  SteppedSession stepped;
+  stepped.projector.facts["CLSS"] = "ERR3";
+  EXPECT_EQ(stepped.Do(Get(CommandCode::InputSource)).value, 31);
+  EXPECT_EQ(stepped.projector.TakeRequests(), "CLSS, INPT");
+}
+
+TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
+  WireSession wire(WireSession::Medium::Reliable, {.connect = 1s, .answer = 1s}, 7);
+  const PjtCommand reads[] = {Get(CommandCode::Mute), Get(CommandCode::Freeze)};
+  wire.Announce(reads);
+  wire.Begin(reads[0], {});
+  wire.Next({});
+  wire.Connected();
+  const std::size_t both = wire.Next({}).bytes.size();
+  std::string bytes;
+  for (const Wire::Frame& frame : {Wire::Frame{8, Wire::Welcome{}},
+                                   {8, Wire::Welcome{0}},
+                                   {9, Wire::Hello{}},
+                                   {9, Wire::Request{}},
+                                   {9, Wire::Reply{Wire::Status::Answered, 1, 5}}}) {
+    Wire::Append(bytes, frame);
+  }
+  wire.Received(bytes);
+  EXPECT_EQ(wire.Next({}).kind, SessionStep::Kind::Finished);
+  EXPECT_EQ(wire.Reply().value, 5);
+
+  wire.Closed();
+  wire.Begin(reads[1], {});
+  EXPECT_EQ(wire.Next({}).kind, SessionStep::Kind::Connect);
+  wire.Connected();
+  EXPECT_EQ(wire.Next({}).bytes.size(), both - Wire::kMaximumFrame)
+      << "what was sent on the last connection is sent again";
 }
 
 }  // namespace

@@ -2,12 +2,17 @@
 // The simulation defines independently what a projector does, so settings and simulation check each
 // other.
 
+#include <algorithm>
+#include <array>
+#include <optional>
 #include <set>
 
 #include <gtest/gtest.h>
 
+#include "device/CommandCode.h"
 #include "device/ModelDataIntake.h"
 #include "settings/ModelSettings.h"
+#include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/Models.h"
 
@@ -29,6 +34,35 @@ std::vector<int> ValuesOf(const ModelSetting& setting) {
   return values;
 }
 
+// Values next to the allowed ones.
+std::vector<int> OthersOf(const ModelSetting& setting) {
+  if (setting.kind != Kind::Number) return {-2, 12345, setting.placeholder.value_or(12345)};
+  const Range range = setting.range.value_or(Range{0, 0xFFFF});
+  return {range.minimum - 1, range.maximum + 1};
+}
+
+// − and + reach the ends of the range, and no more. Some models leave the ends to the projector.
+void ExpectSteps(CPjtInterface& projector, const ModelSettings& settings,
+                 const ModelSetting& setting) {
+  const auto& row = std::get<ValueRow>(*setting.row);
+  const Range bounds = StepBounds(row, settings.Model());
+  if (bounds.maximum == kUnbounded.maximum) return;
+  const int source = AskSource(projector, row.of, settings.Model().ModelCode).value_or(0);
+  for (const bool upwards : {false, true}) {
+    const int last = upwards ? bounds.maximum : bounds.minimum;
+    const int before = upwards ? last - 1 : last + 1;
+    settings.Change(projector, setting, before + row.bias);
+    const auto step = [&](int known) {
+      return Step(projector, row, upwards, source, bounds, known);
+    };
+    EXPECT_EQ(step(before).value, last + row.bias);
+    // Only the projector limits the steps for a source.
+    if (FamilyOf(row.Stepping(upwards).operation) == OperationFamily::SourceStepper) continue;
+    EXPECT_FALSE(step(last).value);
+    EXPECT_EQ(settings.Read(projector, setting), last + row.bias);
+  }
+}
+
 // Settings that are not read back as sent, for reasons given in their tables.
 const std::set<std::string_view> kOneWay{"image.color-temp"};
 
@@ -41,10 +75,13 @@ void ExpectWorks(const ModelSettings& settings, const ModelSetting& setting) {
   for (const int value : ValuesOf(setting)) {
     EXPECT_EQ(settings.Change(projector, setting, value) == Sent::Accepted, setting.changeable)
         << value;
+    EXPECT_EQ(setting.Allows(value), setting.changeable) << value;
     if (setting.Restorable()) {
       EXPECT_EQ(read(), value);
     }
   }
+  for (const int other : OthersOf(setting)) EXPECT_FALSE(setting.Allows(other)) << other;
+  if (setting.range) ExpectSteps(projector, settings, setting);
   if (setting.kind == Kind::Choice) {
     EXPECT_FALSE(setting.entries.empty());
     for (const int other : {setting.placeholder.value_or(12345), 12345}) {
@@ -76,14 +113,16 @@ TEST(ModelSettings, EverySettingOfEveryModelWorksOnTheSimulationAndHasAUniqueKey
 TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   CModelInfo2 model = MakeModel(5, 49);
   AddEntry(model.ColorTempList, -1, "none");
+  AddEntry(model.ColorTempList, 17, "custom");
   AddEntry(model.MyButtonList, -1, "none");
   const ModelSettings settings(MakeModelData(model));
   struct Accepting final : ProjectorChannel {
     PjtReply Execute(const PjtCommand& command) override {
       sent = command;
-      return {.result = 1};
+      return {.result = result};
     }
     PjtCommand sent;
+    int result = 1;
   };
   const auto channel = std::make_shared<Accepting>();
   CPjtInterface projector;
@@ -91,6 +130,83 @@ TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   for (const char* key : {"picture.color-temp", "option.my-button-1"}) {
     EXPECT_EQ(settings.Change(projector, *settings.Find(key), -1), Sent::Accepted) << key;
     EXPECT_EQ(channel->sent.first, -1);
+  }
+  const auto& gain = std::get<ValueRow>(*settings.Find("color-temp.gain-r")->row);
+  const auto step = [&](int known) { return Step(projector, gain, true, 0, {-8, 8}, known); };
+  EXPECT_TRUE(step(0).unchanged) << "0 is its answer";
+  EXPECT_EQ(step(-1).value, gain.bias);
+  channel->result = 0;
+  EXPECT_TRUE(step(-1).unchanged);
+  EXPECT_FALSE(ListRow().Sending(3)) << "a list that only shows";
+}
+
+struct HearingProjector final : SimulatedProjector {
+  void Announce(std::span<const PjtCommand> reads) override {
+    announced.insert(announced.end(), reads.begin(), reads.end());
+  }
+  std::vector<PjtCommand> announced;
+};
+
+TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
+  CModelInfo2 info = MakeModel(5, 49);
+  const ModelSettings open(MakeModelData(info));
+  AddSource(info.MySourceList, 3, "A");
+  const ModelSettings listed(MakeModelData(info));
+  info.ModelCode = 46;
+  const ModelSettings other(MakeModelData(info));
+  const auto has = [](const ModelSettings& settings, const char* key, int source) {
+    return settings.HasSource(*settings.Find(key), source);
+  };
+  EXPECT_TRUE(has(listed, "audio.volume", 3) && has(listed, "audio.volume", 15));
+  EXPECT_FALSE(has(listed, "audio.volume", 4) || has(other, "audio.volume", 15));
+  EXPECT_FALSE(has(listed, "audio.speaker", 3));
+  EXPECT_TRUE(has(open, "audio.volume", 4)) << "the model does not list its inputs";
+  EXPECT_EQ(ModelSettings(MakeModelData(MakeModel(0, 49))).Input(), nullptr);
+  EXPECT_EQ(listed.Input()->key, "other.input-source");
+  EXPECT_TRUE(ModelSettings(MakeModelData(MakeModel(4, 0))).Find("setup.volume")->IsPerSource());
+  for (int model = 49; model <= 54; ++model) {
+    EXPECT_EQ(StandbySource(OfSource::Playing, model), 15) << model;
+  }
+
+  struct Case {
+    int model, power, input;
+    std::optional<int> source;
+  };
+  constexpr std::optional<int> kNone;
+  for (const auto& [model, power, input, source] : {Case{48, 0, 3, 3},
+                                                    {49, 0, 3, 15},
+                                                    {54, 2, 3, 15},
+                                                    {49, 1, 3, 3},
+                                                    {50, 3, 3, 3},
+                                                    {55, 0, 3, 3},
+                                                    {49, 1, -1, kNone},
+                                                    {46, 0, -1, kNone}}) {
+    const auto simulated = std::make_shared<HearingProjector>();
+    const auto channel = std::make_shared<FaultChannel>(simulated);
+    CPjtInterface projector;
+    projector.SetChannel(channel);
+    simulated->SetCodeValue(CommandCode::RunningState, power);
+    simulated->SetCodeValue(CommandCode::InputSource, input);
+    EXPECT_EQ(AskSource(projector, OfSource::Playing, model), source) << model << ' ' << power;
+    EXPECT_EQ(AskSource(projector, OfSource::None, model), 0);
+    if (model != 49) continue;
+    const ModelSetting& volume = *listed.Find("audio.volume");
+    const ModelSetting& action =
+        *std::ranges::find(listed.All(), Kind::Action, &ModelSetting::kind);
+    EXPECT_EQ(listed.PresentSource(projector, volume), source);
+    EXPECT_EQ(listed.PresentSource(projector, *listed.Find("audio.speaker")), kNone);
+    EXPECT_EQ(listed.Change(projector, volume, 7), source ? Sent::Accepted : Sent::Nothing);
+    EXPECT_EQ(listed.Read(projector, volume), source ? std::optional(7) : kNone);
+    const auto sourced =
+        listed.PrepareReads(projector, std::array{&volume, listed.Find("audio.speaker"), &action});
+    EXPECT_EQ(sourced.front().source, source);
+    std::vector<PjtCommand> reads{{PjtOperation::Get, CommandCode::RunningState},
+                                  {PjtOperation::GetInputSource}};
+    if (source) reads.push_back({PjtOperation::GetInputSrcVolume, 0, std::int16_t(*source)});
+    reads.push_back({PjtOperation::GetSpeaker});
+    EXPECT_EQ(simulated->announced, reads);
+    channel->SetFault(CommandCode::RunningState, {.kind = Fault::Kind::Refuse});
+    EXPECT_EQ(listed.PresentSource(projector, volume), kNone);
   }
 }
 

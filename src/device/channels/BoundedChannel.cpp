@@ -74,7 +74,9 @@ bool Tend(ProjectorChannel& channel, Clock::time_point lastUse) {
   }
 }
 
+// Without an application, Qt passes no events on, and an event loop would never end.
 bool HasEventLoop() {
+  // unreachable: every test program has an application
   return QCoreApplication::instance() && QAbstractEventDispatcher::instance() != nullptr;
 }
 
@@ -134,7 +136,7 @@ void BoundedChannel::State::Work() {
   bool hasMoreToDo = false;
   bool isConnected = false;
   Clock::time_point lastUse;
-  while (true) {
+  for (;;) {
     while ((hasMoreToDo || isConnected) &&
            !commandGiven.wait_for(lock, hasMoreToDo ? limits.idle : limits.tend, isCalled)) {
       usesIdleTime = true;
@@ -228,8 +230,8 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   // Events handled during the wait may destroy this object.
   const std::shared_ptr<State> state = state_;
   std::unique_lock lock(state->mutex);
-  if (!state->inner || state->ended || state->waiting ||
-      (state->outstanding && !state->abandoned) || Clock::now() < state->silentUntil) {
+  if (!state->inner || state->waiting || (state->outstanding && !state->abandoned) ||
+      Clock::now() < state->silentUntil) {
     return Unsent(command);
   }
   if (!state->worker.joinable()) {

@@ -55,7 +55,6 @@ PjtReply PjLinkChannel::Execute(const PjtCommand& command) {
 void PjLinkChannel::Run(const auto& work) {
   socket_->ReceiveUnsolicited();
   work();
-  const ConnectionState before = session_.State();
   bool wasUsed = false;
   for (auto step = session_.Next(Clock::now()); step.kind != PjLinkStep::Kind::Finished;
        step = session_.Next(Clock::now())) {
@@ -66,7 +65,7 @@ void PjLinkChannel::Run(const auto& work) {
     socket_->ReceiveUnsolicited();
     if (session_.State() == ConnectionState::Connecting) state_ = ConnectionState::Connecting;
   }
-  if (wasUsed || session_.State() != before) state_ = session_.State();
+  if (wasUsed) state_ = session_.State();
   power_ = session_.Power();
   inquiry_.CheckClass(session_.ProtocolClass());
 }
@@ -98,8 +97,7 @@ std::pair<std::optional<PjLinkInput>, bool> PjLinkChannel::AskForPresentInput() 
   const auto& known = inquiry_.Inputs().Known();
   const auto input = std::ranges::find(known, reply.value, &PjLinkInput::number);
   if (input != known.end()) return {*input, true};
-  const auto question = PjLinkInputs::NameOf(reply.value);
-  const PjLinkResult result = question ? Ask(*question) : PjLinkResult{};
+  const PjLinkResult result = Ask(PjLinkInputs::NameOf(reply.value).value());
   return {PjLinkInputs::Named(reply.value, result.text), result.kind != PjLinkResult::Kind::Lost};
 }
 

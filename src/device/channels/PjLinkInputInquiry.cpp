@@ -28,8 +28,7 @@ bool PjLinkInputInquiry::Take(const PjLinkResult& result, SessionTime now) {
 }
 
 std::vector<PjLinkInput> PjLinkInputInquiry::AllInputs() const {
-  const bool areComplete = inputs_.IsListKnown() && !inputs_.Next();
-  return areComplete ? inputs_.Known() : std::vector<PjLinkInput>();
+  return inputs_.Next() ? std::vector<PjLinkInput>() : inputs_.Known();
 }
 
 void PjLinkInputInquiry::Remember(const std::vector<PjLinkInput>& inputs,

@@ -65,11 +65,10 @@ void PjLinkTcpSocket::Connect(const SessionStep& step) {
 
 void PjLinkTcpSocket::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
-  const bool isReady =
-      socket_->bytesAvailable() > 0 || socket_->waitForReadyRead(static_cast<int>(time.count()));
-  if (isReady) connection_.Received(socket_->readAll().toStdString(), Clock::now());
-  if (socket_->state() == QAbstractSocket::ConnectedState || socket_->bytesAvailable() > 0) return;
-  Close();
+  // What has been read into the socket's buffer must not wait for more.
+  if (socket_->bytesAvailable() == 0) socket_->waitForReadyRead(static_cast<int>(time.count()));
+  connection_.Received(socket_->readAll().toStdString(), Clock::now());
+  if (socket_->state() != QAbstractSocket::ConnectedState) Close();
 }
 
 }  // namespace AdvancedControl

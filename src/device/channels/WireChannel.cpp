@@ -62,7 +62,6 @@ void WireChannel::Drive(const SessionStep& step) {
   switch (step.kind) {
     case SessionStep::Kind::Connect: {
       auto problem = ConnectionState::NotReachable;
-      line_.reset();  // only one program can open a serial port
       line_ = Open(QDeadlineTimer(step.until), problem);
       return line_ ? session_.Connected() : session_.NotConnected(problem);
     }

@@ -73,7 +73,11 @@ void PjLinkConnection::Closed(PjLinkTime now) {
       break;
     case Stage::Settling:
     case Stage::Sending:
-      Open(now);
+      if (replies_ > 0) {
+        Open(now);
+      } else {
+        OpenLater(ConnectionState::Lost, now);
+      }
       break;
     case Stage::Awaiting:
       if (exchange_.TakeRepetition()) {
@@ -107,7 +111,7 @@ void PjLinkConnection::HandleGreeting(std::string_view line) {
 }
 
 void PjLinkConnection::HandleLine(const std::string& line, PjLinkTime now) {
-  switch (exchange_.Take(line)) {
+  switch (exchange_.Take(line)) {  // unreachable: there is a case for every kind of line
     case PjLinkExchange::Line::Answer:
       ++replies_;
       repliedAt_ = now;

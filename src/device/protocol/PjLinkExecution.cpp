@@ -42,7 +42,7 @@ PjLinkNextRequest PjLinkExecution::Begin(const PjtCommand& command,
 
 PjLinkNextRequest PjLinkExecution::Handle(const PjLinkAnswer& answer, PjLinkKnownClass& known,
                                           SessionTime now) {
-  switch (stage_) {
+  switch (stage_) {  // unreachable: there is a case for every stage
     case Stage::Power:
       return HandlePower(answer, now);
     case Stage::Confirmation:

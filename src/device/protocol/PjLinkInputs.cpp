@@ -56,12 +56,12 @@ bool PjLinkInputs::Take(const PjLinkResult& result) {
     codes_ = PjLink::InputCodes(result.text);
     return !codes_.empty();
   }
-  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), result.text));
+  AddNext(result.text);
   return true;
 }
 
 void PjLinkInputs::SkipName() {
-  if (const auto code = NextCode()) Add(Named(*PjLink::InputNumber(*code), {}));
+  if (IsListKnown()) AddNext({});
 }
 
 PjLinkInputs::Asked PjLinkInputs::AskForAll(
@@ -73,7 +73,7 @@ PjLinkInputs::Asked PjLinkInputs::AskForAll(
     asked.isComplete = false;
     asked.isLost = asked.isLost || result.kind == PjLinkResult::Kind::Lost;
     if (!IsListKnown()) break;
-    SkipName();
+    AddNext({});
   }
   return asked;
 }
@@ -105,9 +105,12 @@ std::optional<std::string> PjLinkInputs::NextCode() const {
   return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(present_);
 }
 
-void PjLinkInputs::Add(PjLinkInput input) {
+/// Adds the input that `Next` asks for, if any.
+void PjLinkInputs::AddNext(const std::string& name) {
+  const auto code = NextCode();
+  if (!code) return;
   if (inputs_.size() == kMostInputs) inputs_.pop_back();
-  inputs_.push_back(std::move(input));
+  inputs_.push_back(Named(*PjLink::InputNumber(*code), name));
 }
 
 }  // namespace AdvancedControl

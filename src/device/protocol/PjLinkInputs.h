@@ -40,7 +40,7 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   std::optional<PjLinkQuestion> Next() const;
   /// Takes the result of that question. False if it has to be repeated.
   bool Take(const PjLinkResult& result);
-  /// Skips the name that `Next` asks for, until `Forget`.
+  /// Skips the name that `Next` asks for, until `Forget`. Does nothing if it asks for no name.
   void SkipName();
   bool IsListKnown() const { return !codes_.empty(); }
   /// Asks everything that is not known; `ask` returns the result of a question. What it could not
@@ -58,13 +58,14 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   void Remember(std::vector<PjLinkInput> inputs);
   void Forget() { *this = {}; }
 
-  /// The question for an input's name; and the input with the name in its answer.
+  /// The question for an input's name, if there is an input of this number; and the input with the
+  /// name in its answer.
   static std::optional<PjLinkQuestion> NameOf(int number);
   static PjLinkInput Named(int number, const std::string& name);
 
  private:
   std::optional<std::string> NextCode() const;
-  void Add(PjLinkInput input);
+  void AddNext(const std::string& name);
 
   std::vector<std::string> codes_;
   std::vector<PjLinkInput>

@@ -16,7 +16,7 @@ class PjLinkRepeats {
   bool HasStarted() const { return until_.has_value(); }
   /// Ends the time for repetitions.
   void End(SessionTime now) { until_ = now; }
-  bool HasTime(SessionTime now) const { return until_ && now < *until_; }
+  bool HasTime(SessionTime now) const { return until_ > now; }
   /// The time of the next repetition, if there is time for one.
   SessionTime Next(SessionTime now);
 

@@ -36,8 +36,6 @@ class WireRequests {
   /// Whether the command has been sent ahead. Drops the reads before it, which were skipped, so
   /// that `TakeReply` returns its reply.
   bool SkipTo(const PjtCommand& command);
-  /// Whether one more request may be sent without waiting for a reply.
-  bool HasRoom() const { return FreeSlots() > 0; }
   /// Appends the request for the command to `bytes`, and those for the reads announced after it.
   void Send(const PjtCommand& command, std::string& bytes);
 
@@ -55,7 +53,8 @@ class WireRequests {
   };
 
   /// How many requests may be sent without waiting for a reply. Replies come in the order of the
-  /// requests.
+  /// requests. At least one, because every command waits for its own reply, and what was sent with
+  /// a command is behind it.
   std::size_t FreeSlots() const;
   Sent Make(const PjtCommand& command, std::string& bytes);
 

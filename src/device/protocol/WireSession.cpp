@@ -76,7 +76,7 @@ void WireSession::Start(SessionTime now) {
 
 bool WireSession::Advance(SessionTime now) {
   const bool isLate = connection_.Unsent().empty() && now >= until_;
-  switch (stage_) {
+  switch (stage_) {  // unreachable: there is a case for every stage
     case Stage::Idle:
     case Stage::Opening:
       return false;
@@ -88,15 +88,9 @@ bool WireSession::Advance(SessionTime now) {
       if (requests_.SkipTo(command_.Command())) {
         Await(Stage::AwaitingReply, command_.Within(limits_.answer, now));
       } else {
-        Await(Stage::AwaitingSlot, now + limits_.answer);
+        SendRequest();
       }
       return true;
-    case Stage::AwaitingSlot:
-      if (requests_.HasRoom()) {
-        SendRequest();
-        return true;
-      }
-      break;
     case Stage::Greeting:
     case Stage::AwaitingWelcome:
       if (connection_.Welcome()) {

@@ -79,7 +79,6 @@ class PROJECTOR_COMMON_EXPORT WireSession {
     Connecting,
     Greeting,  ///< Waits for the welcome before the first request.
     Asking,
-    AwaitingSlot,
     AwaitingWelcome,
     AwaitingReply,
   };

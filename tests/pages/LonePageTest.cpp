@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include "pages/picture/CPictureTabType5Dlg.h"
@@ -14,12 +15,12 @@ constexpr int kBrightness = 20136, kBrightnessPlus = 20135;
 
 TEST(LonePage, ActsMarksAndPutsBackLikeOneOfTheDialog) {
   QWidget window;
-  window.resize(900, 700);
   const auto channel = std::make_shared<RecordingChannel>();
   channel->Answer("Get 0x2003", 128);
   CPjtInterface projector;
   projector.SetChannel(channel);
   CPictureTabType5Dlg page(&window);
+  (new QVBoxLayout(&window))->addWidget(&page);
   page.projector = &projector;
   ASSERT_TRUE(page.Create());
   page.show();

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/SampleDialog.h"
-#include "toolkit/AnnouncedLabel.h"
 
 namespace {
 
@@ -101,17 +100,6 @@ TEST_F(AccessTest, SlidersAndBoxesReportWhatHasChanged) {
   Act(AccessOf(check), Actions::toggleAction());
   EXPECT_TRUE(AccessOf(check).state().checked);
   EXPECT_EQ(dialog.presses, 1);
-}
-
-TEST_F(AccessTest, ADialogHasItsControlsButNoWindowsAndALabelItsText) {
-  const int controls = AccessOf(dialog).childCount();
-  const QDialog window(&dialog);
-  EXPECT_EQ(AccessOf(dialog).childCount(), controls);
-  AnnouncedLabel label;
-  label.setText(QStringLiteral("Accepted"));
-  label.setAccessibleDescription(QStringLiteral("Last change"));
-  EXPECT_EQ(AccessOf(label).text(QAccessible::Name), QStringLiteral("Accepted"));
-  EXPECT_EQ(AccessOf(label).text(QAccessible::Description), QStringLiteral("Last change"));
 }
 
 }  // namespace

@@ -1,14 +1,9 @@
-#include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/SampleDialog.h"
-#include "toolkit/Contrast.h"
 #include "toolkit/CurveView.h"
-#include "toolkit/FittedScroll.h"
-#include "toolkit/NumberField.h"
 
 namespace {
 
@@ -51,25 +46,6 @@ TEST(TallDialog, ScrollsAndKeepsCloseInSight) {
   EXPECT_EQ(ResourceChain::Current(), nullptr) << "it may be unloaded now";
 }
 
-TEST(FittedScroll, ShowsTheControlWithTheFocusInBothDirections) {
-  for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-    auto* contents = new QWidget;
-    contents->setMinimumSize(2000, 50);
-    FittedScroll scroll(contents, nullptr);
-    scroll.setLayoutDirection(direction);
-    auto* left = new QPushButton(contents);
-    auto* right = new QPushButton(contents);
-    right->move(1800, 0);
-    scroll.resize(400, 100);
-    Activate(scroll);
-    for (QPushButton* field : {right, left, right}) {
-      field->setFocus();
-      const QRect place(field->mapTo(scroll.viewport(), QPoint()), field->size());
-      EXPECT_TRUE(scroll.viewport()->rect().contains(place)) << direction << ' ' << place.x();
-    }
-  }
-}
-
 struct Curve : testing::Test {
   Curve() {
     curve.resize(300, 300);
@@ -99,33 +75,6 @@ TEST_F(Curve, OnlyMovablePointsAreDraggedAndOnlyWithTheLeftButton) {
   for (const double point : {0.8, 0.2}) {
     QTest::mouseMove(&curve, At(point));
     EXPECT_EQ(curve.cursor().shape(), point == 0.8 ? Qt::SizeVerCursor : Qt::ArrowCursor);
-  }
-}
-
-TEST_F(Curve, ItsLinesCanBeSeenWithAnyPalette) {
-  for (const QColor& base : {QColor(Qt::white), QColor(30, 30, 30)}) {
-    QPalette palette = curve.palette();
-    palette.setColor(QPalette::Base, base);
-    curve.setPalette(palette);
-    EXPECT_GE(ContrastOf(curve.grab().toImage().pixelColor(At(0.8)), base), 3);
-  }
-}
-
-// A word stands before the number where the text runs from right to left, a sign never.
-TEST(NumberField, DrawsItsUnitBesideTheNumber) {
-  for (const auto& [direction, unit, isRight] : {std::tuple{Qt::LeftToRight, "min", true},
-                                                 {Qt::RightToLeft, "min", false},
-                                                 {Qt::RightToLeft, "%", true},
-                                                 {Qt::LeftToRight, "", true}}) {
-    NumberField field(nullptr);
-    field.setLayoutDirection(direction);
-    field.setText(QStringLiteral("5"));
-    field.setFixedWidth(150);
-    const QImage without = field.grab().toImage();
-    const int room = field.textMargins().right();
-    field.SetUnit(QString::fromUtf8(unit), QStringLiteral("5"));
-    EXPECT_EQ(field.textMargins().right() > room, isRight && *unit != 0);
-    EXPECT_EQ(field.grab().toImage() == without, *unit == 0);
   }
 }
 

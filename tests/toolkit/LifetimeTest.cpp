@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include <QCheckBox>
 #include <QInputMethodEvent>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -69,31 +68,6 @@ TEST_F(DialogTest, InputToItsControlsIsDroppedWhileAHandlerRuns) {
   }
 }
 
-TEST_F(DialogTest, AClickThatBeganBeforeTheHandlerDoesNothing) {
-  QTest::mousePress(dialog.GetDlgItem(10), Qt::LeftButton);
-  {
-    const CDialog::Busy handler(&dialog);
-    QTest::mouseRelease(dialog.GetDlgItem(10), Qt::LeftButton);
-  }
-  EXPECT_EQ(dialog.presses, 0);
-}
-
-TEST_F(DialogTest, RepeatsOfAHeldKeyNeitherPressNorEndAScroll) {
-  const auto repeat = [this](int id, QEvent::Type type, Qt::Key key) {
-    dialog.GetDlgItem(id)->setFocus();
-    QKeyEvent event(type, key, Qt::NoModifier, QString(), true);
-    QApplication::sendEvent(dialog.GetDlgItem(id), &event);
-  };
-  repeat(10, QEvent::KeyPress, Qt::Key_Return);
-  EXPECT_EQ(dialog.presses, 0);
-  dialog.GetDlgItem(4)->setFocus();
-  QTest::keyPress(dialog.GetDlgItem(4), Qt::Key_Right);
-  repeat(4, QEvent::KeyRelease, Qt::Key_Right);
-  EXPECT_TRUE(dialog.scrolls.empty());
-  QTest::keyRelease(dialog.GetDlgItem(4), Qt::Key_Right);
-  EXPECT_EQ(dialog.scrolls.size(), 1U);
-}
-
 TEST_F(DialogTest, ItsHandlerMayCloseItTwiceButNotCreateIt) {
   dialog.whenDone = [this] {
     EXPECT_FALSE(dialog.Create());
@@ -146,29 +120,6 @@ TEST_F(DialogTest, EndsOnceAndAsksNothingMoreWhenTheWindowsBelowItDie) {
   owner.reset();
   EXPECT_EQ(popUp.destroyed, 1);
   EXPECT_EQ(closed.destroyed, 1);
-}
-
-TEST_F(DialogTest, EndsWithTheOwnerThatItWasGivenLast) {
-  auto* later = new QWidget;
-  dialog.setParent(later, dialog.windowFlags());
-  dialog.show();
-  delete later;
-  EXPECT_FALSE(dialog.isVisible());
-  EXPECT_EQ(dialog.destroyed, 1);
-}
-
-// The others are made between the allocation of the first and its constructor.
-TEST_F(DialogTest, OnlyWhatIsMadeWithNewIsDeletedWithItsOwner) {
-  static std::optional<SampleDialog> below;  // the heap, on most systems
-  std::optional<SampleDialog> above;
-  auto* window = new QWidget;
-  const QPointer<SampleDialog> made =
-      new SampleDialog((below.emplace(window), above.emplace(window), window));
-  for (SampleDialog* opened : {&*below, &*above, made.data()}) opened->Open();
-  delete window;
-  EXPECT_EQ(made, nullptr);
-  for (const SampleDialog* kept : {&*below, &*above}) EXPECT_EQ(kept->parentWidget(), nullptr);
-  below.reset();
 }
 
 }  // namespace

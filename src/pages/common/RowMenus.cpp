@@ -114,7 +114,7 @@ bool RowMenus::IsBusy() const {
 }
 
 void RowMenus::MoveTo(RowView& row, int position) {
-  if (!IsBusy() && host_.Dialog().isVisible()) row.MoveTo(position);
+  if (!IsBusy() && host_.Dialog().isVisible() && row.CanMoveTo(position)) row.MoveTo(position);
 }
 
 void RowMenus::PutBack(RowView& row) {

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # The checks besides the tests under the sanitizers: floors, classes with too many members, an optimised build without
-# warnings with its tests and benchmarks, calls that fail, the installed library, what goes into the packages, clang-tidy
-# over the last changes, channels and fleet under the thread sanitizer, and a moment of each fuzz target. A check that
-# fails says what to run to see it again.
+# warnings with its tests and benchmarks, mutants, calls that fail, the installed library, what goes into the packages,
+# clang-tidy over the last changes, channels and fleet under the thread sanitizer, and a moment of each fuzz target. A
+# check that fails says what to run to see it again.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -20,11 +20,14 @@ check "Size of classes" "scripts/members.py"
 check "Packaging" "scripts/check-packaging.sh"
 cmake --preset check >/dev/null
 check "Optimised build (build/check): warnings are errors" "cmake --build --preset check"
-check "Tests, optimised" "ctest --preset check -j $jobs"
-check "Calls that fail" "scripts/faults.py build/check 15"
+# Both mostly wait.
+check "Tests, optimised, and calls that fail" \
+  "scripts/faults.py build/check 15 & ctest --preset check -j $jobs; wait \$!"
+check "Mutants of the last changes" \
+  "scripts/mutate.py --build build/check --changed HEAD~3 --files 'src/*' --sample 40 --seconds 60 --least 70"
 check "Installed library" "cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake"
 check "Benchmarks for a moment" \
-  "build/check/bin/advanced-control-bench --benchmark_min_time=0.01 --benchmark_filter='OpenDialog|RefreshPicture/ms:0' >/dev/null"
+  "build/check/bin/advanced-control-bench --benchmark_min_time=0.01 --benchmark_filter='OpenDialog/type:5/code:30|RefreshPicture/ms:0' >/dev/null"
 check "clang-tidy over the last changes" "scripts/tidy.py --since HEAD~3"
 cmake --preset tsan >/dev/null
 check "Build under the thread sanitizer (build/tsan)" "cmake --build --preset tsan --target device_tests fleet_tests"

@@ -9,13 +9,14 @@ A mutant is killed when a test fails or does not end. One that lives shows a fau
 nothing needs, or a change that makes no difference. All mutants of the chosen files are built at once, from the objects
 of a build that exists. What the compiler must know beforehand is built and tested by itself.
 Results are kept in build/mutation/results.jsonl: a run that was interrupted goes on where it was, and a mutant is tried
-anew when its file has changed, or with --again if it lived. Needs python3-clang."""
+anew when its file has changed, or with --again if it lived."""
 
 import argparse
 import fcntl
 import fnmatch
 import hashlib
 import json
+import math
 import os
 import queue
 import random
@@ -57,13 +58,19 @@ def parse_arguments():
                         help="of tests for one mutant, the quickest first (default: 60)")
     parser.add_argument("--suites", nargs="+", metavar="SUITE", help="use only these test programs")
     parser.add_argument("--build", default="build/dev", help="the build to take objects from (default: build/dev)")
+    parser.add_argument("--seconds", type=float, metavar="SECONDS",
+                        help="end after about so long: a third for building, a third for finding out what the quickest "
+                             "suites reach; does not look whether a mutant that lives is equivalent")
     parser.add_argument("--least", type=float, default=100, metavar="PERCENT",
-                        help="fail only if fewer are killed (default: 100)")
+                        help="fail only if fewer are killed (default: 100); of a sample, so many fewer that a better share "
+                             "would show it in less than one of a hundred samples")
     return parser.parse_args()
 
 
 def changed_lines(revision):
-    """{file: lines} added or changed since the revision."""
+    """{file: lines} added or changed since the revision; None if the clone does not have it."""
+    if subprocess.run(["git", "cat-file", "-e", revision], cwd=ROOT, stderr=subprocess.DEVNULL).returncode != 0:
+        return None
     changes = subprocess.run(["git", "diff", "--unified=0", revision, "--", "src", "app"], cwd=ROOT,
                              capture_output=True, text=True, check=True).stdout
     lines, file = defaultdict(set), ""
@@ -76,12 +83,25 @@ def changed_lines(revision):
     return lines
 
 
+def of_few_units(mutants, units, least):
+    """Those of the units with the most mutants, at least so many: fewer units are built sooner."""
+    unit_of = {member: number for number, unit in enumerate(units) for member in unit.members}
+    by_unit = defaultdict(list)
+    for mutant in mutants:
+        by_unit[unit_of[mutant.file]].append(mutant)
+    found = []
+    for most in sorted(by_unit.values(), key=len, reverse=True):
+        if len(found) < least:
+            found += most
+    return found
+
+
 def choose(arguments, units, links):
     """The chosen mutants, and the files that they are in."""
     listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "src", "app"],
                             cwd=ROOT, capture_output=True, text=True, check=True).stdout.split()
     lines = changed_lines(arguments.changed) if arguments.changed else None
-    patterns = arguments.files or (["*"] if lines else ["src/*"])
+    patterns = arguments.files or (["src/*"] if lines is None else ["*"])
     if arguments.only:
         patterns = [mutant.split(":")[0] for mutant in arguments.only]
     tested = links.all_objects()
@@ -94,6 +114,8 @@ def choose(arguments, units, links):
                if (lines is None or mutant.line in lines[mutant.file])
                and (not arguments.kinds or mutant.kind in arguments.kinds)
                and (not arguments.only or mutant.id in arguments.only)]
+    if arguments.sample and arguments.seconds:
+        mutants = of_few_units(mutants, units, 2 * arguments.sample)
     if arguments.sample and arguments.sample < len(mutants):
         mutants = random.Random(arguments.seed).sample(mutants, arguments.sample)
     chosen = {mutant.file for mutant in mutants}
@@ -142,9 +164,13 @@ class Run:
         fcntl.flock(self.only, fcntl.LOCK_EX)
         self.results, self.jobs = results, arguments.jobs
         self.builder = Builder(ROOT, ROOT / arguments.build, self.work, units, links, sources)
+        self.isTimed = arguments.seconds is not None
+        limit = arguments.seconds or math.inf
+        now = time.monotonic()
+        self.end = now + limit
         with ThreadPoolExecutor(self.jobs) as pool:
-            suites = self.builder.build_all(pool, arguments.suites)
-            self.reach = Reach(suites, self.work, self.builder, pool)
+            suites = self.builder.build_all(pool, arguments.suites, now + limit / 3)
+            self.reach = Reach(suites, self.work, self.builder, pool, now + 2 * limit / 3)
         self.trial = Trial(self.reach, self.work, arguments.budget)
         self.plain = {}  # file: its optimised object without a mutant
         self.lock = threading.Lock()
@@ -176,12 +202,14 @@ class Run:
         number = self.builder.numbers[mutant.id]
         if number in self.builder.invalid:
             return "invalid", "does not compile"
+        if self.isTimed and number in self.builder.single:
+            return None
         tests = self.reach.tests[number]
         if number in self.builder.single or mutant.constant and not tests:
             outcome, detail = self.alone(mutant, folder)
         else:
             outcome, detail = self.trial.test(mutant, tests, self.work / "bin", {"MUTANT": str(number)})
-        if outcome == "alive":
+        if outcome == "alive" and not self.isTimed:
             with self.lock:
                 if mutant.file not in self.plain:
                     self.plain[mutant.file] = self.optimised(replace(mutant, after=None), folder)
@@ -200,10 +228,15 @@ class Run:
 
         def work(place):
             try:
-                while not failures:
+                while not failures and time.monotonic() < self.end:
                     mutant = waiting.get_nowait()
+                    if mutant.file in self.builder.left:
+                        continue
                     started = time.monotonic()
-                    outcome, detail = self.test(mutant, place)
+                    ended = self.test(mutant, place)
+                    if ended is None:
+                        continue
+                    outcome, detail = ended
                     self.results.add(mutant, outcome, detail, time.monotonic() - started)
                     print(f"{outcome:10} {mutant.id}  {detail}", flush=True)
             except queue.Empty:
@@ -221,13 +254,14 @@ class Run:
             raise failures[0]
 
 
-def report(mutants, results, equivalents, suites):
-    """Prints what is known of the mutants. Returns how many percent of those that were tried are killed."""
+def report(mutants, results, equivalents, isWhole):
+    """Prints what is known of the mutants; `isWhole` if all suites were used. Returns how many of them were killed, and how
+    many lived."""
     scores, alive = defaultdict(Counter), []
     for mutant in mutants:
         result = results.find(mutant)
         outcome = "equivalent" if equivalents.has(mutant) else result["outcome"] if result else "open"
-        if suites and outcome == "alive" and result["detail"] == UNREACHED:
+        if not isWhole and outcome == "alive" and result["detail"] == UNREACHED:
             outcome = "unreached"  # another suite may reach it
         scores["/".join(mutant.file.split("/")[:2])][outcome] += 1
         if outcome == "alive":
@@ -243,9 +277,16 @@ def report(mutants, results, equivalents, suites):
         tried = score["killed"] + score["alive"]
         share = f"{100 * score['killed'] / tried:9.0f} %" if tried else ""
         print(f"{folder:20}" + "".join(f"{score[column]:11}" for column in columns) + share)
-    killed = sum(score["killed"] for score in scores.values())
-    tried = killed + len(alive)
-    return 100 * killed / tried if tried else 100
+    return sum(score["killed"] for score in scores.values()), len(alive)
+
+
+def is_enough(killed, alive, share, isSample):
+    """Whether the share may be killed of all."""
+    tried = killed + alive
+    if not isSample:
+        return killed >= share * tried
+    chance = sum(math.comb(tried, count) * share ** count * (1 - share) ** (tried - count) for count in range(killed + 1))
+    return chance >= 0.01
 
 
 def main():
@@ -270,8 +311,8 @@ def main():
     if wanted:
         random.Random(arguments.seed).shuffle(wanted)  # an interrupted run is a sample, too
         Run(units, links, sources, results, arguments).all(wanted)
-    score = report(mutants, results, equivalents, arguments.suites)
-    return 0 if score >= arguments.least else 1
+    killed, alive = report(mutants, results, equivalents, not arguments.suites and not arguments.seconds)
+    return 0 if is_enough(killed, alive, arguments.least / 100, bool(arguments.sample)) else 1
 
 
 if __name__ == "__main__":

@@ -10,7 +10,7 @@ packages=(
   binutils-mingw-w64-x86-64
   libgtest-dev libgmock-dev
   clang-format clang-tidy
-  clang libclang-rt-14-dev llvm
+  clang libclang-rt-14-dev llvm python3-clang
   libbenchmark-dev
   gettext qt6-l10n-tools qt6-tools-dev qt6-translations-l10n
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi xvfb

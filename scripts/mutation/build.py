@@ -9,6 +9,7 @@ import os
 import re
 import shlex
 import subprocess
+import time
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
@@ -155,6 +156,7 @@ class Builder:
         assert all(len(source.mutants) <= 1024 for source in sources)
         self.single = set()  # numbers of mutants that are only built alone
         self.invalid = set()  # and of those that do not compile
+        self.left = set()  # files for which there was no time
 
     def mutated_units(self):
         return [unit for unit in self.units if any(member in self.sources for member in unit.members)]
@@ -283,7 +285,8 @@ class Builder:
                 (folder / file.name).symlink_to(file)
         return made
 
-    def build_all(self, pool, suites):
+    def build_all(self, pool, suites, end):
+        """The test programs with the mutants; without those of files that are not begun at `end`."""
         extra = []
         for name in ("Mutant", "Recorder"):
             output = self.work / f"{name}.o"
@@ -293,7 +296,13 @@ class Builder:
             extra.append(output)
         objects = {}
         units = self.mutated_units()
-        for unit, (output, single, invalid) in zip(units, pool.map(self.compile_mutants, units)):
+        # The first has its mutants whatever the time is, so that something is tried.
+        for unit, made in zip(units, pool.map(lambda unit: unit is not units[0] and time.monotonic() > end
+                                              or self.compile_mutants(unit), units)):
+            if made is True:
+                self.left.update(unit.members)
+                continue
+            output, single, invalid = made
             objects[unit.object] = output
             self.single |= single
             self.invalid |= invalid

@@ -2,12 +2,14 @@
 
 import math
 import os
+import re
 import resource
 import shutil
 import signal
 import subprocess
 import tempfile
 import threading
+import time
 from collections import Counter, defaultdict
 from pathlib import Path
 
@@ -49,19 +51,29 @@ def run(program, arguments, folder, libraries, variables, limit, processor=None)
     return (told if ended else None), running.returncode
 
 
-class Reach:
-    """Which tests reach a mutant."""
+def ctest_costs(build):
+    """{suite: seconds that ctest saw it take}; 0 where it did not run."""
+    costs, file = defaultdict(float), build / "Testing/Temporary/CTestCostData.txt"
+    for line in file.read_text().splitlines() if file.exists() else []:
+        if found := re.match(r"(.*_tests)(?:_\d+)? \d+ ([\d.]+)$", line):
+            costs[found[1]] += float(found[2])
+    return costs
 
-    def __init__(self, suites, work, builder, pool):
+
+class Reach:
+    """Which tests reach a mutant; without the suites that are not begun at `end`, the slowest."""
+
+    def __init__(self, suites, work, builder, pool, end):
         self.seconds = {}
         self.tests = defaultdict(list)  # number: (suite, test)
         self.folder = work / "reach"
         self.folder.mkdir(parents=True, exist_ok=True)
         self.size = builder.size
-        suites = [suite for suite in suites if suite.name not in LEFT_OUT]
+        costs = ctest_costs(builder.build)
+        suites = sorted((suite for suite in suites if suite.name not in LEFT_OUT), key=lambda suite: costs[suite.name])
         libraries = list((work / "bin").glob("*.so.?"))
-        for suite, record in zip(suites, pool.map(lambda suite: self.record(suite, libraries), suites)):
-            for line in record.read_text().splitlines():
+        for suite, record in zip(suites, pool.map(lambda suite: self.record(suite, libraries, end), suites)):
+            for line in record.read_text().splitlines() if record else []:
                 name, seconds, passed, *numbers = line.split()
                 if name == "start":
                     started = numbers
@@ -73,15 +85,22 @@ class Reach:
                 else:
                     print(f"{suite.name}: {name} fails without a mutant and is left out", flush=True)
 
-    def record(self, suite, libraries):
+    def record(self, suite, libraries, end):
+        """The file with what the suite's tests reach; None if it did not end in time."""
         record, reached = self.folder / suite.name, self.folder / f"{suite.name}.bytes"
         if newer(record, [suite, *libraries]):
             return record
+        left = end - time.monotonic()
+        if left <= 0:
+            return None
         print(f"recording what {suite.name} reaches", flush=True)
         record.unlink(missing_ok=True)
         reached.write_bytes(bytes(self.size))
         told, result = run(suite, [], self.folder, suite.parent,
-                           {"MUTANTS_REACHED": str(reached), "MUTANTS_RECORD": str(record)}, 1800)
+                           {"MUTANTS_REACHED": str(reached), "MUTANTS_RECORD": str(record)}, min(left, 1800))
+        if told is None and left < 1800:
+            record.unlink(missing_ok=True)
+            return None
         if told is None or result < 0 or not record.exists():
             record.unlink(missing_ok=True)
             raise SystemExit(f"{suite} does not run without a mutant: {result}\n{(told or '')[-2000:]}")

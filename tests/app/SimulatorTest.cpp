@@ -6,7 +6,6 @@
 
 #include <QLabel>
 #include <QTabBar>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
@@ -23,6 +22,7 @@
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
 #include "tests/support/Models.h"
+#include "tests/support/Ports.h"
 #include "tests/support/Programs.h"
 #include "tests/support/Soon.h"
 
@@ -32,18 +32,6 @@ using namespace std::chrono_literals;
 
 constexpr PjtCommand kIsMuted{PjtOperation::Get, 0x2002};
 constexpr char kName[] = "Projector 5-30";
-
-/// The first of four ports that are free, and that no connection of another program takes later, as
-/// they are below the range for these.
-QString LastingPort() {
-  constexpr int kFirst = 10'000;
-  int port = kFirst + 4 * static_cast<int>(QCoreApplication::applicationPid() % 5000);
-  const auto isFree = [](int p) {
-    return QTcpServer().listen(QHostAddress::LocalHost, static_cast<std::uint16_t>(p));
-  };
-  while (!isFree(port) || !isFree(port + 1)) port += 4;
-  return QString::number(port);
-}
 
 QString CurrentInput(const CAdvanceDlg& dialog) {
   return dialog.Page(PageId::Status).GetDlgItem(20009)->property("text").toString();
@@ -70,7 +58,7 @@ class SimulatorTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  const QString port_ = LastingPort();
+  const QString port_ = QString::number(LastingPort());
   std::optional<SimulatorProcess> simulator_{
       std::in_place, QStringList{"--projector", kName, "--serial", "--control", "0", "--password",
                                  "secret", "--port", port_, "--write-profiles", Profiles()}};
@@ -94,7 +82,7 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
            {"pjlink", "1 silent", NoAnswer},
            {"pjlink", "1 garbage", NoAnswer},
            {"pjlink", "1 cut 7", Lost},
-           {"serial", "1 late 1800", NoAnswer},
+           {"serial", "1 late 900", NoAnswer},
            {"serial", "1 silent", NoAnswer},
            {"serial", "1 garbage", NoAnswer},
            {"serial", "1 cut 7", NoAnswer},
@@ -102,11 +90,13 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
     SCOPED_TRACE(testing::Message() << transport << ' ' << fault);
     mute ^= 1;
     ASSERT_TRUE(tcp->Execute({PjtOperation::SetMute, 0, mute}).answered);
-    BoundedChannel channel(MakeUnboundedChannel(Address(transport)),
-                           {.timeOut = 10s, .retryAfter = 0ms});
+    const auto line = MakeUnboundedChannel(Address(transport));
+    BoundedChannel channel(line, {.timeOut = 10s, .retryAfter = 0ms});
     EXPECT_EQ(channel.Execute(kIsMuted).value, mute);
     EXPECT_EQ(Control(fault), "ok");
+    if (state == NoAnswer) line->GiveUpAfter(300ms);
     const PjtReply reply = channel.Execute(kIsMuted);
+    line->GiveUpAfter(1500ms);
     EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
     EXPECT_EQ(reply.answered, state == Connected);
     EXPECT_EQ(reply.value, reply.answered ? mute : 0);

@@ -32,9 +32,9 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
     silent.insert(NameOf(number));
   }
   MosquittoBroker broker(folder_.path());
-  const quint16 port = FreePort();
+  const quint16 port = LastingPort();
   const auto first = Bridge(At(broker) + QStringList{"--share", "1/2"}, port);
-  const quint16 secondPort = FreePort();
+  const quint16 secondPort = LastingPort();
   auto second = Bridge(At(broker) + QStringList{"--share", "2/2"}, secondPort);
   auto subscriber =
       std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
@@ -65,7 +65,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
           {"-t", "projectors/" + subscriber->Find("standby", {}) + "/set/power", "-m", "on"});
 
   // A third bridge, with the same share, stands back and visits no projector.
-  const quint16 thirdPort = FreePort();
+  const quint16 thirdPort = LastingPort();
   auto third = Bridge(At(broker) + QStringList{"--share", "2/2"}, thirdPort);
   EXPECT_TRUE(third->Says("stands back"));
   EXPECT_EQ(Get(thirdPort, Probe(another)), "The bridge does not have its share.\n");
@@ -123,7 +123,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
 TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
   StartProjectors(20);
   MosquittoBroker broker(folder_.path());
-  const quint16 ports[] = {FreePort(), FreePort()};
+  const quint16 ports[] = {LastingPort(), LastingPort()};
   const QStringList options =
       At(broker) + QStringList{"--takeover", "2", "--allow-commands", "power"};
   const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};

@@ -2,29 +2,19 @@
 
 #include <memory>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QHostAddress>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "tests/support/Ports.h"
 #include "tests/support/Programs.h"
 #include "tests/support/Soon.h"
 
 // Programs that serve until they are stopped, on the loopback address.
-
-/// A port that nobody has now, and that no connection of another program takes while a broker is
-/// away, as it is below the range for these.
-inline quint16 FreePort() {
-  static auto last = static_cast<quint16>(10'000 + 64 * (QCoreApplication::applicationPid() % 300));
-  QTcpServer server;
-  while (!server.listen(QHostAddress::LocalHost, ++last)) continue;
-  return last;
-}
 
 /// What stands in PATH, or where Debian has programs for administrators.
 inline QString ProgramPath(const QString& name) {
@@ -101,7 +91,7 @@ class MosquittoBroker {
   }
   void Stop() { daemon_.reset(); }
 
-  const quint16 port = FreePort();
+  const quint16 port = LastingPort();
 
  private:
   const QString file_;

@@ -73,13 +73,13 @@ TEST(Guide, LeadsToAMailAndToTheAllClear) {
       Contents(QStringLiteral(TEST_SOURCE_DIR "/../packaging/bridge/projector-alerts.yml"));
   Write(folder.filePath("alerts.yml"), rules.replace("for: 1m", "for: 1s"));
   const auto number = [](quint16 port) { return QByteArray::number(port); };
-  const QByteArray metricsPort = number(FreePort());
+  const QByteArray metricsPort = number(LastingPort());
   const auto blocks =
-      Commands({{"4400", number(FreePort())},
+      Commands({{"4400", number(LastingPort())},
                 {"1883", number(broker.port)},
                 {"9550", metricsPort},
-                {"19090", number(FreePort())},
-                {"19093", number(FreePort())},
+                {"19090", number(LastingPort())},
+                {"19093", number(LastingPort())},
                 {"127.0.0.1:25", "127.0.0.1:" + number(mail.Port())},
                 {"interval: 15s", "interval: 1s"},
                 {"group_wait: 5s", "group_wait: 1s"},

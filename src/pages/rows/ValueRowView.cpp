@@ -107,7 +107,8 @@ void ValueRowView::StepTo(int number) {
     refused = Step(upwards).refused;
     return Stepped{.refused = refused, .value = Position()};
   };
-  ::StepTo(Position().value_or(number), number, step, [&] { return !refused && Dialog().isVisible(); });
+  ::StepTo(Position().value_or(number), number, step,
+           [&] { return !refused && Dialog().isVisible(); });
 }
 
 bool ValueRowView::Release() {

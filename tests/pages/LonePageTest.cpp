@@ -1,5 +1,6 @@
 // A page that a host shows in a window of its own.
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QVBoxLayout>

@@ -65,6 +65,7 @@ CAdvanceDlg::Parts::Parts(CAdvanceDlg& owner)
   connect(&strip, &ProjectorStrip::ReadAgain, &waiting, readAgain);
   AddShortcut(QKeySequence::Refresh, readAgain);
   AddShortcut(QKeySequence::Find, [this] {
+    if (pages.Tabs() == nullptr) return;
     search.Start();
     frame.Place(Framed());
   });
@@ -127,7 +128,6 @@ void CAdvanceDlg::Parts::ShowWaiting(bool waits) {
 }
 
 void CAdvanceDlg::Parts::ReadLater() {
-  if (!dialog.IsCreated()) return;
   QTimer::singleShot(0, &dialog, [this] {
     if (dialog.IsCreated()) dialog.DispTabScreen();
   });
@@ -239,7 +239,7 @@ void CAdvanceDlg::DispTabScreen() {
     CTabPage* const shown = ShownPage();
     if (shown != nullptr) {
       shown->ReadPage();
-      if (shown->layout() != nullptr) shown->layout()->activate();
+      shown->layout()->activate();
     }
   } while (IsCreated() && parts_->waiting.TakeStale());
 }
@@ -255,7 +255,6 @@ void CAdvanceDlg::OnDestroy() {
   parts_->inputsWatch.stop();
   auto& open = OpenDialogs();
   const auto self = std::ranges::find(open, this);
-  if (self == open.end()) return;
   // The dialog opened after this one has saved this library's module. It has to restore the host's
   // module instead.
   if (const auto next = std::next(self); next != open.end()) {

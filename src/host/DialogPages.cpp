@@ -105,18 +105,15 @@ void DialogPages::OrderFocus(std::initializer_list<QWidget*> last) const {
   for (QWidget* widget : last) add(widget);
 }
 
-std::optional<PageId> DialogPages::PageIdOfTab(int tab) const {
-  if (model_ == nullptr) return {};
+PageId DialogPages::PageIdOfTab(int tab) const {
+  if (tab <= 0) return PageId::Status;
   const auto tabs = TabsOf(model_->DialogType, model_->ModelCode);
-  if (tab == 0) return PageId::Status;
-  if (tab < 0 || static_cast<std::size_t>(tab) > tabs.size()) return {};
   return tabs[static_cast<std::size_t>(tab) - 1].page;
 }
 
 void DialogPages::ShowSelected() {
   for (CTabPage* page : Created()) page->hide();
-  const auto selected = tabs_ != nullptr ? PageIdOfTab(tabs_->currentIndex()) : std::nullopt;
-  shown_ = selected ? &Page(*selected) : nullptr;
+  shown_ = tabs_ != nullptr ? &Page(PageIdOfTab(tabs_->currentIndex())) : nullptr;
   if (shown_ == nullptr) return;
   shown_->Reader().MarkUnread();
   shown_->show();
@@ -125,9 +122,7 @@ void DialogPages::ShowSelected() {
 
 void DialogPages::ShowDifferences() const {
   for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
-    const auto id = PageIdOfTab(tab);
-    if (!id) continue;
-    CTabPage& page = Page(*id);
+    CTabPage& page = Page(PageIdOfTab(tab));
     const int read = page.Reader().Differences();
     const int seen = page.Reader().DifferencesWhenSeen();
     const QString form = seen > 0   ? QStringLiteral("%1 (%2?)")

@@ -3,7 +3,6 @@
 #include <array>
 #include <initializer_list>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include <QPointer>
@@ -49,7 +48,8 @@ class DialogPages {
 
   /// Null until `Create`.
   CTabCtrl* Tabs() const { return tabs_; }
-  std::optional<PageId> PageIdOfTab(int tab) const;
+  /// Only after `Create`.
+  PageId PageIdOfTab(int tab) const;
 
   /// The page shown, or null.
   CTabPage* Shown() const { return shown_; }

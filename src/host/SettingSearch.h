@@ -20,7 +20,7 @@ class SettingSearch final : public QObject {
   /// Both must outlive the search.
   SettingSearch(CDialog& dialog, DialogPages& pages) : dialog_(dialog), pages_(pages) {}
 
-  /// Lets the user type the caption.
+  /// Lets the user type the caption. Only after the pages were created.
   void Start();
   /// The line in which the user types; owned by the dialog, null until the first `Start`.
   FindLine* Line() const { return line_; }

@@ -180,8 +180,7 @@ void NameControls(const TemplateDialog& dialog) {
   for (const RowTemplate& row : dialog.Template()->rows) {
     // A row without a caption continues the one above; "V" and "H" distinguish the parts of a row.
     QString part;
-    for (const auto& [kind, id, text, entries] : row.controls) {
-      if (kind == ControlKind::None) break;
+    for (const auto& [kind, id, text, entries] : row.Present()) {
       QWidget* control = dialog.GetDlgItem(id);
       // A button with a picture instead of a text already has a name.
       const QString shown = WindowText(*control);

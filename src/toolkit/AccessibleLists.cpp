@@ -6,7 +6,6 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
-#include <QLineEdit>
 #include <QPointer>
 
 #include "toolkit/AccessibleActions.h"
@@ -16,8 +15,7 @@ namespace AdvancedControl {
 
 namespace {
 
-/// A list, named by its caption. Its text is the selected entry. Its children are the drop-down
-/// and, if the list is editable, its field.
+/// A list, named by its caption. Its text is the selected entry, its child the drop-down.
 class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   explicit ComboInterface(CComboBox* combo) : QAccessibleWidget(combo, QAccessible::ComboBox) {}
@@ -35,18 +33,15 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
     state.expandable = true;
     state.expanded = Combo().view()->isVisible();
     state.hasPopup = true;
-    state.editable = Combo().isEditable();
     return state;
   }
 
-  int childCount() const override { return Combo().isEditable() ? 2 : 1; }
+  int childCount() const override { return 1; }
   QAccessibleInterface* child(int index) const override {
-    if (index == 0) return QAccessible::queryAccessibleInterface(Combo().view());
-    return index == 1 ? QAccessible::queryAccessibleInterface(Combo().lineEdit()) : nullptr;
+    return index == 0 ? QAccessible::queryAccessibleInterface(Combo().view()) : nullptr;
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
-    if (child->object() == Combo().view()) return 0;
-    return Combo().isEditable() && child->object() == Combo().lineEdit() ? 1 : -1;
+    return child->object() == Combo().view() ? 0 : -1;
   }
 
   QStringList actionNames() const override {
@@ -59,7 +54,7 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
     });
   }
 
-  // The text is read-only here, without a cursor; it is edited in the field.
+  // The text is read-only, without a cursor.
   void selection(int, int* start, int* end) const override { *start = *end = 0; }
   int selectionCount() const override { return 0; }
   void addSelection(int, int) override {}

@@ -80,11 +80,11 @@ void CDialog::CentreOnOwner() {
 
 void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
   auto* top = qobject_cast<CDialog*>(window());
-  const QWidget* control = slider != nullptr ? slider : GetDlgItem(entry.id);
+  const QWidget& control = slider != nullptr ? *slider : *GetDlgItem(entry.id);
   const bool isBusy = top != nullptr && top->IsBusy();
-  if (isBusy && control != nullptr && KeepsInput(*control)) return KeepInput(entry, slider);
-  if (isBusy && (control == nullptr || !AcceptsInputWhileBusy(*control))) {
-    const auto* button = qobject_cast<const QAbstractButton*>(control);
+  if (isBusy && KeepsInput(control)) return KeepInput(entry, slider);
+  if (isBusy && !AcceptsInputWhileBusy(control)) {
+    const auto* button = qobject_cast<const QAbstractButton*>(&control);
     if (button == nullptr || button->isCheckable()) top->Watch().OnStale();
     return;
   }
@@ -103,7 +103,7 @@ void CDialog::ConnectNotifications() {
     connect(&Item<QPushButton>(id), &QPushButton::clicked, this, &QDialog::accept);
   }
   for (const Notification& entry : Notifications().Entries()) {
-    switch (entry.event) {
+    switch (entry.event) {  // unreachable: there is a case for each
       case Notification::Event::Clicked:
         connect(&Item<QAbstractButton>(entry.id), &QAbstractButton::clicked, this,
                 [this, &entry] { RunHandler(entry, nullptr); });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -47,7 +48,13 @@ struct RowTemplate {
   static constexpr std::size_t kMaxControls = 9;
 
   RowPlace place = RowPlace::Left;
-  std::array<ControlTemplate, kMaxControls> controls{};
+  std::array<ControlTemplate, kMaxControls> controls{};  ///< Those that it has, then `None`.
+
+  /// The controls that it has.
+  std::span<const ControlTemplate> Present() const {
+    const auto* end = std::ranges::find(controls, ControlKind::None, &ControlTemplate::kind);
+    return {controls.begin(), end};
+  }
 };
 
 /// A numbered dialog. It has no coordinates: all present rows have the same pitch, which is the

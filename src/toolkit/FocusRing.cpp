@@ -54,15 +54,13 @@ void FocusRing::Place() {
   setGeometry(around.adjusted(-margin, -margin, margin, margin));
 }
 
-bool FocusRing::eventFilter(QObject* control, QEvent* event) {
-  if (control != control_) return false;
+bool FocusRing::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
       Place();
       break;
     case QEvent::Hide:
-    case QEvent::EnabledChange:
       Follow(nullptr);
       break;
     default:

@@ -11,7 +11,7 @@ class QWidget;
 
 namespace AdvancedControl {
 
-enum class IconName : std::uint8_t { Reset, Refresh, Information, Question, Warning, Stop };
+enum class IconName : std::uint8_t { Reset, Refresh, Information, Stop };
 
 /// The size of an icon beside text: larger than usual for a large font.
 QSize IconSize(const QWidget& beside);

@@ -63,13 +63,13 @@ InputGate& InputGate::Instance() {
 void InputGate::Close(const TemplateDialog& dialog, Dropped dropped) {
   auto& closed = Instance().closed_;
   closed.emplace(&dialog, std::move(dropped));
-  if (closed.size() == 1 && qApp != nullptr) qApp->installEventFilter(&Instance());
+  if (closed.size() == 1) qApp->installEventFilter(&Instance());
 }
 
 void InputGate::Open(const TemplateDialog& dialog) {
   auto& closed = Instance().closed_;
   closed.erase(&dialog);
-  if (closed.empty() && qApp != nullptr) qApp->removeEventFilter(&Instance());
+  if (closed.empty()) qApp->removeEventFilter(&Instance());
 }
 
 bool InputGate::eventFilter(QObject* watched, QEvent* event) {

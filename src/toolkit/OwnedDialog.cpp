@@ -99,10 +99,9 @@ void OwnedDialog::WatchOwner() {
 
 // Called before the owner deletes its children.
 void OwnedDialog::OnOwnerDying() {
-  if (!isWindow()) return;
   if (parentWidget() == nullptr) return End();
   if (deletedWithOwner_ && !IsBusy()) return;  // the owner deletes it like any child
-  deletionWaits_ = deletionWaits_ || deletedWithOwner_;
+  deletionWaits_ |= deletedWithOwner_;
   End();
   setParent(nullptr, windowFlags());
 }
@@ -118,7 +117,7 @@ void OwnedDialog::End() {
     if (box->isWindow()) box->hide();
   }
   hide();
-  if (before != Life::Open || !isWindow()) return;
+  if (before != Life::Open) return;
   std::erase(Windows(), this);
   OnDestroy();
 }

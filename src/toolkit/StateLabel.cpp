@@ -55,7 +55,7 @@ QSize StateLabel::sizeHint() const {
 
 void StateLabel::paintEvent(QPaintEvent* event) {
   LineLabel::paintEvent(event);
-  if (mark_ == Mark::None && !share_) return;
+  if (mark_ == Mark::None) return;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const int line = fontMetrics().height();
@@ -64,22 +64,19 @@ void StateLabel::paintEvent(QPaintEvent* event) {
     return QRectF(inside.left() + (isRightToLeft() ? inside.width() - left - width : left),
                   inside.center().y() - height / 2, width, height);
   };
-  if (mark_ != Mark::None) {
-    const double side = line * 0.6;
-    const QRectF at = place(0, side, side);
-    const QColor color = ColorOf(mark_, palette());
-    painter.save();
-    painter.setPen(mark_ == Mark::Idle ? QPen(color, 1.5) : QPen(Qt::NoPen));
-    painter.setBrush(mark_ == Mark::Idle ? QBrush() : QBrush(color));
-    painter.translate(at.topLeft());
-    if (mark_ == Mark::Attention || mark_ == Mark::Bad) {
-      painter.scale(side, side);
-      mark_ == Mark::Bad ? painter.drawPolygon(kDiamond, 4) : painter.drawPolygon(kTriangle, 3);
-    } else {
-      painter.drawEllipse(QRectF(0, 0, side, side));
-    }
-    painter.restore();
+  const double side = line * 0.6;
+  const QColor color = ColorOf(mark_, palette());
+  painter.save();
+  painter.setPen(mark_ == Mark::Idle ? QPen(color, 1.5) : QPen(Qt::NoPen));
+  painter.setBrush(mark_ == Mark::Idle ? QBrush() : QBrush(color));
+  painter.translate(place(0, side, side).topLeft());
+  if (mark_ == Mark::Attention || mark_ == Mark::Bad) {
+    painter.scale(side, side);
+    mark_ == Mark::Bad ? painter.drawPolygon(kDiamond, 4) : painter.drawPolygon(kTriangle, 3);
+  } else {
+    painter.drawEllipse(QRectF(0, 0, side, side));
   }
+  painter.restore();
   if (!share_) return;
   const double height = line * 0.4;
   const double width = kBarLetters * fontMetrics().averageCharWidth();
@@ -90,7 +87,7 @@ void StateLabel::paintEvent(QPaintEvent* event) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(track);
   painter.drawRoundedRect(place(left, width, height), height / 2, height / 2);
-  painter.setBrush(ColorOf(mark_, palette()));
+  painter.setBrush(color);
   painter.setClipRect(place(left, filled, height));
   painter.drawRoundedRect(place(left, width, height), height / 2, height / 2);
 }

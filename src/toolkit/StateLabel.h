@@ -30,6 +30,7 @@ class StateLabel final : public LineLabel {
   Mark ShownMark() const { return mark_; }
 
   /// Shows a bar in the mark's colour, filled to `share` (1 or more is full); nothing for no bar.
+  /// Without a mark there is no bar.
   void SetShare(std::optional<double> share);
   std::optional<double> Share() const { return share_; }
 

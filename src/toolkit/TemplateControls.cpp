@@ -93,7 +93,7 @@ QGridLayout* MakeRowColumns(const QWidget& dialog) {
 
 QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
   const QString caption = QString::fromUtf8(control.caption);
-  switch (control.kind) {
+  switch (control.kind) {  // unreachable: there is a case for each
     case ControlKind::Label:
     case ControlKind::Colon:
       return new LineLabel(caption, parent);
@@ -120,7 +120,7 @@ QWidget* MakeControl(const ControlTemplate& control, QWidget* parent) {
       return new QCheckBox(caption, parent);
     case ControlKind::Tab:
       return new CTabCtrl(parent);
-    case ControlKind::None:
+    case ControlKind::None:  // unreachable: no control of a row
       break;
   }
   return nullptr;

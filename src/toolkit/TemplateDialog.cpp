@@ -69,8 +69,7 @@ bool TemplateDialog::BuildControls() {
   setWindowTitle(QString::fromUtf8(template_->caption));
   for (const RowTemplate& row : template_->rows) {
     std::vector<QWidget*> controls;
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind == ControlKind::None) break;
+    for (const ControlTemplate& control : row.Present()) {
       QWidget* widget = MakeControl(control, this);
       controls.push_back(widget);
       controls_[control.id] = widget;
@@ -85,7 +84,7 @@ bool TemplateDialog::BuildControls() {
 // Done when shown, because setting a palette costs time for each control, and most pages are never
 // shown. A dialog with tabs has nothing of its own to disable.
 void TemplateDialog::MakeDisabledTextsReadable() {
-  if (!isVisible() || template_ == nullptr || layout() == nullptr) return;
+  if (!isVisible() || layout() == nullptr) return;
   const QPalette readable = WithReadableDisabledTexts(palette());
   if (readable != palette()) setPalette(readable);
 }
@@ -111,8 +110,7 @@ void TemplateDialog::UpdateRows() { rows_->Update(); }
 bool TemplateDialog::IsScrolled() const { return rows_->AreScrolled(); }
 
 bool TemplateDialog::AcceptsInputWhileBusy(const QWidget& target) const {
-  for (const QWidget* part = &target; part != nullptr && part != this;
-       part = part->parentWidget()) {
+  for (const QWidget* part = &target; part != this; part = part->parentWidget()) {
     if (const auto* page = qobject_cast<const TemplateDialog*>(part)) {
       return page->KeepsInput(target);
     }
@@ -133,24 +131,21 @@ void TemplateDialog::NoSuchControl(int id) const {
   qFatal("dialog %d has no control %d of the kind asked for", templateNumber_, id);
 }
 
-void TemplateDialog::ShowRow(int id, bool present) {
-  if (!rows_->Show(GetDlgItem(id), present)) NoSuchControl(id);
-}
+void TemplateDialog::ShowRow(int id, bool present) { rows_->Show(Item<QWidget>(id), present); }
 
 QRect TemplateDialog::RowRect(int id) const {
   QRect rect;
-  for (const QWidget* control : rows_->ControlsBeside(GetDlgItem(id))) {
+  for (const QWidget* control : rows_->ControlsBeside(Item<QWidget>(id))) {
     rect = rect.united(control->geometry());
   }
   return rect;
 }
 
 void TemplateDialog::Highlight(int id) {
-  QWidget* control = GetDlgItem(id);
-  if (control == nullptr || !control->isVisible()) return;
-  QWidget& parent = *control->parentWidget();
+  auto& control = Item<QWidget>(id);
+  QWidget& parent = *control.parentWidget();
   for (QWidget* area = &parent; area != nullptr; area = area->parentWidget()) {
-    if (auto* scroll = qobject_cast<FittedScroll*>(area)) scroll->ScrollIntoView(*control);
+    if (auto* scroll = qobject_cast<FittedScroll*>(area)) scroll->ScrollIntoView(control);
   }
   Flash(parent, RowRect(id));
 }
@@ -159,7 +154,7 @@ void TemplateDialog::GreyCaption(int id) {
   std::vector<QWidget*> captions;
   bool operable = false;
   bool enabled = false;
-  for (QWidget* control : rows_->ControlsBeside(GetDlgItem(id))) {
+  for (QWidget* control : rows_->ControlsBeside(Item<QWidget>(id))) {
     if (qobject_cast<QLabel*>(control) != nullptr) {
       captions.push_back(control);
     } else if (qobject_cast<QLineEdit*>(control) == nullptr && !control->isHidden()) {
@@ -180,10 +175,8 @@ void TemplateDialog::ShowNotice(const QString& text) {
 void TemplateDialog::PlaceBesideClose(QWidget& widget) { rows_->PlaceBesideClose(widget); }
 
 QSize TemplateDialog::DialogSize() const {
-  QSize size =
-      template_ != nullptr ? FromDialogUnits(*this, template_->width, template_->height) : QSize();
-  if (layout() != nullptr) size = size.expandedTo(layout()->totalSizeHint());
-  return size;
+  return FromDialogUnits(*this, template_->width, template_->height)
+      .expandedTo(layout()->totalSizeHint());
 }
 
 }  // namespace AdvancedControl

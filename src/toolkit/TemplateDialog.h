@@ -36,7 +36,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   template <class Control>
   Control& Item(int id) const {
     auto* control = qobject_cast<Control*>(GetDlgItem(id));
-    if (control == nullptr) NoSuchControl(id);
+    if (control == nullptr) NoSuchControl(id);  // unreachable: ends the process
     return *control;
   }
 
@@ -54,7 +54,8 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   /// Scrolls a control's row into view and highlights it for a few seconds.
   void Highlight(int id);
 
-  /// The size of the template or the size that the present contents need, whichever is larger.
+  /// The size of the template or the size that the present contents need, whichever is larger. Only
+  /// for a dialog with controls and without tabs.
   QSize DialogSize() const;
 
  protected:

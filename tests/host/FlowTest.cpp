@@ -20,6 +20,7 @@ constexpr int kBrightnessPlus = 20135;
 constexpr int kBrightness = 20136;
 constexpr int kBrightnessField = 20329;
 constexpr int kClose = 1;
+constexpr int kOtherTab = 8, kInputSource = 20103;
 
 using FlowTest = PacedDialog;
 
@@ -70,7 +71,12 @@ TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
 
 TEST_F(FlowTest, ClosingAPopUpClosesOnlyThePopUp) {
   Open(kPictureTab);
-  InTheWait([] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+  InTheWait([this] {
+    dialog_.DispTabScreen();
+    EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    projector_->Pace(0ms);
+  });
   Page().Click(kCustomGamma);
   EXPECT_TRUE(dialog_.isVisible());
   EXPECT_EQ(Status(), QString());
@@ -111,6 +117,22 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
   }
 }
 
+TEST_F(FlowTest, SourcesThatAreReplacedDuringAWaitAreReadAfterIt) {
+  Open(kOtherTab);
+  SourceList sources;
+  AddSource(sources, 1, "Camera");
+  InTheWait([&] {
+    dialog_.ReplaceSources(sources);
+    projector_->Take();
+    projector_->Pace(0ms);
+  });
+  dialog_.DispTabScreen();
+  EXPECT_EQ(Page().Entries(kInputSource), QStringList{"Camera"});
+  const auto sent = projector_->Take();
+  dialog_.DispTabScreen();
+  EXPECT_GT(sent.size(), projector_->Take().size());
+}
+
 TEST_F(FlowTest, InputDuringAWaitIsDropped) {
   Open();
   projector_->Take();
@@ -149,6 +171,9 @@ TEST_F(FlowTest, TheWindowIsShownBeforeTheFirstReadAndShowsProgress) {
   EXPECT_EQ(Status(), QString());
   EXPECT_EQ(Veil(), nullptr);
 
+  projector_->Pace(80ms);
+  ClickTab(kAudioTab);
+  EXPECT_FALSE(seen.filter(QStringLiteral("of 13")).isEmpty()) << "with those for the source";
   dialog_.Projector().SetChannel(projector_);
   projector_->Pace(0ms);
   seen.clear();

@@ -97,6 +97,21 @@ TEST_F(IntakeOfAnOpenDialog, TakesEffectAtTheNextCreation) {
   EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6);
   EXPECT_NE(dialog_.windowTitle(), title);
   for (int tab = 0; tab < Tabs().count(); ++tab) ClickTab(tab);
+  InTheWait([&] {
+    dialog_.reject();
+    dialog_.CopyData("Later", 4, 0, nullptr, nullptr, nullptr, 0, nullptr, nullptr, 0, nullptr,
+                     nullptr, 0, nullptr, nullptr);
+    EXPECT_NE(dialog_.Model().ModelName, "Later") << "a handler still runs";
+    projector_->Pace({});
+  });
+  dialog_.DispTabScreen();
+  SourceList sources;
+  AddSource(sources, 3, "HDMI");
+  dialog_.ReplaceSources(sources);
+  Open();
+  EXPECT_EQ(dialog_.Model().ModelName, "Later");
+  EXPECT_EQ(dialog_.Model().MySourceList, sources);
+  EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6) << "this form names no connection";
 }
 
 }  // namespace

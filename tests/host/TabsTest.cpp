@@ -31,6 +31,22 @@ TEST(Tabs, EachShowsItsPageAlone) {
   }
 }
 
+TEST(Tabs, ADialogThatWasNotCreatedHasNoneAndWorks) {
+  CAdvanceDlg dialog;
+  SourceList sources;
+  AddSource(sources, 3, "HDMI");
+  dialog.ReplaceSources(sources);
+  EXPECT_EQ(dialog.Model().MySourceList, sources);
+  Activate(dialog);
+  dialog.DispTabScreen();
+  for (const QKeySequence& keys : {QKeySequence(QKeySequence::Find), QKeySequence(Qt::Key_F5),
+                                   QKeySequence(Qt::CTRL | Qt::Key_PageDown)}) {
+    QTest::keySequence(&dialog, keys);
+  }
+  EXPECT_FALSE(dialog.grab().isNull());
+  EXPECT_EQ(dialog.ShownPage(), nullptr);
+}
+
 TEST(Tabs, PagesWithoutATabExist) {
   OpenDialog open(MakeModel(2, 5));
   CTabPage& hidden = open.Dialog().Page(PageId::Auto2);
@@ -42,7 +58,7 @@ TEST(Tabs, PagesWithoutATabExist) {
 TEST(Tabs, AreAllInSightOnANarrowScreen) {
   CTabCtrl tabs;
   for (const char* text : {"Bild", "Automatische Einstellungen", "Ton"}) tabs.addTab(text);
-  tabs.show();
+  Activate(tabs);
   const QFontMetrics metrics = tabs.fontMetrics();
   tabs.resize(metrics.horizontalAdvance("Bild, Automatische, Ton") + 80, 30);
   const QRect longest = tabs.tabRect(1);
@@ -55,6 +71,14 @@ TEST(Tabs, AreAllInSightOnANarrowScreen) {
   QApplication::sendEvent(&tabs, &help);
   EXPECT_EQ(QToolTip::text(), tabs.tabText(1));
   QToolTip::hideText();
+  QHelpEvent whole(QEvent::ToolTip, tabs.tabRect(0).center(), QPoint());
+  QApplication::sendEvent(&tabs, &whole);
+  EXPECT_NE(QToolTip::text(), tabs.tabText(0));
+  for (const bool hasFocus : {false, true}) {
+    hasFocus ? tabs.setFocus() : tabs.clearFocus();
+    Wheel(tabs, -1);
+    EXPECT_EQ(tabs.currentIndex(), hasFocus ? 1 : 0);
+  }
 }
 
 TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {
@@ -122,6 +146,7 @@ TEST(Keyboard, CyclesThroughTheTabsAndClosesTheDialogButNeverHidesItsPage) {
     (onPage ? open.Page().GetDlgItem(20142) : dialog.GetDlgItem(1))->setFocus();
     press(key, modifiers);
     EXPECT_TRUE(Soon([&dialog] { return !dialog.isVisible(); }));
+    open.Page().reject();
     EXPECT_FALSE(open.Page().isHidden());
   }
 }

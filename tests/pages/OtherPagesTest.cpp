@@ -72,6 +72,10 @@ TEST(StatusPage, PowerErrorAndLampHaveAMark) {
                                                   {"Get 0x6020", 0, 20010, Good},
                                                   {"Get 0x1090", 500, 20014, Good},
                                                   {"Get 0x1090", 1900, 20014, Attention},
+                                                  {"Get 0x1090", 2100, 20014, Attention},
+                                                  {"Get 0x1090", 500, 20014, Good},
+                                                  {"Get 0x6020", 6, 20014, Attention},
+                                                  {"Get 0x1090", 1900, 20014, Attention},
                                                   {"Get 0x6020", 3, 20010, Bad},
                                                   {"Get 0x6020", 3, 20014, Bad}}) {
     open.Projector().Answer(key, value);

@@ -95,6 +95,11 @@ constexpr Case kCases[] = {
      "SetAutoPowerOff", "Not accepted: Auto Off 5\u00a0min. The projector has 0\u00a0min.", 20369},
     {"only shown", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21061, 1); }, nullptr,
      "This setting is only shown here. A choice is not sent."},
+    {"last input", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21057, 0); }, "Set",
+     "Not accepted: Power Up Input Last Input. The projector has Computer1.", 21057, 1},
+    {"input", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21057, 2); }, "Set",
+     "Not accepted: Power Up Input Computer2. The projector has Computer1.", 21057, 1},
+    {"no input", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21057, 3); }, nullptr, "MIU cannot be chosen here."},
     {"only shown on Video", 4, 9, 3, [](const DialogDriver& page) { page.Choose(20221, 1); },
      nullptr, "This setting is only shown here. A choice is not sent."},
 };

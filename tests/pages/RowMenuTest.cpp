@@ -17,12 +17,14 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
+constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293,
+              kIrisCaption = 20621;
 constexpr int kVolume = 20317, kIrFront = 20375, kPositionV = 20205, kAutoOff = 20369;
 
 // The lines of a control's menu, with disabled ones in brackets. Chooses `choice`, which must not
-// act before the menu is closed, because it may wait for the projector.
-std::string Menu(CDialog& page, int id, const char* choice = "") {
+// act before the menu is closed, because it may wait for the projector. With `overtaken`, a handler
+// runs then.
+std::string Menu(CDialog& page, int id, const char* choice = "", bool overtaken = false) {
   QWidget& control = *page.GetDlgItem(id);
   const QPoint middle = control.rect().center();
   QContextMenuEvent event(QContextMenuEvent::Mouse, middle, control.mapToGlobal(middle));
@@ -37,6 +39,7 @@ std::string Menu(CDialog& page, int id, const char* choice = "") {
   }
   EXPECT_EQ(static_cast<RowDialog&>(page).projector->Sent().commands, before);
   if (menu != nullptr) menu->close();
+  const CDialog::Busy handler(overtaken ? &page : nullptr);
   QCoreApplication::processEvents();
   return lines.join(QStringLiteral(", ")).toStdString();
 }
@@ -58,6 +61,7 @@ TEST_F(RowMenus, ShowTheRangeAndTheOpeningValueOfARow) {
            {kContrast,
             "(The projector did not report this setting.), (Put back), "
             "(Enter a value…), Copy"},
+           {kIrisCaption, "(When opened: Theater), (Put back), Copy"},
            {kIris, "(When opened: Theater), (Put back), Copy"},
            {21065, ""}}) {
     EXPECT_EQ(Menu(page, control, "Copy"), lines) << control;
@@ -73,16 +77,19 @@ TEST_F(RowMenus, PutBackActsLikeAUserAndNeverWhileAHandlerRuns) {
   driver.Choose(kIris, 0);
   open.Projector().Take();
   for (const bool busy : {true, false}) {
-    const CDialog::Busy handler(busy ? &page : nullptr), popUps(busy ? service.get() : nullptr);
-    for (const int control : {kBrightness, kIris}) Menu(page, control, "Put back");
-    Menu(*service, kIrFront, "Put back");
+    for (const int control : {kBrightness, kIris}) Menu(page, control, "Put back", busy);
+    Menu(*service, kIrFront, "Put back", busy);
     const Strings all{"SetBrightness 138", "Set 0x3304 16", "SetIRFront 0"};
     EXPECT_EQ(open.Projector().Take(), busy ? Strings() : all);
   }
+  EXPECT_EQ(Menu(*service, kIrFront), "(When opened: Off), (Put back), Copy");
+  EXPECT_EQ(Menu(*service, 20546), "") << "the caption of several rows";
 }
 
 TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
   driver.Item<QWidget>(kBrightness).setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_NE(QApplication::activePopupWidget(), nullptr);
   QApplication::activePopupWidget()->close();
@@ -133,6 +140,9 @@ TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
 TEST(RowMenu, TheOpeningValueBelongsToTheInputSource) {
   OpenDialog open(FullModel(5, 44), 4);
   open.Driver().Drag(kVolume, 9);
+  Menu(open.Page(), kVolume, "Put back");
+  EXPECT_EQ(open.Projector().TakeChanges().back(), "SetVolumeEachSrc 0 0");
+  open.Driver().Drag(kVolume, 9);
   open.Projector().Answer("GetInputSource", 3);
   open.Projector().Answer("GetInputSrcVolume 3", 5);
   open.Projector().TakeChanges();
@@ -158,6 +168,12 @@ TEST(RowMenu, StepsArrowRowsWhileStepsComeNearer) {
   projector.Answer("Get 0x2100", 40);
   Menu(open.Page(), kPositionV, "Put back");
   EXPECT_EQ(projector.Take(), (Strings{"Dec 0x2100", "Get 0x2100"}));
+  Menu(open.Page(), kPositionV, "Enter a value…");
+  question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+  question->setTextValue(QStringLiteral("50"));
+  const CDialog::Busy handler(&open.Page());
+  question->accept();
+  EXPECT_EQ(projector.Take(), Strings{}) << "a handler runs";
 }
 
 }  // namespace

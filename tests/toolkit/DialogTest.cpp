@@ -5,76 +5,15 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
+#include "tests/toolkit/SampleDialog.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/Contrast.h"
 #include "toolkit/FocusPen.h"
 #include "toolkit/FocusRing.h"
-#include "toolkit/ResourceModule.h"
 
 namespace {
-
-using namespace tmpl;
-using enum RowPlace;
-
-constexpr const char* kEntries[] = {"Zero", "One", "Two"};
-constexpr RowTemplate kRows[] = {
-    SliderRow(Left, Label(1, "Level:"), 2, {3, 4, 5, 6}),
-    Row(Left, Label(7, "Mode:"), Colon(8), Combo(9, kEntries), Button(10, "Do")),
-    Row(Left, Label(11, "Last:"), Colon(12), Combo(13, kEntries)),
-    Row(Bottom, Close(14, "Close")),
-};
-constexpr DialogTemplate kTemplate{
-    .number = 900, .caption = "Sample", .rulerHeight = 20, .rows = kRows};
-constexpr const DialogTemplate* kTemplates[] = {&kTemplate};
-constexpr ResourceModule kModule{kTemplates};
-
-class SampleDialog : public CDialog {
- public:
-  explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
-  const NotificationMap& Notifications() const override {
-    static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),
-                                     SelChange(9, &SampleDialog::OnMode), Passive(13),
-                                     HScroll(&SampleDialog::OnScroll)};
-    return map;
-  }
-  void OnDo() {
-    ++presses;
-    if (whenDone) whenDone();
-  }
-  void OnMode() { ++choices; }
-  void OnScroll(CSliderCtrl& slider) {
-    scrolls.push_back(slider.value());
-    if (whenDone) whenDone();
-  }
-  void OnDestroy() override { ++destroyed; }
-
-  void Open() {
-    ASSERT_TRUE(Create());
-    Activate(*this);
-  }
-
-  int presses = 0;
-  int choices = 0;
-  int destroyed = 0;
-  std::vector<int> scrolls;
-  std::function<void()> whenDone;
-};
-
-class DialogTest : public testing::Test {
- protected:
-  DialogTest() {
-    ResourceChain::Register(kModule);
-    dialog.Open();
-    dialog.Item<CSliderCtrl>(4).SetRange(-10, 10, 2);
-  }
-  ~DialogTest() override { ResourceChain::Unregister(kModule); }
-
-  SampleDialog dialog;
-  DialogDriver driver{dialog};
-};
 
 TEST_F(DialogTest, ASliderReportsOnlyTheEndOfAMove) {
   auto& slider = dialog.Item<CSliderCtrl>(4);
@@ -135,6 +74,10 @@ TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
   };
   DialogDriver(*dying).Click(10);
   EXPECT_TRUE(Soon([&] { return dying == nullptr; }));
+  const QPointer<SampleDialog> idle = new SampleDialog;
+  idle->Open();
+  idle->deleteLater();
+  EXPECT_TRUE(Soon([&] { return idle == nullptr; }));
 }
 
 TEST_F(DialogTest, TheWheelNeedsTheFocus) {
@@ -226,8 +169,12 @@ TEST_F(DialogTest, ADragCatchesAtZeroFromWhereTheTrackIsFilled) {
 
 TEST_F(DialogTest, TicksAreCountedFromZeroAndAFieldHasRoomForEveryNumber) {
   auto& slider = dialog.Item<CSliderCtrl>(4);
-  for (const auto& [minimum, maximum, distance, count] :
-       {std::tuple{-10, 10, 2, 11}, {1, 10, 3, 4}, {-3, 10, 2, 7}, {-500, 500, 1, 11}}) {
+  for (const auto& [minimum, maximum, distance, count] : {std::tuple{-10, 10, 2, 11},
+                                                          {1, 10, 3, 4},
+                                                          {-3, 10, 2, 7},
+                                                          {-500, 500, 1, 11},
+                                                          {-9, 0, 3, 4},
+                                                          {4, 4, 1, 0}}) {
     slider.SetRange(minimum, maximum, distance);
     const QImage image = slider.grab().toImage();
     const int row = slider.HandleRect().bottom() + 4;
@@ -266,14 +213,18 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
       {QPalette::ButtonText, QPalette::Button},
       {QPalette::Text, QPalette::Base}};
   const QPalette before = QApplication::palette();
+  SampleDialog hidden;
+  ASSERT_TRUE(hidden.Create());
   for (const QColor& color : {QColor(239, 239, 239), QColor(Qt::white), QColor(53, 53, 53)}) {
     QApplication::setPalette(QPalette(color));
+    QCoreApplication::processEvents();
     for (const auto& [text, background] : roles) {
       const QPalette palette = dialog.GetDlgItem(10)->palette();
       const QColor disabled = palette.color(QPalette::Disabled, text);
       EXPECT_GE(ContrastOf(disabled, palette.color(QPalette::Disabled, background)), 3);
       EXPECT_NE(disabled, palette.color(QPalette::Active, text)) << "still looks disabled";
     }
+    EXPECT_EQ(dialog.palette().color(QPalette::Window), color);
     const QColor ring = FocusPen(dialog).color();
     EXPECT_GE(ContrastOf(ring, dialog.palette().color(QPalette::Window)), 3);
   }
@@ -318,6 +269,8 @@ TEST(Dialog, WithoutATemplateStaysEmpty) {
   EXPECT_FALSE(dialog.Create());
   EXPECT_EQ(dialog.DoModal(), -1);
   EXPECT_EQ(dialog.GetDlgItem(1), nullptr);
+  dialog.show();
+  EXPECT_TRUE(dialog.isVisible());
 }
 
 TEST(ResourceChain, SearchesTheCurrentModuleFirst) {

@@ -125,21 +125,17 @@ void PageReader::ReadAll() {
   FindSourceOfWanted();
 }
 
-// Some settings are kept for each input source although reading them names none. Only wanted values
-// need to know the source.
+// A setting may be kept for each input source although reading it names none. Only a wanted value
+// needs to know the source.
 void PageReader::FindSourceOfWanted() {
   const WantedSettings* wanted = host_.Dialog().Context().Wanted();
   if (wanted == nullptr) return;
-  Source source;
-  bool isAsked = false;
   for (const auto& row : rows_) {
     const auto* value = std::get_if<ValueRow>(&row->Row());
     if (!row->memory.present || value == nullptr || !value->ofCurrentSourceOnly) continue;
     if (!wanted->Names(value->key)) continue;
-    if (!std::exchange(isAsked, true)) {
-      source = AskSource(Projector(), OfSource::Current, host_.Dialog().Model().ModelCode);
-    }
-    row->memory.source = source;
+    row->memory.source =
+        AskSource(Projector(), OfSource::Current, host_.Dialog().Model().ModelCode);
     notes_.Show(*row);
   }
 }

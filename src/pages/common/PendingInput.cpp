@@ -43,7 +43,7 @@ void PendingInput::Run(const Notification& entry, CSliderCtrl* slider) {
     const CPjtInterface::Tally after = dialog.projector->Sent();
     const bool failed = after.refused > before.refused || after.unanswered > before.unanswered;
     if (failed || dialog.projector->IsAbandoned() || !dialog.isVisible()) Drop();
-    if (!acts_.empty()) acts_.erase(acts_.begin());
+    acts_.erase(acts_.begin());
     Show();
   }
   row_->Widgets().ShowPending({});

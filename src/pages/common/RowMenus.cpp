@@ -110,11 +110,11 @@ void RowMenus::AskForNumber(RowView& row) {
 
 bool RowMenus::IsBusy() const {
   const auto* top = qobject_cast<const CDialog*>(host_.Dialog().window());
-  return top == nullptr || top->IsBusy();
+  return top != nullptr && top->IsBusy();
 }
 
 void RowMenus::MoveTo(RowView& row, int position) {
-  if (!IsBusy() && host_.Dialog().isVisible()) row.MoveTo(position);
+  if (!IsBusy() && host_.Dialog().isVisible() && row.CanMoveTo(position)) row.MoveTo(position);
 }
 
 void RowMenus::PutBack(RowView& row) {

@@ -67,11 +67,11 @@ void SettingsDialog::Enable(int control, bool usable, int reason) {
 
 void SettingsDialog::ShowError(int errorNumber) {
   if (!window()->isVisible() || projector->IsAbandoned()) return;
-  ShowStopMessage(this, CatalogString(kErrorCategory, errorNumber), TextsOfBoxes(*this));
+  ShowStopMessage(*this, CatalogString(kErrorCategory, errorNumber), TextsOfBoxes(*this));
 }
 
 bool SettingsDialog::Ask(const QString& question) {
-  return AskYesNo(this, question, TextsOfBoxes(*this));
+  return AskYesNo(*this, question, TextsOfBoxes(*this));
 }
 
 CPjtInterface& SettingsDialog::Unconnected() {

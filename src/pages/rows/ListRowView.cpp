@@ -111,8 +111,6 @@ bool ListRowView::CanMoveTo(int position) const {
          position < list_->count();
 }
 
-void ListRowView::MoveTo(int position) {
-  if (CanMoveTo(position)) list_->Pick(position);
-}
+void ListRowView::MoveTo(int position) { list_->Pick(position); }
 
 }  // namespace AdvancedControl

@@ -36,9 +36,7 @@ RowMarks::RowMarks(SettingsDialog& page) : QWidget(page.window()), page_(page) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setAttribute(Qt::WA_NoSystemBackground);
   page.installEventFilter(this);
-  if (!page.isWindow() && page.parentWidget() != nullptr) {
-    page.parentWidget()->installEventFilter(this);  // moves when the page scrolls
-  }
+  if (!page.isWindow()) page.parentWidget()->installEventFilter(this);  // moves when it scrolls
   Place();
 }
 

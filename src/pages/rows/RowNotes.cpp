@@ -38,7 +38,7 @@ QString RangeText(const RowView& row) {
 }
 
 QString NoteText(const RowView& row) {
-  switch (row.memory.note) {
+  switch (row.memory.note) {  // unreachable: there is a case for each
     case RowNote::Refused:
       return CatalogString(kListCategory, ListText::ReadRefused);
     case RowNote::NotOffered:

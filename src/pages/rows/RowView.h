@@ -66,7 +66,7 @@ class RowView {
   /// The text that the row shows.
   virtual QString Text() const;
   virtual bool CanMoveTo(int) const { return false; }
-  /// Moves the control as a user would, with the same consequences. Does nothing if it cannot.
+  /// Moves the control as a user would, with the same consequences; only if it `CanMoveTo` there.
   virtual void MoveTo(int) {}
   /// The numbers that can be entered; nothing for a row without numbers.
   virtual std::optional<Range> Numbers() const { return {}; }

@@ -101,15 +101,14 @@ Stepped ValueRowView::Step(bool upwards) {
 
 // A refusal ends the stepping, and is shown once.
 void ValueRowView::StepTo(int number) {
-  const auto present = Position();
-  if (!present) return;
   const CDialog::Busy busy(&Dialog());
   bool refused = false;
   const auto step = [&](bool upwards, int) {
     refused = Step(upwards).refused;
     return Stepped{.refused = refused, .value = Position()};
   };
-  ::StepTo(*present, number, step, [&] { return !refused && Dialog().isVisible(); });
+  ::StepTo(Position().value_or(number), number, step,
+           [&] { return !refused && Dialog().isVisible(); });
 }
 
 bool ValueRowView::Release() {
@@ -190,7 +189,7 @@ bool ValueRowView::CanMoveTo(int position) const {
 void ValueRowView::MoveTo(int position) {
   if (controls_.Slider() == nullptr) {
     StepTo(position);
-  } else if (CanMoveTo(position)) {
+  } else {
     controls_.Slider()->ScrollTo(position);
   }
 }

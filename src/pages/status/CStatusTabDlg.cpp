@@ -53,7 +53,7 @@ bool CStatusTabDlg::OnInitDialog() {
 // The pause begins when the page has been read, however long that takes.
 void CStatusTabDlg::ReadIfQuiet() {
   const auto* dialog = qobject_cast<const CDialog*>(window());
-  const bool isBusy = dialog == nullptr || dialog->IsBusy() || projector->IsWaiting();
+  const bool isBusy = (dialog != nullptr && dialog->IsBusy()) || projector->IsWaiting();
   if (!isVisible() || isBusy || QApplication::activePopupWidget() != nullptr) return;
   next_.stop();
   // What the line says about the user's last action must not vanish by itself.
@@ -86,9 +86,6 @@ void CStatusTabDlg::ShowLampTime(std::optional<int> hours) {
   };
   label.setToolTip(isRated ? text(*hours) + QStringLiteral(" / ") + text(ratedLampHours_)
                            : QString());
-  const bool isDue = error_ == kLampTimeError || share >= 1;
-  label.SetMark(error_ == kLampError           ? Bad
-                : isDue || share >= kNearlyDue ? Attention
-                : isRated                      ? Good
-                                               : None);
+  const bool isDue = error_ == kLampTimeError || share >= kNearlyDue;
+  label.SetMark(error_ == kLampError ? Bad : isDue ? Attention : isRated ? Good : None);
 }

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/DialogDriver.h"
+#include "toolkit/CSliderCtrl.h"
+#include "toolkit/ResourceModule.h"
+
+using namespace tmpl;
+using enum RowPlace;
+
+inline constexpr const char* kEntries[] = {"Zero", "One", "Two"};
+inline constexpr RowTemplate kRows[] = {
+    SliderRow(Left, Label(1, "Level:"), 2, {3, 4, 5, 6}),
+    Row(Left, Label(7, "Mode:"), Colon(8), Combo(9, kEntries), Button(10, "Do")),
+    Row(Left, Label(11, "Last:"), Colon(12), Combo(13, kEntries)),
+    Row(Left, Label(15, "Lamp:"), Colon(16), Check(17, "On")),
+    Row(Bottom, Close(14, "Close")),
+};
+inline constexpr DialogTemplate kTemplate{
+    .number = 900, .caption = "Sample", .rulerHeight = 20, .rows = kRows};
+inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate};
+inline constexpr ResourceModule kModule{kTemplates};
+
+class SampleDialog : public CDialog {
+ public:
+  explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
+  const NotificationMap& Notifications() const override {
+    static const NotificationMap map{
+        Clicked(10, &SampleDialog::OnDo), Clicked(17, &SampleDialog::OnDo),
+        SelChange(9, &SampleDialog::OnMode), Passive(13), HScroll(&SampleDialog::OnScroll)};
+    return map;
+  }
+  void OnDo() {
+    ++presses;
+    if (whenDone) whenDone();
+  }
+  void OnMode() { ++choices; }
+  void OnScroll(CSliderCtrl& slider) {
+    scrolls.push_back(slider.value());
+    if (whenDone) whenDone();
+  }
+  void OnDestroy() override { ++destroyed; }
+
+  void Open() {
+    ASSERT_TRUE(Create());
+    Activate(*this);
+  }
+
+  int presses = 0;
+  int choices = 0;
+  int destroyed = 0;
+  std::vector<int> scrolls;
+  std::function<void()> whenDone;
+};
+
+class DialogTest : public testing::Test {
+ protected:
+  DialogTest() {
+    ResourceChain::Register(kModule);
+    dialog.Open();
+    dialog.Item<CSliderCtrl>(4).SetRange(-10, 10, 2);
+  }
+  ~DialogTest() override { ResourceChain::Unregister(kModule); }
+
+  SampleDialog dialog;
+  DialogDriver driver{dialog};
+};

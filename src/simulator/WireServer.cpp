@@ -1,5 +1,6 @@
 #include "simulator/WireServer.h"
 
+#include <chrono>
 #include <utility>
 
 #include <QIODevice>
@@ -16,11 +17,11 @@ namespace {
 
 constexpr qint64 kLargestPiece = 4096;
 constexpr std::size_t kLargestBacklog = 256UL * 1024;
+constexpr auto kTimeForHello = std::chrono::seconds(10);
 
 class Session final : public ServedConnection {
  public:
-  Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault,
-          std::chrono::milliseconds timeForHello)
+  Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault)
       : line_(line.release()), responder_(projector), replies_(*line_, fault) {
     line_->setParent(this);
     connect(line_, &QIODevice::readyRead, this, &Session::Read);
@@ -29,7 +30,7 @@ class Session final : public ServedConnection {
       socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
       connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
       // Closes the connection of a peer that sends nothing.
-      QTimer::singleShot(timeForHello, this, [this] {
+      QTimer::singleShot(kTimeForHello, this, [this] {
         if (!responder_.IsGreeted()) deleteLater();
       });
     }
@@ -42,8 +43,9 @@ class Session final : public ServedConnection {
  private:
   void Read() {
     NoteRead();
-    for (QByteArray piece = line_->read(kLargestPiece); !piece.isEmpty();
-         piece = line_->read(kLargestPiece)) {
+    while (line_->bytesAvailable() > 0) {
+      const QByteArray piece = line_->read(kLargestPiece);
+      if (piece.isEmpty()) return;
       replies_.Send(responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())}));
     }
     // Closes the connection of a peer that sends requests without reading the replies.
@@ -58,15 +60,13 @@ class Session final : public ServedConnection {
 }  // namespace
 
 struct WireServer::Parts {
-  Parts(std::shared_ptr<ProjectorChannel> served, std::chrono::milliseconds time)
-      : projector(std::move(served)), timeForHello(time) {}
+  explicit Parts(std::shared_ptr<ProjectorChannel> served) : projector(std::move(served)) {}
 
   Session* Serve(std::unique_ptr<QIODevice> line) {
-    return new Session(std::move(line), *projector, fault, timeForHello);
+    return new Session(std::move(line), *projector, fault);
   }
 
   std::shared_ptr<ProjectorChannel> projector;
-  const std::chrono::milliseconds timeForHello;
   LineFault fault{};
   QObject lines;
   TcpListener server{
@@ -74,9 +74,8 @@ struct WireServer::Parts {
       [this](std::unique_ptr<QTcpSocket> socket) { return Serve(std::move(socket)); }};
 };
 
-WireServer::WireServer(std::shared_ptr<ProjectorChannel> projector,
-                       std::chrono::milliseconds timeForHello)
-    : parts_(std::make_unique<Parts>(std::move(projector), timeForHello)) {}
+WireServer::WireServer(std::shared_ptr<ProjectorChannel> projector)
+    : parts_(std::make_unique<Parts>(std::move(projector))) {}
 
 WireServer::~WireServer() = default;
 

@@ -5,10 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
-#include "device/CommandCode.h"
-#include "device/channels/TcpChannel.h"
-#include "simulator/FaultChannel.h"
-#include "simulator/SimulatedProjector.h"
 #include "tests/device/BadProjector.h"
 #include "tests/device/Peer.h"
 #include "tests/support/Programs.h"
@@ -120,20 +116,6 @@ TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
   ProjectorAccess access(ProfileOf(0, 0), channel, kShort.connect);
   access.AskForInputs();
   EXPECT_TRUE(access.Channel().IsGone() && access.LacksInputs());
-  EXPECT_EQ(access.StepUnread(*access.Settings().Find("status.power"), 2, [] { return true; }), 0);
-  const auto silent = std::make_shared<FaultChannel>(std::make_shared<SimulatedProjector>(),
-                                                     std::chrono::milliseconds(1));
-  silent->SetFault({.kind = Fault::Kind::DropOut});
-  for (const std::shared_ptr<ProjectorChannel>& gone :
-       {std::shared_ptr<ProjectorChannel>(silent),
-        std::shared_ptr<ProjectorChannel>(std::make_shared<TcpChannel>("127.0.0.1", 1))}) {
-    PatientChannel patient(gone, kShort.connect);
-    EXPECT_FALSE(patient.Execute({PjtOperation::Inc, CommandCode::Brightness}).answered);
-    EXPECT_TRUE(patient.IsGone()) << "it was never there";
-    ProjectorAccess other(ProfileOf(0, 0), gone, kShort.connect);
-    EXPECT_FALSE(other.Connection().Execute({PjtOperation::GetMirror}).answered);
-    EXPECT_TRUE(other.Channel().IsGone());
-  }
 }
 
 }  // namespace

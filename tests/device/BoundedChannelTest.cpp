@@ -32,11 +32,7 @@ class Gate final : public ProjectorChannel {
     return {.result = answered, .value = static_cast<short>(number), .answered = answered};
   }
 
-  bool UseIdleTime() override {
-    const bool hasMore = ++idled < 3;
-    staysIdle.wait(true);
-    return hasMore;
-  }
+  bool UseIdleTime() override { return ++idled < 3; }
 
   void Open(bool open) {
     isOpen_ = open;
@@ -48,7 +44,6 @@ class Gate final : public ProjectorChannel {
   std::atomic<int> returned = 0;
   std::atomic<int> idled = 0;
   std::atomic<bool> answered = true;
-  std::atomic<bool> staysIdle = false;
 
  private:
   std::atomic<bool> isOpen_ = true;
@@ -211,54 +206,21 @@ TEST_F(BoundedChannelTest, DestructionDoesNotWait) {
   gate_->Open(true);
   EXPECT_TRUE(Eventually([&] { return gate_->returned == 1 && gate_.use_count() == 2; }))
       << "the worker lets the inner channel go";
-
-  channel = std::make_unique<BoundedChannel>(
-      gate_, BoundedChannel::Limits{.timeOut = 1h, .idle = std::chrono::milliseconds(0)});
-  gate_->staysIdle = true;
-  EXPECT_TRUE(channel->Execute(kCommand).answered);
-  ASSERT_TRUE(Eventually([&] { return gate_->idled == 1; }));
-  channel.reset();
-  EXPECT_EQ(gate_.use_count(), 3) << "the worker is still there";
-  gate_->staysIdle = false;
-  gate_->staysIdle.notify_all();
-  EXPECT_TRUE(Eventually([&] { return gate_.use_count() == 2; }));
-
-  channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.idle = 1h});
-  EXPECT_TRUE(channel->Execute(kCommand).answered);
-  channel.reset();
-  EXPECT_EQ(gate_.use_count(), 2) << "a worker with nothing to do is waited for";
 }
 
 TEST_F(BoundedChannelTest, DestructionFromInsideTheWaitIsSafe) {
-  for (const bool waitsForAnother : {false, true}) {
-    gate_->Open(false);
-    gate_->executed = 0;
-    auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 1h});
-    BoundedChannel* const inUse = channel.get();
-    if (waitsForAnother) {
-      QTimer::singleShot(0, [&] { inUse->Abandon(); });
-      EXPECT_TRUE(inUse->Execute(kCommand).abandoned);
-    }
-    QTimer timer;
-    timer.callOnTimeout([&] {
-      if (gate_->executed == 0) return;
-      channel.reset();
-      gate_->Open(true);
-    });
-    timer.start(1);
-    const PjtReply reply = inUse->Execute(kCommand);
-    EXPECT_EQ(reply.answered, !waitsForAnother);
-    EXPECT_EQ(reply.unsent, waitsForAnother);
-    EXPECT_EQ(channel, nullptr);
-    EXPECT_EQ(gate_->executed, 1);
-  }
-}
-
-TEST_F(BoundedChannelTest, WithoutAnInnerChannelNothingIsAnswered) {
-  BoundedChannel none(nullptr);
-  EXPECT_TRUE(none.Execute(kCommand).unsent);
-  EXPECT_EQ(none.Connection(), ConnectionState::None);
-  EXPECT_FALSE(none.Inputs() || none.Power());
+  gate_->Open(false);
+  auto channel = std::make_unique<BoundedChannel>(gate_, BoundedChannel::Limits{.timeOut = 1h});
+  QTimer timer;
+  timer.callOnTimeout([&] {
+    if (gate_->executed == 0) return;
+    channel.reset();
+    gate_->Open(true);
+  });
+  timer.start(1);
+  BoundedChannel* const inUse = channel.get();
+  EXPECT_TRUE(inUse->Execute(kCommand).answered);
+  EXPECT_EQ(channel, nullptr);
 }
 
 }  // namespace

@@ -1,10 +1,6 @@
 #include <array>
 #include <functional>
-#include <new>
-#include <optional>
-#include <stdexcept>
 #include <string>
-#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -29,23 +25,18 @@ class OneReply final : public ProjectorChannel {
         .value = -2};
   }
   void Abandon() override { MayBreak(); }
-  void Announce(std::span<const PjtCommand>) override {
-    ++announced;
-    MayBreak();
-  }
+  void Announce(std::span<const PjtCommand>) override { MayBreak(); }
   ConnectionState Connection() const override {
     MayBreak();
     return ConnectionState::Connected;
   }
   std::optional<SourceList> Inputs() override { throw last; }
-  std::optional<PowerState> Power() const override { return PowerState::On; }
   void MayBreak() const {
     if (breaks) throw last;
   }
 
   bool accepted = true;
   bool breaks = false;
-  int announced = 0;
   PjtCommand last{};
 };
 
@@ -113,97 +104,6 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
   }
 }
 
-TEST(CPjtInterfaceTest, NothingReachesTheChannelWhileCutOffOrAbandonedOrWithoutOne) {
-  CPjtInterface p;
-  const auto channel = std::make_shared<OneReply>();
-  const auto announces = [&] {
-    p.Announce({});
-    return channel->announced > 0 || !p.Execute({Op::GetMirror}).unsent;
-  };
-  EXPECT_FALSE(announces());
-  p.AllowRetry();
-  EXPECT_EQ(p.Connection(), ConnectionState::None);
-  EXPECT_FALSE(p.Inputs() || p.Power());
-  p.SetChannel(channel);
-  {
-    const auto abandoned = p.Abandon();
-    EXPECT_FALSE(announces());
-  }
-  p.CutOff(true);
-  EXPECT_FALSE(announces() || p.Inputs() || p.Power());
-  EXPECT_EQ(p.Connection(), ConnectionState::Connected);
-  p.CutOff(false);
-  EXPECT_TRUE(announces());
-  EXPECT_EQ(channel->announced, 1);
-  EXPECT_EQ(p.Power(), PowerState::On);
-
-  struct Removing final : ProjectorChannel {
-    explicit Removing(CPjtInterface& p) : of(p) {}
-    PjtReply Execute(const PjtCommand&) override {
-      of.SetChannel(nullptr);
-      EXPECT_TRUE(of.IsWaiting());
-      const auto abandoned = of.Abandon();
-      return {};
-    }
-    CPjtInterface& of;
-  };
-  p.SetChannel(std::make_shared<Removing>(p));
-  EXPECT_TRUE(p.Execute({Op::GetMirror}).answered);
-}
-
-TEST(CPjtInterfaceTest, CountsWhatBecomesOfItsCommands) {
-  struct Scripted final : ProjectorChannel {
-    PjtReply Execute(const PjtCommand&) override {
-      if (!reply) throw std::runtime_error("no reply");
-      return *reply;
-    }
-    std::optional<PjtReply> reply;
-  };
-  const auto channel = std::make_shared<Scripted>();
-  CPjtInterface p;
-  p.SetChannel(channel);
-  const PjtCommand change{Op::SetColor, 0, 1}, read{Op::GetMirror};
-  const PjtReply silence{.answered = false};
-  const std::pair<PjtCommand, std::optional<PjtReply>> cases[] = {
-      {change, PjtReply{.result = 1}},
-      {change, PjtReply{}},
-      {change, silence},
-      {read, silence},
-      {change, {}},
-      {change, PjtReply{.answered = false, .unsent = true}},
-      {change, PjtReply{.offered = false}},
-      {read, PjtReply{.busy = true}},
-      {change, PjtReply{.result = 1, .pending = true}}};
-  for (const auto& [command, reply] : cases) {
-    channel->reply = reply;
-    p.Execute(command);
-  }
-  const CPjtInterface::Tally sent = p.Sent();
-  EXPECT_EQ(sent.commands, 9);
-  EXPECT_EQ(sent.refused, 3);
-  EXPECT_EQ(sent.unanswered, 4);
-  EXPECT_EQ(sent.notOffered, 1);
-  EXPECT_EQ(sent.busy, 1);
-  EXPECT_EQ(sent.pending, 1);
-  EXPECT_EQ(sent.uncertain, 2);
-}
-
-TEST(CPjtInterfaceTest, AFailedAllocationOfAChannelIsTheHostsBusiness) {
-  struct Starving final : ProjectorChannel {
-    PjtReply Execute(const PjtCommand&) override { throw std::bad_alloc(); }
-  };
-  static int calls = 0;
-  CPjtInterface p;
-  p.SetChannel(std::make_shared<Starving>());
-  for (const std::new_handler handler :
-       std::array<std::new_handler, 3>{nullptr, [] { ++calls; }, [] { throw ++calls; }}) {
-    const std::new_handler before = std::set_new_handler(handler);
-    EXPECT_FALSE(p.Execute({Op::GetMirror}).answered);
-    std::set_new_handler(before);
-  }
-  EXPECT_EQ(calls, 2);
-}
-
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
   CPjtInterface pjt;
   pjt.SetChannel(std::make_shared<OneReply>());
@@ -213,8 +113,6 @@ TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
 
   std::array<char, 70> unterminated{};
   unterminated.fill('x');
-  pjt.CopyData(1, 2, 23, "", "secret");
-  EXPECT_EQ(pjt.Network().Secret, "secret");
   pjt.CopyData(1, 2, 23, unterminated.data(), nullptr);
   EXPECT_EQ(pjt.ConnectionText1(), std::string(64, 'x'));
   EXPECT_EQ(pjt.ConnectionText2(), "");
@@ -239,11 +137,6 @@ TEST(PjtOperationTest, SuccessDependsOnTheFamily) {
   EXPECT_FALSE(IsSuccess(Op::Set, 2)) << "only 1 is success of a generic operation";
   EXPECT_TRUE(IsSuccess(Op::SetColor, -1));
   EXPECT_FALSE(OperationByName("SetBrightnes"));
-  for (const Op once :
-       {Op::IncrementKeystoneV, Op::Dec, Op::ExecAutoAdjust, Op::ExecAutoKeyStone}) {
-    EXPECT_FALSE(IsAbsolute(once)) << OperationName(once) << " again has another effect";
-  }
-  EXPECT_TRUE(IsAbsolute(Op::ExecTintReset) && IsAbsolute(Op::Set) && IsAbsolute(Op::Get));
 }
 
 TEST(FormatCommandTest, ShowsCommandAndReply) {
@@ -256,10 +149,6 @@ TEST(FormatCommandTest, ShowsCommandAndReply) {
   EXPECT_EQ(FormatCommand({Op::Set, 0x3304, 0x10}, &refused), "Set 0x3304 (0x10) refused");
   EXPECT_EQ(FormatCommand({Op::ExecTintReset}, &silent), "ExecTintReset() no answer");
   EXPECT_EQ(FormatCommand({Op::SetVideoNR, 0, 1, 1}, &read), "SetVideoNR(1, 1)");
-  const PjtReply lacks{.offered = false}, busy{.busy = true}, pending{.result = 1, .pending = true};
-  EXPECT_EQ(FormatCommand({Op::GetMirror}, &lacks), "GetMirror() not offered");
-  EXPECT_EQ(FormatCommand({Op::GetMirror}, &busy), "GetMirror() busy");
-  EXPECT_EQ(FormatCommand({Op::SetColor, 0, 1}, &pending), "SetColor(1) accepted, not yet so");
 }
 
 }  // namespace

@@ -9,14 +9,12 @@
 #include <QTcpServer>
 #include <gtest/gtest.h>
 
-#include "device/Connect.h"
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/SerialChannel.h"
 #include "device/channels/TcpChannel.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
 #include "tests/device/Replies.h"
-#include "tests/support/Soon.h"
 
 namespace {
 
@@ -159,13 +157,6 @@ TEST(WireChannelTest, TheStatusOfAReplySaysWhatBecameOfTheCommand) {
   }
 }
 
-TEST(WireChannelTest, HasTheTimeThatIsAskedFor) {
-  const Peer wire(Transport::Tcp, {kServes});
-  const TcpAddress onWire{"127.0.0.1", wire.port};
-  EXPECT_EQ(Replies(*MakeUnboundedChannel(onWire, 0ms), {Get(5)}), "?");
-  EXPECT_EQ(Replies(*MakeUnboundedChannel(onWire), {Get(5)}), "5");
-}
-
 TEST(WireChannelTest, GivesUpEarlierWhenAsked) {
   const Peer peer(Transport::Tcp, {Peer::Says({})});
   const auto channel = std::make_shared<TcpChannel>(
@@ -217,25 +208,6 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
 
   neverAccepts.close();
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);
-}
-
-TEST(WireChannelTest, NoiseOnAnIdleConnectionEndsIt) {
-  std::atomic<bool> isRead = false;
-  const auto noise = Answers([&](End& end, const std::string& answer) {
-    end.Send(answer);
-    if (answer.size() < kReplySize) return;
-    isRead.wait(false);
-    end.Send("noise");
-  });
-  const Peer peer(Transport::Tcp, {noise, kServes});
-  const auto channel = ChannelTo(peer);
-  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
-  EXPECT_TRUE(channel->TendConnection(0ms));
-  isRead = true;
-  isRead.notify_all();
-  EXPECT_TRUE(Soon([&] { return !channel->TendConnection(0ms); }));
-  EXPECT_EQ(channel->Connection(), Unused);
-  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
 }
 
 TEST(WireChannelTest, AConnectionThatEndsWhileIdleLosesNoCommand) {

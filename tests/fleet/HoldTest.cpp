@@ -1,7 +1,5 @@
 // A projector has one connection at a time, whoever wants to connect.
 
-#include <QTimer>
-
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/TcpChannel.h"
 #include "fleet/Fleet.h"
@@ -79,67 +77,6 @@ TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
     silent.connections.back()->disconnectFromHost();
     EXPECT_TRUE(Becomes(ends[i])) << i;
   }
-}
-
-TEST(AddressHoldTest, ServesTheLineInItsOrder) {
-  const AddressHold::Address place{"192.0.2.1", 4352};
-  EXPECT_EQ(AddressHold::LengthOfLine(place), 0U);
-  std::string told;
-  const auto tell = [&told](const char* what) { return [&told, what] { told += what; }; };
-  std::optional<AddressHold> first(place), second, third, next;
-  second.emplace(place, AddressHold::Turn::Last, tell("second"));
-  third.emplace(place, AddressHold::Turn::Last, tell("third"));
-  next.emplace(place, AddressHold::Turn::Next, tell("next"));
-  const AddressHold::Observer observer([&](const AddressHold::Address& held, bool isHeld) {
-    if (held == place) told += isHeld ? "+" : "-";
-  });
-  third.reset();
-  EXPECT_TRUE(first->IsHeld() && first->IsWanted());
-  EXPECT_FALSE(next->WaitFor(0ms));
-  first.reset();
-  EXPECT_TRUE(next->WaitFor(0ms));
-  next.reset();
-  EXPECT_TRUE(second->IsHeld() && !second->IsWanted());
-  second.reset();
-  EXPECT_EQ(told, "+nextsecond-");
-}
-
-TEST(HoldingChannelTest, KeepsItsPlaceForTheNextCommand) {
-  struct Idle final : ProjectorChannel {
-    PjtReply Execute(const PjtCommand&) override { return {.result = 1, .answered = answers}; }
-    bool UseIdleTime() override { return true; }
-    bool TendConnection(std::chrono::milliseconds unused) override { return unused < 20s; }
-    bool answers = true;
-  };
-  const auto inner = std::make_shared<Idle>();
-  const FleetTarget target{.id = {}, .address = TcpAddress{.host = "192.0.2.1", .port = 1}};
-  const AddressHold::Address place = PlaceOf(target);
-  HoldingChannel channel(inner, target, 20ms);
-  EXPECT_FALSE(channel.UseIdleTime() || channel.TendConnection(0ms)) << "there was no command";
-  std::optional<AddressHold> other(place);
-  EXPECT_TRUE(channel.Execute(kGetMirror).unsent);
-  EXPECT_FALSE(channel.UseIdleTime());
-  EXPECT_TRUE(channel.TendConnection(5s));
-  EXPECT_EQ(AddressHold::LengthOfLine(place), 2U);
-  EXPECT_FALSE(channel.TendConnection(10s));
-  EXPECT_EQ(AddressHold::LengthOfLine(place), 1U) << "it has waited long enough";
-  EXPECT_TRUE(channel.Execute(kGetMirror).unsent);
-  other.reset();
-  EXPECT_FALSE(channel.TendConnection(10s)) << "no command came although it is free";
-  EXPECT_TRUE(channel.Execute(kGetMirror).answered);
-  EXPECT_TRUE(channel.UseIdleTime() && channel.TendConnection(0ms));
-  other.emplace(place);
-  EXPECT_FALSE(channel.UseIdleTime()) << "somebody waits";
-  EXPECT_FALSE(channel.TendConnection(0ms));
-  EXPECT_TRUE(other->IsHeld());
-}
-
-TEST_F(HoldTest, ADialogsCommandWaitsForItsTurn) {
-  Served served;
-  std::optional<AddressHold> other(PlaceOf({.id = {}, .address = served.Wire()}));
-  QTimer::singleShot(20, [&other] { other.reset(); });
-  EXPECT_TRUE(Dialog(served.Wire(), 60s)->Execute(kGetMirror).answered);
-  EXPECT_FALSE(other);
 }
 
 TEST_F(HoldTest, ADialogsIdleConnectionIsGivenUpForAJob) {

@@ -44,17 +44,6 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   EXPECT_EQ(b.ratedLampHours, 2000);
   EXPECT_EQ(a.model, b.model) << "shared by those that are described alike";
   EXPECT_EQ(list.profiles[2].model->info.ModelCode, 31);
-  EXPECT_EQ(AddressOf(ProjectorLink::Serial, b.connection),
-            ProjectorAddress(SerialAddress{SerialDevice(1), SerialAddress::kDefaultBaud}));
-  const ProfileConnection own{.isNetwork = false, .address = "/dev/ttyX", .baud = 9600};
-  EXPECT_EQ(AddressOf(ProjectorLink::Serial, own),
-            ProjectorAddress(SerialAddress{"/dev/ttyX", 9600}));
-  EXPECT_EQ(ConnectionValue(own),
-            (QJsonObject{{"serial", QJsonObject{{"device", "/dev/ttyX"}, {"baud", 9600}}}}));
-  EXPECT_EQ(LinkName(ProjectorLink::Serial), "serial");
-  ProfileChecker checker(kFile);
-  EXPECT_EQ(checker.Check({{"name", 1}}), "name: must be a text that is not empty");
-  EXPECT_EQ(checker.Check({{"name", "A"}}), "\"model\" is missing");
 }
 
 TEST(ProfileEdits, LeaveWhatAPersonWrote) {
@@ -78,23 +67,6 @@ TEST(ProfileEdits, LeaveWhatAPersonWrote) {
   const ProfileList last = ParseProfileList(edits.Text(), "p.json");
   ASSERT_EQ(last.profiles.size(), 1U);
   EXPECT_EQ(last.profiles[0].name, "C");
-}
-
-TEST(ProfileEdits, FollowTheStyleOfTheFile) {
-  const auto added = [](const QByteArray& file) {
-    ProfileEdits edits(file);
-    edits.Add({{"name", "B"}, {"tags", QJsonValue::Undefined}});
-    return edits.Text().toStdString();
-  };
-  EXPECT_EQ(added(R"({"projectors":[{"name": "A"}]})"),
-            R"({"projectors":[{"name": "A"}, {"name": "B"}]})");
-  EXPECT_EQ(added("{\"projectors\": [{}\n,\n{}]}"),
-            "{\"projectors\": [{}\n,\n{}\n,\n{\"name\": \"B\"}]}");
-  ProfileEdits edits(R"({"projectors": [{"name": "A"}]})");
-  edits.Add({{"name", "B"}});
-  edits.Add({{"name", "C"}});
-  edits.Remove(0);
-  EXPECT_EQ(edits.Text(), R"({"projectors": [{"name": "B"}, {"name": "C"}]})");
 }
 
 TEST(ProfileEdits, MakeAFileOfTenThousand) {

@@ -51,14 +51,6 @@ TEST(WholeFile, IsWrittenWholeOrNotAtAll) {
 }
 
 #ifndef SANITIZED  // sanitizers reserve more memory, and need files themselves
-TEST(Limits, AreReportedByWhatTheyStop) {
-  {
-    const NoFilesLeft files;
-    EXPECT_THROW(FileEvents(), std::system_error);
-  }
-  const Limited memory(RLIMIT_AS, 0);
-  EXPECT_THROW(Fiber([] {}), std::bad_alloc) << "so that the program ends as out of memory";
-}
 #endif
 
 }  // namespace

@@ -66,24 +66,6 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
        {up, read, down, read, down, read},
        0},
       {"by key", [this] { Page().Press(kPlus, Qt::Key_Space); }, {up, read}, 2},
-      {"by Enter",
-       [this] { Page().Press(kPlus, Qt::Key_Return), Page().Press(kPlus, Qt::Key_Enter); },
-       {up, read, up, read},
-       3},
-      {"a double click",
-       [=, this] {
-         auto* plus = &Page().Item<QWidget>(kPlus);
-         times(1, kPlus), QTest::mouseDClick(plus, Qt::LeftButton);
-         QTest::mouseRelease(plus, Qt::LeftButton);
-       },
-       {up, read, up, read},
-       3},
-      {"also a click on the number",
-       [=, this] {
-         times(1, kPlus), QTest::mouseClick(&Page().Item<QWidget>(kField), Qt::LeftButton);
-       },
-       {up, read},
-       2},
       {"the last position",
        [this] { Page().Drag(kSlider, -7), Page().Drag(kSlider, 9); },
        {set(9)},
@@ -128,7 +110,6 @@ TEST_F(PendingInputTest, IsDroppedByAnythingElse) {
       {"a list", [this] { Page().Press(kIris, Qt::Key_Down); }},
       {"a refusal", [this] { projector_->refuses = true; }},
       {"another tab", [this] { ClickTab(0); }},
-      {"hiding", [this] { dialog_.hide(); }},
       {"Esc", [this] { QTest::keyClick(Focused(), Qt::Key_Escape); }},
   };
   for (const auto& [name, act] : cases) {
@@ -149,18 +130,6 @@ TEST_F(PendingInputTest, IsDroppedByAnythingElse) {
     }
     dialog_.reject();
   }
-}
-
-TEST_F(PendingInputTest, TheRowStaysInSightUnderTheVeil) {
-  Open(kPictureTab);
-  SentBy([this] {
-    EXPECT_TRUE(Soon([this] { return Veil() != nullptr; }));
-    dialog_.DispTabScreen();
-    const QRegion covered = Veil()->mask().translated(Veil()->pos());
-    const auto middle = [this](int id) { return Page().Item<QWidget>(id).geometry().center(); };
-    EXPECT_FALSE(covered.contains(middle(kSlider)));
-    EXPECT_TRUE(covered.contains(middle(kIris)));
-  });
 }
 
 TEST_F(PendingInputTest, TheSliderLeavesAPositionThatIsDropped) {

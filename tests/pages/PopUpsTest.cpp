@@ -3,7 +3,6 @@
 #include <tuple>
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -114,54 +113,6 @@ TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {
   EXPECT_EQ(open.driver.SliderAt(21025), open.driver.Item<QSlider>(21025).maximum());
   QTest::mouseClick(&curve, Qt::LeftButton, {}, curve.PlaceOf({0.5, 1.2}).toPoint());
   EXPECT_TRUE(open.Projector().Take().empty()) << "no point is there";
-}
-
-TEST(GammaPopUp, APointIsNotDraggedWhileAHandlerRunsOrAfterItsRowWasRefused) {
-  OpenPopUp open(PopUp::Gamma);
-  auto& curve = *open.popUp->findChild<CurveView*>();
-  open.driver.Drag(21025, 1);
-  open.popUp->activateWindow();
-  ASSERT_TRUE(Soon([&] { return QApplication::activeWindow() == open.popUp.get(); }));
-  open.Projector().Take();
-  const QPoint at = curve.PlaceOf({3.0 / 9, 3.0 / 9 + 1 / 48.0}).toPoint();
-  for (const bool busy : {true, false}) {
-    QTest::mousePress(&curve, Qt::LeftButton, {}, at);
-    const CDialog::Busy handler(busy ? open.popUp.get() : nullptr);
-    if (!busy) open.Projector().Refuse("Get");
-    QTest::keyClick(open.popUp.get(), Qt::Key_F5);
-    EXPECT_EQ(open.Projector().Take().empty(), busy);
-    QTest::mouseMove(&curve, at - QPoint(0, 30));
-    QTest::mouseRelease(&curve, Qt::LeftButton, {}, at - QPoint(0, 30));
-    EXPECT_EQ(open.driver.SliderAt(21025), 1);
-    EXPECT_TRUE(open.Projector().TakeChanges().empty());
-  }
-  open.Projector().Accept("Get");
-  open.driver.Item<QWidget>(20161).setFocus();
-  Open(*open.popUp);  // makes new controls, while the focus is in an old one
-  EXPECT_TRUE(open.driver.IsEnabled(21025));
-  open.popUp->reject();
-  Activate(open.Dialog());
-}
-
-TEST(ServicePopUp, ABoxThatChangedWhileAHandlerRanIsReadAgainUnlessItWasLeft) {
-  enum class Left : std::uint8_t { No, Before, After };
-  for (const Left left : {Left::No, Left::Before, Left::After}) {
-    OpenPopUp open(PopUp::Service);
-    auto& box = open.driver.Item<QCheckBox>(20375);
-    const QPoint at(6, box.height() / 2);
-    QTest::mousePress(&box, Qt::LeftButton, {}, at);
-    {
-      const CDialog::Busy handler(open.popUp.get());
-      QTest::mouseRelease(&box, Qt::LeftButton, {}, at);
-      EXPECT_TRUE(box.isChecked());
-      if (left == Left::Before) open.popUp->reject();
-      open.Projector().Take();
-    }
-    if (left == Left::After) open.popUp->reject();
-    QTest::qWait(0);
-    EXPECT_NE(open.Projector().Take().empty(), left == Left::No);
-    EXPECT_NE(box.isChecked(), left == Left::No);
-  }
 }
 
 TEST(GammaPopUp, WithoutResetButtonsIsNarrowerAndCloseStaysInside) {

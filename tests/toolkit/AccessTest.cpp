@@ -85,21 +85,4 @@ TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
   EXPECT_TRUE(two.text(QAccessible::Name).isEmpty() && two.rect().isNull());
 }
 
-TEST_F(AccessTest, SlidersAndBoxesReportWhatHasChanged) {
-  QAccessibleInterface& slider = AccessOf(*dialog.GetDlgItem(4));
-  for (int i = 0; i < 2; ++i) {
-    slider.valueInterface()->setCurrentValue(3);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(dialog.scrolls, std::vector{3}) << "not again for the present position";
-  }
-  EXPECT_EQ(slider.text(QAccessible::Value), QStringLiteral("3"));
-  auto& check = dialog.Item<QCheckBox>(17);
-  Act(AccessOf(check), Actions::setFocusAction());
-  EXPECT_TRUE(check.hasFocus());
-  EXPECT_EQ(dialog.presses, 0);
-  Act(AccessOf(check), Actions::toggleAction());
-  EXPECT_TRUE(AccessOf(check).state().checked);
-  EXPECT_EQ(dialog.presses, 1);
-}
-
 }  // namespace

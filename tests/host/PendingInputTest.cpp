@@ -70,20 +70,6 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
        [this] { Page().Press(kPlus, Qt::Key_Return), Page().Press(kPlus, Qt::Key_Enter); },
        {up, read, up, read},
        3},
-      {"a double click",
-       [=, this] {
-         auto* plus = &Page().Item<QWidget>(kPlus);
-         times(1, kPlus), QTest::mouseDClick(plus, Qt::LeftButton);
-         QTest::mouseRelease(plus, Qt::LeftButton);
-       },
-       {up, read, up, read},
-       3},
-      {"also a click on the number",
-       [=, this] {
-         times(1, kPlus), QTest::mouseClick(&Page().Item<QWidget>(kField), Qt::LeftButton);
-       },
-       {up, read},
-       2},
       {"the last position",
        [this] { Page().Drag(kSlider, -7), Page().Drag(kSlider, 9); },
        {set(9)},

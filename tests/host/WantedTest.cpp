@@ -25,8 +25,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr int kPictureTab = 1, kOptionTab = 7, kOtherTab = 8;
-constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteReset = 20018,
-              kLampTime = 20014;
+constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteReset = 20018;
 constexpr int kVolumeField = 20133;
 
 std::string StripText(CAdvanceDlg& dialog) {
@@ -123,16 +122,6 @@ TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
     QTest::qWait(30);
     EXPECT_THAT(open.Projector().Take(), IsEmpty());
   }
-  for (const bool otherTab : {true, false}) {
-    QMenu* menu = otherTab ? nullptr : MenuOf(open.Page());
-    if (otherTab) open.SelectTab(kPictureTab);
-    open.Projector().Take();
-    timer.start(1);
-    QTest::qWait(30);
-    EXPECT_THAT(open.Projector().Take(), IsEmpty());
-    otherTab ? open.SelectTab(0) : static_cast<void>(menu->close());
-  }
-  open.Projector().Take();
   std::vector<std::string> sent;
   EXPECT_TRUE(Soon([&] { return !(sent = open.Projector().Take()).empty(); }));
   EXPECT_EQ(sent, reads);
@@ -149,7 +138,7 @@ TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
   }
   open.Dialog().DispTabScreen();
   EXPECT_EQ(said(), "") << "the user has read the page again";
-  Choose(*open.Page().GetDlgItem(kLampTime), QStringLiteral("Keep up to date"));
+  Choose(open.Page(), QStringLiteral("Keep up to date"));
   EXPECT_FALSE(timer.isActive());
 }
 
@@ -179,11 +168,6 @@ struct WantedTest : testing::Test {
 TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_THAT(Differing(), ElementsAre(kBrightness, kIris));
   EXPECT_EQ(Tab(), QStringLiteral("Picture (2)"));
-  QMenu* menu = MenuOf(*open.Page().GetDlgItem(kContrast));
-  EXPECT_TRUE(std::ranges::any_of(menu->actions(), [](const QAction* action) {
-    return action->text() == QStringLiteral("Set to wanted: 0") && !action->isEnabled();
-  })) << "it is so";
-  menu->close();
   QWidget& brightness = *open.Page().GetDlgItem(kBrightness);
   EXPECT_TRUE(brightness.toolTip().startsWith(QStringLiteral("Wanted: 12")));
   Choose(brightness, QStringLiteral("Set to wanted: 12"));
@@ -194,28 +178,10 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   open.Projector().Answer("Get 0x2004", 130);
   open.Dialog().DispTabScreen();
   EXPECT_THAT(Differing(), ElementsAre(kBrightness, kContrast)) << "as just read";
-  open.Projector().Refuse("Get 0x2004");
-  open.Dialog().DispTabScreen();
-  EXPECT_TRUE(
-      open.Page().GetDlgItem(kContrast)->toolTip().startsWith(QStringLiteral("Wanted: 0\n")));
   open.Dialog().SetWanted(WantedSettings());
   EXPECT_THAT(Differing(), IsEmpty());
   EXPECT_EQ(Tab(), QStringLiteral("Picture"));
   EXPECT_FALSE(brightness.toolTip().contains(QStringLiteral("Wanted")));
-}
-
-TEST_F(WantedTest, MarksBoxesTooAndIgnoresValuesThatNoEntryHas) {
-  wanted.settings = {{.key = "service.ir-front", .value = 1, .text = {}},
-                     {.key = "service.ir-top", .value = 0, .text = {}},
-                     {.key = "picture.active-iris", .value = 99, .text = {}}};
-  open.Dialog().SetWanted(wanted);
-  EXPECT_THAT(Differing(), IsEmpty());
-  const auto service = MakePopUp(PopUp::Service, open.Dialog());
-  Open(*service);
-  const auto marks = [&service] { return service->findChild<RowMarks*>()->Shown().size(); };
-  EXPECT_EQ(marks(), 1U);
-  DialogDriver(*service).Click(20375);
-  EXPECT_EQ(marks(), 0U);
 }
 
 TEST_F(WantedTest, BothMarksOfARowLieInsideTheFrame) {
@@ -269,7 +235,6 @@ TEST_F(WantedTest, CountsPagesThatWereNotReadAsTheHostLastSawThem) {
   EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option")) << "nothing is known";
   Snapshot seen = wanted;
   for (SavedSetting& setting : seen.settings) setting.value = 1;
-  seen.settings.push_back({.key = "option.auto-off", .value = 5, .text = {}, .source = 3});
   open.Dialog().SetLastSeen(seen);
   EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option (1?)"));
   EXPECT_EQ(Tab(), QStringLiteral("Picture (2)")) << "this one was read";

@@ -8,13 +8,11 @@
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/option/COption5TabDlg.h"
 #include "pages/option/CServiceDlg.h"
-#include "pages/other/COtherTabDlg.h"
 #include "pages/picture/CPictureTabType5Dlg.h"
 #include "pages/setup/CAudioType5Dlg.h"
 #include "pages/setup/CSetupType5TabDlg.h"
 #include "settings/ControlId.h"
 #include "tests/support/DialogDriver.h"
-#include "toolkit/CSliderCtrl.h"
 
 namespace {
 
@@ -181,27 +179,6 @@ TEST(NamedHandlers, OptionType5) {
                               {Id::CcDisplay, &Page::OnCbnSelchangeOth4CcdisplayComb},
                               {Id::CcMode, &Page::OnCbnSelchangeOth4CcmodeComb},
                               {Id::CcChannel, &Page::OnCbnSelchangeOth4CcchannelComb}});
-}
-
-TEST(NamedHandlers, DoNothingBeforeCreationOrWithoutASelection) {
-  CServiceDlg service(nullptr);
-  service.OnBnClickedSvcIrfrontchk();
-  CSliderCtrl slider;
-  CPictureTabType5Dlg(nullptr).OnHScroll(slider);
-  OpenDialog open(FullModel(5, 30), 1);
-  auto& picture = static_cast<CPictureTabType5Dlg&>(open.Page());
-  namespace Id = ControlId::Picture;
-  for (const int list : {Id::ActiveIris, Id::MyMemory, Id::Reset}) {
-    picture.Item<CComboBox>(list).Select(-1);
-  }
-  picture.OnCbnSelchangePic5ActilisCombo();
-  picture.OnBnClickedPicMyldBtn();
-  picture.OnBnClickedPicRstBtn();
-  open.SelectTab(8);
-  auto& other = static_cast<COtherTabDlg&>(open.Page());
-  other.Item<CComboBox>(ControlId::Other::InputSource).Select(-1);
-  other.OnCbnSelchangeOtherInput();
-  EXPECT_TRUE(open.Projector().TakeChanges().empty());
 }
 
 TEST(NamedHandlers, Service) {

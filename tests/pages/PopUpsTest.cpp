@@ -116,33 +116,6 @@ TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {
   EXPECT_TRUE(open.Projector().Take().empty()) << "no point is there";
 }
 
-TEST(GammaPopUp, APointIsNotDraggedWhileAHandlerRunsOrAfterItsRowWasRefused) {
-  OpenPopUp open(PopUp::Gamma);
-  auto& curve = *open.popUp->findChild<CurveView*>();
-  open.driver.Drag(21025, 1);
-  open.popUp->activateWindow();
-  ASSERT_TRUE(Soon([&] { return QApplication::activeWindow() == open.popUp.get(); }));
-  open.Projector().Take();
-  const QPoint at = curve.PlaceOf({3.0 / 9, 3.0 / 9 + 1 / 48.0}).toPoint();
-  for (const bool busy : {true, false}) {
-    QTest::mousePress(&curve, Qt::LeftButton, {}, at);
-    const CDialog::Busy handler(busy ? open.popUp.get() : nullptr);
-    if (!busy) open.Projector().Refuse("Get");
-    QTest::keyClick(open.popUp.get(), Qt::Key_F5);
-    EXPECT_EQ(open.Projector().Take().empty(), busy);
-    QTest::mouseMove(&curve, at - QPoint(0, 30));
-    QTest::mouseRelease(&curve, Qt::LeftButton, {}, at - QPoint(0, 30));
-    EXPECT_EQ(open.driver.SliderAt(21025), 1);
-    EXPECT_TRUE(open.Projector().TakeChanges().empty());
-  }
-  open.Projector().Accept("Get");
-  open.driver.Item<QWidget>(20161).setFocus();
-  Open(*open.popUp);  // makes new controls, while the focus is in an old one
-  EXPECT_TRUE(open.driver.IsEnabled(21025));
-  open.popUp->reject();
-  Activate(open.Dialog());
-}
-
 TEST(ServicePopUp, ABoxThatChangedWhileAHandlerRanIsReadAgainUnlessItWasLeft) {
   enum class Left : std::uint8_t { No, Before, After };
   for (const Left left : {Left::No, Left::Before, Left::After}) {

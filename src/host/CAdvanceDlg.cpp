@@ -128,6 +128,7 @@ void CAdvanceDlg::Parts::ShowWaiting(bool waits) {
 }
 
 void CAdvanceDlg::Parts::ReadLater() {
+  if (!dialog.IsCreated()) return;
   QTimer::singleShot(0, &dialog, [this] {
     if (dialog.IsCreated()) dialog.DispTabScreen();
   });
@@ -255,6 +256,7 @@ void CAdvanceDlg::OnDestroy() {
   parts_->inputsWatch.stop();
   auto& open = OpenDialogs();
   const auto self = std::ranges::find(open, this);
+  if (self == open.end()) return;
   // The dialog opened after this one has saved this library's module. It has to restore the host's
   // module instead.
   if (const auto next = std::next(self); next != open.end()) {

@@ -105,15 +105,19 @@ void DialogPages::OrderFocus(std::initializer_list<QWidget*> last) const {
   for (QWidget* widget : last) add(widget);
 }
 
-PageId DialogPages::PageIdOfTab(int tab) const {
-  if (tab <= 0) return PageId::Status;
+std::optional<PageId> DialogPages::PageIdOfTab(int tab) const {
   const auto tabs = TabsOf(model_->DialogType, model_->ModelCode);
+  if (tab == 0) return PageId::Status;
+  if (tab < 0 || static_cast<std::size_t>(tab) > tabs.size()) return {};
   return tabs[static_cast<std::size_t>(tab) - 1].page;
 }
 
 void DialogPages::ShowSelected() {
   for (CTabPage* page : Created()) page->hide();
-  shown_ = tabs_ != nullptr ? &Page(PageIdOfTab(tabs_->currentIndex())) : nullptr;
+  const auto selected = tabs_ != nullptr ? PageIdOfTab(tabs_->currentIndex()) : std::nullopt;
+  shown_ = selected ? &Page(*selected) : nullptr;
+  // The data of a closed dialog's next creation may have other pages than its tabs.
+  if (shown_ != nullptr && shown_->Template() == nullptr) shown_ = nullptr;
   if (shown_ == nullptr) return;
   shown_->Reader().MarkUnread();
   shown_->show();
@@ -122,7 +126,9 @@ void DialogPages::ShowSelected() {
 
 void DialogPages::ShowDifferences() const {
   for (int tab = 0; tabs_ != nullptr && tab < tabs_->count(); ++tab) {
-    CTabPage& page = Page(PageIdOfTab(tab));
+    const auto id = PageIdOfTab(tab);
+    if (!id) continue;
+    CTabPage& page = Page(*id);
     const int read = page.Reader().Differences();
     const int seen = page.Reader().DifferencesWhenSeen();
     const QString form = seen > 0   ? QStringLiteral("%1 (%2?)")

@@ -3,6 +3,7 @@
 #include <array>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QPointer>
@@ -48,8 +49,8 @@ class DialogPages {
 
   /// Null until `Create`.
   CTabCtrl* Tabs() const { return tabs_; }
-  /// Only after `Create`.
-  PageId PageIdOfTab(int tab) const;
+  /// The page of a tab of the present model, only after `Create`. Nothing for a tab that it lacks.
+  std::optional<PageId> PageIdOfTab(int tab) const;
 
   /// The page shown, or null.
   CTabPage* Shown() const { return shown_; }

@@ -20,10 +20,11 @@ constexpr std::chrono::milliseconds kLater{50};
 
 void FocusOn(CDialog& dialog, int control) {
   dialog.Highlight(control);
-  QWidget& found = dialog.Item<QWidget>(control);
-  if (!found.isEnabledTo(found.window())) return;
-  found.window()->setAttribute(Qt::WA_KeyboardFocusChange);  // makes the focus visible
-  found.setFocus(Qt::OtherFocusReason);
+  QWidget* found = dialog.GetDlgItem(control);
+  if (found != nullptr && found->isEnabledTo(found->window())) {
+    found->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // makes the focus visible
+    found->setFocus(Qt::OtherFocusReason);
+  }
 }
 
 }  // namespace
@@ -44,13 +45,14 @@ void SettingSearch::Start() {
     }
   };
   for (int tab = 0; tab < pages_.Tabs()->count(); ++tab) {
-    const PageId id = pages_.PageIdOfTab(tab);
-    const CTabPage& page = pages_.Page(id);
+    const auto id = pages_.PageIdOfTab(tab);
+    if (!id) continue;
+    const CTabPage& page = pages_.Page(*id);
     const ModelData& model = page.Model();
     const QString where = page.accessibleName();  // the tab's caption
-    add({.where = where, .tab = tab}, TableOf(id), model);
-    for (const PagePopUp& popUp : PopUpsOf(id, model)) {
-      const QString opener = CaptionText(FindRow(TableOf(id), popUp.control));
+    add({.where = where, .tab = tab}, TableOf(*id), model);
+    for (const PagePopUp& popUp : PopUpsOf(*id, model)) {
+      const QString opener = CaptionText(FindRow(TableOf(*id), popUp.control));
       add({.where = WhatAndWhere(opener, where), .tab = tab, .popUp = popUp}, *popUp.table, model);
     }
   }
@@ -66,7 +68,7 @@ void SettingSearch::GoTo(const FindLine::Place& place) {
   CTabCtrl& tabs = *pages_.Tabs();
   tabs.setFocus(Qt::OtherFocusReason);  // used if the row is disabled
   tabs.setCurrentIndex(place.tab);
-  if (!dialog_.isVisible() || tabs.currentIndex() != place.tab) return;
+  if (!dialog_.isVisible() || tabs.currentIndex() != place.tab || pages_.Shown() == nullptr) return;
   if (line_->isVisible()) return;
   FocusOn(*pages_.Shown(), place.popUp ? place.popUp->control : place.control);
   if (place.popUp) OpenPopUp(place.popUp->button, place.control);
@@ -79,6 +81,7 @@ void SettingSearch::OpenPopUp(int button, int control, std::chrono::milliseconds
   QTimer::singleShot(delay, opener, [this, opener, button, control] {
     if (!opener->isVisible() || line_->isVisible()) return;
     if (dialog_.IsBusy()) return OpenPopUp(button, control, kLater);
+    if (!opener->isEnabled()) return;
     QTimer::singleShot(0, this, [this, control] {
       auto* popUp = qobject_cast<CDialog*>(QApplication::activeModalWidget());
       if (popUp != nullptr && popUp->Owner() != nullptr && popUp->Owner()->window() == &dialog_) {

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QLineEdit>
 #include <QPointer>
 
 #include "toolkit/AccessibleActions.h"
@@ -15,7 +16,8 @@ namespace AdvancedControl {
 
 namespace {
 
-/// A list, named by its caption. Its text is the selected entry, its child the drop-down.
+/// A list, named by its caption. Its text is the selected entry. Its children are the drop-down
+/// and, if the list is editable, its field.
 class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInterface {
  public:
   explicit ComboInterface(CComboBox* combo) : QAccessibleWidget(combo, QAccessible::ComboBox) {}
@@ -33,15 +35,18 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
     state.expandable = true;
     state.expanded = Combo().view()->isVisible();
     state.hasPopup = true;
+    state.editable = Combo().isEditable();
     return state;
   }
 
-  int childCount() const override { return 1; }
+  int childCount() const override { return Combo().isEditable() ? 2 : 1; }
   QAccessibleInterface* child(int index) const override {
-    return index == 0 ? QAccessible::queryAccessibleInterface(Combo().view()) : nullptr;
+    if (index == 0) return QAccessible::queryAccessibleInterface(Combo().view());
+    return index == 1 ? QAccessible::queryAccessibleInterface(Combo().lineEdit()) : nullptr;
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
-    return child->object() == Combo().view() ? 0 : -1;
+    if (child->object() == Combo().view()) return 0;
+    return Combo().isEditable() && child->object() == Combo().lineEdit() ? 1 : -1;
   }
 
   QStringList actionNames() const override {
@@ -54,7 +59,7 @@ class ComboInterface final : public QAccessibleWidget, public QAccessibleTextInt
     });
   }
 
-  // The text is read-only, without a cursor.
+  // The text is read-only here, without a cursor; it is edited in the field.
   void selection(int, int* start, int* end) const override { *start = *end = 0; }
   int selectionCount() const override { return 0; }
   void addSelection(int, int) override {}

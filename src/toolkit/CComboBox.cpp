@@ -52,7 +52,7 @@ bool CComboBox::SelectValue(int value) {
 }
 
 void CComboBox::Pick(int position) {
-  if (position >= count()) return;
+  if (position < 0 || position >= count()) return;
   hidePopup();
   setCurrentIndex(position);
   Q_EMIT activated(position);

@@ -80,11 +80,12 @@ void CDialog::CentreOnOwner() {
 
 void CDialog::RunHandler(const Notification& entry, CSliderCtrl* slider) {
   auto* top = qobject_cast<CDialog*>(window());
-  const QWidget& control = slider != nullptr ? *slider : *GetDlgItem(entry.id);
+  const QWidget* control = slider != nullptr ? slider : GetDlgItem(entry.id);
+  if (control == nullptr) return;  // unreachable: only the dialog's own controls report
   const bool isBusy = top != nullptr && top->IsBusy();
-  if (isBusy && KeepsInput(control)) return KeepInput(entry, slider);
-  if (isBusy && !AcceptsInputWhileBusy(control)) {
-    const auto* button = qobject_cast<const QAbstractButton*>(&control);
+  if (isBusy && KeepsInput(*control)) return KeepInput(entry, slider);
+  if (isBusy && !AcceptsInputWhileBusy(*control)) {
+    const auto* button = qobject_cast<const QAbstractButton*>(control);
     if (button == nullptr || button->isCheckable()) top->Watch().OnStale();
     return;
   }

@@ -61,6 +61,7 @@ bool FocusRing::eventFilter(QObject*, QEvent* event) {
       Place();
       break;
     case QEvent::Hide:
+    case QEvent::EnabledChange:  // unreachable: Qt takes the focus away before it
       Follow(nullptr);
       break;
     default:

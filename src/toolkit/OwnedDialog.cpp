@@ -55,9 +55,8 @@ void OwnedDialog::Open() {
 void OwnedDialog::Destroy() {
   if (life_ != Life::Open) return;
   life_ = Life::Closed;
-  if (!isWindow()) return;
-  std::erase(Windows(), this);
-  OnDestroy();
+  std::erase(Windows(), this);  // it may have become a part of its owner since
+  if (isWindow()) OnDestroy();
 }
 
 void OwnedDialog::done(int result) {
@@ -99,6 +98,7 @@ void OwnedDialog::WatchOwner() {
 
 // Called before the owner deletes its children.
 void OwnedDialog::OnOwnerDying() {
+  if (!isWindow()) return;
   if (parentWidget() == nullptr) return End();
   if (deletedWithOwner_ && !IsBusy()) return;  // the owner deletes it like any child
   deletionWaits_ |= deletedWithOwner_;
@@ -119,7 +119,7 @@ void OwnedDialog::End() {
   hide();
   if (before != Life::Open) return;
   std::erase(Windows(), this);
-  OnDestroy();
+  if (isWindow()) OnDestroy();
 }
 
 bool OwnedDialog::IsOrphaned() const {

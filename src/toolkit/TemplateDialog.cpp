@@ -110,7 +110,8 @@ void TemplateDialog::UpdateRows() { rows_->Update(); }
 bool TemplateDialog::IsScrolled() const { return rows_->AreScrolled(); }
 
 bool TemplateDialog::AcceptsInputWhileBusy(const QWidget& target) const {
-  for (const QWidget* part = &target; part != this; part = part->parentWidget()) {
+  for (const QWidget* part = &target; part != nullptr && part != this;
+       part = part->parentWidget()) {
     if (const auto* page = qobject_cast<const TemplateDialog*>(part)) {
       return page->KeepsInput(target);
     }
@@ -131,21 +132,24 @@ void TemplateDialog::NoSuchControl(int id) const {
   qFatal("dialog %d has no control %d of the kind asked for", templateNumber_, id);
 }
 
-void TemplateDialog::ShowRow(int id, bool present) { rows_->Show(Item<QWidget>(id), present); }
+void TemplateDialog::ShowRow(int id, bool present) {
+  if (!rows_->Show(GetDlgItem(id), present)) NoSuchControl(id);  // unreachable: ends the process
+}
 
 QRect TemplateDialog::RowRect(int id) const {
   QRect rect;
-  for (const QWidget* control : rows_->ControlsBeside(Item<QWidget>(id))) {
+  for (const QWidget* control : rows_->ControlsBeside(GetDlgItem(id))) {
     rect = rect.united(control->geometry());
   }
   return rect;
 }
 
 void TemplateDialog::Highlight(int id) {
-  auto& control = Item<QWidget>(id);
-  QWidget& parent = *control.parentWidget();
+  QWidget* control = GetDlgItem(id);
+  if (control == nullptr || !control->isVisible()) return;
+  QWidget& parent = *control->parentWidget();
   for (QWidget* area = &parent; area != nullptr; area = area->parentWidget()) {
-    if (auto* scroll = qobject_cast<FittedScroll*>(area)) scroll->ScrollIntoView(control);
+    if (auto* scroll = qobject_cast<FittedScroll*>(area)) scroll->ScrollIntoView(*control);
   }
   Flash(parent, RowRect(id));
 }
@@ -154,7 +158,7 @@ void TemplateDialog::GreyCaption(int id) {
   std::vector<QWidget*> captions;
   bool operable = false;
   bool enabled = false;
-  for (QWidget* control : rows_->ControlsBeside(Item<QWidget>(id))) {
+  for (QWidget* control : rows_->ControlsBeside(GetDlgItem(id))) {
     if (qobject_cast<QLabel*>(control) != nullptr) {
       captions.push_back(control);
     } else if (qobject_cast<QLineEdit*>(control) == nullptr && !control->isHidden()) {
@@ -175,8 +179,10 @@ void TemplateDialog::ShowNotice(const QString& text) {
 void TemplateDialog::PlaceBesideClose(QWidget& widget) { rows_->PlaceBesideClose(widget); }
 
 QSize TemplateDialog::DialogSize() const {
-  return FromDialogUnits(*this, template_->width, template_->height)
-      .expandedTo(layout()->totalSizeHint());
+  QSize size =
+      template_ != nullptr ? FromDialogUnits(*this, template_->width, template_->height) : QSize();
+  if (layout() != nullptr) size = size.expandedTo(layout()->totalSizeHint());
+  return size;
 }
 
 }  // namespace AdvancedControl

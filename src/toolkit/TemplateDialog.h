@@ -54,8 +54,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   /// Scrolls a control's row into view and highlights it for a few seconds.
   void Highlight(int id);
 
-  /// The size of the template or the size that the present contents need, whichever is larger. Only
-  /// for a dialog with controls and without tabs.
+  /// The size of the template or the size that the present contents need, whichever is larger.
   QSize DialogSize() const;
 
  protected:

@@ -133,23 +133,27 @@ void TemplateRows::ShareListWidths() const {
   }
 }
 
-TemplateRows::Row& TemplateRows::RowOf(const QWidget& control) {
-  return *std::ranges::find_if(rows_, [&control](const Row& row) {
-    return std::ranges::find(row.controls, &control) != row.controls.end();
+TemplateRows::Row* TemplateRows::RowOf(const QWidget* control) {
+  const auto row = std::ranges::find_if(rows_, [control](const Row& candidate) {
+    return std::ranges::find(candidate.controls, control) != candidate.controls.end();
   });
+  return row == rows_.end() ? nullptr : &*row;
 }
 
-std::span<QWidget* const> TemplateRows::ControlsBeside(const QWidget& control) {
-  return RowOf(control).controls;
+std::span<QWidget* const> TemplateRows::ControlsBeside(const QWidget* control) {
+  const Row* row = RowOf(control);
+  return row != nullptr ? std::span<QWidget* const>(row->controls) : std::span<QWidget* const>();
 }
 
-void TemplateRows::Show(const QWidget& control, bool present) {
-  Row& row = RowOf(control);
-  row.present = present;
-  for (QWidget* shown : row.controls) {
+bool TemplateRows::Show(const QWidget* control, bool present) {
+  Row* row = RowOf(control);
+  if (row == nullptr) return false;  // unreachable: ends the process
+  row->present = present;
+  for (QWidget* shown : row->controls) {
     if (shown->isHidden() == present) shown->setVisible(present);
   }
-  row.grid->setRowMinimumHeight(row.gridRow, present ? pitch_ : 0);
+  if (row->grid != nullptr) row->grid->setRowMinimumHeight(row->gridRow, present ? pitch_ : 0);
+  return true;
 }
 
 void TemplateRows::PlaceNotice(QWidget& notice) const {
@@ -173,7 +177,9 @@ void TemplateRows::ShareCaptionWidths(std::span<const TemplateRows* const> dialo
     std::vector<QGridLayout*> columns;
     for (const TemplateRows* dialog : dialogs) {
       for (const Row& row : dialog->rows_) {
-        if (!row.present || (row.line->place == RowPlace::Right) != right) continue;
+        // unreachable: a row without grid; only a window that scrolls has one, and these are pages
+        if (!row.present || row.grid == nullptr || (row.line->place == RowPlace::Right) != right)
+          continue;
         if (row.line->controls.front().kind != ControlKind::Label) continue;
         width = std::max(width, row.controls.front()->sizeHint().width());
         if (columns.empty() || columns.back() != row.grid) columns.push_back(row.grid);

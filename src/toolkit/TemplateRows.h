@@ -39,10 +39,10 @@ class TemplateRows {
   /// Updates the layout after texts or the presence of rows have changed.
   void Update();
 
-  /// The controls of the row with this control, which must be one of a row.
-  std::span<QWidget* const> ControlsBeside(const QWidget& control);
-  /// Shows or removes the row with this control.
-  void Show(const QWidget& control, bool present);
+  /// The controls of the row with this control; empty if there is none.
+  std::span<QWidget* const> ControlsBeside(const QWidget* control);
+  /// Shows or removes the row with this control. False if there is none.
+  bool Show(const QWidget* control, bool present);
 
   /// Adds a sentence above the rows.
   void PlaceNotice(QWidget& notice) const;
@@ -66,7 +66,7 @@ class TemplateRows {
     bool present = true;
   };
 
-  Row& RowOf(const QWidget& control);
+  Row* RowOf(const QWidget* control);
   void ShareButtonWidths() const;
   void ShareListWidths() const;
 

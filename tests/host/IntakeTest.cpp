@@ -105,13 +105,23 @@ TEST_F(IntakeOfAnOpenDialog, TakesEffectAtTheNextCreation) {
     projector_->Pace({});
   });
   dialog_.DispTabScreen();
-  SourceList sources;
-  AddSource(sources, 3, "HDMI");
-  dialog_.ReplaceSources(sources);
   Open();
   EXPECT_EQ(dialog_.Model().ModelName, "Later");
-  EXPECT_EQ(dialog_.Model().MySourceList, sources);
-  EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6) << "this form names no connection";
+}
+
+TEST_F(IntakeOfAnOpenDialog, OfAClosedOneMayHaveOtherPagesThanItsTabs) {
+  Open(1);
+  dialog_.close();
+  for (const int type : {3, 0}) {
+    dialog_.CopyData("Other", type, 0, nullptr, nullptr, nullptr, 0, nullptr, nullptr, 0, nullptr,
+                     nullptr, 0, nullptr, nullptr);
+    dialog_.SetWanted(WantedSettings());
+    dialog_.DispTabScreen();
+    EXPECT_EQ(dialog_.ShownPage(), nullptr);
+    dialog_.show();
+    QTest::keyClick(&dialog_, Qt::Key_F, Qt::ControlModifier);
+    dialog_.hide();
+  }
 }
 
 }  // namespace

@@ -44,7 +44,6 @@ TEST(OptionType5, WithoutAListOfTheModelTheTemplatesFunctionsAreUsed) {
   EXPECT_EQ(listed.Option().GetMyBtnIdx(25), 2);
   EXPECT_EQ(listed.Option().GetMyBtnIdx(24), -1);
   EXPECT_EQ(listed.Option().GetMyBtnVal(12), 255);
-  EXPECT_EQ(listed.Option().GetMyBtnVal(-1), -1);
 }
 
 // A source's code is the low half of its word. For this read, any result but 0 is a success.
@@ -72,10 +71,6 @@ TEST(OptionType5, AnOpenDialogTakesOtherSources) {
   open.Dialog().ReplaceSources(sources);
   EXPECT_EQ(open.Driver().Entries(20374), QStringList{"Camera"});
   EXPECT_EQ(open.Driver().Selected(20374), 0) << "it is read again";
-  OptionPage plain(47);
-  const QStringList entries = plain.Driver().Entries(20371);
-  plain.Dialog().ReplaceSources(sources);
-  EXPECT_EQ(plain.Driver().Entries(20371), entries) << "those of the template";
 }
 
 TEST(OptionType5, ServiceOpensForTheModelOnTheSameProjector) {

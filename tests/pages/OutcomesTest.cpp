@@ -99,7 +99,8 @@ constexpr Case kCases[] = {
      "Not accepted: Power Up Input Last Input. The projector has Computer1.", 21057, 1},
     {"input", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21057, 2); }, "Set",
      "Not accepted: Power Up Input Computer2. The projector has Computer1.", 21057, 1},
-    {"no input", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21057, 3); }, nullptr, "MIU cannot be chosen here."},
+    {"no input", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21057, 3); }, nullptr,
+     "MIU cannot be chosen here."},
     {"only shown on Video", 4, 9, 3, [](const DialogDriver& page) { page.Choose(20221, 1); },
      nullptr, "This setting is only shown here. A choice is not sent."},
 };

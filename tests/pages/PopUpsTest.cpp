@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -113,6 +114,27 @@ TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {
   EXPECT_EQ(open.driver.SliderAt(21025), open.driver.Item<QSlider>(21025).maximum());
   QTest::mouseClick(&curve, Qt::LeftButton, {}, curve.PlaceOf({0.5, 1.2}).toPoint());
   EXPECT_TRUE(open.Projector().Take().empty()) << "no point is there";
+}
+
+TEST(ServicePopUp, ABoxThatChangedWhileAHandlerRanIsReadAgainUnlessItWasLeft) {
+  enum class Left : std::uint8_t { No, Before, After };
+  for (const Left left : {Left::No, Left::Before, Left::After}) {
+    OpenPopUp open(PopUp::Service);
+    auto& box = open.driver.Item<QCheckBox>(20375);
+    const QPoint at(6, box.height() / 2);
+    QTest::mousePress(&box, Qt::LeftButton, {}, at);
+    {
+      const CDialog::Busy handler(open.popUp.get());
+      QTest::mouseRelease(&box, Qt::LeftButton, {}, at);
+      EXPECT_TRUE(box.isChecked());
+      if (left == Left::Before) open.popUp->reject();
+      open.Projector().Take();
+    }
+    if (left == Left::After) open.popUp->reject();
+    QTest::qWait(0);
+    EXPECT_NE(open.Projector().Take().empty(), left == Left::No);
+    EXPECT_NE(box.isChecked(), left == Left::No);
+  }
 }
 
 TEST(GammaPopUp, WithoutResetButtonsIsNarrowerAndCloseStaysInside) {

@@ -8,7 +8,6 @@
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/picture/CPictureTabType5Dlg.h"
 #include "pages/setup/CAudioType5Dlg.h"
-#include "pages/setup/CSetupType5TabDlg.h"
 #include "resources/ArrowBitmap.h"
 #include "settings/ControlId.h"
 #include "tests/support/DialogDriver.h"
@@ -105,16 +104,6 @@ TEST(Setup5, TheVolumeBelongsToTheCurrentInput) {
   page.Page().InitDisp();
   EXPECT_FALSE(page.driver.IsEnabled(20317));
   EXPECT_EQ(page.driver.Text(20142) + page.driver.Text(kCurrentInput), "");
-}
-
-TEST(Setup5, AHostMayTakeTheVolumeOutOfUse) {
-  Type5Page page(kSetupTab, 42, {{"GetInputSrcVolume", 12}});
-  auto& setup = static_cast<CSetupType5TabDlg&>(page.Page());
-  for (const bool disabled : {true, false}) {
-    EXPECT_EQ(setup.DisableVolumeCtrl(disabled), 0);
-    for (const int id : {20317, 20318, 20319}) EXPECT_NE(page.driver.IsEnabled(id), disabled);
-    EXPECT_EQ(page.driver.Text(20142), "");
-  }
 }
 
 TEST(Setup5, OnlyTheZoomButtonsRequireTheResultOne) {
@@ -234,11 +223,6 @@ TEST(Audio5, AnInputOfMinusOneIsNoSource) {
   EXPECT_EQ(page.projector.TakeChanges(), Strings{});
   page.Page().InitDisp();
   EXPECT_EQ(page.driver.Text(20355), "");
-}
-
-TEST(Audio5, AnUnknownSurroundIsThePositionCountedFromOne) {
-  Type5Page page(kAudioTab, 41, {{"GetInputSource", 3}, {"GetSRSWOW", 1}});
-  EXPECT_EQ(page.driver.Selected(20381), 0);
 }
 
 // The device value has another zero point. A slider remembers its position instead.

@@ -17,7 +17,6 @@ inline constexpr RowTemplate kRows[] = {
     SliderRow(Left, Label(1, "Level:"), 2, {3, 4, 5, 6}),
     Row(Left, Label(7, "Mode:"), Colon(8), Combo(9, kEntries), Button(10, "Do")),
     Row(Left, Label(11, "Last:"), Colon(12), Combo(13, kEntries)),
-    Row(Left, Label(15, "Lamp:"), Colon(16), Check(17, "On")),
     Row(Bottom, Close(14, "Close")),
 };
 inline constexpr DialogTemplate kTemplate{
@@ -27,11 +26,12 @@ inline constexpr ResourceModule kModule{kTemplates};
 
 class SampleDialog : public CDialog {
  public:
+  using CDialog::RowRect;
   explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
   const NotificationMap& Notifications() const override {
-    static const NotificationMap map{
-        Clicked(10, &SampleDialog::OnDo), Clicked(17, &SampleDialog::OnDo),
-        SelChange(9, &SampleDialog::OnMode), Passive(13), HScroll(&SampleDialog::OnScroll)};
+    static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),
+                                     SelChange(9, &SampleDialog::OnMode), Passive(13),
+                                     HScroll(&SampleDialog::OnScroll)};
     return map;
   }
   void OnDo() {

@@ -110,7 +110,7 @@ void RowMenus::AskForNumber(RowView& row) {
 
 bool RowMenus::IsBusy() const {
   const auto* top = qobject_cast<const CDialog*>(host_.Dialog().window());
-  return top != nullptr && top->IsBusy();
+  return top == nullptr || top->IsBusy();
 }
 
 void RowMenus::MoveTo(RowView& row, int position) {

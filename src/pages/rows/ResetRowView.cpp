@@ -26,7 +26,7 @@ void ResetRowView::Prepare() {
   for (std::size_t i = 0; i < row_.entries.size(); ++i) {
     const ResetEntry& entry = row_.entries[i];
     const RowView* of = RowFor(entry);
-    if (of != nullptr && !of->memory.present) continue;
+    if (entry.of && (of == nullptr || !of->memory.present)) continue;
     // The value is the entry's position in the table, because the list has only the present
     // entries.
     list_->Add(CatalogString(kListCategory, entry.text), static_cast<int>(i));
@@ -56,6 +56,8 @@ QString ResetRowView::TextFor(const RowView& row) const {
 
 void ResetRowView::Reset(const RowView& row) {
   const QScopedValueRollback instead(instead_, EntryFor(row));
+  // unreachable: a row without an entry has no button. Otherwise the list's choice would be reset.
+  if (!instead_) return;
   Dialog().Item<QAbstractButton>(row_.control).click();
 }
 

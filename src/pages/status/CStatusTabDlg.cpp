@@ -53,7 +53,7 @@ bool CStatusTabDlg::OnInitDialog() {
 // The pause begins when the page has been read, however long that takes.
 void CStatusTabDlg::ReadIfQuiet() {
   const auto* dialog = qobject_cast<const CDialog*>(window());
-  const bool isBusy = (dialog != nullptr && dialog->IsBusy()) || projector->IsWaiting();
+  const bool isBusy = dialog == nullptr || dialog->IsBusy() || projector->IsWaiting();
   if (!isVisible() || isBusy || QApplication::activePopupWidget() != nullptr) return;
   next_.stop();
   // What the line says about the user's last action must not vanish by itself.

@@ -1,4 +1,3 @@
-#include <cctype>
 #include <fstream>
 #include <regex>
 #include <string>
@@ -99,17 +98,6 @@ TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
       {ParseConnection({0, 256, 0, "", ""}), AddressError{"no serial port '257'"}},
       {ParseConnection({0, -1, 0, "", ""}), AddressError{"no serial port '0'"}},
       {ParseConnection({0, 0, kMost + 1, "", ""}), AddressError{"no line speed '4000001'"}},
-      {ParseConnection({0, 0, -1, "", ""}), AddressError{"no line speed '-1'"}},
-      {ParseConnection({1, 0, 80, "beamer:80", ""}), TcpAddress{"beamer", 80}},
-      {ParseAddress("tcp://a:1"), TcpAddress{"a", 1}},
-      {ParseAddress("tcp://a:65535"), TcpAddress{"a", 65535}},
-      {ParseAddress("tcp://a:65536"), AddressError{"no network port '65536'"}},
-      {ParseAddress("tcp://a:"), AddressError{"wrong port in 'tcp://a:'"}},
-      {ParseAddress("tcp://a:9999999999"), AddressError{"wrong port in 'tcp://a:9999999999'"}},
-      {ParseAddress("tcp://[::1]9"), AddressError{"wrong port in 'tcp://[::1]9'"}},
-      {ParseAddress("/dev/pts/3?1"), SerialAddress{"/dev/pts/3", 1}},
-      {ParseAddress("/dev/pts/3?9x"), AddressError{"no line speed '9x'"}},
-      {ParseAddress("/dev/pts/3?0"), AddressError{"no line speed '0'"}},
       {ParseAddress("tcp://[::1]:9", "pw"), TcpAddress{"::1", 9}},
       {ParseAddress("tcp://::1", "pw"), TcpAddress{"::1", 7240}},
       {ParseAddress("beamer:7241", "pw"), TcpAddress{"beamer", 7241}},
@@ -126,11 +114,8 @@ TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
 }
 
 TEST(WireTest, AHostIsANameOrACompleteAddress) {
-  std::string longest = "a";
-  while (longest.size() < 253) longest += ".a";
-  for (const std::string host :
-       {longest.c_str(), "192.0.2.1", "::1", "fe80::1%eth0", "beamer", "beamer.",
-        "hall_2.example.org", "3com", "4.hall", "b\u00FCro", "\u5927\u5385.example"}) {
+  for (const char* host : {"192.0.2.1", "::1", "fe80::1%eth0", "beamer", "hall_2.example.org",
+                           "3com", "4.hall", "b\u00FCro", "\u5927\u5385.example"}) {
     EXPECT_TRUE(IsHostAddress(host)) << host;
   }
   for (const char* none :
@@ -140,11 +125,6 @@ TEST(WireTest, AHostIsANameOrACompleteAddress) {
   }
   EXPECT_FALSE(IsHostAddress("a\nb"));
   EXPECT_FALSE(IsHostAddress(std::string(64, 'a')));
-  EXPECT_FALSE(IsHostAddress('a' + longest));
-  for (int c = 0; c < 128; ++c) {
-    const bool isAllowed = std::isalnum(c) != 0 || c == '.' || c == '-' || c == '_';
-    EXPECT_EQ(IsHostAddress(std::string{'a', static_cast<char>(c), 'b'}), isAllowed) << c;
-  }
 }
 
 }  // namespace

@@ -229,26 +229,6 @@ TEST(MessageTable, RefusesDamagedModules) {
   EXPECT_FALSE(MessageTable::Parse(TestModule({english, english}).bytes)) << "twice in a resource";
 }
 
-// Headers behind everything else, with a section for the messages and others without content.
-TEST(MessageTable, SectionsAreLimited) {
-  const TestModule m(SampleTables());
-  const auto isRead = [&m](std::uint32_t sections) {
-    TestModule module = m;
-    const auto header = static_cast<std::uint32_t>(m.bytes.size());
-    const std::size_t size = m.section - m.kHeader;
-    module.bytes.resize(header + size + 40 * sections);
-    std::copy_n(m.bytes.begin() + m.kHeader, size, module.bytes.begin() + header);
-    std::copy_n(m.bytes.begin() + static_cast<std::ptrdiff_t>(m.section), 40,
-                module.bytes.end() - 40);
-    module.Put32(0x3C, header);
-    module.Put16(header + 6, sections);
-    module.Put32(header + size + 20, ~0U);  // outside, as it may be without content
-    return MessageTable::Parse(module.bytes).has_value();
-  };
-  EXPECT_TRUE(isRead(96));
-  EXPECT_FALSE(isRead(97));
-}
-
 // A module with a flipped bit is refused, or only the text with the bit differs.
 TEST(MessageTable, NoFlippedBitAssignsATextToAnotherNumber) {
   TestBlock low{10, {}}, high{20, {}};

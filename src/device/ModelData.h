@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -34,7 +33,7 @@ struct CountedList {
   std::array<NameSlot, kCapacity> names{};
 
   /// `count` clamped to 0..kCapacity.
-  int Size() const { return std::clamp<int>(count, 0, kCapacity); }
+  int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
 
   bool operator==(const CountedList&) const = default;
 };
@@ -48,7 +47,7 @@ struct SourceList {
   std::array<std::int32_t, kCapacity> firstValues{};   ///< Input source number of each entry.
   std::array<std::int32_t, kCapacity> secondValues{};  ///< Second host value of each entry.
 
-  int Size() const { return std::clamp<int>(count, 0, kCapacity); }
+  int Size() const { return count < 0 ? 0 : count > kCapacity ? kCapacity : count; }
 
   bool operator==(const SourceList&) const = default;
 };

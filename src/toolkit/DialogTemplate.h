@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -52,8 +51,9 @@ struct RowTemplate {
 
   /// The controls that it has.
   std::span<const ControlTemplate> Present() const {
-    const auto* end = std::ranges::find(controls, ControlKind::None, &ControlTemplate::kind);
-    return {controls.begin(), end};
+    std::size_t count = 0;
+    while (count < kMaxControls && controls[count].kind != ControlKind::None) ++count;
+    return {controls.data(), count};
   }
 };
 

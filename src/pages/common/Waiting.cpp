@@ -32,11 +32,11 @@ StatusLine& Waiting::MakeLine(QWidget* parent) {
 void Waiting::OnBusy() {
   RestartTally();
   ticks_ = 0;
-  timer_ = startTimer(kTick);
+  if (timer_ == 0) timer_ = startTimer(kTick);
 }
 
 void Waiting::OnIdle(bool left) {
-  killTimer(timer_);
+  if (timer_ != 0) killTimer(std::exchange(timer_, 0));
   if (shown_) Show(false);
   const CPjtInterface& projector = dialog_.projector();
   const bool isNews = projector.Sent().commands != before_.commands;

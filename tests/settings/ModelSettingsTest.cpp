@@ -110,6 +110,35 @@ TEST(ModelSettings, EverySettingOfEveryModelWorksOnTheSimulationAndHasAUniqueKey
   }
 }
 
+TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
+  CModelInfo2 model = MakeModel(5, 49);
+  AddEntry(model.ColorTempList, -1, "none");
+  AddEntry(model.ColorTempList, 17, "custom");
+  AddEntry(model.MyButtonList, -1, "none");
+  const ModelSettings settings(MakeModelData(model));
+  struct Accepting final : ProjectorChannel {
+    PjtReply Execute(const PjtCommand& command) override {
+      sent = command;
+      return {.result = result};
+    }
+    PjtCommand sent;
+    int result = 1;
+  };
+  const auto channel = std::make_shared<Accepting>();
+  CPjtInterface projector;
+  projector.SetChannel(channel);
+  for (const char* key : {"picture.color-temp", "option.my-button-1"}) {
+    EXPECT_EQ(settings.Change(projector, *settings.Find(key), -1), Sent::Accepted) << key;
+    EXPECT_EQ(channel->sent.first, -1);
+  }
+  const auto& gain = std::get<ValueRow>(*settings.Find("color-temp.gain-r")->row);
+  const auto step = [&](int known) { return Step(projector, gain, true, 0, {-8, 8}, known); };
+  EXPECT_TRUE(step(0).unchanged) << "0 is its answer";
+  EXPECT_EQ(step(-1).value, gain.bias);
+  channel->result = 0;
+  EXPECT_TRUE(step(-1).unchanged);
+}
+
 struct HearingProjector final : SimulatedProjector {
   void Announce(std::span<const PjtCommand> reads) override {
     announced.insert(announced.end(), reads.begin(), reads.end());

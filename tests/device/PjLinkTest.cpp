@@ -199,6 +199,7 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
     cases.push_back({ends, "1", State::Connected, false, {kGetPower}, "1", goodTwice});
   }
   std::vector<std::jthread> tried;  // at once, since some wait for the time-out
+  tried.reserve(cases.size());
   for (const Case& one : cases) {
     tried.emplace_back([&one, number = &one - cases.data()] {
       SCOPED_TRACE(number);

@@ -88,8 +88,7 @@ TEST(WireChannelTest, EveryFaultOfThePeerGivesAStateAndTheNextCommandWorks) {
   };
   constexpr std::size_t kFlood = 10'000'000;
   // A serial line takes seconds for more, on a busy machine.
-  const std::string foreign =
-      FrameBytes({0x7FFF, Wire::Reply{Wire::Status::Answered, 1, 6}}, 50'000);
+  std::string foreign = FrameBytes({0x7FFF, Wire::Reply{Wire::Status::Answered, 1, 6}}, 50'000);
   std::vector<Case> cases{
       {"never answers", Peer::Says({}), NoAnswer},
       {"answers garbage", Peer::Says({"", "HTTP/1.1 400 Bad Request\r\n\r\n"}), NotUnderstood},
@@ -242,6 +241,7 @@ Peer::Behaviour AnswersTwice(std::vector<std::size_t>& bursts, std::chrono::mill
 
 TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
   std::vector<PjtCommand> reads;
+  reads.reserve(80);
   for (int i = 0; i < 80; ++i) reads.push_back(Get(i));
   struct Case {
     const char* name;

@@ -66,7 +66,7 @@ TEST(WireTest, FindsFramesAfterNoiseAndInPieces) {
         Bytes("A55A04FF"), Bytes("A55A0008"), changed, whole.substr(0, 14),
         std::string(9000, '?')}) {
     for (const std::size_t piece : {1U, 2U, 3U, 7U, 10'000U}) {
-      const std::string bytes = noise + whole + whole;
+      const std::string bytes = std::string(noise).append(whole).append(whole);
       Wire::Decoder decoder;
       std::vector<Wire::Frame> found;
       for (std::size_t at = 0; at < bytes.size(); at += piece) {

@@ -47,7 +47,7 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
   const Strings one = SentBy([] {});
   ASSERT_EQ(one.size(), 2U) << "a step and its read";
   Page().Drag(kSlider, start);
-  const std::string up = one[0], read = one[1];
+  const std::string &up = one[0], &read = one[1];
   const std::string down = "Dec" + up.substr(3);
   const auto set = [](int shown) { return "SetBrightness(" + std::to_string(shown + 128) + ")"; };
   struct Case {

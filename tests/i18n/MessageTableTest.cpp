@@ -5,6 +5,7 @@
 #include <string>
 #include <sys/stat.h>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -40,7 +41,7 @@ TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
   for (const bool wide : {false, true}) {
     const auto table = MessageTable::Parse(TestModule(SampleTables(), wide).bytes);
     ASSERT_TRUE(table) << wide;
-    const auto texts = [&table](std::uint32_t language, std::vector<std::uint32_t> ids) {
+    const auto texts = [&table](std::uint32_t language, const std::vector<std::uint32_t>& ids) {
       std::string all;
       for (const std::uint32_t id : ids) all += TextIn(*table, language, id) + ';';
       return all;
@@ -307,7 +308,7 @@ TEST(MessageTable, ReadsOnlyRegularFiles) {
     }
     done = true;
   });
-  while (!done) MessageTable::Read(path("good"));
+  while (!done) std::ignore = MessageTable::Read(path("good"));
   cutter.join();
 
   std::ofstream(path("empty"));

@@ -61,6 +61,7 @@ class TestModule {
     names = Directory(types, {11U});
     Put32(types + 20, Relative(names) | kDirectory);
     std::vector<std::uint32_t> numbers;
+    numbers.reserve(resources.size());
     for (const auto& [number, languages] : resources) numbers.push_back(number);
     std::size_t next = Directory(names, numbers);
     std::size_t slot = names + 20;
@@ -162,9 +163,9 @@ inline TestModule Overlapping(std::uint32_t resources, std::uint32_t languages,
   TestModule module(tables);
   const auto leaf = static_cast<std::uint32_t>(module.lastLeaf - module.types);
   const std::size_t slots = module.names + 20;
-  const std::uint32_t directory = U32(module.bytes, slots + 8 * (resources - 1));
-  for (std::uint32_t i = 0; i < resources; ++i) module.Put32(slots + 8 * i, directory);
+  const std::uint32_t directory = U32(module.bytes, slots + std::size_t{8} * (resources - 1));
+  for (std::size_t i = 0; i < resources; ++i) module.Put32(slots + 8 * i, directory);
   const std::size_t leaves = module.types + (directory & ~module.kDirectory) + 20;
-  for (std::uint32_t i = 0; i < languages; ++i) module.Put32(leaves + 8 * i, leaf);
+  for (std::size_t i = 0; i < languages; ++i) module.Put32(leaves + 8 * i, leaf);
   return module;
 }

@@ -147,6 +147,7 @@ void Fiber::Resume() { stack_->Enter(); }
 void Fiber::Suspend() { stack_->Leave(false); }
 
 void Fiber::Enter(unsigned upper, unsigned lower) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): makecontext passes only integers
   auto* const fiber = reinterpret_cast<Fiber*>(std::uint64_t{upper} << kHalf | lower);
   fiber->stack_->Arrived();
   fiber->run_();

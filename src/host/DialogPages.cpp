@@ -80,6 +80,7 @@ void DialogPages::InsertTabs() {
 QSize DialogPages::FitPages() const {
   const std::vector<CTabPage*> created = Created();
   std::vector<const TemplateRows*> rows;
+  rows.reserve(created.size());
   for (const CTabPage* page : created) rows.push_back(&page->Rows());
   TemplateRows::ShareCaptionWidths(rows);
   QSize whole;

@@ -1,5 +1,6 @@
 // What a restoration says about each setting, and what it keeps for undoing it.
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
@@ -47,8 +48,8 @@ struct ScriptedProjector : ConnectedProjector {
 };
 
 std::vector<Outcome> OutcomesOf(const std::vector<RestoredSetting>& settings) {
-  std::vector<Outcome> outcomes;
-  for (const RestoredSetting& restored : settings) outcomes.push_back(restored.outcome);
+  std::vector<Outcome> outcomes(settings.size());
+  std::ranges::transform(settings, outcomes.begin(), &RestoredSetting::outcome);
   return outcomes;
 }
 

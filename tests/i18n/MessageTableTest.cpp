@@ -311,7 +311,7 @@ TEST(MessageTable, ReadsOnlyRegularFiles) {
   while (!done) std::ignore = MessageTable::Read(path("good"));
   cutter.join();
 
-  std::ofstream(path("empty"));
+  std::ofstream empty(path("empty"));
   std::ofstream(path("huge")).put('M');
   fs::resize_file(path("huge"), std::uintmax_t{1} << 40);
   ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);

@@ -296,10 +296,12 @@ class Builder:
             extra.append(output)
         objects = {}
         units = self.mutated_units()
-        # The first has its mutants whatever the time is, so that something is tried.
-        for unit, made in zip(units, pool.map(lambda unit: unit is not units[0] and time.monotonic() > end
-                                              or self.compile_mutants(unit), units)):
-            if made is True:
+
+        def compile_in_time(unit):  # the first in any case, so that something is tried
+            return self.compile_mutants(unit) if unit is units[0] or time.monotonic() < end else None
+
+        for unit, made in zip(units, pool.map(compile_in_time, units)):
+            if made is None:
                 self.left.update(unit.members)
                 continue
             output, single, invalid = made

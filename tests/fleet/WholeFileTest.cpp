@@ -7,8 +7,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "fleet/Fiber.h"
-#include "fleet/FileEvents.h"
 #include "fleet/WholeFile.h"
 #include "tests/support/Limited.h"
 #include "tests/support/Programs.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <sys/resource.h>
-#include <unistd.h>
 
 /// Limits what the process may use of a resource, such as RLIMIT_NOFILE, while this lives.
 class Limited {
@@ -18,13 +17,4 @@ class Limited {
  private:
   const __rlimit_resource resource_;
   rlimit before_{};
-};
-
-/// The process can open no more files while it lives.
-struct NoFilesLeft {
-  Limited files{RLIMIT_NOFILE, [] {
-                  const int next = dup(STDIN_FILENO);
-                  close(next);
-                  return static_cast<rlim_t>(next);
-                }()};
 };

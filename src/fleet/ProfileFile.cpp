@@ -26,6 +26,7 @@ constexpr int kMaximumProjectors = 100'000;
 constexpr int kMaximumFamilies = 1000;
 /// For so many projectors with 50 values each.
 constexpr JsonLines::Limits kLimits{.bytes = qsizetype{64} << 20, .values = 5'000'000};
+constexpr qint64 kPiece = 65536;
 constexpr int kMaximumLikes = 16;  // families that are like one another in a row
 
 /// A model under construction, with the keys that it has been given.
@@ -250,8 +251,13 @@ ProfileFileText ReadProfileText(const QString& fileName) {
   if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)) {
     return cannotRead(file.errorString());
   }
-  // One byte more than the limit shows that the file exceeds it, whatever size it claims.
-  return {file.read(kLimits.bytes + 1), {}};
+  // In pieces, whatever size it claims, until there is no more or it exceeds the limit.
+  QByteArray text;
+  for (QByteArray piece = file.read(kPiece); !piece.isEmpty(); piece = file.read(kPiece)) {
+    text += piece;
+    if (text.size() > kLimits.bytes) break;
+  }
+  return {text, {}};
 }
 
 QString WriteProfileText(const QString& fileName, const QByteArray& text) {

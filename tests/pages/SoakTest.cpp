@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr int kActionsPerModel = 1500;
+constexpr int kActionsPerModel = 750;
 
 class RandomUser {
  public:

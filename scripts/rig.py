@@ -88,7 +88,7 @@ class Rig:
             raise Found(f"{file} is not whole: {error}") from None
 
     def undo_files(self):
-        return sorted(self.folder.glob("state/advanced-control/undo/*"))
+        return sorted(self.folder.glob("state/advanced-control/undo/[!.]*"))
 
     def forget_undo(self):
         for file in self.undo_files():

@@ -46,10 +46,9 @@ struct NumberedCatalog {
   QTemporaryDir own;  // tests that run in parallel need their own catalogs
 };
 
-/// The forms of a row with the models that have them; by file, dialog type, position on the page
-/// and caption.
+/// The forms of a row with the models that have them; by file, position on the page and caption.
 using Forms = std::vector<std::pair<std::string, std::string>>;
-using Listing = std::map<std::string, std::map<std::tuple<int, std::size_t, std::string>, Forms>>;
+using Listing = std::map<std::string, std::map<std::pair<std::size_t, std::string>, Forms>>;
 
 // The first line of a part is its caption; an empty part is absent.
 void Add(Listing& listing, const std::string& file, const std::vector<std::string>& parts,
@@ -58,7 +57,7 @@ void Add(Listing& listing, const std::string& file, const std::vector<std::strin
     if (parts[i].empty()) continue;
     const std::size_t end = parts[i].find('\n');
     const std::string form = parts[i].substr(end + 1);
-    Forms& forms = listing[file][{info.DialogType, i, parts[i].substr(0, end)}];
+    Forms& forms = listing[file][{i, parts[i].substr(0, end)}];
     const auto same = std::ranges::find(forms, form, &Forms::value_type::first);
     (same != forms.end() ? *same : forms.emplace_back(form, "")).second +=
         ' ' + std::to_string(info.ModelCode);
@@ -200,39 +199,66 @@ std::string Difference(const QStringList& expected, const QStringList& found) {
   return text.toStdString();
 }
 
-void ExpectListed(const std::string& path, const std::string& found) {
-  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) std::ofstream(path) << found;
-  std::ostringstream listed;
-  listed << std::ifstream(path).rdbuf();
-  const auto lines = [](const std::string& text) {
-    return QString::fromStdString(text).split('\n', Qt::SkipEmptyParts);
-  };
-  if (listed.str() == found) return;
-  ADD_FAILURE() << path << ", expected (-) and found (+):\n"
-                << Difference(lines(listed.str()), lines(found));
+/// The sections of a file, each without the line break at its end.
+QStringList SectionsOf(const std::filesystem::path& file) {
+  std::ostringstream text;
+  text << std::ifstream(file).rdbuf();
+  return QString::fromStdString(text.str()).trimmed().split("\n\n", Qt::SkipEmptyParts);
 }
 
-TEST(PagesByModel, MatchTheListing) {
+/// The sections of dialogs of one type, and all others in front of and behind them.
+struct Listed {
+  QStringList before, own, behind;
+};
+
+Listed SectionsOfType(const std::filesystem::path& file, int type) {
+  Listed listed;
+  for (const QString& section : SectionsOf(file)) {
+    const int of = section.section(',', 0, 0).mid(5).toInt();
+    (of < type ? listed.before : of == type ? listed.own : listed.behind) << section;
+  }
+  return listed;
+}
+
+void ExpectListed(const std::filesystem::path& file, int type, const QStringList& found) {
+  const Listed listed = SectionsOfType(file, type);
+  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) {
+    const QStringList all = listed.before + found + listed.behind;
+    std::ofstream(file) << all.join("\n\n").toStdString() << '\n';
+  } else if (listed.own != found) {
+    ADD_FAILURE() << file << ", expected (-) and found (+):\n"
+                  << Difference(listed.own.join('\n').split('\n'), found.join('\n').split('\n'));
+  }
+}
+
+class PagesByModel : public testing::TestWithParam<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Type, PagesByModel, testing::Values(1, 2, 3, 4, 5),
+                         testing::PrintToStringParamName());
+
+TEST_P(PagesByModel, MatchTheListing) {
+  const int type = GetParam();
   Listing listing;
   {
     const NumberedCatalog numbers;
     for (const CModelInfo2& model : EveryModel()) {
+      if (model.DialogType != type) continue;
       AddPages(listing, model, false);
       AddPages(listing, WithWideRanges(model), true);
     }
   }
   const std::filesystem::path folder = TEST_SOURCE_DIR "/pages/listing";
-  for (const auto& [name, rows] : listing) {
-    std::string text;
-    for (const auto& [row, forms] : rows) {
-      const auto& [type, place, caption] = row;
-      text += (text.empty() ? "type " : "\ntype ") + std::to_string(type) + ", " + caption + '\n';
-      for (const auto& [form, codes] : forms) text += "  codes" + codes + '\n' + form;
-    }
-    ExpectListed(folder / (name + ".txt"), WithTexts(text));
-  }
   for (const auto& file : std::filesystem::directory_iterator(folder)) {
-    EXPECT_TRUE(listing.contains(file.path().stem())) << file.path() << ": no longer a page";
+    listing[file.path().stem()];  // also those that have nothing of this type any more
+  }
+  for (const auto& [name, rows] : listing) {
+    QStringList found;
+    for (const auto& [row, forms] : rows) {
+      std::string text = "type " + std::to_string(type) + ", " + row.second + '\n';
+      for (const auto& [form, codes] : forms) text += "  codes" + codes + '\n' + form;
+      found << QString::fromStdString(WithTexts(text)).trimmed();
+    }
+    ExpectListed(folder / (name + ".txt"), type, found);
   }
 }
 

@@ -108,7 +108,7 @@ class Reach:
 
 
 class Trial:
-    """Runs tests on mutants; those that killed others of the same file first, then the quickest."""
+    """Runs tests on mutants; those that killed others of the same file or folder first, then the quickest."""
 
     def __init__(self, reach, work, budget):
         self.reach, self.budget = reach, budget
@@ -116,10 +116,15 @@ class Trial:
         self.kills = defaultdict(Counter)
         self.lock = threading.Lock()
 
+    @staticmethod
+    def places(mutant):
+        return str(Path(mutant.file).parent), mutant.file
+
     def batches(self, mutant, tests):
         """Tests of one suite each, in the order in which to run them; and how many are left out."""
         with self.lock:
-            best = [test for test, _ in self.kills[mutant.file].most_common(6) if test in tests]
+            kills = dict(count for place in self.places(mutant) for count in self.kills[place].most_common(6))
+        best = sorted((test for test in kills if test in tests), key=lambda test: self.reach.seconds[test] / kills[test])
         order = best + sorted((test for test in tests if test not in best), key=lambda test: self.reach.seconds[test])
         batches, spent, quick = [], 0.0, {}
         for count, test in enumerate(order):
@@ -154,7 +159,8 @@ class Trial:
             started = [line.split("]", 1)[1].strip() for line in (told or "").splitlines() if line.startswith("[ RUN")]
             killer = (failed or started or [batch[0][1]])[-1 if not failed else 0]
             with self.lock:
-                self.kills[mutant.file][(suite, killer)] += 1
+                for place in self.places(mutant):
+                    self.kills[place][(suite, killer)] += 1
             how = "" if failed else ", no end" if told is None else f", ended with {result}"
             return "killed", f"{suite.name}: {killer}{how}"
         return "alive", f"{skipped} slow tests not run" if skipped else ""

@@ -10,7 +10,7 @@
 #include <sstream>
 
 #include <QAbstractButton>
-#include <QList>
+#include <QProcess>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -166,50 +166,17 @@ std::string WithTexts(const std::string& listing) {
   return text;
 }
 
-// The lines that were only expected (-) or only found (+), below the lines under which they are
-// indented.
-std::string Difference(const QStringList& expected, const QStringList& found) {
-  const qsizetype ends[] = {expected.size(), found.size()};
-  // Number of common lines from there on.
-  QList<QList<int>> common(ends[0] + 1, QList<int>(ends[1] + 1));
-  for (qsizetype i = ends[0]; i-- > 0;) {
-    for (qsizetype j = ends[1]; j-- > 0;) {
-      common[i][j] = expected[i] == found[j] ? common[i + 1][j + 1] + 1
-                                             : std::max(common[i + 1][j], common[i][j + 1]);
-    }
-  }
-  QString text;
-  QStringList above;
-  for (qsizetype i = 0, j = 0; i < ends[0] || j < ends[1];) {
-    const bool more = i < ends[0] && j < ends[1], same = more && expected[i] == found[j];
-    const bool gone = more ? common[i + 1][j] >= common[i][j + 1] : i < ends[0];
-    const QString line = same || gone ? expected[i] : found[j];
-    const auto indent = [](const QString& of) {
-      return of.size() - QStringView(of).trimmed().size();
-    };
-    above.removeIf([&](const QString& other) { return indent(other) >= indent(line); });
-    if (same) {
-      above << line;
-    } else {
-      for (const QString& context : std::exchange(above, {})) text += "  " + context + '\n';
-      text += (gone ? "- " : "+ ") + line + '\n';
-    }
-    i += same || gone;
-    j += same || !gone;
-  }
-  return text.toStdString();
-}
-
 void ExpectListed(const std::string& path, const std::string& found) {
   if (qEnvironmentVariableIsSet("UPDATE_LISTING")) std::ofstream(path) << found;
   std::ostringstream listed;
   listed << std::ifstream(path).rdbuf();
-  const auto lines = [](const std::string& text) {
-    return QString::fromStdString(text).split('\n', Qt::SkipEmptyParts);
-  };
   if (listed.str() == found) return;
-  ADD_FAILURE() << path << ", expected (-) and found (+):\n"
-                << Difference(lines(listed.str()), lines(found));
+  QProcess diff;
+  diff.start("diff", {"-U2", "-F^type", QString::fromStdString(path), "-"});
+  diff.write(found.c_str());
+  diff.closeWriteChannel();
+  diff.waitForFinished();
+  ADD_FAILURE() << path << ", expected (-) and found (+):\n" << diff.readAll().toStdString();
 }
 
 TEST(PagesByModel, MatchTheListing) {

@@ -47,7 +47,7 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
   EXPECT_EQ(tabs.currentIndex(), 1);
   EXPECT_EQ(open.Dialog().focusWidget(), open.Page().GetDlgItem(20136));
   EXPECT_TRUE(IsHighlighted(open.Page(), 20136));
-  Find("bright", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+  Find("bright", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Enter});
   EXPECT_EQ(tabs.tabText(tabs.currentIndex()), QStringLiteral("Screen"));
   EXPECT_EQ(open.Dialog().focusWidget()->accessibleName(), QStringLiteral("OSD Bright"));
   Find("mirror", {});
@@ -66,6 +66,7 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
     WhenModal("CServiceDlg", [](CDialog& popUp) {
       EXPECT_TRUE(popUp.GetDlgItem(20378)->hasFocus());
       EXPECT_TRUE(IsHighlighted(popUp, 20378));
+      EXPECT_TRUE(popUp.testAttribute(Qt::WA_KeyboardFocusChange)) << "the focus can be seen";
     });
   });
   {
@@ -79,8 +80,10 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
 }
 
 TEST_F(Finding, StaysOpenWithoutAMatchAndEscClosesOnlyTheLine) {
-  Find("no such row", {Qt::Key_Return});
-  EXPECT_TRUE(line.isVisible());
+  for (const char* text : {"no such row", ""}) {
+    Find(text, {Qt::Key_Return});
+    EXPECT_TRUE(line.isVisible());
+  }
   QTest::keyClick(&line, Qt::Key_Escape);
   Find("bright", {Qt::Key_Escape});
   EXPECT_FALSE(line.isVisible());

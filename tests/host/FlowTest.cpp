@@ -90,13 +90,15 @@ TEST_F(FlowTest, AnotherTabIsShownAtOnceAndReadFromItsStart) {
       SCOPED_TRACE(testing::Message()
                    << "way " << &leave - ways << (inChange ? " in a change" : ""));
       if (inChange) ClickTab(kPictureTab);
-      InTheWait([&] {
-        projector_->Take();
-        QApplication::setActiveWindow(&dialog_);  // a list may have been the active window
-        leave();
-        EXPECT_EQ(dialog_.ShownPage(), &dialog_.Page(PageId::Status));
-        projector_->Pace(0ms);
-      });
+      InTheWait(
+          [&] {
+            projector_->Take();
+            QApplication::setActiveWindow(&dialog_);  // a list may have been the active window
+            leave();
+            EXPECT_EQ(dialog_.ShownPage(), &dialog_.Page(PageId::Status));
+            projector_->Pace(0ms);
+          },
+          &leave == ways);
       inChange ? Page().Choose(kIris, 1) : ClickTab(kPictureTab);
       EXPECT_TRUE(Soon([&] { return dialog_.ShownPage()->isVisible(); }));
       std::vector<PjtCommand> sent;

@@ -54,12 +54,12 @@ class PacedDialog : public testing::Test {
 
   QWidget* Focused() { return dialog_.focusWidget() != nullptr ? dialog_.focusWidget() : &dialog_; }
 
-  /// Makes the projector silent and calls `act` while the first command waits. The wait must not
-  /// block `act`.
-  void InTheWait(const std::function<void()>& act) {
+  /// Makes the projector silent and calls `act` while the first command waits, or, with `shown`,
+  /// once the dialog shows that. The wait must not block `act`.
+  void InTheWait(const std::function<void()>& act, bool shown = false) {
     projector_->Pace(kForEver);
-    look_.callOnTimeout(&look_, [this, act] {
-      if (!projector_->waiting) return;
+    look_.callOnTimeout(&look_, [this, act, shown] {
+      if (!projector_->waiting || (shown && Status().isEmpty())) return;
       look_.stop();
       look_.disconnect();
       QElapsedTimer clock;

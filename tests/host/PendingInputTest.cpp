@@ -21,14 +21,15 @@ constexpr int kContrastPlus = 20137, kIris = 20293;
 using Strings = std::vector<std::string>;
 
 struct PendingInputTest : PacedDialog {
-  /// Presses +, acts while its command waits, and returns all commands.
-  Strings SentBy(const std::function<void()>& act) {
+  /// Presses +, or drags the slider to a position, acts while the command waits, and returns all
+  /// commands.
+  Strings SentBy(const std::function<void()>& act, std::optional<int> position = {}) {
     projector_->Take();
     InTheWait([this, act] {
       act();
       projector_->Pace(0ms);
     });
-    Page().Click(kPlus);
+    position ? Page().Drag(kSlider, *position) : Page().Click(kPlus);
     EXPECT_TRUE(Soon([this] { return !dialog_.IsBusy(); }));
     Strings sent;
     for (const PjtCommand& command : projector_->Take()) sent.push_back(FormatCommand(command));
@@ -65,7 +66,15 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
        [=] { times(1, kPlus), times(2, kMinus); },
        {up, read, down, read, down, read},
        0},
-      {"by key", [this] { Page().Press(kPlus, Qt::Key_Space); }, {up, read}, 2},
+      {"by keys, beside Shift and a click into the field",
+       [this] {
+         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Shift, Qt::Key_Enter}) {
+           Page().Press(kPlus, key);
+         }
+         QTest::mouseClick(&Page().Item<QWidget>(kField), Qt::LeftButton);
+       },
+       {up, read, up, read, up, read},
+       4},
       {"the last position",
        [this] { Page().Drag(kSlider, -7), Page().Drag(kSlider, 9); },
        {set(9)},
@@ -102,6 +111,29 @@ TEST_F(PendingInputTest, IsShownUntilTheLastPressIsAnswered) {
     for (int i = 0; i < 3; ++i) Page().Click(kPlus);
   });
   EXPECT_THAT(shown, testing::ElementsAre(start + 2, start + 3, start + 4));
+}
+
+TEST_F(PendingInputTest, PositionsFollowTheOneThatIsSent) {
+  Open(kPictureTab);
+  EXPECT_THAT(SentBy([this] { Page().Drag(kSlider, 7), Page().Drag(kSlider, 9); }, 5),
+              testing::ElementsAre("SetBrightness(133)", "SetBrightness(137)"));
+}
+
+TEST_F(PendingInputTest, AReplyDoesNotMoveTheHandleThatIsBeingDragged) {
+  Open(kPictureTab);
+  auto& slider = Page().Item<CSliderCtrl>(kSlider);
+  const QPoint from = slider.HandleRect().center(), to = from + QPoint(40, 0);
+  int dragged = 0;
+  SentBy([&] {
+    QTest::mousePress(&slider, Qt::LeftButton, {}, from);
+    QTest::mouseMove(&slider, to);
+    dragged = slider.value();
+  });
+  EXPECT_EQ(slider.value(), dragged);
+  projector_->Take();
+  QTest::mouseRelease(&slider, Qt::LeftButton, {}, to);
+  ASSERT_EQ(projector_->Take().size(), 1U);
+  EXPECT_EQ(slider.value(), dragged);
 }
 
 TEST_F(PendingInputTest, IsDroppedByAnythingElse) {

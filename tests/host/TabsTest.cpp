@@ -12,6 +12,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
 #include "toolkit/CTabCtrl.h"
+#include "toolkit/FittedScroll.h"
 #include "toolkit/ResourceModule.h"
 
 namespace {
@@ -72,6 +73,19 @@ TEST(Tabs, AreAllInSightOnANarrowScreen) {
   QApplication::sendEvent(&tabs, &help);
   EXPECT_EQ(QToolTip::text(), tabs.tabText(1));
   QToolTip::hideText();
+}
+
+TEST(Tabs, TheDialogIsAsWideAsItsTabsOrItsWidestPage) {
+  for (const int type : {1, 5}) {
+    OpenDialog open(FullModel(type, type == 5 ? 30 : 1));
+    auto& tabs = *open.Dialog().findChild<CTabCtrl*>();
+    int widest = 0;
+    for (const auto* page : open.Dialog().findChildren<CTabPage*>()) {
+      widest = std::max(widest, page->minimumWidth());
+    }
+    const int beside = open.Dialog().findChild<FittedScroll*>()->width() - widest;
+    EXPECT_EQ(std::min(beside, tabs.width() - tabs.sizeHint().width()), 0) << type;
+  }
 }
 
 TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {

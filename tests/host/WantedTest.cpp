@@ -3,10 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include <QAction>
-#include <QContextMenuEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
@@ -25,28 +22,12 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr int kPictureTab = 1, kOptionTab = 7, kOtherTab = 8;
-constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteReset = 20018;
+constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteReset = 20018,
+              kPowerState = 20008;
 constexpr int kVolumeField = 20133;
 
 std::string StripText(CAdvanceDlg& dialog) {
   return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->accessibleName().toStdString();
-}
-
-QMenu* MenuOf(QWidget& control) {
-  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2),
-                          control.mapToGlobal(QPoint(2, 2)));
-  QApplication::sendEvent(&control, &event);
-  return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-}
-
-void Choose(QWidget& control, const QString& text) {
-  QMenu* menu = MenuOf(control);
-  ASSERT_NE(menu, nullptr);
-  for (QAction* action : menu->actions()) {
-    if (action->text() == text) action->trigger();
-  }
-  menu->close();
-  QCoreApplication::processEvents();
 }
 
 struct SilentChannel final : ProjectorChannel {
@@ -114,7 +95,7 @@ TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
   const auto reads = open.Projector().Take();
   auto& timer = *open.Page().findChild<QTimer*>();
   EXPECT_FALSE(timer.isActive());
-  Choose(open.Page(), QStringLiteral("Keep up to date"));
+  Menu(open.Page(), kExecuteReset, "Keep up to date");
   ASSERT_TRUE(timer.isActive());
   {
     const CDialog::Busy handler(&open.Dialog());
@@ -138,7 +119,7 @@ TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
   }
   open.Dialog().DispTabScreen();
   EXPECT_EQ(said(), "") << "the user has read the page again";
-  Choose(open.Page(), QStringLiteral("Keep up to date"));
+  Menu(open.Page(), kPowerState, "Keep up to date");
   EXPECT_FALSE(timer.isActive());
 }
 
@@ -170,7 +151,10 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_EQ(Tab(), QStringLiteral("Picture (2)"));
   QWidget& brightness = *open.Page().GetDlgItem(kBrightness);
   EXPECT_TRUE(brightness.toolTip().startsWith(QStringLiteral("Wanted: 12")));
-  Choose(brightness, QStringLiteral("Set to wanted: 12"));
+  const char* set = "Set to wanted: 12";
+  Menu(open.Page(), kBrightness, set, true);
+  EXPECT_THAT(open.Projector().Take(), IsEmpty());
+  Menu(open.Page(), kBrightness, set);
   EXPECT_EQ(open.Projector().Take(), std::vector<std::string>{"SetBrightness 140"});
   EXPECT_THAT(Differing(), ElementsAre(kIris));
   EXPECT_EQ(Tab(), QStringLiteral("Picture (1)"));
@@ -178,6 +162,9 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   open.Projector().Answer("Get 0x2004", 130);
   open.Dialog().DispTabScreen();
   EXPECT_THAT(Differing(), ElementsAre(kBrightness, kContrast)) << "as just read";
+  open.Projector().Refuse("Get 0x2004");
+  open.Dialog().DispTabScreen();
+  EXPECT_THAT(Differing(), ElementsAre(kBrightness)) << "the other is not known";
   open.Dialog().SetWanted(WantedSettings());
   EXPECT_THAT(Differing(), IsEmpty());
   EXPECT_EQ(Tab(), QStringLiteral("Picture"));
@@ -235,6 +222,7 @@ TEST_F(WantedTest, CountsPagesThatWereNotReadAsTheHostLastSawThem) {
   EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option")) << "nothing is known";
   Snapshot seen = wanted;
   for (SavedSetting& setting : seen.settings) setting.value = 1;
+  seen.settings.push_back({.key = "option.auto-off", .value = 5, .text = {}, .source = 3});
   open.Dialog().SetLastSeen(seen);
   EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option (1?)"));
   EXPECT_EQ(Tab(), QStringLiteral("Picture (2)")) << "this one was read";

@@ -80,6 +80,10 @@ TEST_F(PictureTest, ButtonsOpenTheCustomPopUpsOfCustomisableEntries) {
   for (const int i : {0, 1, 2, 3}) {
     driver.Choose(kGamma, i);
     EXPECT_EQ(driver.IsEnabled(kCustomGamma), i <= 1) << "21 is the last custom gamma";
+    const QWidget& custom = driver.Item<QWidget>(kCustomGamma);
+    EXPECT_EQ(custom.toolTip(),
+              i <= 1 ? QString() : CatalogString(kListCategory, ListText::OnlyForCustomGamma));
+    EXPECT_EQ(custom.accessibleDescription(), custom.toolTip());
     driver.Choose(kColorTemp, i);
     EXPECT_EQ(driver.IsEnabled(kCustomColorTemp), i >= 2) << "17 is the first custom temperature";
   }

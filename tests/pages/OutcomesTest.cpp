@@ -183,18 +183,4 @@ TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
   EXPECT_THAT(Marked(*service), IsEmpty()) << "opened again, it has read every row";
 }
 
-TEST(UnusableControls, SayWhy) {
-  CModelInfo2 model = MakeModel(5, 30);
-  for (const int value : {17, 33}) AddEntry(model.GammaList, value, "gamma");
-  OpenDialog open(model, 1);
-  for (const int position : {1, 0}) {
-    open.Driver().Choose(20142, position);
-    const QWidget& custom = *open.Page().GetDlgItem(20133);
-    const QString why =
-        position == 1 ? QStringLiteral("Only for gamma patterns that can be changed") : QString();
-    EXPECT_EQ(custom.toolTip(), why);
-    EXPECT_EQ(custom.accessibleDescription(), why);
-  }
-}
-
 }  // namespace

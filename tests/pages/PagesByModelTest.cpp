@@ -10,7 +10,7 @@
 #include <sstream>
 
 #include <QAbstractButton>
-#include <QList>
+#include <QProcess>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -165,70 +165,28 @@ std::string WithTexts(const std::string& listing) {
   return text;
 }
 
-// The lines that were only expected (-) or only found (+), below the lines under which they are
-// indented.
-std::string Difference(const QStringList& expected, const QStringList& found) {
-  const qsizetype ends[] = {expected.size(), found.size()};
-  // Number of common lines from there on.
-  QList<QList<int>> common(ends[0] + 1, QList<int>(ends[1] + 1));
-  for (qsizetype i = ends[0]; i-- > 0;) {
-    for (qsizetype j = ends[1]; j-- > 0;) {
-      common[i][j] = expected[i] == found[j] ? common[i + 1][j + 1] + 1
-                                             : std::max(common[i + 1][j], common[i][j + 1]);
-    }
-  }
-  QString text;
-  QStringList above;
-  for (qsizetype i = 0, j = 0; i < ends[0] || j < ends[1];) {
-    const bool more = i < ends[0] && j < ends[1], same = more && expected[i] == found[j];
-    const bool gone = more ? common[i + 1][j] >= common[i][j + 1] : i < ends[0];
-    const QString line = same || gone ? expected[i] : found[j];
-    const auto indent = [](const QString& of) {
-      return of.size() - QStringView(of).trimmed().size();
-    };
-    above.removeIf([&](const QString& other) { return indent(other) >= indent(line); });
-    if (same) {
-      above << line;
-    } else {
-      for (const QString& context : std::exchange(above, {})) text += "  " + context + '\n';
-      text += (gone ? "- " : "+ ") + line + '\n';
-    }
-    i += same || gone;
-    j += same || !gone;
-  }
-  return text.toStdString();
-}
-
-/// The sections of a file, each without the line break at its end.
-QStringList SectionsOf(const std::filesystem::path& file) {
-  std::ostringstream text;
-  text << std::ifstream(file).rdbuf();
-  return QString::fromStdString(text.str()).trimmed().split("\n\n", Qt::SkipEmptyParts);
-}
-
-/// The sections of dialogs of one type, and all others in front of and behind them.
-struct Listed {
-  QStringList before, own, behind;
-};
-
-Listed SectionsOfType(const std::filesystem::path& file, int type) {
-  Listed listed;
-  for (const QString& section : SectionsOf(file)) {
-    const int of = section.section(',', 0, 0).mid(5).toInt();
-    (of < type ? listed.before : of == type ? listed.own : listed.behind) << section;
-  }
-  return listed;
-}
-
+/// Compares the sections of one type in a file with what was found.
 void ExpectListed(const std::filesystem::path& file, int type, const QStringList& found) {
-  const Listed listed = SectionsOfType(file, type);
-  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) {
-    const QStringList all = listed.before + found + listed.behind;
-    std::ofstream(file) << all.join("\n\n").toStdString() << '\n';
-  } else if (listed.own != found) {
-    ADD_FAILURE() << file << ", expected (-) and found (+):\n"
-                  << Difference(listed.own.join('\n').split('\n'), found.join('\n').split('\n'));
+  std::ostringstream listed;
+  listed << std::ifstream(file).rdbuf();
+  QStringList before, behind;
+  for (const QString& section :
+       QString::fromStdString(listed.str()).trimmed().split("\n\n", Qt::SkipEmptyParts)) {
+    const int of = section.section(',', 0, 0).mid(5).toInt();
+    if (of != type) (of < type ? before : behind) << section;
   }
+  const std::string all = (before + found + behind).join("\n\n").toStdString() + '\n';
+  if (listed.str() == all) return;
+  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) {
+    std::ofstream(file) << all;
+    return;
+  }
+  QProcess diff;
+  diff.start("diff", {"-U2", "-F^type", QString::fromStdString(file.string()), "-"});
+  diff.write(all.c_str());
+  diff.closeWriteChannel();
+  diff.waitForFinished();
+  ADD_FAILURE() << file << ", expected (-) and found (+):\n" << diff.readAll().toStdString();
 }
 
 class PagesByModel : public testing::TestWithParam<int> {};

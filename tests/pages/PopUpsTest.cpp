@@ -10,7 +10,6 @@
 
 #include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"
-#include "tests/support/Soon.h"
 #include "toolkit/CurveView.h"
 
 namespace {
@@ -53,6 +52,22 @@ TEST(PopUps, ResetsStopAtThePagesBoundAndAreNotRemembered) {
     for (const PageRow& row : table->rows) {
       if (const auto* value = std::get_if<ValueRow>(&row)) open.ExpectReset(*value, bound);
     }
+  }
+}
+
+TEST(ColorTempPopUp, AGainChangesTheSlopeOfItsLineAndAnOffsetItsHeight) {
+  OpenPopUp open(PopUp::ColorTemp);
+  auto& curve = *open.popUp->findChild<CurveView*>();
+  const auto redAt = [&](QPointF point) {
+    const QColor drawn = curve.grab().toImage().pixelColor(curve.PlaceOf(point).toPoint());
+    return drawn.red() > drawn.green() + 50 && drawn.red() > drawn.blue() + 50;
+  };
+  for (const auto& [gain, offset] : {std::pair{0, 0}, {30, 0}, {-30, 0}, {0, 30}, {-20, -30}}) {
+    open.driver.Drag(20181, gain);
+    open.driver.Drag(21026, offset);
+    const double start = offset / 256.0;
+    EXPECT_TRUE(redAt({0, start})) << offset;
+    EXPECT_TRUE(redAt({1, 1 + start + gain / 128.0})) << gain;
   }
 }
 
@@ -104,8 +119,7 @@ TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {
   open.Projector().Take();
   open.driver.Drag(21025, 9);
   EXPECT_EQ(open.Projector().Take(), byCurve);
-  open.popUp->activateWindow();
-  ASSERT_TRUE(Soon([&] { return QApplication::activeWindow() == open.popUp.get(); }));
+  Activate(*open.popUp);
   for (const auto& [control, point] : {std::pair{20181, 0}, {20341, 5}, {20168, 2}}) {
     open.popUp->GetDlgItem(control)->setFocus();
     EXPECT_EQ(curve.Marked(), point) << "the point of the row with the focus";
@@ -135,16 +149,6 @@ TEST(ServicePopUp, ABoxThatChangedWhileAHandlerRanIsReadAgainUnlessItWasLeft) {
     EXPECT_NE(open.Projector().Take().empty(), left == Left::No);
     EXPECT_NE(box.isChecked(), left == Left::No);
   }
-}
-
-TEST(GammaPopUp, WithoutResetButtonsIsNarrowerAndCloseStaysInside) {
-  const OpenPopUp full(PopUp::Gamma), plain(PopUp::Gamma, 30, true);
-  EXPECT_FALSE(plain.popUp->GetDlgItem(20336)->isVisible());
-  EXPECT_GE(full.popUp->width() - plain.popUp->width(), full.popUp->GetDlgItem(20336)->width());
-  const auto margin = [](const OpenPopUp& open) {
-    return open.popUp->width() - open.popUp->GetDlgItem(1)->geometry().right();
-  };
-  EXPECT_EQ(margin(plain), margin(full));
 }
 
 TEST(ServicePopUp, TheHeightFollowsThePresentRowsAndTopKeepsItsPlaceWithoutRear) {

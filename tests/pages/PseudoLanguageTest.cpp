@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTabBar>
@@ -15,25 +16,19 @@ namespace {
 
 // Texts that are the same in every language: names of signals, the model's own names, and what the
 // templates of some pages show without the catalog.
-const QStringList kUntranslated{
-    "Model",        "Computer1",   "Computer2",     "gamma",       "temperature",
-    "aspect",       "button",      "RGB",           "RGB1",        "RGB2",
-    "M1-D",         "MIU",         "DVI",           "TV",          "DVD",
-    "SMPTE240",     "REC709",      "REC601",        "Scart RGB",   "Component",
-    "S-Video",      "Video",       "PAL",           "SECAM",       "NTSC",
-    "NTSC 4.43",    "NTSC4.43",    "M-PAL",         "N-PAL",       "1080i",
-    "1035i",        "Computer",    "Auto",          "Information", "Auto Keystone Execute",
-    "FILM",         "My Memory",   "Low",           "Middle",      "High",
-    "Off",          "Movie",       "Normal",        "Enhanced",    "Filter Reset",
-    "Picture Mode", "Still Image", "Current Input", "On",          "Sync On G Off",
-    "Sync On G On"};
+QStringList Untranslated() {
+  QFile texts(TEST_SOURCE_DIR "/pages/UntranslatedTexts.txt");
+  EXPECT_TRUE(texts.open(QFile::ReadOnly));
+  return QString::fromUtf8(texts.readAll()).split('\n', Qt::SkipEmptyParts);
+}
 
 // Without what is in brackets and without the letter of a mnemonic, "[...](&C)".
 bool IsTranslated(QString text) {
   static const QRegularExpression known(QStringLiteral("\\[[^\\]]*\\]|\\(&.\\)"));
   text.remove(known);
   if (text.endsWith(':')) text.chop(1);
-  return kUntranslated.contains(text) ||
+  static const QStringList untranslated = Untranslated();
+  return untranslated.contains(text) ||
          std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
 }
 

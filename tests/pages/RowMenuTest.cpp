@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,27 +19,10 @@ using Strings = std::vector<std::string>;
 constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
 constexpr int kVolume = 20317, kIrFront = 20375, kPositionV = 20205, kAutoOff = 20369;
 
-// The lines of a control's menu, with disabled ones in brackets. Chooses `choice`, which must not
-// act before the menu is closed, because it may wait for the projector. With `overtaken`, a handler
-// runs then.
-std::string Menu(CDialog& page, int id, const char* choice = "", bool overtaken = false) {
-  QWidget& control = *page.GetDlgItem(id);
-  const QPoint middle = control.rect().center();
-  QContextMenuEvent event(QContextMenuEvent::Mouse, middle, control.mapToGlobal(middle));
-  QApplication::sendEvent(&control, &event);
-  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  const int before = static_cast<RowDialog&>(page).projector->Sent().commands;
-  QStringList lines;
-  for (QAction* action : menu != nullptr ? menu->actions() : QList<QAction*>()) {
-    if (action->isSeparator()) continue;
-    lines << (action->isEnabled() ? action->text() : u'(' + action->text() + u')');
-    if (action->text() == QString::fromUtf8(choice)) action->trigger();
-  }
-  EXPECT_EQ(static_cast<RowDialog&>(page).projector->Sent().commands, before);
-  if (menu != nullptr) menu->close();
-  const CDialog::Busy handler(overtaken ? &page : nullptr);
-  QCoreApplication::processEvents();
-  return lines.join(QStringLiteral(", ")).toStdString();
+// The question that a row's menu opens.
+QInputDialog& Asked(CDialog& page, int id) {
+  Menu(page, id, "Enter a value…");
+  return *qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
 }
 
 struct RowMenus : testing::Test {
@@ -91,9 +73,7 @@ TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F10, Qt::ShiftModifier);
   EXPECT_NE(QApplication::activePopupWidget(), nullptr);
   QApplication::activePopupWidget()->close();
-  Menu(page, kBrightness, "Enter a value…");
-  auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-  ASSERT_NE(question, nullptr);
+  auto* question = &Asked(page, kBrightness);
   EXPECT_EQ(question->textValue(), QStringLiteral("10"));
   EXPECT_EQ(question->labelText(), QStringLiteral("Range: -32 to 32"));
   auto* field = question->findChild<QLineEdit*>();
@@ -122,9 +102,7 @@ TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
                          menu.palette().color(QPalette::Disabled, QPalette::Base)),
               3);
   }
-  Menu(open.Page(), kAutoOff, "Enter a value…");
-  auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-  ASSERT_NE(question, nullptr);
+  auto* question = &Asked(open.Page(), kAutoOff);
   const auto* field = question->findChild<QLineEdit*>();
   const auto* unit = field->findChild<QLabel*>();
   ASSERT_NE(unit, nullptr);

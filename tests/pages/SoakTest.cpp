@@ -29,9 +29,7 @@ class RandomUser {
       : dialog_(dialog), faults_(faults), random_(seed) {
     // Windows that open above the dialog are used for a moment and closed.
     QObject::connect(&popups_, &QTimer::timeout, [this] { UsePopup(); });
-    QObject::connect(&boxes_, &QTimer::timeout, [this] { AnswerBox(); });
     popups_.start(0);
-    boxes_.start(0);
   }
 
   void Act() {
@@ -82,13 +80,6 @@ class RandomUser {
     }
   }
 
-  void AnswerBox() {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return;
-    const auto buttons = box->buttons();
-    QTest::mouseClick(buttons[Pick(buttons.size())], Qt::LeftButton);
-  }
-
   void UsePopup() {
     auto* popup = qobject_cast<CDialog*>(QApplication::activeModalWidget());
     if (popup == nullptr) return;
@@ -100,7 +91,7 @@ class RandomUser {
   FaultChannel& faults_;
   std::mt19937 random_;
   QTimer popups_;
-  QTimer boxes_;  // a second timer, because message boxes open while a pop-up is in use
+  MessageBoxes boxes_{random_() % 2 == 0};
 };
 
 class SoakTest : public testing::TestWithParam<CModelInfo2> {};

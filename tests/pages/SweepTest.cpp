@@ -17,12 +17,6 @@
 
 namespace {
 
-bool UserOperates(ControlKind kind) {
-  using enum ControlKind;
-  constexpr ControlKind kOperated[] = {Minus, Plus, Combo, Button, Arrow, Check};
-  return std::ranges::find(kOperated, kind) != std::end(kOperated);
-}
-
 void ExpectControlsWellKnown(const CDialog& dialog) {
   std::map<int, int> handlers;
   for (const Notification& entry : dialog.Notifications().Entries()) ++handlers[entry.id];

@@ -4,8 +4,10 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTabBar>
 #include <QTest>
@@ -72,7 +74,7 @@ void Wheel(QWidget& control, int notches, Qt::KeyboardModifiers keys) {
 void Activate(QWidget& window) {
   window.show();
   window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window)) << "it did not come up";
+  ASSERT_TRUE(Soon([&] { return QApplication::activeWindow() == &window; })) << "not in front";
 }
 
 bool DialogDriver::IsEnabled(int id) const { return Item<QWidget>(id).isEnabled(); }
@@ -132,6 +134,42 @@ std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host, bool hideRes
 void Open(CDialog& popUp) {
   ASSERT_TRUE(popUp.Create());
   popUp.show();
+}
+
+std::string Menu(CDialog& page, int id, const char* choice, bool overtaken) {
+  QWidget& control = *page.GetDlgItem(id);
+  const QPoint middle = control.rect().center();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, middle, control.mapToGlobal(middle));
+  QApplication::sendEvent(&control, &event);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  const int before = static_cast<RowDialog&>(page).projector->Sent().commands;
+  QStringList lines;
+  for (QAction* action : menu != nullptr ? menu->actions() : QList<QAction*>()) {
+    if (action->isSeparator()) continue;
+    lines << (action->isEnabled() ? action->text() : u'(' + action->text() + u')');
+    if (action->text() == QString::fromUtf8(choice)) action->trigger();
+  }
+  EXPECT_EQ(static_cast<RowDialog&>(page).projector->Sent().commands, before);
+  if (menu != nullptr) menu->close();
+  const CDialog::Busy handler(overtaken ? &page : nullptr);
+  QCoreApplication::processEvents();
+  return lines.join(QStringLiteral(", ")).toStdString();
+}
+
+bool UserOperates(ControlKind kind) {
+  using enum ControlKind;
+  constexpr ControlKind kOperated[] = {Minus, Plus, Combo, Button, Arrow, Check};
+  return std::ranges::find(kOperated, kind) != std::end(kOperated);
+}
+
+std::vector<int> OperatedControls(const CDialog& dialog) {
+  std::vector<int> operated;
+  for (const RowTemplate& row : dialog.Template()->rows) {
+    for (const ControlTemplate& control : row.controls) {
+      if (UserOperates(control.kind)) operated.push_back(control.id);
+    }
+  }
+  return operated;
 }
 
 std::vector<QWidget*> UsableControls(const CDialog& dialog) {

@@ -84,6 +84,15 @@ std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host, bool hideRes
 /// Opens a pop-up, or opens it again. Either way it reads the projector.
 void Open(CDialog& popUp);
 
+/// The lines of a control's menu, with disabled ones in brackets. Chooses `choice`, which must not
+/// act before the menu is closed, because it may wait for the projector. With `overtaken`, a
+/// handler runs then.
+std::string Menu(CDialog& page, int id, const char* choice = "", bool overtaken = false);
+
+/// Whether the user clicks or chooses from such a control.
+bool UserOperates(ControlKind kind);
+/// The numbers of those controls, in the order of the template.
+std::vector<int> OperatedControls(const CDialog& dialog);
 /// The controls that can be used now, without Close.
 std::vector<QWidget*> UsableControls(const CDialog& dialog);
 

@@ -1,5 +1,6 @@
 // The controls as assistive technologies meet them, without their bus.
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QLineEdit>
 #include <gtest/gtest.h>
@@ -26,13 +27,42 @@ struct AccessTest : DialogTest {
   QAccessibleInterface& one = *dropDown.child(1);
 };
 
-TEST_F(AccessTest, AListThatCanBeEditedAlsoHasItsField) {
+TEST_F(AccessTest, AListHasItsDropDownAndThatHasTheEntries) {
+  EXPECT_EQ(list.indexOfChild(&dropDown), 0);
+  EXPECT_EQ(list.indexOfChild(&one), -1);
+  EXPECT_EQ(list.child(1), nullptr);
+  for (const int position : {0, 1, 2}) {
+    EXPECT_EQ(dropDown.indexOfChild(dropDown.child(position)), position);
+  }
+  EXPECT_EQ(dropDown.indexOfChild(&list), -1);
+  for (const int outside : {-1, 3}) EXPECT_EQ(dropDown.child(outside), nullptr);
+
+  EXPECT_TRUE(one.state().offscreen && one.rect().isNull());
+  Act(list, Actions::showMenuAction());
+  EXPECT_TRUE(list.state().expanded);
+  EXPECT_TRUE(combo.view()->window()->geometry().contains(one.rect().center()));
+  combo.view()->setFocus();
+  combo.view()->setCurrentIndex(combo.model()->index(1, 0));
+  EXPECT_TRUE(one.state().focused);
+  EXPECT_FALSE(dropDown.child(2)->state().focused);
+  Act(list, Actions::showMenuAction());
+  EXPECT_FALSE(list.state().expanded || one.state().focused);
   combo.setEditable(true);
-  EXPECT_TRUE(list.state().editable);
-  ASSERT_EQ(list.childCount(), 2);
+  ASSERT_TRUE(list.state().editable && list.childCount() == 2);
   EXPECT_EQ(list.child(1)->object(), combo.lineEdit());
   EXPECT_EQ(list.indexOfChild(list.child(1)), 1);
-  EXPECT_EQ(list.indexOfChild(&list), -1);
+}
+
+TEST_F(AccessTest, EachControlCanBeFocusedAndASliderIsSetOnlyToOtherValues) {
+  for (const int id : {4, 9, 15}) {
+    Act(AccessOf(*dialog.GetDlgItem(id)), Actions::setFocusAction());
+    EXPECT_TRUE(dialog.GetDlgItem(id)->hasFocus()) << id;
+  }
+  QAccessibleInterface& slider = AccessOf(*dialog.GetDlgItem(4));
+  for (const int value : {0, 5, 5}) slider.valueInterface()->setCurrentValue(value);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialog.scrolls, std::vector{5});
+  EXPECT_EQ(slider.text(QAccessible::Value), QStringLiteral("5"));
 }
 
 TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {

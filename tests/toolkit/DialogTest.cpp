@@ -1,6 +1,7 @@
 #include <tuple>
 
 #include <QApplication>
+#include <QLayout>
 #include <QPen>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -12,6 +13,7 @@
 #include "toolkit/Contrast.h"
 #include "toolkit/FocusPen.h"
 #include "toolkit/FocusRing.h"
+#include "toolkit/TemplateRows.h"
 
 namespace {
 
@@ -30,6 +32,8 @@ TEST_F(DialogTest, ASliderReportsOnlyTheEndOfAMove) {
   slider.setFocus();
   QTest::keyPress(&slider, Qt::Key_Left);
   QTest::keyPress(&slider, Qt::Key_Left);
+  QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_Left, {}, {}, true);
+  QApplication::sendEvent(&slider, &repeat);
   EXPECT_EQ(dialog.scrolls.size(), 1U) << "the key is still down";
   QTest::keyRelease(&slider, Qt::Key_Left);
   EXPECT_EQ(dialog.scrolls, (std::vector{7, 5}));
@@ -63,25 +67,18 @@ TEST_F(DialogTest, ADialogThatDiesWhileAKeyIsDownReportsNothing) {
 }
 
 TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
-  const QPointer<SampleDialog> dying = new SampleDialog;
-  dying->Open();
-  dying->whenDone = [&dying] {
-    dying->deleteLater();
-    QEventLoop loop;
-    QTimer::singleShot(5, &loop, &QEventLoop::quit);
-    loop.exec();
-    ASSERT_NE(dying, nullptr) << "its handler is still running";
-  };
-  DialogDriver(*dying).Click(10);
-  EXPECT_TRUE(Soon([&] { return dying == nullptr; }));
-}
-
-TEST_F(DialogTest, HighlightsOnlyWhatIsShown) {
-  dialog.GetDlgItem(9)->hide();
-  for (const int id : {9, 99, 3}) {
-    dialog.Highlight(id);
-    EXPECT_EQ(dialog.findChild<QWidget*>(QStringLiteral("flash")) != nullptr, id == 3);
-    EXPECT_EQ(dialog.RowRect(id).isEmpty(), id == 99);
+  for (const bool running : {true, false}) {
+    const QPointer<SampleDialog> dying = new SampleDialog;
+    dying->Open();
+    dying->whenDone = [&dying] {
+      dying->deleteLater();
+      QEventLoop loop;
+      QTimer::singleShot(5, &loop, &QEventLoop::quit);
+      loop.exec();
+      ASSERT_NE(dying, nullptr) << "its handler is still running";
+    };
+    running ? DialogDriver(*dying).Click(10) : dying->deleteLater();
+    EXPECT_TRUE(Soon([&] { return dying == nullptr; }));
   }
 }
 
@@ -128,20 +125,35 @@ TEST_F(DialogTest, EnterPressesTheFocusedButtonOnlyAndEscCloses) {
   for (const int id : {9, 4}) driver.Press(id, Qt::Key_Return);
   EXPECT_EQ(dialog.presses, 0);
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) driver.Press(10, key);
-  EXPECT_EQ(dialog.presses, 3);
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+  QApplication::sendEvent(dialog.GetDlgItem(10), &held);
+  EXPECT_EQ(dialog.presses, 3) << "once for each press";
   EXPECT_TRUE(dialog.isVisible());
   driver.Press(9, Qt::Key_Escape);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.destroyed, 1);
 }
 
-TEST_F(DialogTest, AnAbsentRowTakesNoSpace) {
-  const int height = dialog.height(), last = dialog.GetDlgItem(11)->y();
-  const int pitch = last - dialog.GetDlgItem(7)->y();
-  dialog.ShowRow(9, false);
-  QTest::qWait(1);
-  EXPECT_EQ(dialog.GetDlgItem(11)->y(), last - pitch);
-  EXPECT_EQ(dialog.height(), height - pitch) << "a pop-up follows its rows";
+TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
+  QPointer<SampleDialog> dying = new SampleDialog;
+  QTimer::singleShot(0, dying, [&] { delete dying; });
+  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
+  EXPECT_EQ(dying, nullptr);
+}
+
+TEST_F(DialogTest, RunsModallySeveralTimes) {
+  SampleDialog modal;
+  for (int run = 1; run <= 2; ++run) {
+    QTimer::singleShot(0, &modal, [&] {
+      EXPECT_EQ(modal.Owner(), &dialog) << "it belongs to the dialog opened before it";
+      EXPECT_EQ(modal.parentWidget(), nullptr) << "but stays its creator's";
+      DialogDriver(modal).Click(10);
+      DialogDriver(modal).Click(14);
+    });
+    EXPECT_EQ(modal.DoModal(), QDialog::Accepted);
+    EXPECT_EQ(modal.presses, run);
+    EXPECT_EQ(modal.destroyed, run);
+  }
 }
 
 TEST_F(DialogTest, ADragCatchesAtZeroFromWhereTheTrackIsFilled) {
@@ -174,8 +186,12 @@ TEST_F(DialogTest, ADragCatchesAtZeroFromWhereTheTrackIsFilled) {
 
 TEST_F(DialogTest, TicksAreCountedFromZeroAndAFieldHasRoomForEveryNumber) {
   auto& slider = dialog.Item<CSliderCtrl>(4);
-  for (const auto& [minimum, maximum, distance, count] :
-       {std::tuple{-10, 10, 2, 11}, {1, 10, 3, 4}, {-3, 10, 2, 7}, {-500, 500, 1, 11}}) {
+  for (const auto& [minimum, maximum, distance, count] : {std::tuple{-10, 10, 2, 11},
+                                                          {1, 10, 3, 4},
+                                                          {-3, 10, 2, 7},
+                                                          {-10, -1, 3, 4},
+                                                          {-500, 500, 1, 11},
+                                                          {5, 5, 1, 0}}) {
     slider.SetRange(minimum, maximum, distance);
     const QImage image = slider.grab().toImage();
     const int row = slider.HandleRect().bottom() + 4;
@@ -190,24 +206,6 @@ TEST_F(DialogTest, TicksAreCountedFromZeroAndAFieldHasRoomForEveryNumber) {
   EXPECT_GE(field.width(), field.fontMetrics().horizontalAdvance(QStringLiteral("-00000")));
 }
 
-TEST_F(DialogTest, ListsShareTheWidthOfTheLongestEntryUpToALimit) {
-  auto& longer = dialog.Item<CComboBox>(9);
-  const auto& shorter = dialog.Item<CComboBox>(13);
-  EXPECT_EQ(longer.width(), shorter.width());
-  EXPECT_EQ(longer.x(), dialog.GetDlgItem(3)->x());
-  EXPECT_LT(longer.width(), dialog.GetDlgItem(5)->geometry().right() - longer.x());
-  EXPECT_LT(dialog.GetDlgItem(10)->x() - longer.geometry().right(), 20)
-      << "its button is beside it";
-  for (const int letters : {20, 200}) {
-    longer.clear();
-    longer.Add(QString(letters, QLatin1Char('n')));
-    longer.UpdateWidth();
-    const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
-    EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
-    EXPECT_LT(longer.sizeHint().width(), 500);
-  }
-}
-
 TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
   const std::pair<QPalette::ColorRole, QPalette::ColorRole> roles[] = {
       {QPalette::WindowText, QPalette::Window},
@@ -215,7 +213,11 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
       {QPalette::Text, QPalette::Base}};
   const QPalette before = QApplication::palette();
   for (const QColor& color : {QColor(239, 239, 239), QColor(Qt::white), QColor(53, 53, 53)}) {
+    dialog.setVisible(color != Qt::white);  // a hidden one looks right when it is shown
     QApplication::setPalette(QPalette(color));
+    QCoreApplication::processEvents();
+    dialog.show();
+    ASSERT_EQ(dialog.palette().color(QPalette::Window), color);
     for (const auto& [text, background] : roles) {
       const QPalette palette = dialog.GetDlgItem(10)->palette();
       const QColor disabled = palette.color(QPalette::Disabled, text);
@@ -239,25 +241,39 @@ TEST_F(DialogTest, ARingFollowsTheFocusOfKeys) {
   }
 }
 
-TEST_F(DialogTest, AModalDialogMayDieWhileItRuns) {
-  QPointer<SampleDialog> dying = new SampleDialog;
-  QTimer::singleShot(0, dying, [&] { delete dying; });
-  EXPECT_EQ(dying->DoModal(), QDialog::Rejected);
-  EXPECT_EQ(dying, nullptr);
+TEST_F(DialogTest, ListsShareTheWidthOfTheLongestEntryUpToALimit) {
+  auto& longer = dialog.Item<CComboBox>(9);
+  const auto& shorter = dialog.Item<CComboBox>(13);
+  EXPECT_EQ(longer.width(), shorter.width());
+  EXPECT_EQ(longer.x(), dialog.GetDlgItem(3)->x());
+  EXPECT_LT(longer.width(), dialog.GetDlgItem(5)->geometry().right() - longer.x());
+  EXPECT_LT(dialog.GetDlgItem(10)->x() - longer.geometry().right(), 20)
+      << "its button is beside it";
+  for (const int letters : {20, 200}) {
+    longer.clear();
+    longer.Add(QString(letters, QLatin1Char('n')));
+    longer.UpdateWidth();
+    const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
+    EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
+    EXPECT_LT(longer.sizeHint().width(), 500);
+  }
 }
 
-TEST_F(DialogTest, RunsModallySeveralTimes) {
-  SampleDialog modal;
-  for (int run = 1; run <= 2; ++run) {
-    QTimer::singleShot(0, &modal, [&] {
-      EXPECT_EQ(modal.Owner(), &dialog) << "it belongs to the dialog opened before it";
-      EXPECT_EQ(modal.parentWidget(), nullptr) << "but stays its creator's";
-      DialogDriver(modal).Click(10);
-      DialogDriver(modal).Click(14);
-    });
-    EXPECT_EQ(modal.DoModal(), QDialog::Accepted);
-    EXPECT_EQ(modal.presses, run);
-    EXPECT_EQ(modal.destroyed, run);
+TEST_F(DialogTest, PagesShareTheWidthOfTheLongestPresentCaptionOfEachColumn) {
+  QWidget window;
+  CDialog page(902, &window);
+  page.setWindowFlags(Qt::Widget);
+  ASSERT_TRUE(page.Create());
+  page.ShowRow(4, false);
+  page.resize(900, 200);
+  const TemplateRows* const pages[] = {&page.Rows()};
+  TemplateRows::ShareCaptionWidths(pages);
+  page.layout()->activate();
+  for (const int id : {1, 7}) {
+    const QWidget& caption = *page.GetDlgItem(id);
+    const int gap = page.GetDlgItem(id + 1)->x() - caption.x() - caption.sizeHint().width();
+    EXPECT_GE(gap, 0);
+    EXPECT_LT(gap, 10) << NameOf(caption);
   }
 }
 
@@ -278,8 +294,9 @@ TEST(ResourceChain, SearchesTheCurrentModuleFirst) {
   EXPECT_EQ(ResourceChain::FindDialog(900), &other);
   EXPECT_EQ(ResourceChain::SetCurrent(before), &module);
   EXPECT_EQ(ResourceChain::FindDialog(900), &kTemplate);
+  ResourceChain::SetCurrent(&kModule);
   ResourceChain::Unregister(kModule);
-  EXPECT_EQ(ResourceChain::FindDialog(900), nullptr);
+  EXPECT_EQ(ResourceChain::FindDialog(900), nullptr) << "its library may be unloaded";
 }
 
 }  // namespace

@@ -16,17 +16,22 @@ inline constexpr const char* kEntries[] = {"Zero", "One", "Two"};
 inline constexpr RowTemplate kRows[] = {
     SliderRow(Left, Label(1, "Level:"), 2, {3, 4, 5, 6}),
     Row(Left, Label(7, "Mode:"), Colon(8), Combo(9, kEntries), Button(10, "Do")),
-    Row(Left, Label(11, "Last:"), Colon(12), Combo(13, kEntries)),
+    Row(Left, Label(11, "Last:"), Colon(12), Combo(13, kEntries), Check(15, "Once")),
     Row(Bottom, Close(14, "Close")),
 };
 inline constexpr DialogTemplate kTemplate{
     .number = 900, .caption = "Sample", .rulerHeight = 20, .rows = kRows};
-inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate};
+inline constexpr RowTemplate kCaptions[] = {
+    Row(Left, Label(1, "Caption"), Colon(2), Check(3, "Left")),
+    Row(Left, Label(4, "Longest caption of all, but absent"), Colon(5), Check(6, "Absent")),
+    Row(Right, Label(7, "Longer caption"), Colon(8), Check(9, "Right")),
+};
+inline constexpr DialogTemplate kCaptionsTemplate{.number = 902, .rows = kCaptions};
+inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kCaptionsTemplate};
 inline constexpr ResourceModule kModule{kTemplates};
 
 class SampleDialog : public CDialog {
  public:
-  using CDialog::RowRect;
   explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
   const NotificationMap& Notifications() const override {
     static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),

@@ -79,9 +79,12 @@ void NumberControls::ShowPending(const Pending& pending) {
   if (std::exchange(pending_, pending) != pending) ShowField();
 }
 
+// A handle that is being dragged stays where the user has it: its release sends that position.
 void NumberControls::Collect(bool collects) {
   collects_ = collects;
-  if (!collects && heldBack_) slider_->setValue(*std::exchange(heldBack_, std::nullopt));
+  if (!collects && heldBack_ && !slider_->isSliderDown()) {
+    slider_->setValue(*std::exchange(heldBack_, std::nullopt));
+  }
 }
 
 }  // namespace AdvancedControl

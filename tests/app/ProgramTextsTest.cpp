@@ -3,9 +3,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
-#include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QSettings>
@@ -54,6 +52,7 @@ void ExpectTranslated(const QWidget& window) {
     if (!HasOwnText(*widget)) texts += widget->property("text").toString();
     texts += widget->property("title").toString();
     texts += widget->property("placeholderText").toString();
+    texts += widget->accessibleName();
     for (const QString& text : texts) {
       EXPECT_TRUE(IsTranslated(text))
           << widget->metaObject()->className() << ": " << text.toStdString();

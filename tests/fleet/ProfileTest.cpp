@@ -1,10 +1,7 @@
 // Profiles as the fleet reads and edits them.
 
 #include <gmock/gmock.h>
-#include <string>
 
-#include <QJsonArray>
-#include <QJsonObject>
 #include <gtest/gtest.h>
 
 #include "fleet/ProfileEdits.h"
@@ -14,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr char kFile[] = R"({ "x-made by": "a person",
+constexpr char kFile[] = R"({ "x-made by": "a person", "tags": {"halls": {}},
   "families": {"hall": {"model": "M", "dialogType": 5, "modelCode": 30, "ratedLampHours": 3000,
                         "tags": ["halls"]}},
   "projectors": [
@@ -44,6 +41,9 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   EXPECT_EQ(b.ratedLampHours, 2000);
   EXPECT_EQ(a.model, b.model) << "shared by those that are described alike";
   EXPECT_EQ(list.profiles[2].model->info.ModelCode, 31);
+  EXPECT_EQ(AddressOf(ProjectorLink::Serial, b.connection),
+            ProjectorAddress(SerialAddress{SerialDevice(1), SerialAddress::kDefaultBaud}));
+  EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}), "name: must be a text that is not empty");
 }
 
 TEST(ProfileEdits, LeaveWhatAPersonWrote) {
@@ -69,19 +69,13 @@ TEST(ProfileEdits, LeaveWhatAPersonWrote) {
   EXPECT_EQ(last.profiles[0].name, "C");
 }
 
-TEST(ProfileEdits, MakeAFileOfTenThousand) {
-  ProfileEdits edits(ProfileEdits::kNoProfiles);
-  for (int i = 0; i < 10'000; ++i) {
-    edits.Add({{"name", QString::number(i)},
-               {"model", "M"},
-               {"dialogType", 5},
-               {"modelCode", i % 2},
-               {"connection", ConnectionValue({.address = "192.0.2.1", .port = 4352})}});
-  }
-  const ProfileList list = ParseProfileList(edits.Text(), "p.json");
-  ASSERT_EQ(list.error, "");
-  ASSERT_EQ(list.profiles.size(), 10'000U);
-  EXPECT_EQ(list.profiles[9999].model, list.profiles[1].model);
+TEST(ProfileEdits, FollowTheStyleOfTheFile) {
+  ProfileEdits edits(R"({"projectors":[{"name": "A"}]})");
+  edits.Add({{"name", "B"}, {"tags", QJsonValue::Undefined}});
+  edits.Add({{"name", "C"}});
+  EXPECT_EQ(edits.Text(), R"({"projectors":[{"name": "A"}, {"name": "B"}, {"name": "C"}]})");
+  edits.Remove(0);
+  EXPECT_EQ(edits.Text(), R"({"projectors":[{"name": "B"}, {"name": "C"}]})");
 }
 
 }  // namespace

@@ -195,6 +195,8 @@ TEST(ProgramTexts, OfQtAreInTheLanguageOfTheProgramForARegionToo) {
     EXPECT_EQ(inQt("QPlatformTheme", "Cancel"), cancel);
     EXPECT_NE(inQt("QCommandLineParser", "Options:"), "Options:");
   }
+  InstallTranslations(0x042A);  // Vietnamese, which has no texts: none of the last language stays
+  EXPECT_EQ(inQt("QPlatformTheme", "Cancel"), "Cancel");
   InstallTranslations(kEnglishUnitedStates);
 }
 

@@ -232,39 +232,6 @@ TEST(ProfileFile, ShippedFileHasEveryModelWithPagesOfItsOwn) {
 
 const QJsonValue kNone(QJsonValue::Undefined);
 
-struct EditCase {
-  QByteArray edited;
-  const char* expected;
-};
-
-TEST(JsonEdit, KeepsTheFormattingOfEverythingElse) {
-  using JsonEdit::InsertElement, JsonEdit::RemoveElement, JsonEdit::SetMember;
-  const EditCase cases[] = {
-      {SetMember(R"({ "a" :1 ,"b": 2})", {}, {"a", 5}), R"({ "a" :5 ,"b": 2})"},
-      {SetMember("{\n  \"a\": 1\n}", {}, {"c", "x"}), "{\n  \"a\": 1,\n  \"c\": \"x\"\n}"},
-      {SetMember("{\r\n\t\"a\": 1\r\n}", {}, {"c", true}),
-       "{\r\n\t\"a\": 1,\r\n\t\"c\": true\r\n}"},
-      {SetMember(R"({"a": 1})", {}, {"a", QJsonObject{{"b", 2}}}), R"({"a": {"b": 2}})"},
-      {SetMember("{}", {}, {"c", QJsonArray{1, 2}}), R"({"c": [1,2]})"},
-      {SetMember(R"({"a": 1})", {}, {"b", kNone}), R"({"a": 1})"},
-      {SetMember(R"({"a": 1, "b": 2})", {}, {"a", kNone}), R"({"b": 2})"},
-      {SetMember(R"({"a": 1,  "b": 2 })", {}, {"b", kNone}), R"({"a": 1 })"},
-      {SetMember(R"({ "a": 1 })", {}, {"a", kNone}), R"({  })"},
-      {SetMember("\xEF\xBB\xBF [0, {\"x\\\"}\": \"]\\\\\", \"\\u0061\": {\"b\": [{}]}}]",
-                 {qsizetype{1}, "a"}, {"b", 1}),
-       "\xEF\xBB\xBF [0, {\"x\\\"}\": \"]\\\\\", \"\\u0061\": {\"b\": 1}}]"},
-      {SetMember("{\"a\": {\n \"z\": {\n  \"y\": 1, \"x\": 2 }}}", {},
-                 {"a", QJsonObject{{"z", QJsonObject{{"x", 3}, {"y", 1}}}}}),
-       "{\"a\": {\n \"z\": {\n  \"y\": 1, \"x\": 3 }}}"},
-      {InsertElement("{\"a\": [1,\n 2]}", {"a"}, 0, "9"), "{\"a\": [1,\n 9,\n 2]}"},
-      {InsertElement("{\"a\": [\n {}\n]}", {"a"}, 0, "9"), "{\"a\": [\n {},\n 9\n]}"},
-      {RemoveElement(R"({"a": [1 , 2 , 3 ]})", {"a"}, 1), R"({"a": [1 , 3 ]})"},
-      {RemoveElement(R"({"a": [1 , 2 , 3 ]})", {"a"}, 2), R"({"a": [1 , 2 ]})"},
-      {RemoveElement(R"({"a": [{"b": [1, 2]}, 2]})", {"a"}, 0), R"({"a": [2]})"},
-  };
-  for (const auto& [edited, expected] : cases) EXPECT_EQ(edited.toStdString(), expected);
-}
-
 class ProfileDocumentFile : public testing::Test {
  protected:
   void SetUp() override {

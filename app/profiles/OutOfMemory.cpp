@@ -25,8 +25,10 @@ iovec Bytes(const char* text) { return {const_cast<char*>(text), std::strlen(tex
 // Qt uses some memory without checking whether it was allocated.
 void OnFault(int signal, siginfo_t* fault, void*) {
   constexpr std::uintptr_t kNearNull = 65536;
+  // unreachable: the process ends here, and can report nothing
   const bool isNearNull =
       fault->si_code == SEGV_MAPERR && reinterpret_cast<std::uintptr_t>(fault->si_addr) < kNearNull;
+  // unreachable: as above
   if (isNearNull && errno == ENOMEM) EndOutOfMemory();
   sigaction(signal, &otherFaults, nullptr);  // the earlier handler gets the fault again
 }
@@ -34,13 +36,14 @@ void OnFault(int signal, siginfo_t* fault, void*) {
 // The locale library would take a failed allocation for an unknown language.
 void* AllocateOrEnd(const void*, std::size_t size) {
   void* const memory = std::malloc(size);
+  // unreachable: the process ends where this is so, and can report nothing
   if (memory == nullptr && size > 0) EndOutOfMemory();
   return memory;
 }
 
 void* ReallocateOrEnd(const void*, void* memory, std::size_t size) {
   void* const moved = std::realloc(memory, size);
-  if (moved == nullptr && size > 0) EndOutOfMemory();
+  if (moved == nullptr && size > 0) EndOutOfMemory();  // unreachable: as above
   return moved;
 }
 
@@ -60,7 +63,7 @@ void EndWhenOutOfMemory(const char* program) {
   // Thrown where nothing can catch it: on a thread, or in a `noexcept` function.
   otherwise = std::set_terminate([] {
     try {
-      if (std::current_exception()) throw;
+      if (std::current_exception()) throw;  // unreachable: the process ends, and can report nothing
     } catch (const std::bad_alloc&) {
       EndOutOfMemory();
     } catch (...) {  // another error: handled as before

@@ -26,17 +26,19 @@ struct Child {
 bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 qsizetype SkipSpace(const QByteArray& text, qsizetype at) {
-  while (at < text.size() && IsSpace(text[at])) ++at;
+  while (at < text.size() && IsSpace(text[at])) ++at;  // unreachable: JSON does not end so early
   return at;
 }
 
 qsizetype EndOfString(const QByteArray& text, qsizetype at) {
+  // unreachable: every string is closed
   for (++at; at < text.size() && text[at] != '"'; ++at) at += text[at] == '\\' ? 1 : 0;
   return at + 1;
 }
 
 qsizetype EndOfValue(const QByteArray& text, qsizetype at) {
   int depth = 0;
+  // unreachable: a value ends with its object or array at the latest
   for (; at < text.size(); ++at) {
     const char c = text[at];
     if (c == '"') {
@@ -62,6 +64,7 @@ std::vector<Child> ChildrenOf(const QByteArray& text, qsizetype container) {
   std::vector<Child> children;
   const bool isObject = text[container] == '{';
   for (qsizetype at = SkipSpace(text, container + 1);
+       // unreachable: every object and array is closed
        at < text.size() && text[at] != '}' && text[at] != ']';) {
     Child child{{}, at, at, at};
     if (isObject) {
@@ -72,6 +75,7 @@ std::vector<Child> ChildrenOf(const QByteArray& text, qsizetype container) {
     child.end = EndOfValue(text, child.value);
     children.push_back(child);
     at = SkipSpace(text, child.end);
+    // unreachable: its object or array is closed
     if (at < text.size() && text[at] == ',') at = SkipSpace(text, at + 1);
   }
   return children;

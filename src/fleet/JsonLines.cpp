@@ -151,7 +151,7 @@ class JsonLines::Walk {
   QString String() {
     const qsizetype begin = at_++;
     bool hasEscapes = false;
-    for (; !AtEnd() && Peek() != '"'; ++at_) {
+    for (; !AtEnd() && Peek() != '"'; ++at_) {  // unreachable: every string is closed
       if (Peek() != '\\') continue;
       hasEscapes = true;
       ++at_;

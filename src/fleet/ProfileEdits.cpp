@@ -50,6 +50,7 @@ QByteArray ProfileEdits::Text() const {
   bool isFirst = true;
   for (const Entry& entry : entries_) {
     if (!entry.isThere) continue;
+    // unreachable: something stands before every entry but the file's first
     if (!isFirst) text += entry.before.isEmpty() ? separator_ : entry.before;
     text += entry.text;
     isFirst = false;

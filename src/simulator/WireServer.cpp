@@ -1,6 +1,5 @@
 #include "simulator/WireServer.h"
 
-#include <chrono>
 #include <utility>
 
 #include <QIODevice>
@@ -17,11 +16,11 @@ namespace {
 
 constexpr qint64 kLargestPiece = 4096;
 constexpr std::size_t kLargestBacklog = 256UL * 1024;
-constexpr auto kTimeForHello = std::chrono::seconds(10);
 
 class Session final : public ServedConnection {
  public:
-  Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault)
+  Session(std::unique_ptr<QIODevice> line, ProjectorChannel& projector, const LineFault& fault,
+          std::chrono::milliseconds timeForHello)
       : line_(line.release()), responder_(projector), replies_(*line_, fault) {
     line_->setParent(this);
     connect(line_, &QIODevice::readyRead, this, &Session::Read);
@@ -30,7 +29,7 @@ class Session final : public ServedConnection {
       socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
       connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
       // Closes the connection of a peer that sends nothing.
-      QTimer::singleShot(kTimeForHello, this, [this] {
+      QTimer::singleShot(timeForHello, this, [this] {
         if (!responder_.IsGreeted()) deleteLater();
       });
     }
@@ -43,9 +42,8 @@ class Session final : public ServedConnection {
  private:
   void Read() {
     NoteRead();
-    while (line_->bytesAvailable() > 0) {
-      const QByteArray piece = line_->read(kLargestPiece);
-      if (piece.isEmpty()) return;
+    for (QByteArray piece = line_->read(kLargestPiece); !piece.isEmpty();
+         piece = line_->read(kLargestPiece)) {
       replies_.Send(responder_.Receive({piece.data(), static_cast<std::size_t>(piece.size())}));
     }
     // Closes the connection of a peer that sends requests without reading the replies.
@@ -60,13 +58,15 @@ class Session final : public ServedConnection {
 }  // namespace
 
 struct WireServer::Parts {
-  explicit Parts(std::shared_ptr<ProjectorChannel> served) : projector(std::move(served)) {}
+  Parts(std::shared_ptr<ProjectorChannel> served, std::chrono::milliseconds time)
+      : projector(std::move(served)), timeForHello(time) {}
 
   Session* Serve(std::unique_ptr<QIODevice> line) {
-    return new Session(std::move(line), *projector, fault);
+    return new Session(std::move(line), *projector, fault, timeForHello);
   }
 
   std::shared_ptr<ProjectorChannel> projector;
+  const std::chrono::milliseconds timeForHello;
   LineFault fault{};
   QObject lines;
   TcpListener server{
@@ -74,8 +74,9 @@ struct WireServer::Parts {
       [this](std::unique_ptr<QTcpSocket> socket) { return Serve(std::move(socket)); }};
 };
 
-WireServer::WireServer(std::shared_ptr<ProjectorChannel> projector)
-    : parts_(std::make_unique<Parts>(std::move(projector))) {}
+WireServer::WireServer(std::shared_ptr<ProjectorChannel> projector,
+                       std::chrono::milliseconds timeForHello)
+    : parts_(std::make_unique<Parts>(std::move(projector), timeForHello)) {}
 
 WireServer::~WireServer() = default;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -22,7 +23,10 @@ class PROJECTOR_COMMON_EXPORT WireServer {
   /// Connections that the port serves at once; see `TcpListener` for further ones.
   static constexpr int kMaximumConnections = 8;
 
-  explicit WireServer(std::shared_ptr<ProjectorChannel> projector);
+  /// `timeForHello` is the time after which the TCP connection of a peer that sends no hello is
+  /// closed.
+  explicit WireServer(std::shared_ptr<ProjectorChannel> projector,
+                      std::chrono::milliseconds timeForHello = std::chrono::seconds(10));
   ~WireServer();
   WireServer(const WireServer&) = delete;
   WireServer& operator=(const WireServer&) = delete;

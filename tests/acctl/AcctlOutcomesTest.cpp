@@ -3,7 +3,6 @@
 
 #include <csignal>
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTemporaryDir>

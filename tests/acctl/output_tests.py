@@ -155,3 +155,7 @@ class Output(Building):
         self.assertEqual(run.stdout, "0\n", "what a dead simulator has left is no use")
         self.start_simulator("--projector", "Office", XDG_RUNTIME_DIR=str(self.folder))
         self.assertEqual(self.acctl("set", "Office", "contrast=3", **rooms).stderr, "")
+        self.stop(self.start_simulator("--projector", "Office", XDG_RUNTIME_DIR=str(self.folder)))
+        run = self.acctl("get", "Office", "contrast", "-o", "value", **rooms)
+        self.assertEqual(run.stdout, "3\n", "another one does not take the first one's place")
+        self.start_simulator("--projector", "Office", XDG_RUNTIME_DIR="/dev/null")  # serves all the same

@@ -68,11 +68,8 @@ TEST(CommandLog, ShowsSettingNamesAndOutcomes) {
 TEST(CommandLog, NamesSettingsAndValuesAsTheDialogDoes) {
   using Op = PjtOperation;
   const auto list = ReadProfileList(TEST_CATALOG_DIR "/projectors.json");
-  const auto model = [&](const char* name) {
-    return std::ranges::find(list.profiles, name, &FleetProfile::name)->model;
-  };
+  const auto model = std::ranges::find(list.profiles, "Projector 5-30", &FleetProfile::name)->model;
   struct Case {
-    const char* model;
     PjtCommand command;
     PjtReply reply;
     const char* setting;
@@ -83,18 +80,18 @@ TEST(CommandLog, NamesSettingsAndValuesAsTheDialogDoes) {
     return PjtReply{.result = 1, .value = static_cast<std::int16_t>(value)};
   };
   const Case cases[] = {
-      {"Projector 5-30", {Op::Get, 0x2201}, read(126), "Sharpness", "2"},
-      {"Projector 5-30", {Op::Set, 0x2201, 122}, done, "Sharpness", "-2"},
-      {"Projector 5-30", {Op::SetBrightness, 0, 131}, done, "Brightness", "3"},
-      {"Projector 5-30", {Op::Get, 0x6000}, read(1), "Power Status", "On"},
-      {"Projector 5-30", {Op::ExecBrightnessReset}, {.result = 0}, "Brightness", ""},
-      {"Projector 5-30", {Op::SetAspect, 0, 1}, done, "Aspect", "16:9"},
-      {"Projector 5-30", {Op::Get, 0x2201}, {.result = 0}, "Sharpness", ""},
-      {"Projector 5-30", {Op::Get, 0x7FFF}, read(1), "", ""},
+      {{Op::Get, 0x2201}, read(126), "Sharpness", "2"},
+      {{Op::Set, 0x2201, 122}, done, "Sharpness", "-2"},
+      {{Op::SetBrightness, 0, 131}, done, "Brightness", "3"},
+      {{Op::Get, 0x6000}, read(1), "Power Status", "On"},
+      {{Op::ExecBrightnessReset}, {.result = 0}, "Brightness", ""},
+      {{Op::SetAspect, 0, 1}, done, "Aspect", "16:9"},
+      {{Op::Get, 0x2201}, {.result = 0}, "Sharpness", ""},
+      {{Op::Get, 0x7FFF}, read(1), "", ""},
   };
   SettingNames names;
   for (const Case& one : cases) {
-    const auto meaning = names.Of(model(one.model), one.command, one.reply);
+    const auto meaning = names.Of(model, one.command, one.reply);
     EXPECT_EQ(meaning.setting, one.setting) << FormatCommand(one.command);
     EXPECT_EQ(meaning.value, one.value) << FormatCommand(one.command);
   }

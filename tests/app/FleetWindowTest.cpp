@@ -7,7 +7,6 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTcpSocket>
 #include <QTest>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -58,23 +57,14 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   auto* groups = window.findChild<GroupList*>();
   EXPECT_TRUE(Soon([&] { return groups->item(2)->text() == QStringLiteral("Off (%1)").arg(off); }));
 
-  QTcpSocket control;
-  control.connectToHost(QHostAddress::LocalHost,
-                        simulator.Address("control").section(':', 1).toUShort());
-  ASSERT_TRUE(control.waitForConnected());
-  const auto tell = [&control](const QByteArray& line) {
-    control.write(line + '\n');
-    ASSERT_TRUE(control.waitForReadyRead(60'000));
-    EXPECT_TRUE(control.readAll().startsWith("ok"));
-  };
-
   const auto one = static_cast<std::size_t>(
       std::ranges::find(Rows(window), Health::Good, HealthOf) - Rows(window).begin());
   auto* search = window.findChild<ProjectorView*>()->findChild<QLineEdit*>();
   QTest::keyClicks(search, QString::fromStdString(Rows(window)[one].profile.name));
   EXPECT_EQ(window.findChild<ProjectorView*>()->CurrentPosition(), static_cast<int>(one));
   const auto hasAlertNow = [&](const char* errors) {
-    tell(QByteArray::number(qulonglong(one + 1)) + " errors " + errors);
+    const QByteArray number = QByteArray::number(qulonglong(one + 1));
+    EXPECT_EQ(simulator.Control(number + " errors " + errors), "ok");
     Find<QAction>(window, "Refresh").trigger();
     const bool before = Rows(window)[one].hasAlert;
     EXPECT_TRUE(Soon([&] { return Rows(window)[one].hasAlert != before; }));
@@ -94,7 +84,7 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 
-  tell("* none");
+  EXPECT_EQ(simulator.Control("* none"), "ok");
   Button(*dialog, "Retry the Failed").click();
   EXPECT_EQ(Failed(Done(window)), 0);
   EXPECT_FALSE(Button(*dialog, "Retry the Failed").isVisible());

@@ -6,13 +6,9 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPointer>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSettings>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -26,11 +22,9 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/log/CommandLog.h"
-#include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/profiles/PresetFolder.h"
 #include "app/profiles/SettingsFile.h"
-#include "app/profiles/Translations.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
@@ -252,39 +246,6 @@ TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {
   EXPECT_EQ(Table(window).columnWidth(0), 123);
   EXPECT_EQ(window.findChild<ProjectorView*>()->CurrentPosition(), 5);
   EXPECT_EQ(window.OpenDialog(5)->findChild<QTabBar*>()->currentIndex(), 2);
-}
-
-TEST(MainWindow, IsTranslatedCompletely) {
-  const auto speak = [](const char* locale) {
-    qputenv("LC_ALL", locale);
-    LoadCatalog();
-    InstallTranslations(ShownLanguageId());
-  };
-  speak("zh_CN.UTF-8");
-  {
-    const QTemporaryDir folder;
-    const ProfileDocument document = Shipped(folder);
-    MainWindow window(Shipped(folder));
-    const ProfileEditor editor(document, {}, {});
-    EXPECT_LE(window.minimumSizeHint().width(), 940) << "1920 pixels at 200 %";
-    EXPECT_LE(window.minimumSizeHint().height(), 500);
-    QStringList texts{window.windowTitle(), editor.windowTitle()};
-    for (const auto* child : window.findChildren<QObject*>() + editor.findChildren<QObject*>()) {
-      for (const char* name : {"text", "title", "toolTip", "placeholderText", "accessibleName"}) {
-        // Text from the user, from profiles or from projectors is not translated.
-        const bool isValue = child->objectName() == "value" ||
-                             qobject_cast<const QLineEdit*>(child) ||
-                             qobject_cast<const QProgressBar*>(child);
-        if (isValue && qstrcmp(name, "text") == 0) continue;
-        if (!child->property("separator").toBool()) texts += child->property(name).toString();
-      }
-    }
-    texts.removeAll(QString());
-    EXPECT_GT(texts.size(), 80);
-    static const QRegularExpression chinese("\\p{Han}");
-    for (const QString& text : texts) EXPECT_TRUE(text.contains(chinese)) << text.toStdString();
-  }
-  speak("en_US.UTF-8");
 }
 
 }  // namespace

@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 #include <set>
 
-#include <QDialogButtonBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -218,6 +216,23 @@ TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
   EXPECT_EQ(Row(a).profile.snapshot, "day");
   Find<QAction>(*window, "Redo Rename Preset").trigger();
   EXPECT_EQ(PresetFolder::Names(), (QStringList{"night", "other"}));
+}
+
+TEST(PresetFolder, KeepsPresetsByTheirNames) {
+  const QTemporaryDir data;
+  qputenv("XDG_DATA_HOME", data.path().toUtf8());
+  EXPECT_EQ(PresetFolder::Write("day", {}), "");
+  EXPECT_EQ(PresetFolder::Rename("day", "Day 2"), "");
+  EXPECT_NE(PresetFolder::Read("day").error, "");
+  EXPECT_NE(PresetFolder::Rename("day", "night"), "");
+  EXPECT_NE(PresetFolder::Remove("day"), "");
+  qputenv("XDG_DATA_HOME", "/dev/null");
+  EXPECT_TRUE(PresetFolder::Write("day", {}).startsWith("cannot create the folder /dev/null/"));
+  qunsetenv("XDG_DATA_HOME");
+  for (const QString& name : {QString(), QString(" a"), QString(".a"), QString("a/b"),
+                              QString("a\tb"), QString(101, QChar(0xE9))}) {
+    EXPECT_FALSE(PresetFolder::IsName(name)) << qPrintable(name);
+  }
 }
 
 }  // namespace

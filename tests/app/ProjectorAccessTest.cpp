@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
+#include "device/channels/TcpChannel.h"
 #include "tests/device/BadProjector.h"
 #include "tests/device/Peer.h"
 #include "tests/support/Programs.h"
@@ -95,6 +96,19 @@ TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersTheModel) {
     Write(CacheFile(), damaged);
     EXPECT_EQ(Asked(showsInput), "CLSS, INPT, INNM ?31") << damaged;
   }
+  const std::pair<const char*, QByteArray> damages[] = {
+      {"\"asked\": ", "\"asked\": 9"},
+      {"\"2\"", "\"3\""},
+      {"\"31\"", "\"x\""},
+      {"\"HDMI\"", "\"\""},
+      {"\"HDMI\"", '"' + QByteArray(513, 'x') + '"'},
+      {"[", '[' + QByteArray(R"({"code": "31", "name": "A"},)").repeated(32)}};
+  for (const auto& [part, instead] : damages) {
+    EXPECT_TRUE(QFile::remove(CacheFile()));
+    Asked(listsInputs);
+    Write(CacheFile(), Contents(CacheFile()).replace(part, instead));
+    EXPECT_EQ(Asked(showsInput), "CLSS, INPT, INNM ?31") << instead.left(40).data();
+  }
   EXPECT_TRUE(QFile::remove(CacheFile()));
   EXPECT_EQ(Asked(listsInputs), "CLSS, INST, INNM ?31, INNM ?32, INNM ?5A, POWR");
   Write(CacheFile(), Contents(CacheFile()).replace("\"asked\": ", "\"asked\": 1, \"was\": "));
@@ -116,6 +130,11 @@ TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
   ProjectorAccess access(ProfileOf(0, 0), channel, kShort.connect);
   access.AskForInputs();
   EXPECT_TRUE(access.Channel().IsGone() && access.LacksInputs());
+  EXPECT_EQ(access.StepUnread(*access.Settings().Find("status.power"), 2, [] { return true; }), 0);
+  const auto nobody = std::make_shared<TcpChannel>("127.0.0.1", 1);
+  ProjectorAccess other(ProfileOf(0, 0), nobody, kShort.connect);
+  EXPECT_TRUE(other.Connection().Execute({PjtOperation::Inc, 0x2001}).unsent);
+  EXPECT_TRUE(other.Channel().IsGone()) << "it was never there";
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>

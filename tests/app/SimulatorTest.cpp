@@ -6,7 +6,6 @@
 
 #include <QLabel>
 #include <QTabBar>
-#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -39,30 +38,19 @@ QString CurrentInput(const CAdvanceDlg& dialog) {
 
 class SimulatorTest : public testing::Test {
  protected:
-  SimulatorTest() {
-    const int port = simulator_->Address("control").section(':', 1).toInt();
-    control_.connectToHost(QHostAddress::LocalHost, static_cast<std::uint16_t>(port));
-    EXPECT_TRUE(control_.waitForConnected());
-  }
-
   QString Profiles() const { return folder_.filePath("real.json"); }
 
   ProjectorAddress Address(const char* transport) {
     return ParseAddress(simulator_->Address(transport).toStdString(), "secret");
   }
 
-  std::string Control(const char* line) {
-    control_.write(QByteArray(line) + '\n');
-    control_.waitForReadyRead(5000);
-    return control_.readLine().trimmed().toStdString();
-  }
+  std::string Control(const char* line) const { return simulator_->Control(line); }
 
   QTemporaryDir folder_;
   const QString port_ = QString::number(LastingPort());
   std::optional<SimulatorProcess> simulator_{
       std::in_place, QStringList{"--projector", kName, "--serial", "--control", "0", "--password",
                                  "secret", "--port", port_, "--write-profiles", Profiles()}};
-  QTcpSocket control_;
 };
 
 TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLineFaults) {

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <algorithm>
-
-#include <QDockWidget>
-#include <QPushButton>
 #include <QTreeWidget>
 
 #include "app/desktop/MainWindow.h"

@@ -21,14 +21,7 @@ class BridgeProgram : public testing::Test {
         more);
   }
   /// A line for the simulator, and its answer.
-  std::string Control(const QByteArray& line) {
-    QTcpSocket control;
-    control.connectToHost(QHostAddress::LocalHost,
-                          simulator_->Address("control").section(':', 1).toUShort());
-    control.write(line + '\n');
-    EXPECT_TRUE(Soon([&] { return control.waitForReadyRead(10) || control.canReadLine(); }));
-    return control.readLine().trimmed().toStdString();
-  }
+  std::string Control(const QByteArray& line) const { return simulator_->Control(line); }
   std::unique_ptr<Daemon> Bridge(const QStringList& more, quint16 port = 0) {
     return std::make_unique<Daemon>(
         BRIDGE_PROGRAM, QStringList{"--profiles", profiles_, "--interval", "5", "--listen",

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <memory>
 #include <set>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -208,23 +207,8 @@ TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
 TEST_F(BridgeProgram, ProvesWhoItIs) {
   StartProjectors(3);
   const QByteArray folder = folder_.path().toUtf8();
-  const QByteArray make = R"(cd "$1"
-    key() { openssl ecparam -genkey -name prime256v1 -noout -out "$1.key"; }
-    sign() {
-      key "$1"
-      openssl req -new -key "$1.key" -subj "/CN=$2" -out "$1.csr"
-      openssl x509 -req -in "$1.csr" -CA ca.crt -CAkey ca.key -CAcreateserial -days 2 -out "$1.crt"
-    }
-    set -e
-    key ca
-    openssl req -x509 -new -key ca.key -subj /CN=ca -days 2 -out ca.crt
-    sign broker localhost
-    sign bridge bridge
-    mosquitto_passwd -b -c passwords hall secret
-    chmod a+r ./*
-    echo hall > user; echo secret > password; echo wrong > wrong)";
-  const Outcome made =
-      ::Run("bash", {"-c", make, "bash", folder_.path()}, QProcessEnvironment::systemEnvironment());
+  const Outcome made = ::Run(TEST_SOURCE_DIR "/bridge/make_certificates.sh", {folder_.path()},
+                             QProcessEnvironment::systemEnvironment());
   ASSERT_EQ(made.exitCode, 0) << made.errors;
   MosquittoBroker broker(folder_.path(), true,
                          "allow_anonymous false\nrequire_certificate true\ncafile " + folder +

@@ -2,7 +2,6 @@
 
 #include <memory>
 
-#include <QFile>
 #include <QHostAddress>
 #include <QProcess>
 #include <QStandardPaths>

@@ -1,7 +1,5 @@
 // A bridge's fleet, and how it finds out what differs from a snapshot.
 
-#include <memory>
-
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

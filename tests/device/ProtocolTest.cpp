@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
+#include "device/channels/PjLinkInputInquiry.h"
 #include "device/protocol/PjLinkAttempts.h"
 #include "device/protocol/PjLinkInputs.h"
 #include "device/protocol/PjLinkLine.h"
@@ -93,6 +94,15 @@ TEST(PjLinkInputs, AreAskedForOneByOne) {
 
   inputs.Remember({{7, "no PJLink"}, {31, "HDMI"}});
   EXPECT_FALSE(inputs.Next() && inputs.Next()->command == "INST");
+}
+
+TEST(PjLinkInputInquiry, ForgetsWhatAnotherProjectorHad) {
+  PjLinkInputInquiry inquiry(1s, 1s);
+  inquiry.Remember({{31, "HDMI"}}, '2');
+  inquiry.CheckClass({});
+  EXPECT_EQ(inquiry.AllInputs().size(), 1U) << "its class is not known";
+  inquiry.CheckClass('1');
+  EXPECT_TRUE(inquiry.AllInputs().empty());
 }
 
 TEST(PjLinkAttempts, ALookUpThatRanOutOfTimeIsNotTheProblem) {

@@ -1,11 +1,11 @@
-#include <array>
 #include <atomic>
 #include <functional>
 #include <optional>
-#include <set>
 #include <thread>
+#include <tuple>
 
 #include <QDir>
+#include <QIODevice>
 #include <QTcpServer>
 #include <gtest/gtest.h>
 
@@ -15,6 +15,7 @@
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
 #include "tests/device/Replies.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -167,15 +168,6 @@ TEST(WireChannelTest, GivesUpEarlierWhenAsked) {
   EXPECT_EQ(Replies(bounded, {Get(1)}), "?");
 }
 
-TEST(WireChannelTest, EachStateHasATextOfItsOwn) {
-  std::set<std::string_view> texts;
-  static constexpr std::array kStates{
-      None,         Unused,   Connecting, Connected,     WrongParameters, NameUnknown,
-      NotReachable, NoAnswer, Lost,       NotUnderstood, OtherVersion,    PasswordRequired};
-  for (const ConnectionState state : kStates) texts.insert(ConnectionStateText(state));
-  EXPECT_EQ(texts.size(), kStates.size());
-}
-
 TEST(WireChannelTest, SaysWhyItCannotConnect) {
   QTcpServer neverAccepts;
   ASSERT_TRUE(neverAccepts.listen(QHostAddress::LocalHost));
@@ -207,6 +199,67 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
 
   neverAccepts.close();
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);
+}
+
+TEST(WireChannelTest, NoiseOnAnIdleConnectionEndsIt) {
+  std::atomic<bool> isRead = false;
+  const auto noise = Answers([&](End& end, const std::string& answer) {
+    end.Send(answer);
+    if (answer.size() < kReplySize) return;
+    isRead.wait(false);
+    end.Send("noise");
+  });
+  const Peer peer(Transport::Tcp, {noise, kServes});
+  const auto channel = ChannelTo(peer);
+  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
+  EXPECT_TRUE(channel->TendConnection(0ms));
+  isRead = true;
+  isRead.notify_all();
+  EXPECT_TRUE(Soon([&] { return !channel->TendConnection(0ms); }));
+  EXPECT_EQ(channel->Connection(), Unused);
+  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
+}
+
+enum class Takes { All, Late, Part };
+
+/// A line that does not take all bytes at once, or gives none although some have come.
+class FailingLine final : public QIODevice {
+ public:
+  explicit FailingLine(Takes takes) : takes_(takes) { open(ReadWrite | Unbuffered); }
+  bool isSequential() const override { return true; }
+  qint64 bytesAvailable() const override { return asked_++ % 2; }  // some come during a wait
+  qint64 bytesToWrite() const override { return takes_ == Takes::All ? 0 : 1; }
+
+ protected:
+  qint64 readData(char*, qint64) override { return -1; }
+  qint64 writeData(const char*, qint64 size) override { return size - (takes_ == Takes::Part); }
+
+ private:
+  const Takes takes_;
+  mutable qint64 asked_ = 0;
+};
+
+struct FailingChannel final : WireChannel {
+  FailingChannel(Takes takes, bool alive)
+      : WireChannel(Medium::Reliable, {}), does(takes), isAlive(alive) {}
+  std::unique_ptr<QIODevice> Open(const QDeadlineTimer&, ConnectionState&) override {
+    return std::make_unique<FailingLine>(does);
+  }
+  bool IsAlive(QIODevice&) const override { return isAlive; }
+
+  const Takes does;
+  const bool isAlive;
+};
+
+TEST(WireChannelTest, ALineThatFailsIsGivenUp) {
+  for (const auto& [takes, isAlive, state] : {std::tuple(Takes::Late, true, NoAnswer),
+                                              {Takes::Late, false, Lost},
+                                              {Takes::Part, true, Lost},
+                                              {Takes::All, true, Lost}}) {
+    FailingChannel channel(takes, isAlive);
+    EXPECT_EQ(Replies(channel, {Get(1)}), "?");
+    EXPECT_EQ(channel.Connection(), state);
+  }
 }
 
 TEST(WireChannelTest, AConnectionThatEndsWhileIdleLosesNoCommand) {
@@ -250,7 +303,6 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
     std::vector<std::size_t> bursts;       ///< The first burst includes the hello.
     std::chrono::milliseconds answers{0};  ///< Time for each reply.
     std::chrono::milliseconds asks{0};     ///< Pause of the program before each command.
-    Transport transport = Transport::Tcp;
   };
   const Case cases[] = {
       {"in order", {Get(0), Get(1), Get(63), Get(64), Get(79)}, "0 1 63 64 79", {64, 16}},
@@ -260,16 +312,11 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
       {"asked twice", {Get(20), Get(20)}, "20 20", {60, 1}},
       {"late", {Get(20), Get(21)}, "20 21", {60, 1}, 0ms, kLimits.answer + 20ms},
       {"longer than one may take", {Get(75), Get(77), Get(79)}, "75 77 79", {5}, 100ms},
-      {"serial",
-       {Get(20), kChange, Get(0)},
-       "20 1001 1000",
-       {0, 1, 1, 1},
-       0ms,
-       0ms,
-       Transport::Serial},
+      {"serial", {Get(20), kChange, Get(0)}, "20 1001 1000", {0, 1, 1, 1}},
   };
-  for (const auto& [name, commands, replies, expected, answers, asks, transport] : cases) {
+  for (const auto& [name, commands, replies, expected, answers, asks] : cases) {
     SCOPED_TRACE(name);
+    const auto transport = name == std::string("serial") ? Transport::Serial : Transport::Tcp;
     std::vector<std::size_t> bursts;
     {
       const Peer peer(transport, {AnswersTwice(bursts, answers)});

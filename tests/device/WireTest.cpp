@@ -98,6 +98,10 @@ TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
       {ParseConnection({0, 256, 0, "", ""}), AddressError{"no serial port '257'"}},
       {ParseConnection({0, -1, 0, "", ""}), AddressError{"no serial port '0'"}},
       {ParseConnection({0, 0, kMost + 1, "", ""}), AddressError{"no line speed '4000001'"}},
+      {ParseConnection({1, 0, 80, "beamer:80", ""}), TcpAddress{"beamer", 80}},
+      {ParseAddress("tcp://[::1]9"), AddressError{"wrong port in 'tcp://[::1]9'"}},
+      {ParseAddress("/dev/pts/3?9x"), AddressError{"no line speed '9x'"}},
+      {ParseAddress("/dev/pts/3?0"), AddressError{"no line speed '0'"}},
       {ParseAddress("tcp://[::1]:9", "pw"), TcpAddress{"::1", 9}},
       {ParseAddress("tcp://::1", "pw"), TcpAddress{"::1", 7240}},
       {ParseAddress("beamer:7241", "pw"), TcpAddress{"beamer", 7241}},
@@ -114,8 +118,11 @@ TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
 }
 
 TEST(WireTest, AHostIsANameOrACompleteAddress) {
-  for (const char* host : {"192.0.2.1", "::1", "fe80::1%eth0", "beamer", "hall_2.example.org",
-                           "3com", "4.hall", "b\u00FCro", "\u5927\u5385.example"}) {
+  std::string longest = "a";
+  while (longest.size() < 253) longest += ".a";
+  for (const std::string host :
+       {longest.c_str(), "192.0.2.1", "::1", "fe80::1%eth0", "beamer", "beamer.",
+        "hall_2.example.org", "3com", "4.hall", "b\u00FCro", "\u5927\u5385.example"}) {
     EXPECT_TRUE(IsHostAddress(host)) << host;
   }
   for (const char* none :
@@ -123,7 +130,7 @@ TEST(WireTest, AHostIsANameOrACompleteAddress) {
         "[::1]", "::1::2", "a:80", "tcp://a", "a,b", "a%b"}) {
     EXPECT_FALSE(IsHostAddress(none)) << none;
   }
-  EXPECT_FALSE(IsHostAddress("a\nb"));
+  EXPECT_FALSE(IsHostAddress("a\nb") || IsHostAddress('a' + longest));
   EXPECT_FALSE(IsHostAddress(std::string(64, 'a')));
 }
 

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <string>
 
-#include <QJsonDocument>
 #include <gtest/gtest.h>
 
 #include "fleet/Csv.h"
@@ -49,7 +48,7 @@ TEST(Csv, ReadsWhatSpreadsheetsExport) {
   const Case cases[] = {
       {"name,address\nA,B\n", "name/address | 2: A/B"},
       {"\xEF\xBB\xBFname;address\r\nA,x;B\r\n\r\n;\r\nC;D", "name/address | 2: A,x/B | 5: C/D"},
-      {"name\taddress\rA; x\tB", "name/address | 2: A; x/B"},
+      {"name\taddress\rA; x\tB\r", "name/address | 2: A; x/B"},
       {"sep=|\nname|x\nA;,|B", "name/x | 3: A;,/B"},
       {"\n\nname , \"x;y;z\"\n \"A \"\"b\"\"\" , B \n", "name/x;y;z | 4: A \"b\"/B"},
       {"name,x\n\"two\r\nlines\",B\nC,D", "name/x | 2: two~lines/B | 4: C/D"},
@@ -65,10 +64,20 @@ TEST(Csv, ReadsWhatSpreadsheetsExport) {
       {"name,\xFC\n\xC4 \x80,B", "name/ü | 2: Ä €/B"},
       {"", " ! 1: there is no header"},
       {"\"name\nA", " ! 1: a quotation mark is not closed"},
+      {"sep=", "sep="},
+      {"name,x\rA, \r'B,\"C\"", "name/x | 2: A/ | 3: 'B/C"},
+      {"name\n\"A\" ", "name | 2: A"},
+      {"name\nA\n ", "name | 2: A"},
+      {"name\n" + QByteArray(256, ','), "name ! 2: more than 256 cells"},
+      {QByteArray((64 << 20) + 1, ' '), " ! 1: more than 67108864 bytes"},
   };
   for (const auto& [bytes, expected] : cases) {
-    EXPECT_EQ(Described(ParseCsv(bytes)), expected) << bytes.toStdString();
+    EXPECT_EQ(Described(ParseCsv(bytes)), expected) << bytes.left(80).toStdString();
   }
+  const CsvTable longest = ParseCsv("name" + QByteArray("\nA").repeated(100'001));
+  EXPECT_EQ(longest.rows.size(), 100'000U);
+  ASSERT_EQ(longest.faults.size(), 1U);
+  EXPECT_EQ(longest.faults[0].reason, "more than 100000 rows");
 }
 
 TEST(Csv, IsReadAsItWasWritten) {
@@ -142,10 +151,48 @@ TEST(ProfileCsv, TakesTheRowsThatAreRight) {
   EXPECT_EQ(nothing.text, kFile);
 }
 
+TEST(ProfileCsv, UnderstandsWhatListsContain) {
+  // The connection and the identity, or what is wrong.
+  const Case rows[] = {
+      {"N,192.0.2.9,23,TCP,,,s1,", "192.0.2.9:23 serial:s1"},
+      {"N,2001:db8::9,23,tcp,,,,i1", "2001:db8::9:23 i1"},
+      {"N,[2001:db8::9],23,wire,,,,", "2001:db8::9:23 id:"},
+      {"N,pjlink://h.example:9,23,,,,,", "h.example:9 id:"},
+      {"N,/dev/ttyS1,,,,,,", "/dev/ttyS1 id:"},
+      {"N,192.0.2.9,,simulated,,,,", "192.0.2.9:4352 id:"},
+      {"N,192.0.2.9,,,,02:00,,", "\"02:00\" is not a MAC address"},
+      {"A,,,,,,,i2",
+       "\"A\" is the name of another projector, with the identity mac:00:00:5e:00:53:01"},
+      {"B,,,,,00:00:5e:00:53:01,,", "\"B\" is the name of another projector"},
+      {"B,/dev/ttyS1,,,,,,i3", "/dev/ttyS1 i3"},
+      {"A,/dev/ttyS1,,,,,,", "/dev/ttyS1 mac:00:00:5e:00:53:01"},
+      {"A,192.0.2.9,,pjlink,new,,,", "192.0.2.9:4352 mac:00:00:5e:00:53:01"},
+  };
+  for (const auto& [text, expected] : rows) {
+    const CsvImport import = ImportCsv(kFile, "name,ip,port,link,password,mac,serial,id,\n" + text);
+    std::string told;
+    if (import.faults.empty()) {
+      const auto profiles = ParseProfileList(import.text, "p.json").profiles;
+      const auto& one =
+          *std::ranges::find(profiles, text.left(1).toStdString(), &FleetProfile::name);
+      told = ConnectionText(one.connection).toStdString() + ' ' + one.identity;
+    } else {
+      told = import.faults[0].reason.toStdString();
+      EXPECT_EQ(import.text, kFile);
+    }
+    EXPECT_THAT(told, testing::StartsWith(expected)) << text.data();
+  }
+  EXPECT_EQ(ImportCsv(kFile, "").error, "there is no header");
+}
+
 TEST(ProfileCsv, WhatGoesOutComesInAgain) {
   const ProfileList before = ParseProfileList(kFile, "p.json");
   const QByteArray csv = ExportCsv(before.profiles);
   EXPECT_FALSE(csv.contains("open")) << "a password";
+  FleetProfile line = before.profiles[1];
+  line.connection.address = "/dev/ttyX";
+  line.link = ProjectorLink::Serial;
+  EXPECT_TRUE(ExportCsv({line}).contains("B,/dev/ttyX,,serial,"));
   const CsvImport same = ImportCsv(kFile, csv);
   EXPECT_EQ(same.changed, 2U);
   const ProfileList after = ParseProfileList(same.text, "p.json");

@@ -20,7 +20,7 @@ using enum WorkOutcome;
 
 constexpr PjtCommand kGetMirror{PjtOperation::GetMirror};
 
-class FleetJobTest : public testing::Test {
+class FleetJobTest : public ServingTest {
  protected:
   FleetJobTest() {
     const auto model = std::make_shared<const ModelData>(SimulatedModelData());
@@ -51,11 +51,6 @@ class FleetJobTest : public testing::Test {
     return mirrors;
   }
 
-  int count_ = 0;
-  char* name_ = nullptr;
-  QCoreApplication application_{count_, &name_};
-  const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  const SettingTexts texts{folders, 1033};
   std::deque<Served> served;
   std::vector<FleetTarget> targets;
   SnapshotsById undo;

@@ -9,7 +9,6 @@
 #include <map>
 #include <string>
 
-#include <QCoreApplication>
 #include <QNetworkProxy>
 #include <QUdpSocket>
 #include <gtest/gtest.h>
@@ -26,13 +25,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class FleetTest : public testing::Test {
+class FleetTest : public ServingTest {
  protected:
   Reachability Reached(const std::string& id) const { return fleet.State(id)->reachability; }
 
-  int count_ = 0;
-  char* name_ = nullptr;
-  QCoreApplication application_{count_, &name_};
   Served served;
   std::atomic<int> wakes = 0;
   Fleet fleet{{.interval = 50ms, .soonest = 10ms}, [this] { ++wakes; }};

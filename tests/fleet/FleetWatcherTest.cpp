@@ -34,11 +34,9 @@ std::string Words(const LiveState& state) {
     add(std::to_string(lamp.hours) + (lamp.isOn ? *lamp.isOn ? " h lit" : " h out" : " h"));
   }
   if (state.filterHours) add("filter " + std::to_string(*state.filterHours) + " h");
-  const std::pair<const char*, std::optional<bool>> kSwitches[] = {
-      {"blank", state.blank}, {"mute", state.mute}, {"freeze", state.freeze}};
-  for (const auto& [name, value] : kSwitches) {
-    if (value) add(std::string(*value ? "" : "not ") + name);
-  }
+  if (state.blank) add(*state.blank ? "blank" : "seen");
+  if (state.mute) add(*state.mute ? "mute" : "heard");
+  if (state.freeze) add(*state.freeze ? "frozen" : "live");
   return text;
 }
 
@@ -55,8 +53,7 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
   };
   const Case cases[] = {
       {"as usual", [](auto&) {},
-       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, not mute, not "
-       "freeze"},
+       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
       {"in standby", says("POWR", "0"), "answers, standby"},
       {"warming up, when it tells no more",
        [](auto& it) {
@@ -72,19 +69,17 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
          it.device.states["AVMT"] = "31";
        },
        "answers, cooling down, 31 HDMI (31), 020011, 100 h lit, 20000 h out, filter 80 h, blank, "
-       "mute, "
-       "not freeze"},
+       "mute, live"},
       {"class 1", says("CLSS", "1"),
-       "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, not blank, not mute"},
+       "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, seen, heard"},
       {"nonsense", says("ERST", "99"),
-       "answers, on, 31 HDMI (31), 1200 h lit, filter 80 h, not blank, not mute, not freeze"},
+       "answers, on, 31 HDMI (31), 1200 h lit, filter 80 h, seen, heard, live"},
       {"closes after each reply",
        [](auto& it) {
          it.device.closesAfterReply = 0ms;
          it.device.gap = 300ms;
        },
-       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, not mute, not "
-       "freeze"},
+       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
       {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
        "answers, on, 31 HDMI (31)"},
       {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
@@ -116,20 +111,17 @@ TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
   };
   namespace Code = CommandCode;
   const Case cases[] = {
-      {"as usual",
-       {},
-       "answers, on, 3 Video, 000000, 1200 h, filter 80 h, not blank, not mute, not freeze"},
+      {"as usual", {}, "answers, on, 3 Video, 000000, 1200 h, filter 80 h, seen, heard, live"},
       {"in standby", {{Code::RunningState, 0}}, "answers, standby", 1},
       {"cooling down, lamp",
        {{Code::RunningState, 2}, {Code::ErrorStatus, 3}},
-       "answers, cooling down, 3 Video, 020000, 1200 h, filter 80 h, not blank, not mute, not "
-       "freeze"},
+       "answers, cooling down, 3 Video, 020000, 1200 h, filter 80 h, seen, heard, live"},
       {"air flow, switches",
        {{Code::ErrorStatus, 5}, {Code::BlankState, 1}, {Code::Freeze, 1}, {Code::LampTime, 40000}},
-       "answers, on, 3 Video, 000020, 40000 h, filter 80 h, blank, not mute, freeze"},
+       "answers, on, 3 Video, 000020, 40000 h, filter 80 h, blank, heard, frozen"},
       {"an error without a name, a source without one",
        {{Code::ErrorStatus, 77}, {Code::InputSource, 9}},
-       "answers, on, 9 , 000002, 1200 h, filter 80 h, not blank, not mute, not freeze"},
+       "answers, on, 9 , 000002, 1200 h, filter 80 h, seen, heard, live"},
   };
   const auto isState = [](const PageRow& row) { return std::holds_alternative<StateRow>(row); };
   EXPECT_EQ(std::ranges::count_if(kStatusRows.rows, isState), kStatusItems) << "all are read";
@@ -152,7 +144,7 @@ TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
   fleet.AddWire("greets").wire.reset();  // as PJLink does
   fleet.RunFor(20s);
   EXPECT_EQ(Words(fleet.State("refuses")),
-            "answers, on, 3 , 000000, 1200 h, filter 80 h, not blank, not mute");
+            "answers, on, 3 , 000000, 1200 h, filter 80 h, seen, heard");
   EXPECT_EQ(Words(fleet.State("gone")), "silent");
   EXPECT_EQ(Words(fleet.State("greets")), "not understood");
 }
@@ -166,7 +158,7 @@ TEST(FleetWatcher, LeavesASerialPortToOthers) {
   it.wire = std::make_shared<WireDevice>();
   fleet.RunFor(20s);
   EXPECT_EQ(Words(fleet.State("a")),
-            "answers, on, 3 , 000000, 1200 h, filter 80 h, not blank, not mute, not freeze");
+            "answers, on, 3 , 000000, 1200 h, filter 80 h, seen, heard, live");
   EXPECT_EQ(it.mostConnections, 1);
   EXPECT_EQ(it.open, 0);
   it.isTaken = true;
@@ -255,22 +247,18 @@ TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
     int visits = 0;
   };
   const char* const kUsual =
-      "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, not blank, "
-      "not mute, not freeze";
+      "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
   const Case cases[] = {
       {"switched off",
        {"a", "POWR", "2"},
-       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, "
-       "filter 80 h, not blank, not mute, not freeze"},
+       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
       {"in standby", {"a", "powr", "0"}, "answers, standby, 000000, 1200 h lit, filter 80 h"},
       {"too hot",
        {"a", "ERST", "002000"},
-       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 "
-       "h, not blank, not mute, not freeze"},
+       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 h, seen, heard, live"},
       {"another input",
        {"a", "INPT", "32"},
-       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, not "
-       "blank, not mute, not freeze"},
+       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, seen, heard, live"},
       {"a network again", {"a", "LKUP", "00:00:5e:00:53:01"}, kUsual, 1},
       {"nonsense", {"a", "POWR", "9"}, kUsual, 1},
       {"somebody else's", {"b", "POWR", "0"}, kUsual},

@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 constexpr PjtCommand kGetMirror{PjtOperation::GetMirror};
 
-class HoldTest : public testing::Test {
+class HoldTest : public ServingTest {
  protected:
   std::unique_ptr<FleetJob> Job(const TcpAddress& at,
                                 AddressHold::Turn turn = AddressHold::Turn::Last) {
@@ -38,11 +38,6 @@ class HoldTest : public testing::Test {
     return std::make_shared<BoundedChannel>(std::move(inner), limits);
   }
 
-  int count_ = 0;
-  char* name_ = nullptr;
-  QCoreApplication application_{count_, &name_};
-  const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  const SettingTexts texts{folders, 1033};
   Fleet fleet{{.interval = 20ms, .longestPause = 20ms, .soonest = 10ms, .connect = 60s}};
 };
 
@@ -77,6 +72,29 @@ TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
     silent.connections.back()->disconnectFromHost();
     EXPECT_TRUE(Becomes(ends[i])) << i;
   }
+}
+
+TEST(AddressHoldTest, ServesTheLineInItsOrder) {
+  const AddressHold::Address place{"192.0.2.1", 4352};
+  EXPECT_EQ(AddressHold::LengthOfLine(place), 0U);
+  std::string told;
+  const auto tell = [&told](const char* what) { return [&told, what] { told += what; }; };
+  std::optional<AddressHold> first(place), second, third, next;
+  second.emplace(place, AddressHold::Turn::Last, tell("second"));
+  third.emplace(place, AddressHold::Turn::Last, tell("third"));
+  next.emplace(place, AddressHold::Turn::Next, tell("next"));
+  const AddressHold::Observer observer([&](const AddressHold::Address& held, bool isHeld) {
+    if (held == place) told += isHeld ? "+" : "-";
+  });
+  third.reset();
+  EXPECT_TRUE(first->IsHeld() && first->IsWanted());
+  EXPECT_FALSE(next->WaitFor(0ms));
+  first.reset();
+  EXPECT_TRUE(next->WaitFor(0ms));
+  next.reset();
+  EXPECT_TRUE(second->IsHeld() && !second->IsWanted());
+  second.reset();
+  EXPECT_EQ(told, "+nextsecond-");
 }
 
 TEST_F(HoldTest, ADialogsIdleConnectionIsGivenUpForAJob) {

@@ -1,7 +1,6 @@
 // Profiles as the fleet reads and edits them.
 
 #include <gmock/gmock.h>
-#include <string>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -14,7 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr char kFile[] = R"({ "x-made by": "a person",
+constexpr char kFile[] = R"({ "x-made by": "a person", "tags": {"halls": {}},
   "families": {"hall": {"model": "M", "dialogType": 5, "modelCode": 30, "ratedLampHours": 3000,
                         "tags": ["halls"]}},
   "projectors": [
@@ -44,6 +43,38 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   EXPECT_EQ(b.ratedLampHours, 2000);
   EXPECT_EQ(a.model, b.model) << "shared by those that are described alike";
   EXPECT_EQ(list.profiles[2].model->info.ModelCode, 31);
+  EXPECT_EQ(AddressOf(ProjectorLink::Serial, b.connection),
+            ProjectorAddress(SerialAddress{SerialDevice(1), SerialAddress::kDefaultBaud}));
+  EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}), "name: must be a text that is not empty");
+}
+
+TEST(JsonEdit, KeepsTheFormattingOfEverythingElse) {
+  using JsonEdit::InsertElement, JsonEdit::RemoveElement, JsonEdit::SetMember;
+  const QJsonValue kNone(QJsonValue::Undefined);
+  const std::pair<QByteArray, const char*> cases[] = {
+      {SetMember(R"({ "a" :1 ,"b": 2})", {}, {"a", 5}), R"({ "a" :5 ,"b": 2})"},
+      {SetMember("{\n  \"a\": 1\n}", {}, {"c", "x"}), "{\n  \"a\": 1,\n  \"c\": \"x\"\n}"},
+      {SetMember("{\r\n\t\"a\": 1\r\n}", {}, {"c", true}),
+       "{\r\n\t\"a\": 1,\r\n\t\"c\": true\r\n}"},
+      {SetMember(R"({"a": 1})", {}, {"a", QJsonObject{{"b", 2}}}), R"({"a": {"b": 2}})"},
+      {SetMember("{}", {}, {"c", QJsonArray{1, 2}}), R"({"c": [1,2]})"},
+      {SetMember(R"({"a": 1})", {}, {"b", kNone}), R"({"a": 1})"},
+      {SetMember(R"({"a": 1, "b": 2})", {}, {"a", kNone}), R"({"b": 2})"},
+      {SetMember(R"({"a": 1,  "b": 2 })", {}, {"b", kNone}), R"({"a": 1 })"},
+      {SetMember(R"({ "a": 1 })", {}, {"a", kNone}), R"({  })"},
+      {SetMember("\xEF\xBB\xBF [0, {\"x\\\"}\": \"]\\\\\", \"\\u0061\": {\"b\": [{}]}}]",
+                 {qsizetype{1}, "a"}, {"b", 1}),
+       "\xEF\xBB\xBF [0, {\"x\\\"}\": \"]\\\\\", \"\\u0061\": {\"b\": 1}}]"},
+      {SetMember("{\"a\": {\n \"z\": {\n  \"y\": 1, \"x\": 2 }}}", {},
+                 {"a", QJsonObject{{"z", QJsonObject{{"x", 3}, {"y", 1}}}}}),
+       "{\"a\": {\n \"z\": {\n  \"y\": 1, \"x\": 3 }}}"},
+      {InsertElement("{\"a\": [1,\n 2]}", {"a"}, 0, "9"), "{\"a\": [1,\n 9,\n 2]}"},
+      {InsertElement("{\"a\": [\n {}\n]}", {"a"}, 0, "9"), "{\"a\": [\n {},\n 9\n]}"},
+      {RemoveElement(R"({"a": [1 , 2 , 3 ]})", {"a"}, 1), R"({"a": [1 , 3 ]})"},
+      {RemoveElement(R"({"a": [1 , 2 , 3 ]})", {"a"}, 2), R"({"a": [1 , 2 ]})"},
+      {RemoveElement(R"({"a": [{"b": [1, 2]}, 2]})", {"a"}, 0), R"({"a": [2]})"},
+  };
+  for (const auto& [edited, expected] : cases) EXPECT_EQ(edited.toStdString(), expected);
 }
 
 TEST(ProfileEdits, LeaveWhatAPersonWrote) {
@@ -69,19 +100,13 @@ TEST(ProfileEdits, LeaveWhatAPersonWrote) {
   EXPECT_EQ(last.profiles[0].name, "C");
 }
 
-TEST(ProfileEdits, MakeAFileOfTenThousand) {
-  ProfileEdits edits(ProfileEdits::kNoProfiles);
-  for (int i = 0; i < 10'000; ++i) {
-    edits.Add({{"name", QString::number(i)},
-               {"model", "M"},
-               {"dialogType", 5},
-               {"modelCode", i % 2},
-               {"connection", ConnectionValue({.address = "192.0.2.1", .port = 4352})}});
-  }
-  const ProfileList list = ParseProfileList(edits.Text(), "p.json");
-  ASSERT_EQ(list.error, "");
-  ASSERT_EQ(list.profiles.size(), 10'000U);
-  EXPECT_EQ(list.profiles[9999].model, list.profiles[1].model);
+TEST(ProfileEdits, FollowTheStyleOfTheFile) {
+  ProfileEdits edits(R"({"projectors":[{"name": "A"}]})");
+  edits.Add({{"name", "B"}, {"tags", QJsonValue::Undefined}});
+  edits.Add({{"name", "C"}});
+  EXPECT_EQ(edits.Text(), R"({"projectors":[{"name": "A"}, {"name": "B"}, {"name": "C"}]})");
+  edits.Remove(0);
+  EXPECT_EQ(edits.Text(), R"({"projectors":[{"name": "B"}, {"name": "C"}]})");
 }
 
 }  // namespace

@@ -14,16 +14,7 @@ namespace {
 
 using Op = PjtOperation;
 
-enum class Upset : std::uint8_t {
-  Nothing,
-  Refuses,
-  Lacks,
-  Busy,
-  Pending,
-  Ignores,
-  Silent,
-  Cancels
-};
+enum class Upset : char { Nothing, Refuses, Lacks, Busy, Pending, Ignores, Silent, Cancels };
 
 /// A simulated projector that is upset by a command, and does not carry it out.
 class UpsetProjector final : public ForwardingChannel {

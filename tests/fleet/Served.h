@@ -16,6 +16,7 @@
 #include "simulator/PjLinkServer.h"
 #include "simulator/SimulatedProjector.h"
 #include "simulator/WireServer.h"
+#include "snapshots/SettingTexts.h"
 
 inline ModelData SimulatedModelData() {
   ModelData model;
@@ -43,6 +44,16 @@ struct Served {
             .port = static_cast<std::uint16_t>(pjLink.Port()),
             .password = password};
   }
+};
+
+/// An application, which serves, and the texts of settings.
+class ServingTest : public testing::Test {
+ protected:
+  int count_ = 0;
+  char* name_ = nullptr;
+  QCoreApplication application_{count_, &name_};
+  const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  const SettingTexts texts{folders, 1033};
 };
 
 /// Serves until it is so; false if that takes very long.

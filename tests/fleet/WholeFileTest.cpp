@@ -48,7 +48,4 @@ TEST(WholeFile, IsWrittenWholeOrNotAtAll) {
   EXPECT_EQ(ReadToEnd(folder.path(), 9).error, "Is a directory");
 }
 
-#ifndef SANITIZED  // sanitizers reserve more memory, and need files themselves
-#endif
-
 }  // namespace

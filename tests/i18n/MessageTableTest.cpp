@@ -220,6 +220,18 @@ TEST(MessageTable, RefusesDamagedModules) {
     padded.Put32(leaf + 4, U32(m.bytes, leaf + 4) + padding);
     EXPECT_EQ(MessageTable::Parse(padded.bytes).has_value(), padding < 4);
   }
+  // A section with the messages behind others without content, which may lie anywhere.
+  for (const std::uint32_t sections : {96U, 97U}) {
+    TestModule many = m;
+    const auto moved = static_cast<std::uint32_t>(m.bytes.size());
+    for (std::size_t i = header; i < section; ++i) many.bytes.push_back(m.bytes[i]);
+    many.bytes.resize(many.bytes.size() + 40 * (sections - 1));
+    for (std::size_t i = 0; i < 40; ++i) many.bytes.push_back(m.bytes[section + i]);
+    many.Put32(0x3C, moved);
+    many.Put16(moved + 6, sections);
+    many.Put32(moved + section - header + 20, ~0U);
+    EXPECT_EQ(MessageTable::Parse(many.bytes).has_value(), sections == 96);
+  }
   // Two texts for one message, and descending identifiers.
   for (const std::uint32_t second : {2U, 0U}) {
     const TestModule blocks({{1033, {{1, {Ansi("a"), Ansi("b")}}, {second, {Ansi("c")}}}}});

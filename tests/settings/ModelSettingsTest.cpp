@@ -169,14 +169,9 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
     std::optional<int> source;
   };
   constexpr std::optional<int> kNone;
-  for (const auto& [model, power, input, source] : {Case{48, 0, 3, 3},
-                                                    {49, 0, 3, 15},
-                                                    {54, 2, 3, 15},
-                                                    {49, 1, 3, 3},
-                                                    {50, 3, 3, 3},
-                                                    {55, 0, 3, 3},
-                                                    {49, 1, -1, kNone},
-                                                    {46, 0, -1, kNone}}) {
+  const Case cases[] = {{48, 0, 3, 3}, {49, 0, 3, 15}, {54, 2, 3, 15},     {49, 1, 3, 3},
+                        {50, 3, 3, 3}, {55, 0, 3, 3},  {49, 1, -1, kNone}, {46, 0, -1, kNone}};
+  for (const auto& [model, power, input, source] : cases) {
     const auto simulated = std::make_shared<HearingProjector>();
     const auto channel = std::make_shared<FaultChannel>(simulated);
     CPjtInterface projector;

@@ -90,9 +90,9 @@ TEST(SimulatedProjector, SoundIsKeptForEachSourceAndForStandby) {
   SimulatedProjector projector;
   EXPECT_EQ(Replies(projector, {Do(Op::SetVolumeEachSrc, kStandby, 5), Get(0x2001),
                                 Do(Op::SetVolumeEachSrc, 2, 30), Do(Op::SetVolumeEachSrc, -1, 30),
-                                Set(0x2000, 2), Inc(0x2001), Do(Op::GetInputSrcVolume, 2),
-                                Do(Op::GetInputSrcVolume, kStandby)}),
-            "5 16 30 - 2 31 31 5");
+                                Do(Op::SetVolumeEachSrc, 256, 30), Set(0x2000, 2), Inc(0x2001),
+                                Do(Op::GetInputSrcVolume, 2), Do(Op::GetInputSrcVolume, kStandby)}),
+            "5 16 30 - - 2 31 31 5");
   EXPECT_EQ(Replies(projector, {Do(Op::SetInputSrcTreble, 3, 130), Do(Op::GetInputSrcTreble, 2),
                                 Do(Op::SetInputSrcBass, 3, 126), Do(Op::GetInputSrcBass, 2),
                                 Do(Op::SetSRSWOW, 3, 2), Do(Op::GetSRSWOW, 2)}),
@@ -122,7 +122,10 @@ TEST(SimulatedModelTest, AHostsDescriptionDefinesTheProjector) {
   data.MySourceList.count = 2;
   data.MySourceList.firstValues = {4, 1};
   data.RangeTexts[RangeIndex::Brightness] = "100, 156";
-  data.RangeTexts[RangeIndex::Contrast] = "9,3";
+  for (const char* const text : {"", ",3", "3, ", "a,3", "3,b", "9,3"}) {
+    data.RangeTexts[RangeIndex::Contrast] = text;
+    EXPECT_FALSE(DescribeModel(data).ranges.contains(Id::Contrast)) << text;
+  }
   SimulatedModel model = DescribeModel(data);
   model.missing = {Id::Tint};
   SimulatedProjector projector(model);

@@ -3,7 +3,6 @@
 #include <map>
 #include <memory>
 #include <random>
-#include <utility>
 #include <vector>
 
 #include "app/profiles/ProjectorAccess.h"

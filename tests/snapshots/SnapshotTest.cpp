@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/profiles/SettingsFile.h"
 #include "settings/CatalogNumbers.h"
 #include "tests/snapshots/DisturbedProjector.h"
 
@@ -124,6 +125,21 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   EXPECT_EQ(ReadSnapshot(text.leftJustified(kMost + 1)).error, "is larger than 4 MiB");
 }
 
+TEST(SettingsFile, TellsWhatIsWrongAndWhere) {
+  Snapshot snapshot;
+  snapshot.beforehand = {{"other.input-source", 2, "B", {}}};
+  const QByteArray good = WriteSnapshot(snapshot);
+  const auto error = [&good](const char* part, const char* instead) {
+    const QByteArray text = QByteArray(good).replace(part, instead);
+    return ParseSettingsFile(text, "f").error.section(": ", 1).toStdString();
+  };
+  EXPECT_EQ(error("2", "2, \"value\": 2"), "other.input-source: beforehand[0].value is here twice");
+  EXPECT_EQ(error("\"model\":", "\"model\": {}, \"model\":"), "model is here twice");
+  EXPECT_EQ(ParseSettingsFile("\xEF\xBB\xBF" + good, "f").error, "");
+  EXPECT_EQ(error("B", "\x01"), "control character in a text");
+  EXPECT_EQ(FileNameOf("Room 1/2-\xC3\xA4"), QString("Room_1_2-\u00E4"));
+}
+
 TEST(Snapshot, StopsOnRequest) {
   ConnectedProjector target(Profiles().front());
   int steps = 0;
@@ -140,30 +156,13 @@ TEST(SettingTexts, ParsesTypedValues) {
     int from = 0;
   };
   const std::pair<const char*, std::vector<Typed>> kCases[] = {
-      {"picture.brightness",
-       {{"5", 133},
-        {"=-31", 97},
-        {"32", {}},
-        {"", {}},
-        {"5x", {}},
-        {"99999999999", {}},
-        {"2147483647", {}},
-        {"-2147483648", {}}}},
+      {"picture.brightness", {{"5", 133}, {"=-31", 97}, {"32", {}}, {"", {}}, {"5x", {}}}},
+      {"picture.brightness", {{"99999999999", {}}, {"2147483647", {}}, {"-2147483648", {}}}},
       {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
       {"picture.sharpness", {{"4", 128}}},
-      {"picture.active-iris",
-       {{"theater", 16},
-        {"影院", 16},
-        {"kino", 16},
-        {"シアター", 16},
-        {"17", 17},
-        {"1", {}},
-        {"+1", 16, 0},
-        {"+1", {}, 17},
-        {"-1", {}, 0},
-        {"-1", 0, 16},
-        {"standby", {}},
-        {"+1", {}, 99}}},
+      {"picture.active-iris", {{"theater", 16}, {"影院", 16}, {"kino", 16}, {"シアター", 16}}},
+      {"picture.active-iris", {{"17", 17}, {"1", {}}, {"standby", {}}, {"+1", 16, 0}}},
+      {"picture.active-iris", {{"+1", {}, 17}, {"-1", {}, 0}, {"-1", 0, 16}, {"+1", {}, 99}}},
       {"setup.mirror", {{"H&V Inverse", 3}}},
   };
   for (const auto& [key, cases] : kCases) {

@@ -104,18 +104,6 @@ int CountedMain(int argc, char** argv, char** environment) {
   return result;
 }
 
-int OpenAs(const char* name, const char* path, int flags, mode_t mode) {
-  if (IsTheCall() && how != "cut") {
-    errno = how == "interrupt" ? EINTR : EMFILE;
-    return -1;
-  }
-  return Real<int(const char*, int, ...)>(name)(path, flags, mode);
-}
-
-mode_t ModeOf(int flags, std::va_list& arguments) {
-  return (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
-}
-
 }  // namespace
 
 extern "C" {
@@ -145,18 +133,13 @@ void* realloc(void* block, std::size_t size) {
 int open(const char* path, int flags, ...) {
   std::va_list arguments;
   va_start(arguments, flags);
-  const mode_t mode = ModeOf(flags, arguments);
+  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  return OpenAs("open", path, flags, mode);
+  return Call<int>("open", EMFILE, path, flags, mode);
 }
 
-int open64(const char* path, int flags, ...) {
-  std::va_list arguments;
-  va_start(arguments, flags);
-  const mode_t mode = ModeOf(flags, arguments);
-  va_end(arguments);
-  return OpenAs("open64", path, flags, mode);
-}
+// Every file may be large.
+int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
 ssize_t read(int file, void* bytes, std::size_t size) {
   return Transfer("read", EIO, file, bytes, size);

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QMap>
 #include <QProcess>
+#include <QTcpSocket>
 #include <gtest/gtest.h>
 
 // Runs programs as separate processes, and reads the files that they write.
@@ -55,6 +56,15 @@ class SimulatorProcess {
 
   /// The address that it reports for "tcp", "serial", "pjlink" or "control".
   QString Address(const char* transport) const { return addresses_.value(transport); }
+
+  /// Its answer to a line at the address for "control".
+  std::string Control(const QByteArray& line) const {
+    QTcpSocket control;
+    control.connectToHost("127.0.0.1", Address("control").section(':', 1).toUShort());
+    control.write(line + '\n');
+    EXPECT_TRUE(control.waitForReadyRead(60'000)) << line.data();
+    return control.readLine().trimmed().toStdString();
+  }
 
  private:
   bool IsReady(const QStringList& arguments) {

@@ -133,7 +133,8 @@ void* realloc(void* block, std::size_t size) {
 int open(const char* path, int flags, ...) {
   std::va_list arguments;
   va_start(arguments, flags);
-  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  const bool isNew = (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
+  const mode_t mode = isNew ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
   return Call<int>("open", EMFILE, path, flags, mode);
 }

@@ -25,9 +25,9 @@ iovec Bytes(const char* text) { return {const_cast<char*>(text), std::strlen(tex
 // Qt uses some memory without checking whether it was allocated.
 void OnFault(int signal, siginfo_t* fault, void*) {
   constexpr std::uintptr_t kNearNull = 65536;
+  const auto address = reinterpret_cast<std::uintptr_t>(fault->si_addr);
   // unreachable: the process ends here, and can report nothing
-  const bool isNearNull =
-      fault->si_code == SEGV_MAPERR && reinterpret_cast<std::uintptr_t>(fault->si_addr) < kNearNull;
+  const bool isNearNull = fault->si_code == SEGV_MAPERR && address < kNearNull;
   // unreachable: as above
   if (isNearNull && errno == ENOMEM) EndOutOfMemory();
   sigaction(signal, &otherFaults, nullptr);  // the earlier handler gets the fault again

@@ -171,6 +171,9 @@ TEST(ProfileFile, OnlyRegularFilesAreOpened) {
   for (const QString& name : {pipe, QStringLiteral("/dev/zero"), folder.path()}) {
     EXPECT_TRUE(ReadProfileList(name).error.endsWith(name + ": not a regular file"));
   }
+  QFile large(folder.filePath("large"));
+  ASSERT_TRUE(large.open(QFile::WriteOnly) && large.resize(1LL << 40));
+  EXPECT_TRUE(ReadProfileList(large.fileName()).error.endsWith("more than 67108864 bytes"));
 }
 
 TEST(ProfileFile, EntryOverridesItsFamilies) {

@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTest>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QTabBar>
 #include <QTemporaryDir>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include "app/desktop/MainWindow.h"

@@ -3,7 +3,6 @@
 #include <csignal>
 #include <string>
 
-#include <QJsonObject>
 #include <gtest/gtest.h>
 
 #include "tests/bridge/BridgeProgram.h"

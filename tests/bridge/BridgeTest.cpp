@@ -8,7 +8,6 @@
 #include <utility>
 #include <vector>
 
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 // Files that are written whole or not at all.
 
 #include <csignal>
-#include <string>
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QTabBar>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include "device/channels/BoundedChannel.h"

@@ -4,7 +4,6 @@
 #include <functional>
 #include <memory>
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>

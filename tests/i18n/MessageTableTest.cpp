@@ -5,7 +5,6 @@
 #include <string>
 #include <sys/stat.h>
 #include <thread>
-#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>

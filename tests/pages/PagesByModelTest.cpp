@@ -177,10 +177,7 @@ void ExpectListed(const std::filesystem::path& file, int type, const QStringList
   }
   const std::string all = (before + found + behind).join("\n\n").toStdString() + '\n';
   if (listed.str() == all) return;
-  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) {
-    std::ofstream(file) << all;
-    return;
-  }
+  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) return void(std::ofstream(file) << all);
   QProcess diff;
   diff.start("diff", {"-U2", "-F^type", QString::fromStdString(file.string()), "-"});
   diff.write(all.c_str());

@@ -2,7 +2,6 @@
 
 #include <tuple>
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QTest>

@@ -1,9 +1,7 @@
 // Every text has room on every page, in every language, at every font size and on small screens.
 
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
-#include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <QTest>

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include <QMessageBox>
-#include <QSlider>
 #include <QString>
 #include <QStringList>
 #include <QTimer>

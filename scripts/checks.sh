@@ -22,15 +22,17 @@ cmake --preset check >/dev/null
 check "Optimised build (build/check): warnings are errors" "cmake --build --preset check"
 # Both mostly wait.
 check "Tests, optimised, and calls that fail" \
-  "scripts/faults.py build/check 15 & ctest --preset check -j $jobs; wait \$!"
+  "scripts/faults.py build/check 15 & ctest --preset check -j $jobs || failed=1; wait \$!; exit \${failed:-0}"
 # The tests of mutants mostly wait.
 check "Mutants of the last changes, and installed library" \
   "scripts/mutate.py --build build/check --changed HEAD~3 --files 'src/*' --sample 40 --seconds 60 --least 70 &
-   cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake; wait \$!"
+   cmake -DBUILD_DIR=$PWD/build/check -DSOURCE_DIR=$PWD -P scripts/CheckInstalled.cmake || failed=1
+   wait \$!; exit \${failed:-0}"
 check "Benchmarks for a moment" \
   "build/check/bin/advanced-control-bench --benchmark_min_time=0.01 --benchmark_filter='OpenDialog/type:5/code:30|RefreshPicture/ms:0' >/dev/null"
 check "clang-tidy over the last changes" "scripts/tidy.py --since HEAD~3"
 cmake --preset tsan >/dev/null
 check "Build under the thread sanitizer (build/tsan)" "cmake --build --preset tsan --target device_tests fleet_tests"
 check "Channels and fleet under the thread sanitizer, and fuzz targets for a moment" \
-  "scripts/fuzz.sh 2 asan & ctest --preset tsan -j $jobs -R '^(device|fleet)_tests'; wait \$!"
+  "scripts/fuzz.sh 2 asan & ctest --preset tsan -j $jobs -R '^(device|fleet)_tests' || failed=1
+   wait \$!; exit \${failed:-0}"

@@ -87,9 +87,10 @@ def check(records):
         count = total[expression]
         shares = [100 * count[kind + 1] / count[kind] if count[kind] else 100 for kind in (0, 2)]
         print(f"{expression:40} {shares[0]:5.1f} % {shares[1]:7.1f} % {count[2] - count[3]:7} {aim:>4} %")
+        files = expression.lstrip("+")
         for what, share, limit in zip(("lines", "branches"), shares, limits):
             if share < float(limit):
-                print(f"{expression}: {what} are below {limit} %: scripts/coverage.py {sys.argv[1]} '{expression}'")
+                print(f"{expression}: {what} are below {limit} %: scripts/coverage.py {sys.argv[1]} '{files}'")
                 fits = False
     return fits
 

@@ -39,7 +39,8 @@ bool WriteAndSync(int file, const QByteArray& line) {
 void RemoveOlder(const QString& folder, int days) {
   if (days == 0) return;
   const QDateTime oldest = QDateTime::currentDateTimeUtc().addDays(-days);
-  for (const QFileInfo& file : QDir(folder).entryInfoList({u'*' + kSuffix}, QDir::Files)) {
+  for (const QFileInfo& file :
+       QDir(folder).entryInfoList({u'*' + kSuffix, kUnfinishedFiles}, QDir::Files | QDir::Hidden)) {
     if (file.lastModified() < oldest) QFile::remove(file.filePath());
   }
 }

@@ -38,12 +38,13 @@ int OpenLocked(const QString& path) {
     if (file < 0) return -1;
     auto lock = Lock();
     struct stat status {};
+    const bool isLocked = fcntl(file, F_SETLK, &lock) == 0;
     // unreachable: an open file has a status
-    const bool isHeld = fcntl(file, F_SETLK, &lock) == 0 && fstat(file, &status) == 0;
+    const bool isHeld = fstat(file, &status) == 0 && isLocked;
     // unreachable: the previous simulator would have to remove it just now
     if (isHeld && status.st_nlink > 0) return file;
     close(file);
-    if (!isHeld) return -1;  // unreachable: as above
+    if (!isHeld) return -1;
   }
 }
 

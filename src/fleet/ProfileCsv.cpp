@@ -227,8 +227,7 @@ bool Importer::Take(const Cells& cells) {
   if (const QString wrong = checker_.Check(entry); !wrong.isEmpty()) throw WrongRow{wrong};
   const QString newName = entry["name"].toString();
   const auto named = byName_.find(newName);
-  // unreachable: `Find` knows every name
-  if (named != byName_.end() && (!known || named->second != *known)) {
+  if (named != byName_.end() && named->second != known) {
     throw WrongRow{ProfileCsv::tr("\"%1\" is the name of another projector").arg(newName)};
   }
   if (!known) {

@@ -257,7 +257,8 @@ ProfileFileText ReadProfileText(const QString& fileName) {
     text += piece;
     if (text.size() > kLimits.bytes) break;
   }
-  return {text, {}};
+  return file.error() == QFile::NoError ? ProfileFileText{text, {}}
+                                        : cannotRead(file.errorString());
 }
 
 QString WriteProfileText(const QString& fileName, const QByteArray& text) {

@@ -72,25 +72,19 @@ bool SyncFolderOf(const QString& path) {
   return Sync(folder.Number());
 }
 
-/// Opens a file that has no name. It can get one by way of /proc. Not every file system knows such
-/// files.
-int OpenNameless(const QString& folder, mode_t mode) {
-  return access("/proc/self/fd", X_OK) == 0 ? Open(folder, O_WRONLY | O_TMPFILE, mode) : -1;
-}
-
-/// A file beside the place where it is to appear. It has no name until then if it can do without,
-/// so that nothing remains if the program is killed. Removed with this if it does not appear.
+/// A file without a name of its own yet, beside the place where it is to appear. Removed with this
+/// if it does not.
 class StagedFile {
  public:
   /// With these permissions, or those of a new file.
   StagedFile(const QString& place, std::optional<mode_t> permissions)
-      : ownName_(QFile::encodeName(QFileInfo(place).dir().filePath(
+      : path_(QFileInfo(place).dir().filePath(
             QStringLiteral(".advanced-control-%1")
-                .arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0'))))),
-        file_(OpenIn(QFileInfo(place).path(), permissions ? kOwnerOnly : kNewFile)),
+                .arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0')))),
+        file_(Open(path_, O_WRONLY | O_CREAT | O_EXCL, permissions ? kOwnerOnly : kNewFile)),
         isThere_(file_.IsOpen() && (!permissions || fchmod(file_.Number(), *permissions) == 0)) {}
   ~StagedFile() {
-    if (isNamed_) unlink(ownName_.constData());
+    if (file_.IsOpen() && !isNamed_) unlink(Encoded().constData());
   }
   StagedFile(const StagedFile&) = delete;
   StagedFile& operator=(const StagedFile&) = delete;
@@ -101,44 +95,29 @@ class StagedFile {
     return isThere_ && WriteAll(file_.Number(), bytes) && Sync(file_.Number());
   }
   bool Replace(const QString& place) {
-    isNamed_ = isNamed_ || TakeName(ownName_);  // what replaces a file needs a name
-    if (!isNamed_ || rename(ownName_.constData(), QFile::encodeName(place).constData()) != 0) {
-      return false;
-    }
-    isNamed_ = false;
-    return SyncFolderOf(place);
+    isNamed_ = rename(Encoded().constData(), QFile::encodeName(place).constData()) == 0;
+    return isNamed_ && SyncFolderOf(place);
   }
   /// False with EEXIST where somebody has the name.
   bool TakeNewName(const QString& place) {
     const QByteArray name = QFile::encodeName(place);
-    if (!isNamed_) return TakeName(name);
-    if (renameat2(AT_FDCWD, ownName_.constData(), AT_FDCWD, name.constData(), RENAME_NOREPLACE) ==
-        0) {
-      isNamed_ = false;
-      return true;
+    isNamed_ = renameat2(AT_FDCWD, Encoded().constData(), AT_FDCWD, name.constData(),
+                         RENAME_NOREPLACE) == 0;
+    // Some file systems only know the older way.
+    if (!isNamed_ && (errno == EINVAL || errno == ENOSYS) &&
+        link(Encoded().constData(), name.constData()) == 0) {
+      isNamed_ = unlink(Encoded().constData()) == 0;
     }
-    // Some file systems only know the older way, which leaves its own name to be removed.
-    return (errno == EINVAL || errno == ENOSYS) &&
-           link(ownName_.constData(), name.constData()) == 0;
+    return isNamed_;
   }
 
  private:
-  int OpenIn(const QString& folder, mode_t mode) {
-    if (const int nameless = OpenNameless(folder, mode); nameless >= 0) return nameless;
-    const int named =
-        open(ownName_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, mode);
-    isNamed_ = named >= 0;
-    return named;
-  }
-  bool TakeName(const QByteArray& name) {
-    const QByteArray open = "/proc/self/fd/" + QByteArray::number(file_.Number());
-    return linkat(AT_FDCWD, open.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0;
-  }
+  QByteArray Encoded() const { return QFile::encodeName(path_); }
 
-  bool isNamed_ = false;  ///< By its own name.
-  const QByteArray ownName_;
+  const QString path_;
   const Descriptor file_;
   const bool isThere_;
+  bool isNamed_ = false;
 };
 
 bool IsDevice(const QString& path) {

@@ -34,6 +34,10 @@ struct NewFile {
 /// its name when all of it is on the disk.
 PROJECTOR_FLEET_EXPORT NewFile WriteNewFile(const QString& path, const QByteArray& bytes);
 
+/// The names of files that were being written when their program was killed, as a wildcard. They
+/// are hidden, and nothing reads them.
+inline constexpr char kUnfinishedFiles[] = ".advanced-control-*";
+
 struct FileBytes {
   QByteArray bytes;
   QString error;  ///< The system's message; empty on success.

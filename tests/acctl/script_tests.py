@@ -143,11 +143,13 @@ class Runs(Building):
         undo = self.folder / "state/advanced-control/undo"
         undo.mkdir(parents=True)
         (undo / "notes.txt").write_text("not ours")
+        (undo / ".advanced-control-0123456789abcdef").write_text("of a run that was killed")
         for days, left in ((30, 1), (2, 2), (0, 3), (1, 1)):  # 0 keeps all
             self.acctl("set", "Office", "brightness+=1", ACCTL_UNDO_DAYS=str(days))
             self.assertEqual(len(self.json("undo", "--list")["runs"]), left, days)
             for file in undo.iterdir():
                 os.utime(file, (time.time() - 1.5 * 86400,) * 2)
+        self.assertEqual(len(list(undo.iterdir())), 2, "notes.txt and the last run")
         self.assertTrue((undo / "notes.txt").exists())
 
     def test_a_run_that_cannot_be_read_is_never_passed_over(self):

@@ -34,7 +34,7 @@ TEST(Servers, EndConnectionsOfWhoSaysNothingOrDoesNotRead) {
   const LineFault neverSends{.kind = LineFault::Kind::Late, .amount = 3'600'000};
   std::string hello;
   Wire::Append(hello, {1, Wire::Hello{}});
-  WireServer impatient(projector, 100ms);
+  WireServer impatient(projector, 1s);
   const int port = impatient.Listen(QHostAddress::LocalHost, 0);
   const Client polite(port, hello), silent(port, "");
   EXPECT_TRUE(silent.EndsSoon());

@@ -8,7 +8,7 @@
 //   FAIL_LATER=1       the two above count from the program's call of BeginFailing to EndFailing
 //   FAIL_SYNC=WHAT     fsync of each "file" or "folder"; with "kill" the program dies in the first
 //   FAIL_NEW_NAME=N    renaming that never replaces a file, with the error number N: EINVAL on a
-//                      file system that does not know it; files without a name do not exist then
+//                      file system that does not know it
 //   FAIL_ACCEPT=N      the first N connections that are accepted, as if their peers had left
 
 #include <algorithm>
@@ -133,13 +133,8 @@ void* realloc(void* block, std::size_t size) {
 int open(const char* path, int flags, ...) {
   std::va_list arguments;
   va_start(arguments, flags);
-  const bool isNameless = (flags & O_TMPFILE) == O_TMPFILE;
-  const mode_t mode = isNameless || (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  if (isNameless && Number("FAIL_NEW_NAME") != 0) {
-    errno = EOPNOTSUPP;
-    return -1;
-  }
   return Call<int>("open", EMFILE, path, flags, mode);
 }
 
@@ -179,9 +174,6 @@ int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
     return -1;
   }
   return Call<int>("renameat2", EIO, fromFolder, from, toFolder, to, flags);
-}
-int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
-  return Call<int>("linkat", EIO, fromFolder, from, toFolder, to, flags);
 }
 
 int fsync(int file) {

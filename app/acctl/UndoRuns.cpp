@@ -69,7 +69,7 @@ QString MarkUndone(const RecordedRun& run) {
   if (run.isOfJob) return {};
   const int file = open(QFile::encodeName(run.path).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
   const bool isWritten = file >= 0 && WriteAndSync(file, UndoneLine());
-  const QString error = isWritten ? QString() : QString::fromLocal8Bit(std::strerror(errno));
+  QString error = isWritten ? QString() : QString::fromLocal8Bit(std::strerror(errno));
   if (file >= 0) close(file);
   return error;
 }

@@ -146,7 +146,7 @@ TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
   for (int i = 1; i <= 1000; ++i) many += ", \"" + std::to_string(i) + "\": {}";
   const WrongFile tooMuch[] = {
       {Repeat("{\"a\":", 1000), "p.json:1:81: nested more than 16 deep"},
-      {"[" + std::string(67'108'864, ' '), "p.json:1:1: more than 67108864 bytes"},
+      {"[" + QByteArray(67'108'864, ' ').toStdString(), "p.json:1:1: more than 67108864 bytes"},
       {"[\n" + Repeat("1,", 5'000'001), "p.json:2:9999998: more than 5000000 values"},
       {"[\"" + Repeat("a", 2048) + "\"]", "p.json:1: the file must hold an object"},
       {"[\"" + Repeat("a", 2049) + "\"]", "p.json:1:2: text of more than 2048 bytes"},

@@ -224,7 +224,7 @@ TEST(MessageTable, RefusesDamagedModules) {
     TestModule many = m;
     const auto moved = static_cast<std::uint32_t>(m.bytes.size());
     for (std::size_t i = header; i < section; ++i) many.bytes.push_back(m.bytes[i]);
-    many.bytes.resize(many.bytes.size() + 40 * (sections - 1));
+    many.bytes.resize(many.bytes.size() + 40UL * (sections - 1));
     for (std::size_t i = 0; i < 40; ++i) many.bytes.push_back(m.bytes[section + i]);
     many.Put32(0x3C, moved);
     many.Put16(moved + 6, sections);

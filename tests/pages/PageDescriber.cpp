@@ -2,9 +2,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QHoverEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QToolButton>
 
 #include "device/channels/LoggingChannel.h"
 #include "toolkit/CComboBox.h"
@@ -97,7 +99,7 @@ class PageDescriber {
     }
     if (control.kind == Combo) return "    list " + id + DescribeList(control.id);
     if (control.kind == Slider) return "    slider " + id + DescribeSlider();
-    if (control.kind == Field) return "    field " + id + '\n';
+    if (control.kind == Field) return "    field " + id + '\n' + DescribeReset(control.id);
     if (control.kind == Colon || control.kind == Text || control.kind == Close) return {};
     return "    " + caption + ' ' + id + DescribeButton(control);
   }
@@ -154,6 +156,16 @@ class PageDescriber {
     }
     text += Shown(*row_).empty() ? "\n" : " →" + Shown(*row_) + '\n';
     return text + (log.empty() ? "" : Otherwise([&click](bool) { click(); }));
+  }
+
+  // The button beside a number that the mouse is above.
+  std::string DescribeReset(int field) {
+    const QPointF at = page_.GetDlgItem(field)->geometry().center();
+    QHoverEvent above(QEvent::HoverMove, at, at, at);
+    QApplication::sendEvent(&page_, &above);
+    const auto buttons = page_.findChildren<QToolButton*>();
+    const auto shown = std::ranges::find_if(buttons, &QWidget::isVisible);
+    return shown == buttons.end() ? "" : "    ↺:" + Log([&] { (*shown)->click(); }) + '\n';
   }
 
   // What the same action does if the projector ignores or refuses it.

@@ -188,7 +188,7 @@ void ExpectListed(const std::filesystem::path& file, int type, const QStringList
 
 class PagesByModel : public testing::TestWithParam<int> {};
 
-INSTANTIATE_TEST_SUITE_P(Type, PagesByModel, testing::Values(1, 2, 3, 4, 5),
+INSTANTIATE_TEST_SUITE_P(Type, PagesByModel, testing::Range(1, 6),
                          testing::PrintToStringParamName());
 
 TEST_P(PagesByModel, MatchTheListing) {

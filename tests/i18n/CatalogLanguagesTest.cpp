@@ -69,8 +69,8 @@ TEST(CatalogLanguages, HaveALocale) {
 
 // The captions of a language; those that it lacks are empty.
 std::vector<std::optional<std::string>> Captions(const CatalogTexts& texts, std::uint32_t id) {
-  std::vector<std::optional<std::string>> captions;
-  for (int i = 0; i < 400; ++i) captions.push_back(texts.Find(id, 4, i));
+  std::vector<std::optional<std::string>> captions(400);
+  for (int number = 0; auto& caption : captions) caption = texts.Find(id, 4, number++);
   return captions;
 }
 

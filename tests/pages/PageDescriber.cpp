@@ -21,17 +21,16 @@ class Outcomes {
  public:
   void Add(const std::string& name, const std::string& outcome) {
     const auto same = std::ranges::find(outcomes_, outcome, &Outcome::second);
-    if (same == outcomes_.end()) {
-      outcomes_.emplace_back(name, outcome);
-    } else {
-      same->first += ", " + name;
-    }
+    if (same != outcomes_.end()) return void(same->first += ", " + name);
+    outcomes_.emplace_back(name, outcome);
   }
   bool Differ() const { return outcomes_.size() > 1; }
   /// The cases in the order in which they were added.
   std::string Text(const std::string& before, const std::string& after) const {
     std::string text;
-    for (const auto& [names, outcome] : outcomes_) text += before + names + ':' + outcome + after;
+    for (const auto& [names, outcome] : outcomes_) {
+      text.append(before).append(names).append(":").append(outcome).append(after);
+    }
     return text;
   }
 

@@ -210,7 +210,7 @@ TEST_P(PagesByModel, MatchTheListing) {
     QStringList found;
     for (const auto& [row, forms] : rows) {
       std::string text = "type " + std::to_string(type) + ", " + row.second + '\n';
-      for (const auto& [form, codes] : forms) text += "  codes" + codes + '\n' + form;
+      for (const auto& [form, codes] : forms) (((text += "  codes") += codes) += '\n') += form;
       found << QString::fromStdString(WithTexts(text)).trimmed();
     }
     ExpectListed(folder / (name + ".txt"), type, found);

@@ -107,7 +107,7 @@ void Open(CAdvanceDlg& dialog, const CModelInfo2& model,
 }
 
 OpenDialog::OpenDialog(const CModelInfo2& model, int tab,
-                       std::function<void(RecordingChannel&)> script) {
+                       const std::function<void(RecordingChannel&)>& script) {
   if (script) script(*projector_);
   Open(dialog_, model, projector_);
   if (tab != 0) SelectTab(tab);

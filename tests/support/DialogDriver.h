@@ -63,7 +63,7 @@ class OpenDialog {
  public:
   /// `tab` is selected after opening; the commands sent until then are forgotten.
   explicit OpenDialog(const CModelInfo2& model, int tab = 0,
-                      std::function<void(RecordingChannel&)> script = {});
+                      const std::function<void(RecordingChannel&)>& script = {});
 
   CAdvanceDlg& Dialog() { return dialog_; }
   RecordingChannel& Projector() { return *projector_; }

@@ -79,8 +79,8 @@ class StagedFile {
   /// With these permissions, or those of a new file.
   StagedFile(const QString& place, std::optional<mode_t> permissions)
       : path_(QFileInfo(place).dir().filePath(
-            QStringLiteral(".advanced-control-%1")
-                .arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0')))),
+            QString(kUnfinishedFiles)
+                .replace('*', QString::number(QRandomGenerator::system()->generate64(), 16)))),
         file_(Open(path_, O_WRONLY | O_CREAT | O_EXCL, permissions ? kOwnerOnly : kNewFile)),
         isThere_(file_.IsOpen() && (!permissions || fchmod(file_.Number(), *permissions) == 0)) {}
   ~StagedFile() {

@@ -36,6 +36,7 @@ int Open(int type, std::uint16_t port) {
   address.sin_port = htons(port);
   SetOption(made, SOL_SOCKET, SO_REUSEADDR);
   const bool isBound =
+      // unreachable: a system without a loopback device runs no tests
       setsockopt(made, SOL_SOCKET, SO_BINDTODEVICE, kLoopback, sizeof kLoopback) == 0 &&
       bind(made, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
   return isBound ? made : CloseFailed(made);
@@ -45,6 +46,7 @@ int Listen(std::uint16_t port) {
   const int made = Open(SOCK_STREAM, port);
   if (made < 0) return made;
   SetOption(made, IPPROTO_TCP, TCP_NODELAY);  // connections inherit it
+  // unreachable: another program would have to listen at the port just now
   return listen(made, kWaiting) == 0 ? made : CloseFailed(made);
 }
 

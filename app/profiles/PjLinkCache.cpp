@@ -54,14 +54,14 @@ PjLinkFacts ReadPjLinkCache(const std::string& address) {
 void WritePjLinkCache(const std::string& address, const PjLinkFacts& facts) {
   QJsonArray inputs;
   for (const PjLinkInput& input : facts.inputs) {
-    const auto code = PjLink::InputCode(input.number);
-    if (!code || input.name.size() > static_cast<std::size_t>(kLongestName)) return;
-    inputs.append(QJsonObject{{"code", QString::fromStdString(*code)},
+    const std::string code = PjLink::InputCode(input.number).value_or("");
+    inputs.append(QJsonObject{{"code", QString::fromStdString(code)},
                               {"name", QString::fromStdString(input.name)}});
   }
   const QJsonObject json{{"version", kVersion},
                          {"asked", QDateTime::currentSecsSinceEpoch()},
                          {"class", QString(QLatin1Char(facts.protocolClass.value_or('1')))},
                          {"inputs", inputs}};
-  if (QDir().mkpath(Folder())) WriteWholeFile(PathOf(address), QJsonDocument(json).toJson());
+  QDir().mkpath(Folder());
+  WriteWholeFile(PathOf(address), QJsonDocument(json).toJson());
 }

@@ -44,6 +44,7 @@ int OpenLocked(const QString& path) {
     // unreachable: the previous simulator would have to remove it just now
     if (isHeld && status.st_nlink > 0) return file;
     close(file);
+    // unreachable: the same
     if (!isHeld) return -1;
   }
 }

@@ -1,5 +1,6 @@
 #include "app/profiles/Translations.h"
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -35,8 +36,8 @@ namespace {
 };
 
 /// The folder with a file for each language; empty if there is none.
-QString TranslationsFolder() {
-  for (const std::string& folder : CatalogFolders()) {
+QString TranslationsFolder(std::span<const std::string> folders) {
+  for (const std::string& folder : folders) {
     const QString found = QString::fromStdString(folder) + QStringLiteral("/translations");
     if (!folder.empty() && QFileInfo::exists(found + QStringLiteral("/en.qm"))) return found;
   }
@@ -61,6 +62,10 @@ std::optional<QString> FileNameOf(const QString& folder, std::uint32_t languageI
 }  // namespace
 
 void InstallTranslations(std::uint32_t languageId) {
+  InstallTranslations(languageId, CatalogFolders());
+}
+
+void InstallTranslations(std::uint32_t languageId, std::span<const std::string> folders) {
   static QTranslator english;  // its plurals
   static QTranslator toolkit;
   static QTranslator program;
@@ -69,7 +74,7 @@ void InstallTranslations(std::uint32_t languageId) {
   }
   const QLocale locale(QString::fromStdString(LocaleOf(languageId)));
   QLocale::setDefault(locale);
-  const QString folder = TranslationsFolder();
+  const QString folder = TranslationsFolder(folders);
   const auto install = [](QTranslator& translator, const QString& name, const QString& place) {
     if (translator.load(name, place)) QCoreApplication::installTranslator(&translator);
   };

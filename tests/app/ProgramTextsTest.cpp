@@ -25,6 +25,7 @@
 #include "i18n/SystemLanguage.h"
 #include "tests/app/Windows.h"
 #include "tests/support/Ink.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
@@ -197,6 +198,15 @@ TEST(ProgramTexts, OfQtAreInTheLanguageOfTheProgramForARegionToo) {
   }
   InstallTranslations(0x042A);  // Vietnamese, which has no texts: none of the last language stays
   EXPECT_EQ(inQt("QPlatformTheme", "Cancel"), "Cancel");
+  const QTemporaryDir folder;
+  const std::string folders[] = {"", folder.path().toStdString()};
+  ASSERT_TRUE(QDir(folder.path()).mkdir("translations"));
+  for (const char* const name : {"nobodys", "en"}) {
+    Write(folder.filePath(QStringLiteral("translations/%1.qm").arg(name)), "");
+    InstallTranslations(LanguageIdOf("de").value(), folders);
+    EXPECT_EQ(inQt("QPlatformTheme", "Cancel"), "Abbrechen") << "from Qt";
+    EXPECT_EQ(inQt("SettingsFile", "standard input"), "standard input") << "there are no texts";
+  }
   InstallTranslations(kEnglishUnitedStates);
 }
 

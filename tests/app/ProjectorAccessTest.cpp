@@ -113,6 +113,12 @@ TEST_F(PjLinkAccess, AsksOnlyWhatTheCommandNeedsAndRemembersTheModel) {
   EXPECT_EQ(Asked(listsInputs), "CLSS, INST, INNM ?31, INNM ?32, INNM ?5A, POWR");
   Write(CacheFile(), Contents(CacheFile()).replace("\"asked\": ", "\"asked\": 1, \"was\": "));
   EXPECT_EQ(Asked(showsInput), "CLSS, INPT, INNM ?31") << "too old";
+  Asked(listsInputs);
+  const QByteArray kept = Contents(CacheFile());
+  projector_.facts = {{"CLSS", "1"}};
+  projector_.states["INPT"] = "11";
+  Asked([](ProjectorAccess& access) { access.AskForInputs(InputsNeeded::Present); });
+  EXPECT_EQ(Contents(CacheFile()), kept) << "no list in place of one";
 }
 
 TEST_F(PjLinkAccess, ReportsInputsThatCouldNotBeRead) {
@@ -123,6 +129,10 @@ TEST_F(PjLinkAccess, ReportsInputsThatCouldNotBeRead) {
     EXPECT_FALSE(access.Channel().IsGone());
   });
 }
+
+struct Silent final : ProjectorChannel {
+  PjtReply Execute(const PjtCommand&) override { return {.answered = false}; }
+};
 
 TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
   constexpr PjLinkChannel::Limits kShort{.connect = std::chrono::milliseconds(100)};
@@ -135,6 +145,9 @@ TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
   ProjectorAccess other(ProfileOf(0, 0), nobody, kShort.connect);
   EXPECT_TRUE(other.Connection().Execute({PjtOperation::Inc, 0x2001}).unsent);
   EXPECT_TRUE(other.Channel().IsGone()) << "it was never there";
+  ProjectorAccess simulated(ProfileOf(0, 0), std::make_shared<Silent>(), kShort.connect);
+  EXPECT_FALSE(simulated.Connection().Execute({PjtOperation::Inc, 0x2001}).answered);
+  EXPECT_TRUE(simulated.Channel().IsGone()) << "the same";
 }
 
 }  // namespace

@@ -1,8 +1,14 @@
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdint>
+#include <netinet/in.h>
 #include <optional>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <QLabel>
 #include <QTabBar>
@@ -11,6 +17,8 @@
 
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/projectors/ProjectorView.h"
+#include "app/profiles/LoopbackSocket.h"
+#include "app/profiles/SimulatorNotice.h"
 #include "device/Connect.h"
 #include "device/channels/BoundedChannel.h"
 #include "fleet/ProfileFile.h"
@@ -34,6 +42,22 @@ constexpr char kName[] = "Projector 5-30";
 QString CurrentInput(const CAdvanceDlg& dialog) {
   return dialog.Page(PageId::Status).GetDlgItem(20009)->property("text").toString();
 }
+
+/// Allows the process nothing of a resource while it exists.
+class Limited {
+ public:
+  explicit Limited(__rlimit_resource_t resource) : resource_(resource) {
+    signal(SIGXFSZ, SIG_IGN);
+    getrlimit(resource_, &before_);
+    const rlimit none{0, before_.rlim_max};
+    setrlimit(resource_, &none);
+  }
+  ~Limited() { setrlimit(resource_, &before_); }
+
+ private:
+  const __rlimit_resource_t resource_;
+  rlimit before_{};
+};
 
 class SimulatorTest : public testing::Test {
  protected:
@@ -158,6 +182,31 @@ TEST(SimulatorPorts, NoneExceedsTheLastPort) {
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_EQ(outcome.output, "");
   EXPECT_NE(outcome.errors.find("no ports are left"), std::string::npos) << outcome.errors;
+}
+
+TEST(SimulatorPorts, AreOpenedOrGiveTheReason) {
+  const int held = LoopbackSocket::Listen(0);
+  sockaddr_in place{};
+  socklen_t size = sizeof place;
+  getsockname(held, reinterpret_cast<sockaddr*>(&place), &size);
+  EXPECT_EQ(LoopbackSocket::Listen(ntohs(place.sin_port)), -1);
+  EXPECT_EQ(errno, EADDRINUSE);
+  close(held);
+  const Limited none(RLIMIT_NOFILE);
+  EXPECT_EQ(LoopbackSocket::Listen(0), -1);
+  EXPECT_EQ(errno, EMFILE);
+}
+
+TEST(SimulatorPorts, AreNotPublishedOnAFullDisk) {
+  const QTemporaryDir folder;
+  qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+  const ServedAddresses served{{kName, "tcp://127.0.0.1:4400"}};
+  {
+    const Limited none(RLIMIT_FSIZE);
+    const SimulatorNotice untold("profiles.json", served);
+    EXPECT_TRUE(FindServed("profiles.json").empty());
+  }
+  qunsetenv("XDG_RUNTIME_DIR");
 }
 
 TEST(Dialog, ConnectsByItselfAndNeedsAtMostTwoRoundTripsPerPage) {

@@ -202,22 +202,26 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
 }
 
 TEST(WireChannelTest, NoiseOnAnIdleConnectionEndsIt) {
-  std::atomic<bool> isRead = false;
-  const auto noise = Answers([&](End& end, const std::string& answer) {
-    end.Send(answer);
-    if (answer.size() < kReplySize) return;
-    isRead.wait(false);
-    end.Send("noise");
-  });
-  const Peer peer(Transport::Tcp, {noise, kServes});
-  const auto channel = ChannelTo(peer);
-  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
-  EXPECT_TRUE(channel->TendConnection(0ms));
-  isRead = true;
-  isRead.notify_all();
-  EXPECT_TRUE(Soon([&] { return !channel->TendConnection(0ms); }));
-  EXPECT_EQ(channel->Connection(), Unused);
-  EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
+  const std::string late = FrameBytes({0x7FFF, Wire::Reply{Wire::Status::Answered, 1, 6}}, 100'000);
+  for (const int times : {1, 1000}) {
+    std::atomic<bool> isRead = false;
+    const auto noise = Answers([&](End& end, const std::string& answer) {
+      end.Send(answer);
+      if (answer.size() < kReplySize) return;
+      isRead.wait(false);
+      for (int i = 0; i < times; ++i) end.Send(times == 1 ? "noise" : late);
+    });
+    Peer peer(Transport::Tcp, {noise, kServes});
+    const auto channel = ChannelTo(peer);
+    EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
+    EXPECT_TRUE(channel->TendConnection(0ms));
+    isRead = true;
+    isRead.notify_all();
+    EXPECT_TRUE(Soon([&] { return !channel->TendConnection(0ms); }));
+    EXPECT_EQ(channel->Connection(), Unused);
+    peer.Finish(1);
+    EXPECT_EQ(Replies(*channel, {Get(5)}), "5");
+  }
 }
 
 enum class Takes { All, Late, Part };

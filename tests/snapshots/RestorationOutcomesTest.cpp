@@ -234,6 +234,19 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
   }
 }
 
+TEST(Restoration, UndoLeavesOutWhatWasSoBeforeTheProjectorWasLost) {
+  ScriptedProjector target(CommandCode::Contrast, true, kSilent);
+  target.script->isOn = [](const Disturbed& inner) { return inner.sent > 0; };
+  target.channel->projector.SetValue(SettingId::Contrast, 130);
+  Snapshot wanted;
+  wanted.beforehand = {{"picture.tint", 131, ""}};
+  wanted.settings = {{"picture.contrast", 130, ""}};
+  const Restoration restoration = target.Restore(wanted);
+  EXPECT_EQ(OutcomesOf(restoration.Beforehand()), Outcomes{Changed});
+  EXPECT_EQ(OutcomesOf(restoration.Settings()), Outcomes{NotReached});
+  EXPECT_TRUE(restoration.Undo("", Texts()).settings.empty());
+}
+
 TEST(Restoration, SkipsWhatTheModelLacksAndStopsOnRequest) {
   ConnectedProjector target(Profile("Projector 5-30"));
   Snapshot snapshot = target.Take();

@@ -69,14 +69,16 @@ TEST(PatientChannel, RepeatsOnlySafeCommandsAndNeverCutsOneShort) {
     expect(one, false);
     expect(one, true);
   }
-  const auto dead = std::make_shared<Unsteady>();
-  dead->does = "l";
-  PatientChannel patient(dead, kTimeOut);
-  EXPECT_FALSE(patient.Execute(kRead).answered || patient.Execute(kRead).answered);
-  EXPECT_EQ(dead->count, 1) << "it has neither greeted nor answered";
-  patient.GiveUpAfter(kTimeOut);
-  patient.Abandon();
-  EXPECT_TRUE(dead->given == kTimeOut && dead->isAbandoned) << "all is passed on";
+  for (const PjtCommand& command : {kRead, kStep}) {
+    const auto dead = std::make_shared<Unsteady>();
+    dead->does = "l";
+    PatientChannel patient(dead, kTimeOut);
+    EXPECT_FALSE(patient.Execute(command).answered || patient.Execute(command).answered);
+    EXPECT_EQ(dead->count, 1) << "it has neither greeted nor answered";
+    patient.GiveUpAfter(kTimeOut);
+    patient.Abandon();
+    EXPECT_TRUE(dead->given == kTimeOut && dead->isAbandoned) << "all is passed on";
+  }
 }
 
 TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {

@@ -64,6 +64,7 @@ void WireRequests::Receive(const Wire::Frame& frame) {
 }
 
 std::optional<Wire::Reply> WireRequests::TakeReply(SessionTime now) {
+  // unreachable: none; the one that is waited for is among them
   if (sent_.empty() || !sent_.front().reply) return std::nullopt;
   const auto reply = sent_.front().reply;
   sent_.erase(sent_.begin());

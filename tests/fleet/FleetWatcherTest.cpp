@@ -72,8 +72,12 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
        "mute, live"},
       {"class 1", says("CLSS", "1"),
        "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, seen, heard"},
-      {"nonsense", says("ERST", "99"),
-       "answers, on, 31 HDMI (31), 1200 h lit, filter 80 h, seen, heard, live"},
+      {"nonsense",
+       [](auto& it) {
+         for (const char* const state : {"POWR", "INPT"}) it.device.states[state] = "9";
+         for (const char* const fact : {"ERST", "LAMP"}) it.device.facts[fact] = "9x";
+       },
+       "answers, filter 80 h, seen, heard, live"},
       {"closes after each reply",
        [](auto& it) {
          it.device.closesAfterReply = 0ms;

@@ -59,14 +59,14 @@ class OneSetting {
     return projector_.Execute(command).result == AcceptedResult(command.operation);
   }
 
-  /// The values that are taken, and what is kept if that is something else: " 1–3 as 0".
+  /// The values that are taken, and what is kept if that is something else: " 1..3 as 0".
   std::string Takes(const std::function<PjtCommand(int)>& with) {
     std::ostringstream text;
     int first = 0, next = kLowest, shift = 0;
     const auto end = [&] {
       if (next == kLowest) return;
       text << ' ' << first;
-      if (next > first + 1) text << "–" << next - 1;
+      if (next > first + 1) text << ".." << next - 1;
       if (shift != 0) text << " as " << first + shift;
     };
     for (int value = kLowest; value < kHighest; ++value) {
@@ -79,7 +79,7 @@ class OneSetting {
       next = value + 1;
     }
     end();
-    return text.str();
+    return next == kLowest ? " nothing" : text.str();
   }
 
   SimulatedProjector projector_;

@@ -6,6 +6,7 @@
 #include <array>
 #include <optional>
 #include <set>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -164,13 +165,10 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
     EXPECT_EQ(StandbySource(OfSource::Playing, model), 15) << model;
   }
 
-  struct Case {
-    int model, power, input;
-    std::optional<int> source;
-  };
   constexpr std::optional<int> kNone;
-  const Case cases[] = {{48, 0, 3, 3}, {49, 0, 3, 15}, {54, 2, 3, 15},     {49, 1, 3, 3},
-                        {50, 3, 3, 3}, {55, 0, 3, 3},  {49, 1, -1, kNone}, {46, 0, -1, kNone}};
+  const std::tuple<int, int, int, std::optional<int>> cases[] = {
+      {48, 0, 3, 3}, {49, 0, 3, 15}, {54, 2, 3, 15},     {49, 1, 3, 3},
+      {50, 3, 3, 3}, {55, 0, 3, 3},  {49, 1, -1, kNone}, {46, 0, -1, kNone}};
   for (const auto& [model, power, input, source] : cases) {
     const auto simulated = std::make_shared<HearingProjector>();
     const auto channel = std::make_shared<FaultChannel>(simulated);
@@ -203,12 +201,8 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
 
 // The result of each step from 10 towards 12; no further step is made.
 TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
-  struct Case {
-    std::vector<Stepped> steps;
-    Sent sent;
-  };
   constexpr Stepped kRefused{.refused = true, .value = 10};
-  const std::vector<Case> cases{
+  const std::vector<std::pair<std::vector<Stepped>, Sent>> cases{
       {{{.value = 11}, {.value = 12}}, Sent::Accepted},
       {{{.value = 11}, {.value = 11}}, Sent::Refused},
       {{{.value = 13}}, Sent::Refused},
@@ -217,14 +211,14 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
       // The step was made, but its answer got lost.
       {{kRefused, kRefused, {.refused = true, .value = 11}, {.value = 12}}, Sent::Accepted},
   };
-  for (const Case& one : cases) {
+  for (const auto& [steps, sent] : cases) {
     std::size_t made = 0;
-    const auto step = [&made, &one](bool upwards, int) {
+    const auto step = [&made, &steps = steps](bool upwards, int) {
       EXPECT_TRUE(upwards);
-      return one.steps.at(made++);
+      return steps.at(made++);
     };
-    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), one.sent) << made;
-    EXPECT_EQ(made, one.steps.size());
+    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), sent) << made;
+    EXPECT_EQ(made, steps.size());
   }
 }
 

@@ -2,8 +2,9 @@
 
 #include <gmock/gmock.h>
 #include <string>
+#include <utility>
 
-#include <gtest/gtest.h>
+#include <QStringConverter>
 
 #include "fleet/Csv.h"
 #include "fleet/ProfileCsv.h"
@@ -15,16 +16,10 @@ namespace {
 using testing::ElementsAre;
 
 QByteArray Utf16(const char* utf8, bool bigEndian, bool marked) {
-  QByteArray bytes;
-  const QString text = QString::fromUtf8(utf8);
-  const auto add = [&](char16_t unit) {
-    const char low = static_cast<char>(unit & 0xFF), high = static_cast<char>(unit >> 8);
-    bytes += bigEndian ? high : low;
-    bytes += bigEndian ? low : high;
-  };
-  if (marked) add(0xFEFF);
-  for (const QChar c : text) add(c.unicode());
-  return bytes;
+  using Flag = QStringConverter::Flag;
+  QStringEncoder encoder(bigEndian ? QStringConverter::Utf16BE : QStringConverter::Utf16LE,
+                         marked ? Flag::WriteBom : Flag::Default);
+  return encoder(QString::fromUtf8(utf8));
 }
 
 // "header | line: cell, cell | … ! line: reason"
@@ -39,10 +34,7 @@ std::string Described(const CsvTable& table) {
   return text.replace('\n', '~').toStdString();
 }
 
-struct Case {
-  QByteArray bytes;
-  const char* expected;
-};
+using Case = std::pair<QByteArray, const char*>;
 
 TEST(Csv, ReadsWhatSpreadsheetsExport) {
   const Case cases[] = {

@@ -67,8 +67,7 @@ ApplySnapshots Saved(const char* key, int value) {
   return {{{"a", std::make_shared<const Snapshot>(std::move(snapshot))}}};
 }
 
-class ProjectorWorkTest : public testing::Test {
- protected:
+struct ProjectorWorkTest : testing::Test {
   WorkResult Do(const FleetWork& work, const std::shared_ptr<UpsetProjector>& projector) {
     const auto model = std::make_shared<ModelData>();
     model->DialogType = 1;

@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QHostAddress>
-#include <gtest/gtest.h>
 
 #include "fleet/SearchDriver.h"
 #include "fleet/SearchRange.h"

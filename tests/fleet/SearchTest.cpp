@@ -3,8 +3,7 @@
 #include <gmock/gmock.h>
 #include <optional>
 #include <string>
-
-#include <gtest/gtest.h>
+#include <utility>
 
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
@@ -20,13 +19,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-struct RangeCase {
-  const char* text;
-  const char* expected;  // number, first and last address, or what is wrong
-};
-
 TEST(SearchRange, IsReadAsPeopleWriteIt) {
-  const RangeCase cases[] = {
+  // The number, the first and the last address, or what is wrong.
+  const std::pair<const char*, const char*> cases[] = {
       {"192.0.2.7", "1 192.0.2.7 192.0.2.7"},
       {"192.0.2.77/24", "254 192.0.2.1 192.0.2.254"},
       {"192.0.2.8/30", "2 192.0.2.9 192.0.2.10"},

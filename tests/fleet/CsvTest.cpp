@@ -111,17 +111,13 @@ TEST(ProfileCsv, TakesTheRowsThatAreRight) {
   EXPECT_EQ(import.added, 2U);
   EXPECT_EQ(import.changed, 2U);
   EXPECT_THAT(import.unused, ElementsAre("Purchased"));
-  std::string faults;
-  for (const CsvFault& fault : import.faults) {
-    faults += std::to_string(fault.line) + ": " + fault.reason.toStdString() + '\n';
-  }
-  EXPECT_EQ(faults,
-            "5: no address '192.0.2'\n"
-            "6: \"radio\" is not a kind of link\n"
-            "7: \"A2\" is the name of another projector, with the identity mac:00:00:5e:00:53:01\n"
-            "8: \"name\" is missing\n"
-            "9: \"connection\" is missing\n"
-            "10: \"many\" is not a number of hours\n");
+  EXPECT_EQ(Described({.header = {}, .rows = {}, .faults = import.faults}),
+            " ! 5: no address '192.0.2'"
+            " ! 6: \"radio\" is not a kind of link"
+            " ! 7: \"A2\" is the name of another projector, with the identity mac:00:00:5e:00:53:01"
+            " ! 8: \"name\" is missing"
+            " ! 9: \"connection\" is missing"
+            " ! 10: \"many\" is not a number of hours");
   const ProfileList list = ParseProfileList(import.text, "p.json");
   ASSERT_EQ(list.error, "");
   ASSERT_EQ(list.profiles.size(), 4U);

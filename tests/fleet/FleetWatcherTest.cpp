@@ -41,6 +41,9 @@ std::string Words(const LiveState& state) {
   return text;
 }
 
+constexpr char kUsual[] =
+    "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
+
 TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
   const auto says = [](const char* command, const char* text) {
     return [=](Projector& it) {
@@ -48,8 +51,7 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
     };
   };
   const std::tuple<const char*, std::function<void(Projector&)>, const char*> cases[] = {
-      {"as usual", [](auto&) {},
-       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
+      {"as usual", [](auto&) {}, kUsual},
       {"in standby", says("POWR", "0"), "answers, standby"},
       {"warming up, when it tells no more",
        [](auto& it) {
@@ -75,7 +77,7 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
          it.device.closesAfterReply = 0ms;
          it.device.gap = 300ms;
        },
-       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
+       kUsual},
       {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
        "answers, on, 31 HDMI (31)"},
       {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
@@ -230,8 +232,6 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
 }
 
 TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
-  const char* const kUsual =
-      "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
   // The visits that follow, besides.
   const std::tuple<FleetNetwork::Notice, const char*, int> cases[] = {
       {{"a", "POWR", "2"},

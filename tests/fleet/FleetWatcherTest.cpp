@@ -232,7 +232,7 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
 }
 
 TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
-  // The visits that follow, besides.
+  // What is noticed, what is told then, and how many visits follow.
   const std::tuple<FleetNetwork::Notice, const char*, int> cases[] = {
       {{"a", "POWR", "2"},
        "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live",

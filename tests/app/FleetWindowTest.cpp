@@ -137,6 +137,17 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; })) << "it came again";
 }
 
+TEST(FleetWindow, ShowsWhatADialogHasRead) {
+  MainWindow window({Profile("A")}, {.interval = 1h});
+  window.show();
+  SimulatedProjector& projector = window.Session(0)->Simulator();
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.answered.has_value(); }));
+  projector.SetValue(SettingId::LampTime, 777);
+  window.OpenDialog(0, 0);
+  EXPECT_TRUE(
+      Soon([&] { return Rows(window)[0].state.lamps == std::vector<LampState>{{.hours = 777}}; }));
+}
+
 TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {
   MainWindow window({Profile("A"), Profile("B")}, kOften);  // not shown: no row is in sight
   const auto& state = Rows(window)[1].state;
@@ -201,7 +212,7 @@ TEST(FleetWindow, TestConnectionSaysWhatAnswers) {
   EXPECT_EQ(said(TcpAddress{.host = "127.0.0.1", .port = 1}), "No answer");
 }
 
-TEST(FleetWindow, ShowsWhatADialogHasReadWhoseConnectionIsLeftToAJobAndMadeAgain) {
+TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
   Served served;
   served.device->Execute({PjtOperation::SetPowerOn});
   FleetProfile profile = Profile("A");
@@ -209,17 +220,13 @@ TEST(FleetWindow, ShowsWhatADialogHasReadWhoseConnectionIsLeftToAJobAndMadeAgain
   profile.connection = {.isNetwork = true, .address = "127.0.0.1", .port = served.wirePort};
   MainWindow window({profile}, {.interval = 1h});
   window.show();
-  const LiveState& state = Rows(window)[0].state;
-  ASSERT_TRUE(Soon([&] { return state.blank == false; }));
-  served.device->Execute({PjtOperation::Set, CommandCode::BlankState, 1});
   window.OpenDialog(0, 0);
-  EXPECT_TRUE(Soon([&] { return state.blank == true; }));
   ProjectorChannel& channel = *window.Session(0)->Channel();
   const auto connection = [&channel] { return channel.Connection(); };
   ASSERT_TRUE(Soon([&] { return connection() == ConnectionState::Connected; }));
   Table(window).selectAll();
   Find<QAction>(window, "Switch Off").trigger();
-  EXPECT_TRUE(Soon([&] { return state.power == PowerState::Standby; }));
+  EXPECT_TRUE(Soon([&] { return Rows(window)[0].state.power == PowerState::Standby; }));
   EXPECT_EQ(connection(), ConnectionState::Unused);
   EXPECT_TRUE(channel.Execute({PjtOperation::GetMirror}).answered);
   EXPECT_EQ(connection(), ConnectionState::Connected);

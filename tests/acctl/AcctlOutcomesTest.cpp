@@ -2,6 +2,7 @@
 // it is interrupted.
 
 #include <csignal>
+#include <tuple>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -22,13 +23,8 @@ TEST(AcctlFile, NamesEveryMistakeByFileLineAndKeyAndSendsNothing) {
   const QString good = folder.filePath("good.json");
   ASSERT_EQ(Acctl({"save", kRoom, good}).exitCode, 0);
   const QByteArray text = Contents(good);
-  const struct {
-    const char* key;
-    const char* member;
-    const char* edited;
-    const char* error;
-    bool isSkipped;
-  } kCases[] = {
+  // Key, member and how it is edited; the error, and whether --lenient skips it.
+  const std::tuple<const char*, const char*, const char*, const char*, bool> kCases[] = {
       {"picture.tint", "key", R"("picture.tnit")",
        ":26: picture.tnit: no model has such a setting; did you mean picture.tint?", true},
       {"picture.tint", "value", "999",

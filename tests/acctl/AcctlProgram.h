@@ -36,7 +36,7 @@ inline Outcome Acctl(const QStringList& arguments, const char* locale = "C",
                      const QString& program = ACCTL_PROGRAM) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("LC_ALL", locale);
-  return Run(program, arguments, environment);
+  return Run(program, arguments, {}, environment);
 }
 
 /// A line of the shell, with the program as "$0" and further arguments from "$1".

@@ -18,10 +18,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
-  const struct {
-    QStringList arguments;
-    const char* error;
-  } kCases[] = {
+  const std::pair<QStringList, const char*> kCases[] = {
       {{}, "a command is missing"},
       {{"fly"}, "there is no command 'fly'"},
       {{"--fast", "list"}, "there is no option --fast"},

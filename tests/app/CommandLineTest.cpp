@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <gmock/gmock.h>
+#include <utility>
 
 #include <QImage>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "tests/support/Programs.h"
 
@@ -17,15 +17,10 @@ Outcome RunProgram(const QStringList& arguments) {
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
     environment.remove(QLatin1String(name));
   }
-  return Run(ADVANCED_CONTROL_PROGRAM, arguments, environment);
+  return Run(ADVANCED_CONTROL_PROGRAM, arguments, {}, environment);
 }
 
-struct WrongArguments {
-  QStringList arguments;
-  const char* error;
-};
-
-const WrongArguments kWrongArguments[] = {
+const std::pair<QStringList, const char*> kWrongArguments[] = {
     {{"--colour"}, "Unknown option 'colour'"},
     {{"hall"}, "Unexpected argument 'hall'"},
     {{"--open"}, "open"},

@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -37,14 +39,8 @@ TEST(CommandLog, KeepsTheNewestEntries) {
   EXPECT_EQ(model.index(kMaximum - 4, 1).data(), "4");
 }
 
-struct Shown {
-  PjtCommand command;
-  PjtReply reply;
-  const char* text;
-};
-
 TEST(CommandLog, ShowsSettingNamesAndOutcomes) {
-  const Shown cases[] = {
+  const std::tuple<PjtCommand, PjtReply, const char*> cases[] = {
       {kRead, {.result = 1, .value = 128}, "Get 0x2201\t4 (128)\tok"},
       {kRead, {.answered = false}, "Get 0x2201\t\tno answer"},
       {kChange, {.result = 1}, "Set 0x2201\t4 (130)\tok"},
@@ -69,17 +65,11 @@ TEST(CommandLog, NamesSettingsAndValuesAsTheDialogDoes) {
   using Op = PjtOperation;
   const auto list = ReadProfileList(TEST_CATALOG_DIR "/projectors.json");
   const auto model = std::ranges::find(list.profiles, "Projector 5-30", &FleetProfile::name)->model;
-  struct Case {
-    PjtCommand command;
-    PjtReply reply;
-    const char* setting;
-    const char* value;
-  };
   const PjtReply done{.result = 1};
   const auto read = [](int value) {
     return PjtReply{.result = 1, .value = static_cast<std::int16_t>(value)};
   };
-  const Case cases[] = {
+  const std::tuple<PjtCommand, PjtReply, const char*, const char*> cases[] = {
       {{Op::Get, 0x2201}, read(126), "Sharpness", "2"},
       {{Op::Set, 0x2201, 122}, done, "Sharpness", "-2"},
       {{Op::SetBrightness, 0, 131}, done, "Brightness", "3"},
@@ -90,10 +80,10 @@ TEST(CommandLog, NamesSettingsAndValuesAsTheDialogDoes) {
       {{Op::Get, 0x7FFF}, read(1), "", ""},
   };
   SettingNames names;
-  for (const Case& one : cases) {
-    const auto meaning = names.Of(model, one.command, one.reply);
-    EXPECT_EQ(meaning.setting, one.setting) << FormatCommand(one.command);
-    EXPECT_EQ(meaning.value, one.value) << FormatCommand(one.command);
+  for (const auto& [command, reply, setting, value] : cases) {
+    const auto meaning = names.Of(model, command, reply);
+    EXPECT_EQ(meaning.setting, setting) << FormatCommand(command);
+    EXPECT_EQ(meaning.value, value) << FormatCommand(command);
   }
 }
 

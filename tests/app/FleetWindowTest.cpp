@@ -1,6 +1,7 @@
 // The main window with many projectors: work on all of them, alerts, and tables.
 
 #include <algorithm>
+#include <optional>
 
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +17,9 @@
 #include "app/desktop/profiles/ConnectionTest.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/desktop/profiles/TransferActions.h"
+#include "app/desktop/projectors/FleetWatch.h"
+#include "fleet/AddressHold.h"
+#include "fleet/MakeVisit.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Work.h"
 #include "tests/fleet/Served.h"
@@ -30,10 +34,6 @@ const FleetPolicy kOften{.interval = 200ms, .longestPause = 200ms, .soonest = 20
 std::ptrdiff_t CountIn(const MainWindow& window, ProjectorGroup::Kind kind) {
   return std::ranges::count_if(
       Rows(window), [kind](const ProjectorRow& row) { return ProjectorGroup{kind}.Has(row); });
-}
-
-QPushButton& Button(const WorkDialog& dialog, const QString& text) {
-  return Find<QPushButton>(dialog, text);
 }
 
 std::ptrdiff_t Failed(const WorkDialog& dialog) {
@@ -79,17 +79,17 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   WorkDialog* dialog = window.findChild<WorkDialog*>();
   Find<QLabel>(*dialog, "Switch off 500 projectors?");
   EXPECT_EQ(dialog->findChild<QTreeWidget*>()->topLevelItemCount(), 500);
-  Button(*dialog, "Switch Off").click();
+  Find<QPushButton>(*dialog, "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), silent);
   Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 
   EXPECT_EQ(simulator.Control("* none"), "ok");
-  Button(*dialog, "Retry the Failed").click();
+  Find<QPushButton>(*dialog, "Retry the Failed").click();
   EXPECT_EQ(Failed(Done(window)), 0);
-  EXPECT_FALSE(Button(*dialog, "Retry the Failed").isVisible());
+  EXPECT_FALSE(Find<QPushButton>(*dialog, "Retry the Failed").isVisible());
 
-  Button(*dialog, "Undo All").click();
+  Find<QPushButton>(*dialog, "Undo All").click();
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == off + silent; }))
       << "those that were on are on again";
 }
@@ -106,7 +106,7 @@ TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {
   EXPECT_EQ(CountIn(window, ProjectorGroup::Kind::Unreachable), 0);
   Table(window).selectAll();
   Find<QAction>(window, "Switch Off").trigger();
-  Button(*window.findChild<WorkDialog*>(), "Switch Off").click();
+  Find<QPushButton>(*window.findChild<WorkDialog*>(), "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), 0);
 }
 
@@ -176,7 +176,13 @@ TEST(FleetWindow, SearchFindsAProjectorAndMarksTheKnown) {
     const std::vector<FleetProfile> all(isKnown ? 1 : 0, known);
     SearchDialog dialog(all, nullptr);
     dialog.open();
-    QTest::keyClicks(dialog.findChild<QLineEdit*>(), QString::fromStdString(address));
+    auto* addresses = dialog.findChild<QLineEdit*>();
+    QTest::keyClicks(addresses, "nowhere");
+    QTest::keyClick(addresses, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    Find<QLabel>(dialog, "\"nowhere\" is neither an IP address nor a range of them");
+    addresses->clear();
+    QTest::keyClicks(addresses, QString::fromStdString(address));
     Find<QPushButton>(dialog, "Search").click();
     const auto& list = *dialog.findChild<QTreeWidget*>();
     ASSERT_TRUE(Soon([&] { return list.topLevelItemCount() == 1; }));
@@ -290,18 +296,6 @@ TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
   EXPECT_EQ(said.size(), 2);
 }
 
-TEST(FleetWindow, EnterSearchesForProjectors) {
-  SearchDialog dialog({}, nullptr);
-  dialog.open();
-  auto* addresses = dialog.findChild<QLineEdit*>();
-  QTest::keyClicks(addresses, "nowhere");
-  QTest::keyClick(addresses, Qt::Key_Return);
-  EXPECT_TRUE(dialog.isVisible());
-  EXPECT_TRUE(std::ranges::any_of(dialog.findChildren<QLabel*>(), [](const QLabel* label) {
-    return label->text().contains(QStringLiteral("nowhere"));
-  }));
-}
-
 TEST(FleetWindow, QuietHoursGoOnPastMidnight) {
   const AlertRules rules{.quietFrom = QTime(22, 0), .quietTo = QTime(6, 0)};
   EXPECT_TRUE(rules.IsQuiet(QTime(23, 0)) && rules.IsQuiet(QTime(5, 59)));
@@ -329,6 +323,45 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   EXPECT_EQ(Rows(window).size(), before + 10);
   Find<QAction>(window, "Undo Import Table").trigger();
   EXPECT_EQ(Rows(window).size(), before);
+}
+
+// Who visits a projector that also has a dialog.
+TEST(FleetWatch, DoesNotVisitWhileADialogIsOpenOrItsChannelConnected) {
+  Served served;
+  Served other;
+  const auto profile = [](const char* name, const Served& at) {
+    FleetProfile made = Profile(name);
+    made.link = ProjectorLink::PjLink;
+    made.connection = {.isNetwork = true,
+                       .address = "127.0.0.1",
+                       .port = static_cast<std::int32_t>(at.pjLink.Port()),
+                       .secret = "secret"};
+    return made;
+  };
+  const FleetProfile a = profile("A", served);
+  const FleetProfile b = profile("B", other);
+  FleetWatch watch(kOften);
+  watch.SetProfiles({a, b});
+  const auto answered = [&watch](const FleetProfile& at) {
+    return watch.Projectors().State(FleetIdOf(at))->answered;
+  };
+  const auto othersAreVisited = [&] {
+    const auto before = answered(a);
+    for (int i = 0; i < 3; ++i) {
+      const auto last = answered(b);
+      EXPECT_TRUE(Soon([&] { return answered(b) != last; }));
+    }
+    return answered(a) == before;
+  };
+  ASSERT_TRUE(Soon([&] { return answered(a) && answered(b); }));
+  watch.LeaveToDialog(FleetIdOf(a));
+  EXPECT_TRUE(othersAreVisited());
+  std::optional<AddressHold> channel(PlaceOf(TargetOf(a)));
+  watch.TakeBack(FleetIdOf(a));
+  EXPECT_TRUE(othersAreVisited());
+  const auto before = answered(a);
+  channel.reset();
+  EXPECT_TRUE(Soon([&] { return answered(a) != before; }));
 }
 
 }  // namespace

@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/groups/GroupList.h"
@@ -23,8 +22,7 @@
 namespace {
 
 /// The window with the shipped projectors, and a folder for presets of its own.
-class PresetTest : public testing::Test {
- protected:
+struct PresetTest : testing::Test {
   PresetTest() {
     qputenv("XDG_DATA_HOME", folder.path().toUtf8());
     window.emplace(Shipped(folder));

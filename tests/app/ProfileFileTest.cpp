@@ -10,7 +10,6 @@
 
 #include <QJsonArray>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "fleet/ProfileFile.h"
@@ -19,12 +18,9 @@
 
 namespace {
 
-struct WrongFile {
-  std::string text;  // the file, or the members of its only projector
-  // Start of the message after the file's name; or, without a line number, after "1:
-  // projectors[0].".
-  const char* error;
-};
+// The file, or the members of its only projector. Then the start of the message after the file's
+// name; or, without a line number, after "1: projectors[0].".
+using WrongFile = std::pair<std::string, const char*>;
 
 std::string Named(const std::string& name) {
   return R"("name": ")" + name + R"(", "model": "M", "dialogType": 1, "modelCode": 1, )" +
@@ -235,8 +231,7 @@ TEST(ProfileFile, ShippedFileHasEveryModelWithPagesOfItsOwn) {
 
 const QJsonValue kNone(QJsonValue::Undefined);
 
-class ProfileDocumentFile : public testing::Test {
- protected:
+struct ProfileDocumentFile : testing::Test {
   void SetUp() override {
     ASSERT_TRUE(QFile::copy(TEST_CATALOG_DIR "/projectors.json", name));
     ASSERT_EQ(document.Load(name), "");

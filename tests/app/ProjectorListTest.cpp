@@ -18,7 +18,6 @@
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
-#include "tests/support/Soon.h"
 
 namespace {
 

@@ -2,11 +2,9 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
-#include <csignal>
 #include <cstdint>
 #include <netinet/in.h>
 #include <optional>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -27,6 +25,7 @@
 #include "simulator/SimulatedProjector.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"
+#include "tests/support/Limited.h"
 #include "tests/support/Models.h"
 #include "tests/support/Ports.h"
 #include "tests/support/Programs.h"
@@ -42,22 +41,6 @@ constexpr char kName[] = "Projector 5-30";
 QString CurrentInput(const CAdvanceDlg& dialog) {
   return dialog.Page(PageId::Status).GetDlgItem(20009)->property("text").toString();
 }
-
-/// Allows the process nothing of a resource while it exists.
-class Limited {
- public:
-  explicit Limited(__rlimit_resource_t resource) : resource_(resource) {
-    signal(SIGXFSZ, SIG_IGN);
-    getrlimit(resource_, &before_);
-    const rlimit none{0, before_.rlim_max};
-    setrlimit(resource_, &none);
-  }
-  ~Limited() { setrlimit(resource_, &before_); }
-
- private:
-  const __rlimit_resource_t resource_;
-  rlimit before_{};
-};
 
 class SimulatorTest : public testing::Test {
  protected:
@@ -177,8 +160,7 @@ TEST_F(SimulatorTest, ADialogUsesTheInputsThatTheProjectorReports) {
 }
 
 TEST(SimulatorPorts, NoneExceedsTheLastPort) {
-  const Outcome outcome = ::Run(SIMULATOR_PROGRAM, {"--projector", kName, "--port", "65535"},
-                                QProcessEnvironment::systemEnvironment());
+  const Outcome outcome = ::Run(SIMULATOR_PROGRAM, {"--projector", kName, "--port", "65535"});
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_EQ(outcome.output, "");
   EXPECT_NE(outcome.errors.find("no ports are left"), std::string::npos) << outcome.errors;
@@ -192,7 +174,7 @@ TEST(SimulatorPorts, AreOpenedOrGiveTheReason) {
   EXPECT_EQ(LoopbackSocket::Listen(ntohs(place.sin_port)), -1);
   EXPECT_EQ(errno, EADDRINUSE);
   close(held);
-  const Limited none(RLIMIT_NOFILE);
+  const Limited none(RLIMIT_NOFILE, 0);
   EXPECT_EQ(LoopbackSocket::Listen(0), -1);
   EXPECT_EQ(errno, EMFILE);
 }
@@ -202,7 +184,7 @@ TEST(SimulatorPorts, AreNotPublishedOnAFullDisk) {
   qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
   const ServedAddresses served{{kName, "tcp://127.0.0.1:4400"}};
   {
-    const Limited none(RLIMIT_FSIZE);
+    const Limited none(RLIMIT_FSIZE, 0);
     const SimulatorNotice untold("profiles.json", served);
     EXPECT_TRUE(FindServed("profiles.json").empty());
   }

@@ -33,12 +33,8 @@ class BridgeProgram : public testing::Test {
   }
   static void Publish(const MosquittoBroker& broker, const QStringList& arguments,
                       const QByteArray& input = {}) {
-    QProcess publish;
-    publish.start("mosquitto_pub",
-                  QStringList{"-p", QString::number(broker.port), "-q", "1"} + arguments);
-    publish.write(input);
-    publish.closeWriteChannel();
-    const Outcome outcome = Finish(publish);
+    const QStringList start{"-p", QString::number(broker.port), "-q", "1"};
+    const Outcome outcome = ::Run("mosquitto_pub", start + arguments, input);
     EXPECT_EQ(outcome.exitCode, 0) << outcome.errors;
   }
   static double Metric(quint16 port, const QByteArray& sample) {

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include <QRegularExpression>
-#include <gtest/gtest.h>
 
 #include "tests/bridge/BridgeProgram.h"
 #include "tests/bridge/Subscriber.h"
@@ -34,8 +33,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   const auto first = Bridge(At(broker) + QStringList{"--share", "1/2"}, port);
   const quint16 secondPort = LastingPort();
   auto second = Bridge(At(broker) + QStringList{"--share", "2/2"}, secondPort);
-  auto subscriber =
-      std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
+  auto subscriber = std::make_unique<Subscriber>(broker.port);
   // On a slow machine, one that answers may be late and count as silent for a while.
   const auto isComplete = [&] {
     const auto answered = subscriber->NamesThatWere("answers");
@@ -85,8 +83,7 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   }));
   broker.Start();
   EXPECT_TRUE(Soon([&] { return Metric(port, "projector_bridge_broker_connected") == 1; }));
-  subscriber =
-      std::make_unique<Subscriber>(broker.port, QStringList{"projectors/#", "homeassistant/#"});
+  subscriber = std::make_unique<Subscriber>(broker.port);
   EXPECT_TRUE(
       Soon([&] { return isComplete() && subscriber->With("/availability", "online") == 2; }));
   EXPECT_TRUE(Soon([&] { return subscriber->StateOf(NameOf(on))["power"] == "standby"; }));
@@ -125,7 +122,7 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
   const QStringList options =
       At(broker) + QStringList{"--takeover", "2", "--allow-commands", "power"};
   const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};
-  Subscriber subscriber(broker.port, {"projectors/#", "homeassistant/#"});
+  Subscriber subscriber(broker.port);
   const auto holds = [&](int which) {
     return Metric(ports[which], "projector_bridge_holds_share") == 1;
   };
@@ -192,7 +189,7 @@ TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
   const QStringList options{"--mqtt", "5", "--discovery", "none", "--takeover", "3"};
   const auto bridge = Bridge(At(broker) + options);
   for (int i = 0; i < 2; ++i) {
-    Subscriber subscriber(broker.port, {"projectors/#"});
+    Subscriber subscriber(broker.port);
     EXPECT_TRUE(Soon([&] { return subscriber.With("/state", "\"answers\"") == 20; })) << i;
     broker.Stop();
     broker.Start();
@@ -206,8 +203,7 @@ TEST_F(BridgeProgram, TellsABrokerThatForgotEverythingAgain) {
 TEST_F(BridgeProgram, ProvesWhoItIs) {
   StartProjectors(3);
   const QByteArray folder = folder_.path().toUtf8();
-  const Outcome made = ::Run(TEST_SOURCE_DIR "/bridge/make_certificates.sh", {folder_.path()},
-                             QProcessEnvironment::systemEnvironment());
+  const Outcome made = ::Run(TEST_SOURCE_DIR "/bridge/make_certificates.sh", {folder_.path()});
   ASSERT_EQ(made.exitCode, 0) << made.errors;
   MosquittoBroker broker(folder_.path(), true,
                          "allow_anonymous false\nrequire_certificate true\ncafile " + folder +
@@ -280,8 +276,7 @@ TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {
       {{"everything"}, "unexpected argument"},
   };
   for (const auto& [arguments, text] : cases) {
-    const Outcome outcome =
-        ::Run(BRIDGE_PROGRAM, arguments, QProcessEnvironment::systemEnvironment());
+    const Outcome outcome = ::Run(BRIDGE_PROGRAM, arguments);
     EXPECT_EQ(outcome.exitCode, 2) << arguments.join(' ').toStdString();
     EXPECT_THAT(outcome.errors, HasSubstr(text));
   }

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include <QRegularExpression>
-#include <gtest/gtest.h>
 
 #include "tests/bridge/Daemons.h"
 

@@ -9,7 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <gtest/gtest.h>
 
 #include "app/bridge/CommandDesk.h"
 #include "app/bridge/Discovery.h"

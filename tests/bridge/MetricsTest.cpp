@@ -9,7 +9,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <gtest/gtest.h>
 
 #include "app/bridge/HttpRequest.h"
 #include "app/bridge/Metrics.h"
@@ -23,14 +22,6 @@ using testing::HasSubstr;
 using testing::Not;
 
 const QString kShipped = QStringLiteral(TEST_SOURCE_DIR "/../packaging/bridge/");
-
-Outcome Promtool(const QStringList& arguments, const QByteArray& input = {}) {
-  QProcess promtool;
-  promtool.start("promtool", arguments);
-  promtool.write(input);
-  promtool.closeWriteChannel();
-  return Finish(promtool);
-}
 
 LiveState FullState() {
   LiveState state;
@@ -87,16 +78,16 @@ TEST(Metrics, FollowTheConvention) {
   }
   EXPECT_THAT(text, Not(HasSubstr("projector_up{projector=\"Hall 2\"}"))) << "never asked";
   EXPECT_THAT(text, Not(HasSubstr("projector_power_state{projector=\"Hall 2\"")));
-  const Outcome checked = Promtool({"check", "metrics"}, QByteArray::fromStdString(text));
+  const Outcome checked = ::Run("promtool", {"check", "metrics"}, QByteArray::fromStdString(text));
   EXPECT_EQ(checked.exitCode, 0);
   EXPECT_EQ(checked.errors, "");
 }
 
 TEST(Shipped, AlertsFireWhenTheyShould) {
-  const Outcome checked = Promtool({"check", "rules", kShipped + "projector-alerts.yml"});
+  const Outcome checked = ::Run("promtool", {"check", "rules", kShipped + "projector-alerts.yml"});
   EXPECT_EQ(checked.exitCode, 0) << checked.errors << checked.output;
-  const Outcome tested =
-      Promtool({"test", "rules", QStringLiteral(TEST_SOURCE_DIR "/bridge/alerts-test.yml")});
+  const Outcome tested = ::Run(
+      "promtool", {"test", "rules", QStringLiteral(TEST_SOURCE_DIR "/bridge/alerts-test.yml")});
   EXPECT_EQ(tested.exitCode, 0) << tested.errors << tested.output;
 }
 
@@ -124,17 +115,14 @@ TEST(Shipped, RulesAndDashboardAskForMetricsThatAreThere) {
 }
 
 TEST(Shipped, TheServiceMayDoLittle) {
-  QProcess analyze;
-  analyze.start(ProgramPath("systemd-analyze"),
-                {"security", "--offline=yes", "--no-pager", "--threshold=20",
-                 kShipped + "advanced-control-bridge.service"});
-  const Outcome outcome = Finish(analyze);
+  const Outcome outcome = ::Run(ProgramPath("systemd-analyze"),
+                                {"security", "--offline=yes", "--no-pager", "--threshold=20",
+                                 kShipped + "advanced-control-bridge.service"});
   EXPECT_EQ(outcome.exitCode, 0) << "an exposure above 2.0: " << outcome.output << outcome.errors;
 }
 
 TEST(Shipped, ThePackageEnablesItsServiceOnlyIfThereAreProjectors) {
-  const Outcome outcome = ::Run(TEST_SOURCE_DIR "/bridge/package_service.sh", {kShipped},
-                                QProcessEnvironment::systemEnvironment());
+  const Outcome outcome = ::Run(TEST_SOURCE_DIR "/bridge/package_service.sh", {kShipped});
   EXPECT_THAT(outcome.output, testing::EndsWith("all done\n")) << outcome.errors;
 }
 

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include <gtest/gtest.h>
-
 #include "app/bridge/OtherShares.h"
 #include "app/bridge/ShareKeeper.h"
 #include "tests/bridge/Profiles.h"

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <memory>
 #include <set>
 
 #include <QByteArray>
@@ -15,14 +14,12 @@
 /// mosquitto_sub, and the last message of each topic.
 class Subscriber {
  public:
-  Subscriber(quint16 port, const QStringList& topics) {
-    QStringList arguments{"-p", QString::number(port), "-q", "1", "-F", "%t %r %p"};
-    for (const QString& topic : topics) arguments << "-t" << topic;
-    daemon_ = std::make_unique<Daemon>("mosquitto_sub", arguments);
-  }
+  explicit Subscriber(quint16 port)
+      : daemon_("mosquitto_sub", {"-p", QString::number(port), "-q", "1", "-F", "%t %r %p", "-t",
+                                  "projectors/#", "-t", "homeassistant/#"}) {}
 
   const std::map<QByteArray, QByteArray>& Last() {
-    const QByteArray& said = daemon_->Said();
+    const QByteArray& said = daemon_.Said();
     for (auto end = said.indexOf('\n', read_); end >= 0; end = said.indexOf('\n', read_)) {
       const QByteArray line = said.mid(read_, end - read_);
       read_ = end + 1;
@@ -64,7 +61,7 @@ class Subscriber {
     }
     return {};
   }
-  bool Saw(const char* text) { return daemon_->Said().contains(text); }
+  bool Saw(const char* text) { return daemon_.Said().contains(text); }
   int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
   /// The projectors that ever had this reachability.
   const std::set<QByteArray>& NamesThatWere(const char* reachability) {
@@ -79,7 +76,7 @@ class Subscriber {
   }
 
  private:
-  std::unique_ptr<Daemon> daemon_;
+  Daemon daemon_;
   qsizetype read_ = 0;
   std::map<QByteArray, QByteArray> last_;
   std::map<QByteArray, int> counts_;

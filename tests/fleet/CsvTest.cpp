@@ -2,8 +2,9 @@
 
 #include <gmock/gmock.h>
 #include <string>
+#include <utility>
 
-#include <gtest/gtest.h>
+#include <QStringConverter>
 
 #include "fleet/Csv.h"
 #include "fleet/ProfileCsv.h"
@@ -15,16 +16,10 @@ namespace {
 using testing::ElementsAre;
 
 QByteArray Utf16(const char* utf8, bool bigEndian, bool marked) {
-  QByteArray bytes;
-  const QString text = QString::fromUtf8(utf8);
-  const auto add = [&](char16_t unit) {
-    const char low = static_cast<char>(unit & 0xFF), high = static_cast<char>(unit >> 8);
-    bytes += bigEndian ? high : low;
-    bytes += bigEndian ? low : high;
-  };
-  if (marked) add(0xFEFF);
-  for (const QChar c : text) add(c.unicode());
-  return bytes;
+  using Flag = QStringConverter::Flag;
+  QStringEncoder encoder(bigEndian ? QStringConverter::Utf16BE : QStringConverter::Utf16LE,
+                         marked ? Flag::WriteBom : Flag::Default);
+  return encoder(QString::fromUtf8(utf8));
 }
 
 // "header | line: cell, cell | … ! line: reason"
@@ -39,10 +34,7 @@ std::string Described(const CsvTable& table) {
   return text.replace('\n', '~').toStdString();
 }
 
-struct Case {
-  QByteArray bytes;
-  const char* expected;
-};
+using Case = std::pair<QByteArray, const char*>;
 
 TEST(Csv, ReadsWhatSpreadsheetsExport) {
   const Case cases[] = {
@@ -119,17 +111,13 @@ TEST(ProfileCsv, TakesTheRowsThatAreRight) {
   EXPECT_EQ(import.added, 2U);
   EXPECT_EQ(import.changed, 2U);
   EXPECT_THAT(import.unused, ElementsAre("Purchased"));
-  std::string faults;
-  for (const CsvFault& fault : import.faults) {
-    faults += std::to_string(fault.line) + ": " + fault.reason.toStdString() + '\n';
-  }
-  EXPECT_EQ(faults,
-            "5: no address '192.0.2'\n"
-            "6: \"radio\" is not a kind of link\n"
-            "7: \"A2\" is the name of another projector, with the identity mac:00:00:5e:00:53:01\n"
-            "8: \"name\" is missing\n"
-            "9: \"connection\" is missing\n"
-            "10: \"many\" is not a number of hours\n");
+  EXPECT_EQ(Described({.header = {}, .rows = {}, .faults = import.faults}),
+            " ! 5: no address '192.0.2'"
+            " ! 6: \"radio\" is not a kind of link"
+            " ! 7: \"A2\" is the name of another projector, with the identity mac:00:00:5e:00:53:01"
+            " ! 8: \"name\" is missing"
+            " ! 9: \"connection\" is missing"
+            " ! 10: \"many\" is not a number of hours");
   const ProfileList list = ParseProfileList(import.text, "p.json");
   ASSERT_EQ(list.error, "");
   ASSERT_EQ(list.profiles.size(), 4U);

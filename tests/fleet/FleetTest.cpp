@@ -4,8 +4,6 @@
 #include <atomic>
 #include <chrono>
 #include <deque>
-#include <filesystem>
-#include <iterator>
 #include <map>
 #include <string>
 
@@ -25,8 +23,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class FleetTest : public ServingTest {
- protected:
+struct FleetTest : ServingTest {
   Reachability Reached(const std::string& id) const { return fleet.State(id)->reachability; }
 
   Served served;
@@ -100,10 +97,7 @@ TEST_F(FleetTest, WatchesASerialPortAndLeavesItToOthers) {
 }
 
 TEST_F(FleetTest, LooksNamesUpOnTwoThreadsForAll) {
-  const auto threads = [] {
-    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
-  };
-  const auto before = threads();
+  const auto before = Threads();
   const FileEvents events;
   std::deque<NameResolver> resolvers;
   for (std::uint32_t i = 0; i < 8; ++i) {
@@ -112,7 +106,7 @@ TEST_F(FleetTest, LooksNamesUpOnTwoThreadsForAll) {
       resolvers.back().LookUp(i, name);
     }
   }
-  EXPECT_LE(threads(), before + 2);
+  EXPECT_LE(Threads(), before + 2);
   resolvers.pop_front();
   std::map<std::uint32_t, int> found;
   EXPECT_TRUE(Becomes([&] {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -40,20 +41,17 @@ std::string Words(const LiveState& state) {
   return text;
 }
 
+constexpr char kUsual[] =
+    "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
+
 TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
-  struct Case {
-    const char* name;
-    std::function<void(Projector&)> is;
-    const char* told;
-  };
   const auto says = [](const char* command, const char* text) {
     return [=](Projector& it) {
       (it.device.states.contains(command) ? it.device.states : it.device.facts)[command] = text;
     };
   };
-  const Case cases[] = {
-      {"as usual", [](auto&) {},
-       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
+  const std::tuple<const char*, std::function<void(Projector&)>, const char*> cases[] = {
+      {"as usual", [](auto&) {}, kUsual},
       {"in standby", says("POWR", "0"), "answers, standby"},
       {"warming up, when it tells no more",
        [](auto& it) {
@@ -83,7 +81,7 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
          it.device.closesAfterReply = 0ms;
          it.device.gap = 300ms;
        },
-       "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
+       kUsual},
       {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
        "answers, on, 31 HDMI (31)"},
       {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
@@ -94,29 +92,23 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
       {"is something else", [](auto& it) { it.device.greeting = "220 ready\r\n"; },
        "not understood"},
   };
-  for (const Case& one : cases) {
-    SCOPED_TRACE(one.name);
+  for (const auto& [name, make, told] : cases) {
+    SCOPED_TRACE(name);
     SteppedFleet fleet;
-    one.is(fleet.Add("a"));
+    make(fleet.Add("a"));
     EXPECT_EQ(Words(fleet.State("a")), "never asked");
     fleet.RunFor(20s);
-    EXPECT_EQ(Words(fleet.State("a")), one.told);
+    EXPECT_EQ(Words(fleet.State("a")), told);
     EXPECT_EQ(fleet.watcher.Tally().begun, 1);
     EXPECT_EQ(fleet.projectors["a"].open, 0) << "nobody keeps a connection";
   }
 }
 
 TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
-  struct Case {
-    const char* name;
-    std::map<std::uint16_t, int> values;
-    const char* told;
-    int bursts = 2;
-  };
   namespace Code = CommandCode;
-  const Case cases[] = {
+  const std::tuple<const char*, std::map<std::uint16_t, int>, const char*> cases[] = {
       {"as usual", {}, "answers, on, 3 Video, 000000, 1200 h, filter 80 h, seen, heard, live"},
-      {"in standby", {{Code::RunningState, 0}}, "answers, standby", 1},
+      {"in standby", {{Code::RunningState, 0}}, "answers, standby"},
       {"cooling down, lamp",
        {{Code::RunningState, 2}, {Code::ErrorStatus, 3}},
        "answers, cooling down, 3 Video, 020000, 1200 h, filter 80 h, seen, heard, live"},
@@ -133,14 +125,14 @@ TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
   model->MySourceList.count = 1;
   model->MySourceList.names[0] = MakeNameSlot("Video");
   model->MySourceList.firstValues[0] = 3;
-  for (const Case& one : cases) {
-    SCOPED_TRACE(one.name);
+  for (const auto& [name, values, told] : cases) {
+    SCOPED_TRACE(name);
     SteppedFleet fleet;
     Projector& it = fleet.AddWire("a", model);
-    for (const auto& [code, value] : one.values) it.wire->values[code] = value;
+    for (const auto& [code, value] : values) it.wire->values[code] = value;
     fleet.RunFor(20s);
-    EXPECT_EQ(Words(fleet.State("a")), one.told);
-    EXPECT_EQ(it.bursts, one.bursts);
+    EXPECT_EQ(Words(fleet.State("a")), told);
+    EXPECT_EQ(it.bursts, fleet.State("a").power == PowerState::Standby ? 1 : 2);
   }
   SteppedFleet fleet;
   fleet.AddWire("refuses").wire->values.erase(Code::Freeze);
@@ -244,38 +236,30 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
 }
 
 TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
-  struct Case {
-    const char* name;
-    FleetNetwork::Notice notice;
-    const char* told;
-    int visits = 0;
+  // What is noticed, what is told then, and how many visits follow.
+  const std::tuple<FleetNetwork::Notice, const char*, int> cases[] = {
+      {{"a", "POWR", "2"},
+       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live",
+       0},
+      {{"a", "powr", "0"}, "answers, standby, 000000, 1200 h lit, filter 80 h", 0},
+      {{"a", "ERST", "002000"},
+       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 h, seen, heard, live",
+       0},
+      {{"a", "INPT", "32"},
+       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, seen, heard, live",
+       0},
+      {{"a", "LKUP", "00:00:5e:00:53:01"}, kUsual, 1},  // a network again
+      {{"a", "POWR", "9"}, kUsual, 1},
+      {{"b", "POWR", "0"}, kUsual, 0},
   };
-  const char* const kUsual =
-      "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
-  const Case cases[] = {
-      {"switched off",
-       {"a", "POWR", "2"},
-       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
-      {"in standby", {"a", "powr", "0"}, "answers, standby, 000000, 1200 h lit, filter 80 h"},
-      {"too hot",
-       {"a", "ERST", "002000"},
-       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 h, seen, heard, live"},
-      {"another input",
-       {"a", "INPT", "32"},
-       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, seen, heard, live"},
-      {"a network again", {"a", "LKUP", "00:00:5e:00:53:01"}, kUsual, 1},
-      {"nonsense", {"a", "POWR", "9"}, kUsual, 1},
-      {"somebody else's", {"b", "POWR", "0"}, kUsual},
-  };
-  for (const Case& one : cases) {
-    SCOPED_TRACE(one.name);
+  for (const auto& [notice, told, visits] : cases) {
     SteppedFleet fleet;
     Projector& it = fleet.Add("a");
     fleet.RunFor(10s);
-    fleet.watcher.Events().Noticed(one.notice);
-    EXPECT_EQ(Words(fleet.State("a")), one.told);
+    fleet.watcher.Events().Noticed(notice);
+    EXPECT_EQ(Words(fleet.State("a")), told) << notice.value;
     fleet.RunFor(20s);
-    EXPECT_EQ(it.connections.size(), 1 + one.visits);
+    EXPECT_EQ(it.connections.size(), 1 + visits) << notice.value;
   }
   SteppedFleet fleet;
   Projector& it = fleet.Add("a");

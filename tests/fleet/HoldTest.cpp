@@ -14,10 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr PjtCommand kGetMirror{PjtOperation::GetMirror};
-
-class HoldTest : public ServingTest {
- protected:
+struct HoldTest : ServingTest {
   std::unique_ptr<FleetJob> Job(const TcpAddress& at,
                                 AddressHold::Turn turn = AddressHold::Turn::Last) {
     FleetJob::Options options{.timeOut = 60s};
@@ -28,15 +25,6 @@ class HoldTest : public ServingTest {
         SetSetting{"setup.mirror", "2"}, texts, options);
   }
   static bool IsOver(const FleetJob& job) { return job.HowFar().finished == 1; }
-
-  /// A dialog's channel.
-  static std::shared_ptr<ProjectorChannel> Dialog(const TcpAddress& at,
-                                                  std::chrono::milliseconds time) {
-    auto inner = std::make_shared<HoldingChannel>(std::make_shared<TcpChannel>(at.host, at.port),
-                                                  FleetTarget{.id = {}, .address = at}, time);
-    const BoundedChannel::Limits limits{.timeOut = time, .retryAfter = 0ms, .tend = 20ms};
-    return std::make_shared<BoundedChannel>(std::move(inner), limits);
-  }
 
   Fleet fleet{{.interval = 20ms, .longestPause = 20ms, .soonest = 10ms, .connect = 60s}};
 };
@@ -97,32 +85,26 @@ TEST(AddressHoldTest, ServesTheLineInItsOrder) {
   EXPECT_EQ(told, "+nextsecond-");
 }
 
-TEST_F(HoldTest, ADialogsIdleConnectionIsGivenUpForAJob) {
-  Served served;
-  const auto dialog = Dialog(served.Wire(), 20s);
-  EXPECT_TRUE(dialog->Execute(kGetMirror).answered);
-  const auto job = Job(served.Wire());
-  EXPECT_TRUE(Becomes([&] { return IsOver(*job); }));
-  EXPECT_EQ(job->Results().front().outcome, WorkOutcome::Done);
-  EXPECT_EQ(dialog->Execute(kGetMirror).value, 2);
-}
-
 TEST_F(HoldTest, ADialogsCommandComesAfterTheJobThatWorks) {
   SilentServer silent;
   const auto job = Job(silent.Address());
   ASSERT_TRUE(Becomes([&] { return silent.Open() == 1; }));
   const auto later = Job(silent.Address());
-  const auto dialog = Dialog(silent.Address(), 200ms);
-  const PjtReply reply = dialog->Execute({PjtOperation::SetMirror, 0, 1});
+  const TcpAddress at = silent.Address();
+  BoundedChannel dialog(
+      std::make_shared<HoldingChannel>(std::make_shared<TcpChannel>(at.host, at.port),
+                                       FleetTarget{.id = {}, .address = at}, 200ms),
+      {.timeOut = 200ms, .retryAfter = 0ms, .tend = 20ms});
+  const PjtReply reply = dialog.Execute({PjtOperation::SetMirror, 0, 1});
   EXPECT_TRUE(!reply.answered && reply.unsent);
-  EXPECT_EQ(dialog->Connection(), ConnectionState::Connecting);
+  EXPECT_EQ(dialog.Connection(), ConnectionState::Connecting);
   EXPECT_EQ(silent.Accept(), 1U);
 
   silent.connections.front()->close();
   ASSERT_TRUE(Becomes([&] { return IsOver(*job); }));
-  EXPECT_FALSE(dialog->Execute(kGetMirror).unsent) << "before the other job";
+  EXPECT_FALSE(dialog.Execute({PjtOperation::GetMirror}).unsent) << "before the other job";
   EXPECT_TRUE(Becomes([&] { return silent.Accept() == 3; })) << "it has not answered";
-  EXPECT_EQ(dialog->Connection(), ConnectionState::NoAnswer);
+  EXPECT_EQ(dialog.Connection(), ConnectionState::NoAnswer);
   EXPECT_EQ(silent.Open(), 1);
   silent.connections.back()->close();
   EXPECT_TRUE(Becomes([&] { return IsOver(*later); }));

@@ -4,7 +4,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <gtest/gtest.h>
 
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"

@@ -19,7 +19,9 @@ enum class Upset : char { Nothing, Refuses, Lacks, Busy, Pending, Ignores, Silen
 /// A simulated projector that is upset by a command, and does not carry it out.
 class UpsetProjector final : public ForwardingChannel {
  public:
-  UpsetProjector() : ForwardingChannel(std::make_shared<SimulatedProjector>(OfSetOne())) {
+  UpsetProjector()
+      : ForwardingChannel(
+            std::make_shared<SimulatedProjector>(SimulatedModel{.pageSet = 1, .ranges = {}})) {
     Inner().Execute({Op::SetPowerOn});
   }
   PjtReply Execute(const PjtCommand& command) override {
@@ -43,13 +45,6 @@ class UpsetProjector final : public ForwardingChannel {
   std::uint16_t code = 0;
   int passes = 0;  ///< Of the command before the first that upsets.
   bool goesOn = true;
-
- private:
-  static SimulatedModel OfSetOne() {
-    SimulatedModel model;
-    model.pageSet = 1;
-    return model;
-  }
 };
 
 struct WorkCase {
@@ -67,8 +62,7 @@ ApplySnapshots Saved(const char* key, int value) {
   return {{{"a", std::make_shared<const Snapshot>(std::move(snapshot))}}};
 }
 
-class ProjectorWorkTest : public testing::Test {
- protected:
+struct ProjectorWorkTest : testing::Test {
   WorkResult Do(const FleetWork& work, const std::shared_ptr<UpsetProjector>& projector) {
     const auto model = std::make_shared<ModelData>();
     model->DialogType = 1;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <thread>
@@ -55,6 +57,11 @@ class ServingTest : public testing::Test {
   const std::vector<std::string> folders{TEST_CATALOG_DIR};
   const SettingTexts texts{folders, 1033};
 };
+
+/// How many threads the program has.
+inline auto Threads() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
 
 /// Serves until it is so; false if that takes very long.
 inline bool Becomes(const std::function<bool()>& isSo) {

@@ -11,16 +11,10 @@ namespace {
 using namespace std::chrono_literals;
 using testing::IsEmpty;
 
-constexpr int kPictureTab = 1, kOptionTab = 7, kAutoOff = 20369;
-constexpr int kAudioTab = 5;
-constexpr int kIris = 20293;
-constexpr int kIrisCaption = 20621;
-constexpr int kCustomGamma = 20133;
-constexpr int kBrightnessPlus = 20135;
-constexpr int kBrightness = 20136;
-constexpr int kBrightnessField = 20329;
-constexpr int kClose = 1;
-constexpr int kOtherTab = 8, kInputSource = 20103;
+constexpr int kPictureTab = 1, kAudioTab = 5, kOptionTab = 7, kOtherTab = 8;
+constexpr int kIris = 20293, kIrisCaption = 20621, kCustomGamma = 20133, kAutoOff = 20369;
+constexpr int kBrightness = 20136, kBrightnessPlus = 20135, kBrightnessField = 20329;
+constexpr int kClose = 1, kInputSource = 20103;
 
 using FlowTest = PacedDialog;
 

@@ -19,11 +19,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kPictureTab = 1;
-constexpr int kActiveIris = 20293;
-constexpr int kOptionTab = 7;
-constexpr int kService = 20373;
-constexpr int kRemoteTop = 20377;
+constexpr int kPictureTab = 1, kOptionTab = 7;
+constexpr int kActiveIris = 20293, kService = 20373, kRemoteTop = 20377;
 
 // Calls `act` from the event loop as soon as `isSo` returns true.
 void When(const std::function<bool()>& isSo, const std::function<void()>& act) {

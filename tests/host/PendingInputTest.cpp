@@ -18,8 +18,6 @@ constexpr int kPictureTab = 1;
 constexpr int kPlus = 20135, kSlider = 20136, kMinus = 20134, kField = 20329;
 constexpr int kContrastPlus = 20137, kIris = 20293;
 
-using Strings = std::vector<std::string>;
-
 struct PendingInputTest : PacedDialog {
   /// Presses +, or drags the slider to a position, acts while the command waits, and returns all
   /// commands.
@@ -51,16 +49,11 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
   const std::string &up = one[0], &read = one[1];
   const std::string down = "Dec" + up.substr(3);
   const auto set = [](int shown) { return "SetBrightness(" + std::to_string(shown + 128) + ")"; };
-  struct Case {
-    const char* name;
-    std::function<void()> act;
-    Strings more;
-    int pending;
-  };
   const auto times = [this](int count, int control) {
     for (int i = 0; i < count; ++i) Page().Click(control);
   };
-  const Case cases[] = {
+  // What is done meanwhile, what is sent besides, and how far it leads.
+  const std::tuple<const char*, std::function<void()>, Strings, int> cases[] = {
       {"presses", [=] { times(3, kPlus); }, {up, read, up, read, up, read}, 4},
       {"both ways",
        [=] { times(1, kPlus), times(2, kMinus); },

@@ -7,7 +7,6 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include "host/ProjectorStrip.h"
 #include "pages/common/StatusLine.h"
@@ -22,9 +21,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr int kPictureTab = 1, kOptionTab = 7, kOtherTab = 8;
-constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138, kExecuteReset = 20018,
-              kPowerState = 20008;
-constexpr int kVolumeField = 20133;
+constexpr int kBrightness = 20136, kIris = 20293, kContrast = 20138;
+constexpr int kExecuteReset = 20018, kPowerState = 20008, kVolumeField = 20133;
 
 std::string StripText(CAdvanceDlg& dialog) {
   return dialog.findChild<ProjectorStrip*>()->findChild<QLabel*>()->accessibleName().toStdString();
@@ -137,7 +135,7 @@ struct WantedTest : testing::Test {
     }
     return controls;
   }
-  QString Tab() { return open.Dialog().findChild<QTabBar*>()->tabText(kPictureTab); }
+  QString Tab(int tab) { return open.Dialog().findChild<QTabBar*>()->tabText(tab); }
 
   OpenDialog open{FullModel(5, 30), kPictureTab, [](RecordingChannel& projector) {
                     projector.Answer("Get 0x2003", 128);
@@ -148,7 +146,7 @@ struct WantedTest : testing::Test {
 
 TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_THAT(Differing(), ElementsAre(kBrightness, kIris));
-  EXPECT_EQ(Tab(), QStringLiteral("Picture (2)"));
+  EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture (2)"));
   QWidget& brightness = *open.Page().GetDlgItem(kBrightness);
   EXPECT_TRUE(brightness.toolTip().startsWith(QStringLiteral("Wanted: 12")));
   const char* set = "Set to wanted: 12";
@@ -157,7 +155,7 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   Menu(open.Page(), kBrightness, set);
   EXPECT_EQ(open.Projector().Take(), std::vector<std::string>{"SetBrightness 140"});
   EXPECT_THAT(Differing(), ElementsAre(kIris));
-  EXPECT_EQ(Tab(), QStringLiteral("Picture (1)"));
+  EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture (1)"));
   open.Projector().Answer("Get 0x3304", 16);
   open.Projector().Answer("Get 0x2004", 130);
   open.Dialog().DispTabScreen();
@@ -167,7 +165,7 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_THAT(Differing(), ElementsAre(kBrightness)) << "the other is not known";
   open.Dialog().SetWanted(WantedSettings());
   EXPECT_THAT(Differing(), IsEmpty());
-  EXPECT_EQ(Tab(), QStringLiteral("Picture"));
+  EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture"));
   EXPECT_FALSE(brightness.toolTip().contains(QStringLiteral("Wanted")));
 }
 
@@ -214,21 +212,18 @@ TEST(WantedOfAnInputSource, AsksForTheSourceOnlyIfTheValueIsWanted) {
 }
 
 TEST_F(WantedTest, CountsPagesThatWereNotReadAsTheHostLastSawThem) {
-  const auto tab = [this](int index) {
-    return open.Dialog().findChild<QTabBar*>()->tabText(index);
-  };
   wanted.settings.push_back({.key = "option.auto-off", .value = 5, .text = {}});
   open.Dialog().SetWanted(wanted);
-  EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option")) << "nothing is known";
+  EXPECT_EQ(Tab(kOptionTab), QStringLiteral("Option")) << "nothing is known";
   Snapshot seen = wanted;
   for (SavedSetting& setting : seen.settings) setting.value = 1;
   seen.settings.push_back({.key = "option.auto-off", .value = 5, .text = {}, .source = 3});
   open.Dialog().SetLastSeen(seen);
-  EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option (1?)"));
-  EXPECT_EQ(Tab(), QStringLiteral("Picture (2)")) << "this one was read";
+  EXPECT_EQ(Tab(kOptionTab), QStringLiteral("Option (1?)"));
+  EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture (2)")) << "this one was read";
   EXPECT_THAT(open.Projector().Take(), IsEmpty());
   open.SelectTab(kOptionTab);
-  EXPECT_EQ(tab(kOptionTab), QStringLiteral("Option (1)"));
+  EXPECT_EQ(Tab(kOptionTab), QStringLiteral("Option (1)"));
 }
 
 }  // namespace

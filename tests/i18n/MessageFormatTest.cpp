@@ -1,5 +1,6 @@
 #include <limits>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -8,11 +9,7 @@
 
 namespace {
 
-struct Case {
-  std::string text;
-  std::vector<CatalogInsert> inserts;
-  std::optional<std::string> expected;
-};
+using Case = std::tuple<std::string, std::vector<CatalogInsert>, std::optional<std::string>>;
 
 std::vector<CatalogInsert> Numbers(int last) {
   std::vector<CatalogInsert> numbers;
@@ -76,7 +73,9 @@ const Case kCases[] = {
 };
 
 TEST(MessageFormat, ExpandsMessages) {
-  for (const Case& c : kCases) EXPECT_EQ(ExpandMessage(c.text, c.inserts), c.expected) << c.text;
+  for (const auto& [text, inserts, expected] : kCases) {
+    EXPECT_EQ(ExpandMessage(text, inserts), expected) << text;
+  }
   for (const char* malformed : {"%1!", "%1!!", "%1!d", "%1!d x", "%1!f!", "%1!n!", "%1!5%!",
                                 "%1!I65d!", "%1!.-1d!", "%1!*s!", "%2!*d!"}) {
     EXPECT_EQ(ExpandMessage(malformed, std::vector<CatalogInsert>{1}), kNoResult) << malformed;

@@ -5,6 +5,7 @@
 #include <string>
 #include <sys/stat.h>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -172,11 +173,8 @@ TEST(MessageTable, RefusesDamagedModules) {
   const TestModule m(SampleTables());
   const std::size_t header = m.kHeader, options = m.kOptional, section = m.section;
   const std::size_t types = m.types, names = m.names, leaf = m.lastLeaf, table = m.LastTable();
-  const struct {
-    const char* what;
-    int bytes;
-    std::vector<std::pair<std::size_t, std::uint32_t>> places;
-  } damages[] = {
+  using Places = std::vector<std::pair<std::size_t, std::uint32_t>>;
+  const std::tuple<const char*, int, Places> damages[] = {
       {"first magic, kind of module", 2, {{0, 0}, {options, 0x0107}}},
       {"second magic", 4, {{header, 0x4551}}},
       {"header outside", 4, {{0x3C, 0xFFFFFFF0}}},
@@ -199,11 +197,11 @@ TEST(MessageTable, RefusesDamagedModules) {
       {"entries without length, too long", 2, {{table + 16, 0}, {table + 16, 0xFFFF}}},
       {"an unknown encoding, not of whole words", 2, {{table + 18, 4}, {table + 24, 14}}},
   };
-  for (const auto& damage : damages) {
-    for (const auto& [at, value] : damage.places) {
+  for (const auto& [what, bytes, places] : damages) {
+    for (const auto& [at, value] : places) {
       TestModule module = m;
-      module.Put(at, value, damage.bytes);
-      EXPECT_FALSE(MessageTable::Parse(module.bytes)) << damage.what << ": " << value;
+      module.Put(at, value, bytes);
+      EXPECT_FALSE(MessageTable::Parse(module.bytes)) << what << ": " << value;
     }
   }
   TestModule unknown(SampleTables(), false);
@@ -277,12 +275,8 @@ TEST(MessageTable, SharedBytesDoNotMultiply) {
   constexpr std::size_t kMost = std::size_t{1} << 18;
   const std::vector<TestEntry> half(kMost / 2 + 1, Unicode(u""));
   const std::vector<TestEntry> all(kMost + 1, Unicode(u""));
-  const struct {
-    const char* what;
-    std::uint32_t resources, languages;
-    const std::vector<TestEntry>& entries;
-    bool isRead;
-  } cases[] = {
+  using Case = std::tuple<const char*, std::uint32_t, std::uint32_t, std::vector<TestEntry>, bool>;
+  const Case cases[] = {
       {"a text read twice", 1, 2, ansi, true},
       {"a text read three times", 1, 3, ansi, false},
       {"a text read very often", 1, 3000, ansi, false},
@@ -291,9 +285,9 @@ TEST(MessageTable, SharedBytesDoNotMultiply) {
       {"too many messages", 1, 1, all, false},
       {"too many messages in two resources", 2, 1, half, false},
   };
-  for (const auto& one : cases) {
-    const TestModule module = Overlapping(one.resources, one.languages, one.entries);
-    EXPECT_EQ(MessageTable::Parse(module.bytes).has_value(), one.isRead) << one.what;
+  for (const auto& [what, resources, languages, entries, isRead] : cases) {
+    const TestModule module = Overlapping(resources, languages, entries);
+    EXPECT_EQ(MessageTable::Parse(module.bytes).has_value(), isRead) << what;
   }
 }
 

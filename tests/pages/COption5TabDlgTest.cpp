@@ -6,8 +6,6 @@
 
 namespace {
 
-using Strings = std::vector<std::string>;
-
 const std::vector<int> kFunctions{1, 22, 25, 26, 27, 32, 33, 34, 35, 36, 48, 49, 255};
 
 CModelInfo2 OptionModel(int code, const std::vector<int>& functions = kFunctions) {

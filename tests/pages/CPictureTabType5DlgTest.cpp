@@ -9,8 +9,6 @@
 
 namespace {
 
-using Strings = std::vector<std::string>;
-
 constexpr int kGamma = 20142, kColorTemp = 20144, kIris = 20293, kContrast = 20138;
 constexpr int kCustomGamma = 20133, kCustomColorTemp = 20143;
 

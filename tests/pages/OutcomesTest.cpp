@@ -3,9 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <QLabel>
-#include <QPushButton>
 #include <QTabBar>
-#include <gtest/gtest.h>
 
 #include "pages/common/StatusLine.h"
 #include "pages/rows/RowMarks.h"

@@ -10,7 +10,6 @@
 #include <sstream>
 
 #include <QAbstractButton>
-#include <QProcess>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -20,6 +19,7 @@
 #include "tests/i18n/ModuleBuilder.h"
 #include "tests/pages/PageDescriber.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Programs.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
@@ -178,12 +178,9 @@ void ExpectListed(const std::filesystem::path& file, int type, const QStringList
   const std::string all = (before + found + behind).join("\n\n").toStdString() + '\n';
   if (listed.str() == all) return;
   if (qEnvironmentVariableIsSet("UPDATE_LISTING")) return void(std::ofstream(file) << all);
-  QProcess diff;
-  diff.start("diff", {"-U2", "-F^type", QString::fromStdString(file.string()), "-"});
-  diff.write(all.c_str());
-  diff.closeWriteChannel();
-  diff.waitForFinished();
-  ADD_FAILURE() << file << ", expected (-) and found (+):\n" << diff.readAll().toStdString();
+  const QStringList arguments{"-U2", "-F^type", QString::fromStdString(file.string()), "-"};
+  const Outcome diff = Run("diff", arguments, QByteArray::fromStdString(all));
+  ADD_FAILURE() << file << ", expected (-) and found (+):\n" << diff.output;
 }
 
 class PagesByModel : public testing::TestWithParam<int> {};

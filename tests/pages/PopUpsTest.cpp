@@ -13,11 +13,9 @@
 
 namespace {
 
-using Strings = std::vector<std::string>;
-
 struct OpenPopUp : OpenDialog {
-  explicit OpenPopUp(PopUp kind, int code = 30, bool hideResets = false)
-      : OpenDialog(MakeModel(5, code)), popUp(MakePopUp(kind, Dialog(), hideResets)) {
+  explicit OpenPopUp(PopUp kind, int code = 30)
+      : OpenDialog(MakeModel(5, code)), popUp(MakePopUp(kind, Dialog())) {
     Open(*popUp);
     EXPECT_TRUE(QTest::qWaitForWindowActive(popUp.get()));
   }

@@ -51,8 +51,7 @@ void ExpectTranslated(const CDialog& window) {
   }
 }
 
-class PseudoLanguageTest : public testing::Test {
- protected:
+struct PseudoLanguageTest : testing::Test {
   ~PseudoLanguageTest() override { Load("en_US.UTF-8", TEST_CATALOG_DIR); }
 
   static void Load(const char* locale, const std::string& folder) {

@@ -97,8 +97,7 @@ std::vector<CModelInfo2> Models() {
   return qEnvironmentVariableIsSet("TEST_SCREEN") ? FewModels() : EveryModel();
 }
 
-class LanguageTest : public testing::Test {
- protected:
+struct LanguageTest : testing::Test {
   ~LanguageTest() override {
     QApplication::setFont(font);
     QApplication::setLayoutDirection(Qt::LeftToRight);
@@ -113,10 +112,7 @@ class LanguageTest : public testing::Test {
   const QFont font = QApplication::font();
 };
 
-class ScreenSizeTest : public LanguageTest, public testing::WithParamInterface<std::string> {
- protected:
-  const std::vector<CModelInfo2> models = Models();
-};
+struct ScreenSizeTest : LanguageTest, testing::WithParamInterface<std::string> {};
 
 TEST_P(ScreenSizeTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
   Use(GetParam());
@@ -137,7 +133,7 @@ TEST_P(ScreenSizeTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
           const auto& strip = *open.Dialog().findChild<ProjectorStrip*>();
           EXPECT_TRUE(strip.isVisible() && strip.height() >= strip.fontMetrics().height());
         },
-        models);
+        Models());
     ForEachPopup([&](CDialog& popUp) { expectRoom(popUp, popUp); });
   }
 }

@@ -3,18 +3,14 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "pages/common/RowDialog.h"
 #include "pages/common/RowMenu.h"
 #include "tests/support/DialogDriver.h"
 #include "toolkit/Contrast.h"
 
 namespace {
-
-using Strings = std::vector<std::string>;
 
 constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
 constexpr int kVolume = 20317, kIrFront = 20375, kPositionV = 20205, kAutoOff = 20369;
@@ -132,10 +128,8 @@ TEST(RowMenu, StepsArrowRowsWhileStepsComeNearer) {
   OpenDialog open(FullModel(5, 30), 2,
                   [](RecordingChannel& projector) { projector.Answer("Get 0x2100", 40); });
   RecordingChannel& projector = open.Projector();
-  EXPECT_EQ(Menu(open.Page(), kPositionV, "Enter a value…"),
-            "(When opened: 40), (Put back), Enter a value…, Copy");
-  auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(Menu(open.Page(), kPositionV), "(When opened: 40), (Put back), Enter a value…, Copy");
+  auto* question = &Asked(open.Page(), kPositionV);
   question->setTextValue(QStringLiteral("42"));
   projector.Answer("Get 0x2100", 41);
   projector.Take();

@@ -12,8 +12,6 @@
 
 #include "fleet/ProfileFile.h"
 #include "tests/pages/EachPage.h"
-#include "tests/support/Soon.h"
-#include "toolkit/WindowText.h"
 
 namespace {
 

@@ -6,15 +6,18 @@
 #include <array>
 #include <optional>
 #include <set>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
 #include "device/ModelDataIntake.h"
 #include "settings/ModelSettings.h"
+#include "settings/Range.h"
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/Models.h"
+#include "tests/support/RecordingChannel.h"
 
 namespace {
 
@@ -116,19 +119,13 @@ TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   AddEntry(model.ColorTempList, 17, "custom");
   AddEntry(model.MyButtonList, -1, "none");
   const ModelSettings settings(MakeModelData(model));
-  struct Accepting final : ProjectorChannel {
-    PjtReply Execute(const PjtCommand& command) override {
-      sent = command;
-      return {.result = 1};
-    }
-    PjtCommand sent;
-  };
-  const auto channel = std::make_shared<Accepting>();
+  const auto channel = std::make_shared<RecordingChannel>();
   CPjtInterface projector;
   projector.SetChannel(channel);
-  for (const char* key : {"picture.color-temp", "option.my-button-1"}) {
+  for (const auto& [key, sent] : {std::pair{"picture.color-temp", "Set 0x30B0 65535"},
+                                  {"option.my-button-1", "SetMyButton1 -1"}}) {
     EXPECT_EQ(settings.Change(projector, *settings.Find(key), -1), Sent::Accepted) << key;
-    EXPECT_EQ(channel->sent.first, -1);
+    EXPECT_EQ(channel->TakeChanges(), Strings{sent});
   }
   const auto& gain = std::get<ValueRow>(*settings.Find("color-temp.gain-r")->row);
   const auto step = [&](int known) { return Step(projector, gain, true, 0, {-8, 8}, known); };
@@ -164,13 +161,10 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
     EXPECT_EQ(StandbySource(OfSource::Playing, model), 15) << model;
   }
 
-  struct Case {
-    int model, power, input;
-    std::optional<int> source;
-  };
   constexpr std::optional<int> kNone;
-  const Case cases[] = {{48, 0, 3, 3}, {49, 0, 3, 15}, {54, 2, 3, 15},     {49, 1, 3, 3},
-                        {50, 3, 3, 3}, {55, 0, 3, 3},  {49, 1, -1, kNone}, {46, 0, -1, kNone}};
+  const std::tuple<int, int, int, std::optional<int>> cases[] = {
+      {48, 0, 3, 3}, {49, 0, 3, 15}, {54, 2, 3, 15},     {49, 1, 3, 3},
+      {50, 3, 3, 3}, {55, 0, 3, 3},  {49, 1, -1, kNone}, {46, 0, -1, kNone}};
   for (const auto& [model, power, input, source] : cases) {
     const auto simulated = std::make_shared<HearingProjector>();
     const auto channel = std::make_shared<FaultChannel>(simulated);
@@ -203,12 +197,8 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
 
 // The result of each step from 10 towards 12; no further step is made.
 TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
-  struct Case {
-    std::vector<Stepped> steps;
-    Sent sent;
-  };
   constexpr Stepped kRefused{.refused = true, .value = 10};
-  const std::vector<Case> cases{
+  const std::vector<std::pair<std::vector<Stepped>, Sent>> cases{
       {{{.value = 11}, {.value = 12}}, Sent::Accepted},
       {{{.value = 11}, {.value = 11}}, Sent::Refused},
       {{{.value = 13}}, Sent::Refused},
@@ -217,14 +207,34 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
       // The step was made, but its answer got lost.
       {{kRefused, kRefused, {.refused = true, .value = 11}, {.value = 12}}, Sent::Accepted},
   };
-  for (const Case& one : cases) {
+  for (const auto& [steps, sent] : cases) {
     std::size_t made = 0;
-    const auto step = [&made, &one](bool upwards, int) {
+    const auto step = [&made, &steps = steps](bool upwards, int) {
       EXPECT_TRUE(upwards);
-      return one.steps.at(made++);
+      return steps.at(made++);
     };
-    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), one.sent) << made;
-    EXPECT_EQ(made, one.steps.size());
+    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), sent) << made;
+    EXPECT_EQ(made, steps.size());
+  }
+}
+
+TEST(Range, ParsesTwoDecimalsAroundTheFirstComma) {
+  const Range fallback{-32, 32};
+  EXPECT_EQ(ParseRange("100,156", 128, fallback), (Range{-28, 28}));
+  EXPECT_EQ(ParseRange("0,255", 128, fallback), (Range{-128, 127}));
+  EXPECT_EQ(ParseRange(" 96 , +160 ", 128, fallback), (Range{-32, 32}));
+  EXPECT_EQ(ParseRange("125,131", 124, fallback), (Range{1, 7}));
+  EXPECT_EQ(ParseRange("-5,5", 0, fallback), (Range{-5, 5}));
+  EXPECT_EQ(ParseRange("-32768,65535", 0, fallback), (Range{-32768, 65535}));
+  EXPECT_EQ(ParseRange("1,2,3", 0, fallback), (Range{1, 2})) << "what follows does not count";
+  EXPECT_EQ(ParseRange("7,7", 0, fallback), (Range{7, 7}));
+}
+
+TEST(Range, UsesTheFallbackForAnythingElse) {
+  const Range fallback{1, 7};
+  for (const char* text : {"", "a", "5", ",", ",,", "5,", ",5", "9,3", "1;2",
+                           "1,99999999999999999999", "-32769,3", "0,65536", "+-1,3"}) {
+    EXPECT_EQ(ParseRange(text, 128, fallback), fallback) << '"' << text << '"';
   }
 }
 

@@ -8,7 +8,6 @@
 
 #include <QTcpSocket>
 #include <QUdpSocket>
-#include <gtest/gtest.h>
 
 #include "tests/support/Programs.h"
 #include "tests/support/Soon.h"

@@ -9,7 +9,6 @@
 #include "simulator/PjLinkServer.h"
 #include "simulator/SimulatedProjector.h"
 #include "simulator/WireServer.h"
-#include "tests/device/Replies.h"
 #include "tests/support/Soon.h"
 
 namespace {

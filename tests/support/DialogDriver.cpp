@@ -118,10 +118,10 @@ DialogDriver OpenDialog::Driver() { return DialogDriver(*dialog_.ShownPage()); }
 
 void OpenDialog::SelectTab(int tab) { dialog_.findChild<QTabBar*>()->setCurrentIndex(tab); }
 
-std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host, bool hideResets) {
+std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host) {
   std::unique_ptr<RowDialog> popUp;
-  if (kind == PopUp::Gamma) popUp = std::make_unique<CGammaDlg>(hideResets, &host);
-  if (kind == PopUp::ColorTemp) popUp = std::make_unique<CColorDlg>(hideResets, &host);
+  if (kind == PopUp::Gamma) popUp = std::make_unique<CGammaDlg>(false, &host);
+  if (kind == PopUp::ColorTemp) popUp = std::make_unique<CColorDlg>(false, &host);
   if (kind == PopUp::Service) {
     auto service = std::make_unique<CServiceDlg>(&host);
     service->ModelCode = host.Model().ModelCode;

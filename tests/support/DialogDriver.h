@@ -79,7 +79,7 @@ class OpenDialog {
 enum class PopUp { Gamma, ColorTemp, Service };
 
 /// Makes a pop-up of an open dialog, with the dialog's projector and model.
-std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host, bool hideResets = false);
+std::unique_ptr<RowDialog> MakePopUp(PopUp kind, CAdvanceDlg& host);
 /// Opens a pop-up, or opens it again. Either way it reads the projector.
 void Open(CDialog& popUp);
 

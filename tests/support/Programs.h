@@ -23,11 +23,14 @@ inline Outcome Finish(QProcess& process) {
           process.readAllStandardError().toStdString()};
 }
 
-inline Outcome Run(const QString& program, const QStringList& arguments,
-                   const QProcessEnvironment& environment) {
+inline Outcome Run(
+    const QString& program, const QStringList& arguments, const QByteArray& input = {},
+    const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
   QProcess process;
   process.setProcessEnvironment(environment);
   process.start(program, arguments);
+  process.write(input);
+  process.closeWriteChannel();
   return Finish(process);
 }
 

@@ -7,6 +7,8 @@
 
 #include "device/ProjectorChannel.h"
 
+using Strings = std::vector<std::string>;
+
 /// A projector with scripted replies that records the commands in order.
 ///
 /// A command reads as "SetBrightness 140", "Get 0x2003", "Set 0x3304 16", "SetVolumeEachSrc 3 12";
@@ -25,13 +27,13 @@ class RecordingChannel final : public ProjectorChannel {
   void Accept(const std::string& key) { refused_.erase(key); }
 
   /// The commands since the last call, oldest first.
-  std::vector<std::string> Take();
+  Strings Take();
   /// The same without the reads.
-  std::vector<std::string> TakeChanges();
+  Strings TakeChanges();
 
  private:
   std::map<std::string, int> values_;
   std::map<std::string, int> results_;
   std::set<std::string> refused_;
-  std::vector<std::string> sent_;
+  Strings sent_;
 };

@@ -30,8 +30,7 @@ inline constexpr DialogTemplate kCaptionsTemplate{.number = 902, .rows = kCaptio
 inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kCaptionsTemplate};
 inline constexpr ResourceModule kModule{kTemplates};
 
-class SampleDialog : public CDialog {
- public:
+struct SampleDialog : CDialog {
   explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
   const NotificationMap& Notifications() const override {
     static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),
@@ -62,8 +61,7 @@ class SampleDialog : public CDialog {
   std::function<void()> whenDone;
 };
 
-class DialogTest : public testing::Test {
- protected:
+struct DialogTest : testing::Test {
   DialogTest() {
     ResourceChain::Register(kModule);
     dialog.Open();

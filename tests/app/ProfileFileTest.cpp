@@ -57,7 +57,6 @@ const WrongFile kWrongFiles[] = {
     {"\"ranges\": {\n\"loudness\": [0, 1]}", "2: projectors[0].ranges.loudness: is neither"},
     {R"("ranges": {"34": [0, 1]})",
      "ranges.34: is neither the name of a range nor a number 0 to 33"},
-    {R"("ranges": {"17": [0, 1]})", "ranges.17: must be given by its name \"brightness\""},
     {R"("ranges": {"tint": [10]})", "ranges.tint: must be [minimum, maximum]"},
     {"\"ranges\": {\"tint\":\n[160, 96]}",
      "2: projectors[0].ranges.tint: has a minimum above its maximum"},
@@ -123,6 +122,20 @@ TEST(ProfileFile, ErrorsAreReportedWithTheirPlace) {
     EXPECT_FALSE(contents.error.contains('\n'));
     EXPECT_TRUE(contents.profiles.empty());
   }
+}
+
+TEST(ProfileFile, ARangeWithANameIsGivenByIt) {
+  QString names;
+  for (int i = 0; i < 34; ++i) {
+    const QString text = QStringLiteral(R"({"projectors": [{"ranges": {"%1": [0, 1]}}]})").arg(i);
+    names += ParseProfileList(text.toUtf8(), "p.json").error.section("its name ", 1) + ' ';
+  }
+  EXPECT_EQ(names.remove('"').simplified().toStdString(),
+            "autoOff colorTempGainR colorTempGainG colorTempGainB colorTempOffsetR "
+            "colorTempOffsetG colorTempOffsetB gammaPoint1 gammaPoint2 gammaPoint3 gammaPoint4 "
+            "gammaPoint5 gammaPoint6 gammaPoint7 gammaPoint8 overScan hPhase brightness contrast "
+            "keystoneV keystoneH volume colorBalR colorBalG colorBalB sharpness color tint "
+            "customGamma osdBrightness electricZoom treble bass");
 }
 
 std::string Repeat(const char* text, int count) {

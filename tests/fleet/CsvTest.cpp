@@ -53,7 +53,10 @@ TEST(Csv, ReadsWhatSpreadsheetsExport) {
       {Utf16("name;ü\nÄ;B", false, true), "name/ü | 2: Ä/B"},
       {Utf16("name;ü\nÄ;B", true, false), "name/ü | 2: Ä/B"},
       {Utf16("name;ü\nÄ;B", false, false), "name/ü | 2: Ä/B"},
-      {"name,\xFC\n\xC4 \x80,B", "name/ü | 2: Ä €/B"},
+      {"name,\xFC\n\xC4 "
+       "\x80\x81\x82\x83\x84\x85\x86\x87\x88\x89\x8a\x8b\x8c\x8d\x8e\x8f\x90\x91\x92\x93\x94\x95"
+       "\x96\x97\x98\x99\x9a\x9b\x9c\x9d\x9e\x9f,B",
+       "name/ü | 2: Ä €�‚ƒ„…†‡ˆ‰Š‹Œ�Ž��‘’“”•–—˜™š›œ�žŸ/B"},
       {"", " ! 1: there is no header"},
       {"\"name\nA", " ! 1: a quotation mark is not closed"},
       {"sep=", "sep="},

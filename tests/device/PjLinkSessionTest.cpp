@@ -30,6 +30,8 @@ std::string Word(const PjtCommand& command, const PjtReply& reply) {
                                    : "done";
 }
 
+constexpr const char* kGarbled = "answers are not understood";
+
 using Misbehaviour = std::function<void(BadProjector&)>;
 
 Misbehaviour Loses(const char* command, int replies) {
@@ -59,15 +61,18 @@ struct Case {
 void Expect(const Case& one, SteppedSession& stepped) {
   SCOPED_TRACE(one.name);
   one.misbehaves(stepped.projector);
-  EXPECT_EQ(Word(one.command, stepped.Do(one.command)), one.comesTo);
+  const std::string word = Word(one.command, stepped.Do(one.command));
+  EXPECT_EQ(word == "unanswered" ? ConnectionStateText(stepped.session.State()) : word,
+            one.comesTo);
   EXPECT_EQ(stepped.projector.TakeRequests(), one.requests);
 }
 
-void ExpectEach(const std::vector<Case>& cases) {
+/// Each as often with one session, which forgets all of it before the next time.
+void ExpectEach(const std::vector<Case>& cases, int times = 1) {
   for (const Case& one : cases) {
     SteppedSession stepped;
     stepped.session.RememberClass('2');
-    Expect(one, stepped);
+    for (int i = 0; i < times; ++i, stepped.now += 1h) Expect(one, stepped);
   }
 }
 
@@ -80,23 +85,27 @@ TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
       it.greeting = before + "PJLINK 0" + after;
     };
   };
-  ExpectEach({
-      {"zero bytes around", wraps("\0"s, "\r\0"s), kGetInput, "31", "INPT"},
-      {"a lone CR before", wraps("\r", "\r"), kGetInput, "31", "INPT"},
-      {"CR LF", wraps("", "\r\n"), kGetInput, "31", "INPT"},
-      {"LF alone", wraps("", "\n"), kGetInput, "31", "INPT"},
-      {"class 1 in each reply", [](auto& it) { it.replyClass = '1'; }, kGetInput, "31", "INPT"},
-      {"a long lamp time", [](auto& it) { it.facts["LAMP"] = "70000 0"; }, Get(Code::LampTime),
-       "65535", "LAMP"},
-      {"hours alone", [](auto& it) { it.facts["LAMP"] = "123456789"; }, Get(Code::LampTime),
-       "65535", "LAMP"},
-      {"warming up", Says("POWR", "3"), Get(Code::RunningState), "1", "POWR"},
-  });
+  ExpectEach(
+      {
+          {"zero bytes around", wraps("\0"s, "\r\0"s), kGetInput, "31", "INPT"},
+          {"a lone CR before", wraps("\r", "\r"), kGetInput, "31", "INPT"},
+          {"CR LF", wraps("", "\r\n"), kGetInput, "31", "INPT"},
+          {"LF alone", wraps("", "\n"), kGetInput, "31", "INPT"},
+          {"class 1 in each reply", [](auto& it) { it.replyClass = '1'; }, kGetInput, "31", "INPT"},
+          {"a long lamp time", [](auto& it) { it.facts["LAMP"] = "70000 0"; }, Get(Code::LampTime),
+           "65535", "LAMP"},
+          {"hours alone", [](auto& it) { it.facts["LAMP"] = "123456789"; }, Get(Code::LampTime),
+           "65535", "LAMP"},
+          {"warming up", Says("POWR", "3"), Get(Code::RunningState), "1", "POWR"},
+          {"no value", Says("INPT", "x"), kGetInput, "refused", "INPT, INPT"},
+      },
+      2);
   for (const auto& [told, known] :
-       {std::pair("1", '1'), {"2", '2'}, {"3", '2'}, {"Class 1", '1'}, {"ERR1", '1'}, {"A", '1'}}) {
+       {std::pair("1", '1'), {"2", '2'}, {"9", '2'}, {"Class 1", '1'}, {"ERR1", '1'}, {"A", '1'}}) {
     SteppedSession stepped;
     stepped.projector.facts["CLSS"] = told;
-    stepped.Do(kGetInput);
+    EXPECT_EQ(stepped.Ask(*PjLinkInputs::NameOf(31)).kind,
+              known == '1' ? PjLinkResult::Kind::None : PjLinkResult::Kind::Text);
     EXPECT_EQ(stepped.session.ProtocolClass(), known) << told;
     stepped.projector.TakeRequests();
     stepped.Do(kGetInput);
@@ -115,32 +124,26 @@ TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
     return [=](BadProjector& it) { it.distorts[command] = times; };
   };
   ExpectEach({
-      {"no reply", Loses("INPT", 1), kGetInput, "unanswered", "INPT"},
+      {"no reply", Loses("INPT", 1), kGetInput, "no answer", "INPT"},
       {"the connection breaks", breaks("INPT", 1), kGetInput, "31", "INPT, INPT"},
-      {"it breaks twice", breaks("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
-      {"it breaks with a change", breaks("INPT", 1), kSetInput, "unanswered", "INPT 32"},
-      {"it breaks with a step", breaks("SVOL", 1), Inc(Code::Volume), "unanswered", "SVOL 1"},
+      {"it breaks twice", breaks("INPT", 2), kGetInput, "connection lost", "INPT, INPT"},
+      {"it breaks with a change", breaks("INPT", 1), kSetInput, "connection lost", "INPT 32"},
+      {"it breaks with a step", breaks("SVOL", 1), Inc(Code::Volume), "connection lost", "SVOL 1"},
       {"a garbled reply", distorts("INPT", 1), kGetInput, "31", "INPT, INPT"},
-      {"a garbled reply to a change", distorts("INPT", 1), kSetInput, "unanswered", "INPT 32"},
-      {"a reply that is no value", Says("INPT", "x"), kGetInput, "refused", "INPT, INPT"},
+      {"a garbled reply to a change", distorts("INPT", 1), kSetInput, kGarbled, "INPT 32"},
   });
   SteppedSession stepped;
   Expect({"the class once", Loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, stepped);
   SteppedSession garbled;
   garbled.session.RememberClass('2');
-  Expect({"two garbled replies", distorts("INPT", 2), kGetInput, "unanswered", "INPT, INPT"},
-         garbled);
+  Expect({"two garbled replies", distorts("INPT", 2), kGetInput, kGarbled, "INPT, INPT"}, garbled);
   EXPECT_EQ(garbled.now - SteppedSession().now, 20ms) << "no third is waited for";
-  SteppedSession other;
-  other.session.RememberClass('2');
-  Expect(
-      {"maybe another projector", Loses("POWR", 1), Get(Code::RunningState), "unanswered", "POWR"},
-      other);
-  Expect({"the class of this one", Loses("INPT", 1), kGetInput, "unanswered", "CLSS, INPT"}, other);
-  Expect({"which is kept", Loses("INPT", 0), kGetInput, "31", "INPT"}, other);
+  Expect({"maybe another projector", Loses("INPT", 1), kGetInput, "no answer", "CLSS, INPT"},
+         garbled);
+  Expect({"the class is kept", Loses("INPT", 0), kGetInput, "31", "INPT"}, garbled);
   SteppedSession lost;
   Expect({"the class twice", Loses("CLSS", 2), kSetInput, "unsent", "CLSS, CLSS"}, lost);
-  EXPECT_EQ(Word(kGetInput, lost.Do(kGetInput)), "31") << "one thing alone is lost";
+  Expect({"and once", Loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, lost);
 
   lost.projector.loses["INST"] = 1;
   PjLinkInputs inputs;
@@ -153,6 +156,7 @@ TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
   const SourceList shared = SourcesOf(known, InputCodes::SharedNames);
   EXPECT_EQ(NameText(shared.names[1]), "HDMI (32)");
   EXPECT_EQ(NameText(shared.names[2]), "Office");
+  EXPECT_EQ(std::pair(shared.firstValues[2], shared.secondValues[2]), std::pair(510, 510));
   EXPECT_EQ(NameText(SourcesOf({known[0]}, InputCodes::AllNames).names[0]), "HDMI (31)");
 }
 
@@ -165,8 +169,8 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
       {"mute", Follows(100ms), Do(Op::SetMute, 1), "done", "AVMT 21, AVMT, AVMT"},
       {"freeze", Follows(250ms), Do(Op::SetFreeze, 1), "done", "FREZ 1, FREZ, FREZ, FREZ"},
       {"warming up is on", Both(Says("POWR", "3"), Follows(1h)), kOn, "done", "POWR 1, POWR"},
-      {"a garbled state", Both(Says("POWR", "x"), Follows(50ms)), kOn, "done",
-       "POWR 1, POWR, POWR"},
+      {"a garbled state", Both(Says("POWR", "x"), Follows(50ms)), Do(Op::SetPowerOff), "done",
+       "POWR 0, POWR, POWR"},
       {"a state that nobody tells", Both(Says("FREZ", "ERR1"), Follows(1h)), Do(Op::SetFreeze, 1),
        "done", "FREZ 1, FREZ"},
       {"a step has no state", Follows(3s), Inc(Code::Volume), "done", "SVOL 1"},
@@ -189,37 +193,39 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
   quick.projector.follows = 50ms;
   EXPECT_EQ(Word(kSetInput, quick.Do(kSetInput)), "done");
   EXPECT_EQ(quick.now - SteppedSession().now, 130ms) << "three replies and a pause";
-  quick.Do(kOn);
+  for (const auto& command : {kOn, kSetInput}) quick.Do(command);
   EXPECT_EQ(quick.session.Power(), PowerState::On);
 
   SteppedSession patient(60s);
   Follows(20s)(patient.projector);
   const auto start = patient.now;
   EXPECT_EQ(Word(kSetInput, patient.Do(kSetInput)), "done");
-  EXPECT_LT(patient.now - start, 20s + 1200ms) << "it is seen soon after it is so";
+  EXPECT_EQ(patient.now - start, 20s + 860ms) << "it is seen soon after it is so";
 }
 
 TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
   const auto refuses = [](int times, const char* power) {
     return Both(Refuses("INPT", times), Says("POWR", power));
   };
-  ExpectEach({
-      {"it switches", refuses(2, "1"), kGetInput, "31", "INPT, POWR, INPT, INPT"},
-      {"a change while it warms up", refuses(2, "3"), kSetInput, "done",
-       "INPT 32, POWR, INPT 32, INPT 32, INPT"},
-      {"it is busy for long", refuses(99, "1"), kGetInput, "busy",
-       "INPT, POWR, INPT, INPT, INPT, INPT, INPT"},
-      {"a read in standby", refuses(99, "0"), kGetInput, "busy", "INPT, POWR"},
-      {"a change in standby", refuses(99, "0"), kSetInput, "busy", "INPT 32, POWR"},
-      {"a read while it warms up", refuses(99, "3"), kGetInput, "busy", "INPT, POWR"},
-      {"on while it cools down", Both(Says("POWR", "2"), Refuses("POWR", 1)), kOn, "done",
-       "POWR 1, POWR, POWR 1, POWR"},
-      {"on in standby", Both(Says("POWR", "0"), Refuses("POWR", 1)), kOn, "done",
-       "POWR 1, POWR, POWR 1, POWR"},
-      {"a garbled power state", refuses(1, "x"), kGetInput, "31", "INPT, POWR, INPT"},
-      {"no power state", Both(Refuses("INPT", 1), Loses("POWR", 1)), kGetInput, "busy",
-       "INPT, POWR"},
-  });
+  ExpectEach(
+      {
+          {"it switches", refuses(2, "1"), kGetInput, "31", "INPT, POWR, INPT, INPT"},
+          {"a change while it warms up", refuses(2, "3"), kSetInput, "done",
+           "INPT 32, POWR, INPT 32, INPT 32, INPT"},
+          {"it is busy for long", refuses(99, "1"), kGetInput, "busy",
+           "INPT, POWR, INPT, INPT, INPT, INPT, INPT"},
+          {"a read in standby", refuses(99, "0"), kGetInput, "busy", "INPT, POWR"},
+          {"a change in standby", refuses(99, "0"), kSetInput, "busy", "INPT 32, POWR"},
+          {"a read while it warms up", refuses(99, "3"), kGetInput, "busy", "INPT, POWR"},
+          {"on while it cools down", Both(Says("POWR", "2"), Refuses("POWR", 1)), kOn, "done",
+           "POWR 1, POWR, POWR 1, POWR"},
+          {"on in standby", Both(Says("POWR", "0"), Refuses("POWR", 1)), kOn, "done",
+           "POWR 1, POWR, POWR 1, POWR"},
+          {"a garbled power state", refuses(1, "x"), kGetInput, "31", "INPT, POWR, INPT"},
+          {"no power state", Both(Refuses("INPT", 1), Loses("POWR", 1)), kGetInput, "busy",
+           "INPT, POWR"},
+      },
+      2);
   for (const auto& [pause, requests] :
        {std::pair(989ms, "POWR, INPT, INPT, INPT"), {990ms, "POWR, INPT, POWR, INPT, INPT"}}) {
     SteppedSession stepped;
@@ -230,6 +236,15 @@ TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
     EXPECT_EQ(Word(kGetInput, stepped.Do(kGetInput)), "31");
     EXPECT_EQ(stepped.projector.TakeRequests(), requests);
   }
+  SteppedSession changed;
+  changed.session.RememberClass('2');
+  changed.projector.refuses["INPT"] = 1;
+  for (const auto& command : {Get(Code::RunningState), Get(Code::BlankState), Inc(Code::Volume),
+                              Get(Code::Mute), kGetInput}) {
+    changed.Do(command);
+  }
+  EXPECT_EQ(changed.projector.TakeRequests(), "POWR, AVMT, SVOL 1, AVMT, INPT, POWR, INPT")
+      << "a change may have changed all that was told";
   for (const auto& [told, power] : {std::pair("0", PowerState::Standby),
                                     {"2", PowerState::CoolingDown},
                                     {"3", PowerState::WarmingUp}}) {
@@ -245,7 +260,7 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndReconnectsAfterGrowingPauses)
   const auto closesLate = [](auto& it) { it.closesAfterReply = 5ms; };
   ExpectEach({
       {"slow", [](auto& it) { it.answers = 1990ms; }, kSetInput, "done", "INPT 32, INPT"},
-      {"too slow", [](auto& it) { it.answers = 2010ms; }, kSetInput, "unanswered", "INPT 32"},
+      {"too slow", [](auto& it) { it.answers = 2010ms; }, kSetInput, "no answer", "INPT 32"},
       {"closes after each reply, and needs a pause",
        [](auto& it) {
          it.closesAfterReply = 0ms;

@@ -252,7 +252,6 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   if (isSent) {
     state->command = command;
     state->outstanding = true;
-    state->abandoned = false;
     state->recipient = &wait;
     state->commandGiven.notify_one();
     state->WaitUntil(lock, wait, [&] { return wait.reply.has_value(); });

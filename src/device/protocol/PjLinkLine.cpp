@@ -186,7 +186,6 @@ std::optional<int> InputNumber(std::string_view code) {
 }
 
 std::optional<std::string> InputCode(int number) {
-  if (number < 0) return std::nullopt;
   const std::string code = number < 100 ? std::to_string(number)
                                         : std::to_string(number / 100) +
                                               static_cast<char>('A' + (number % 100 - 10) % 26);

@@ -1,5 +1,7 @@
 #include <array>
+#include <atomic>
 #include <functional>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -20,7 +22,7 @@ class OneReply final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
     last = command;
-    if (breaks) throw command;
+    MayBreak();
     return {
         .result = accepted ? AcceptedResult(command.operation) : RefusedResult(command.operation),
         .value = -2};
@@ -31,9 +33,9 @@ class OneReply final : public ProjectorChannel {
     MayBreak();
     return ConnectionState::Connected;
   }
-  std::optional<SourceList> Inputs() override { throw last; }
+  std::optional<SourceList> Inputs() override { throw std::bad_alloc(); }
   void MayBreak() const {
-    if (breaks) throw last;
+    if (breaks) throw std::bad_alloc();
   }
 
   bool accepted = true;
@@ -42,6 +44,8 @@ class OneReply final : public ProjectorChannel {
 };
 
 TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
+  static std::atomic<int> shortages = 0;
+  std::set_new_handler([] { ++shortages; });
   CPjtInterface p;
   short got = 30;
   auto* const word = reinterpret_cast<unsigned short*>(&got);
@@ -100,6 +104,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     EXPECT_EQ(p.Connection(), ConnectionState::None);
     EXPECT_EQ(bounded.Connection(), ConnectionState::None);
     EXPECT_FALSE(p.Inputs() || bounded.Inputs());
+    EXPECT_EQ(shortages.exchange(0), 8) << "each is reported";
     p.CutOff(true);
     EXPECT_FALSE(p.Inputs() || p.Power());
     p.CutOff(false);
@@ -110,6 +115,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     EXPECT_EQ(p.Connection(), ConnectionState::None);
     EXPECT_FALSE(p.Inputs() || p.Power());
   }
+  std::set_new_handler(nullptr);
 }
 
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {

@@ -58,6 +58,10 @@ struct Case {
   const char* requests;
 };
 
+struct KnownSession : SteppedSession {
+  KnownSession() { session.RememberClass('2'); }
+};
+
 void Expect(const Case& one, SteppedSession& stepped) {
   SCOPED_TRACE(one.name);
   one.misbehaves(stepped.projector);
@@ -68,10 +72,10 @@ void Expect(const Case& one, SteppedSession& stepped) {
 }
 
 /// Each as often with one session, which forgets all of it before the next time.
-void ExpectEach(const std::vector<Case>& cases, int times = 1) {
+template <int times = 1>
+void ExpectEach(const std::vector<Case>& cases) {
   for (const Case& one : cases) {
-    SteppedSession stepped;
-    stepped.session.RememberClass('2');
+    KnownSession stepped;
     for (int i = 0; i < times; ++i, stepped.now += 1h) Expect(one, stepped);
   }
 }
@@ -85,21 +89,19 @@ TEST(PjLinkSession, UnderstandsEveryFormOfALine) {
       it.greeting = before + "PJLINK 0" + after;
     };
   };
-  ExpectEach(
-      {
-          {"zero bytes around", wraps("\0"s, "\r\0"s), kGetInput, "31", "INPT"},
-          {"a lone CR before", wraps("\r", "\r"), kGetInput, "31", "INPT"},
-          {"CR LF", wraps("", "\r\n"), kGetInput, "31", "INPT"},
-          {"LF alone", wraps("", "\n"), kGetInput, "31", "INPT"},
-          {"class 1 in each reply", [](auto& it) { it.replyClass = '1'; }, kGetInput, "31", "INPT"},
-          {"a long lamp time", [](auto& it) { it.facts["LAMP"] = "70000 0"; }, Get(Code::LampTime),
-           "65535", "LAMP"},
-          {"hours alone", [](auto& it) { it.facts["LAMP"] = "123456789"; }, Get(Code::LampTime),
-           "65535", "LAMP"},
-          {"warming up", Says("POWR", "3"), Get(Code::RunningState), "1", "POWR"},
-          {"no value", Says("INPT", "x"), kGetInput, "refused", "INPT, INPT"},
-      },
-      2);
+  ExpectEach<2>({
+      {"zero bytes around", wraps("\0"s, "\r\0"s), kGetInput, "31", "INPT"},
+      {"a lone CR before", wraps("\r", "\r"), kGetInput, "31", "INPT"},
+      {"CR LF", wraps("", "\r\n"), kGetInput, "31", "INPT"},
+      {"LF alone", wraps("", "\n"), kGetInput, "31", "INPT"},
+      {"class 1 in each reply", [](auto& it) { it.replyClass = '1'; }, kGetInput, "31", "INPT"},
+      {"a long lamp time", [](auto& it) { it.facts["LAMP"] = "70000 0"; }, Get(Code::LampTime),
+       "65535", "LAMP"},
+      {"hours alone", [](auto& it) { it.facts["LAMP"] = "123456789"; }, Get(Code::LampTime),
+       "65535", "LAMP"},
+      {"warming up", Says("POWR", "3"), Get(Code::RunningState), "1", "POWR"},
+      {"no value", Says("INPT", "x"), kGetInput, "refused", "INPT, INPT"},
+  });
   for (const auto& [told, known] :
        {std::pair("1", '1'), {"2", '2'}, {"9", '2'}, {"Class 1", '1'}, {"ERR1", '1'}, {"A", '1'}}) {
     SteppedSession stepped;
@@ -134,8 +136,7 @@ TEST(PjLinkSession, RepeatsALostRequestOnlyIfThatIsSafe) {
   });
   SteppedSession stepped;
   Expect({"the class once", Loses("CLSS", 1), kGetInput, "31", "CLSS, CLSS, INPT"}, stepped);
-  SteppedSession garbled;
-  garbled.session.RememberClass('2');
+  KnownSession garbled;
   Expect({"two garbled replies", distorts("INPT", 2), kGetInput, kGarbled, "INPT, INPT"}, garbled);
   EXPECT_EQ(garbled.now - SteppedSession().now, 20ms) << "no third is waited for";
   Expect({"maybe another projector", Loses("INPT", 1), kGetInput, "no answer", "CLSS, INPT"},
@@ -175,8 +176,7 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
        "done", "FREZ 1, FREZ"},
       {"a step has no state", Follows(3s), Inc(Code::Volume), "done", "SVOL 1"},
   });
-  SteppedSession stepped;
-  stepped.session.RememberClass('2');
+  KnownSession stepped;
   stepped.Do(kSetInput);
   stepped.projector.TakeRequests();
   EXPECT_EQ(stepped.Do(kGetInput).value, 32);
@@ -188,8 +188,7 @@ TEST(PjLinkSession, WaitsUntilAChangeTakesEffect) {
   stepped.projector.states["INPT"] = "5A";
   EXPECT_EQ(stepped.Do(kGetInput).value, 510) << "that was long ago";
 
-  SteppedSession quick;
-  quick.session.RememberClass('2');
+  KnownSession quick;
   quick.projector.follows = 50ms;
   EXPECT_EQ(Word(kSetInput, quick.Do(kSetInput)), "done");
   EXPECT_EQ(quick.now - SteppedSession().now, 130ms) << "three replies and a pause";
@@ -207,37 +206,33 @@ TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
   const auto refuses = [](int times, const char* power) {
     return Both(Refuses("INPT", times), Says("POWR", power));
   };
-  ExpectEach(
-      {
-          {"it switches", refuses(2, "1"), kGetInput, "31", "INPT, POWR, INPT, INPT"},
-          {"a change while it warms up", refuses(2, "3"), kSetInput, "done",
-           "INPT 32, POWR, INPT 32, INPT 32, INPT"},
-          {"it is busy for long", refuses(99, "1"), kGetInput, "busy",
-           "INPT, POWR, INPT, INPT, INPT, INPT, INPT"},
-          {"a read in standby", refuses(99, "0"), kGetInput, "busy", "INPT, POWR"},
-          {"a change in standby", refuses(99, "0"), kSetInput, "busy", "INPT 32, POWR"},
-          {"a read while it warms up", refuses(99, "3"), kGetInput, "busy", "INPT, POWR"},
-          {"on while it cools down", Both(Says("POWR", "2"), Refuses("POWR", 1)), kOn, "done",
-           "POWR 1, POWR, POWR 1, POWR"},
-          {"on in standby", Both(Says("POWR", "0"), Refuses("POWR", 1)), kOn, "done",
-           "POWR 1, POWR, POWR 1, POWR"},
-          {"a garbled power state", refuses(1, "x"), kGetInput, "31", "INPT, POWR, INPT"},
-          {"no power state", Both(Refuses("INPT", 1), Loses("POWR", 1)), kGetInput, "busy",
-           "INPT, POWR"},
-      },
-      2);
+  ExpectEach<2>({
+      {"it switches", refuses(2, "1"), kGetInput, "31", "INPT, POWR, INPT, INPT"},
+      {"a change while it warms up", refuses(2, "3"), kSetInput, "done",
+       "INPT 32, POWR, INPT 32, INPT 32, INPT"},
+      {"it is busy for long", refuses(99, "1"), kGetInput, "busy",
+       "INPT, POWR, INPT, INPT, INPT, INPT, INPT"},
+      {"a read in standby", refuses(99, "0"), kGetInput, "busy", "INPT, POWR"},
+      {"a change in standby", refuses(99, "0"), kSetInput, "busy", "INPT 32, POWR"},
+      {"a read while it warms up", refuses(99, "3"), kGetInput, "busy", "INPT, POWR"},
+      {"on while it cools down", Both(Says("POWR", "2"), Refuses("POWR", 1)), kOn, "done",
+       "POWR 1, POWR, POWR 1, POWR"},
+      {"on in standby", Both(Says("POWR", "0"), Refuses("POWR", 1)), kOn, "done",
+       "POWR 1, POWR, POWR 1, POWR"},
+      {"a garbled power state", refuses(1, "x"), kGetInput, "31", "INPT, POWR, INPT"},
+      {"no power state", Both(Refuses("INPT", 1), Loses("POWR", 1)), kGetInput, "busy",
+       "INPT, POWR"},
+  });
   for (const auto& [pause, requests] :
        {std::pair(989ms, "POWR, INPT, INPT, INPT"), {990ms, "POWR, INPT, POWR, INPT, INPT"}}) {
-    SteppedSession stepped;
-    stepped.session.RememberClass('2');
+    KnownSession stepped;
     stepped.Do(Get(Code::RunningState));
     stepped.now += pause;
     refuses(2, "1")(stepped.projector);
     EXPECT_EQ(Word(kGetInput, stepped.Do(kGetInput)), "31");
     EXPECT_EQ(stepped.projector.TakeRequests(), requests);
   }
-  SteppedSession changed;
-  changed.session.RememberClass('2');
+  KnownSession changed;
   changed.projector.refuses["INPT"] = 1;
   for (const auto& command : {Get(Code::RunningState), Get(Code::BlankState), Inc(Code::Volume),
                               Get(Code::Mute), kGetInput}) {
@@ -248,8 +243,7 @@ TEST(PjLinkSession, AsksABusyProjectorAgainUntilTheTimeOut) {
   for (const auto& [told, power] : {std::pair("0", PowerState::Standby),
                                     {"2", PowerState::CoolingDown},
                                     {"3", PowerState::WarmingUp}}) {
-    SteppedSession stepped;
-    stepped.session.RememberClass('2');
+    KnownSession stepped;
     refuses(99, told)(stepped.projector);
     stepped.Do(kGetInput);
     EXPECT_EQ(stepped.session.Power(), power);
@@ -314,8 +308,7 @@ TEST(PjLinkSession, OneSettingNeedsThreeExchangesAtFirstAndTwoLater) {
     SteppedSession cold;
     cold.Do(command);
     EXPECT_EQ(cold.projector.TakeRequests(), requests);
-    SteppedSession warm;
-    warm.session.RememberClass('2');
+    KnownSession warm;
     warm.Do(command);
     EXPECT_LE(warm.projector.requests.size(), 2);
   }
@@ -333,8 +326,7 @@ TEST(PjLinkSession, OneSettingNeedsThreeExchangesAtFirstAndTwoLater) {
     EXPECT_EQ(all.projector.TakeRequests(),
               std::string(*power == '0' ? "" : "POWR, ") + "AVMT, FREZ, AVMT, FREZ");
   }
-  SteppedSession other;
-  other.session.RememberClass('2');
+  KnownSession other;
   other.projector.facts["CLSS"] = "1";
   other.projector.states.erase("FREZ");
   EXPECT_FALSE(other.Do(Get(Code::Freeze)).offered);

@@ -33,7 +33,8 @@ class OneReply final : public ProjectorChannel {
     MayBreak();
     return ConnectionState::Connected;
   }
-  std::optional<SourceList> Inputs() override { throw std::bad_alloc(); }
+  std::optional<SourceList> Inputs() override { return MayBreak(), SourceList(); }
+  std::optional<PowerState> Power() const override { return PowerState::On; }
   void MayBreak() const {
     if (breaks) throw std::bad_alloc();
   }
@@ -93,6 +94,10 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     p.SetChannel(channel);
     expectCall(form.accepted, form.value);
     EXPECT_EQ(channel->last, form.command);
+    EXPECT_TRUE(p.Inputs() && p.Power() && p.Connection() == ConnectionState::Connected);
+    p.CutOff(true);
+    EXPECT_FALSE(p.Inputs() || p.Power());
+    p.CutOff(false);
     channel->accepted = false;
     expectCall(form.refused, 30);
     channel->breaks = true;
@@ -105,9 +110,6 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     EXPECT_EQ(bounded.Connection(), ConnectionState::None);
     EXPECT_FALSE(p.Inputs() || bounded.Inputs());
     EXPECT_EQ(shortages.exchange(0), 8) << "each is reported";
-    p.CutOff(true);
-    EXPECT_FALSE(p.Inputs() || p.Power());
-    p.CutOff(false);
     p.SetChannel(nullptr);
     expectCall(form.refused, 30);
     p.Announce({});
@@ -120,6 +122,12 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
 
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
   CPjtInterface pjt;
+  pjt.CopyData(0, 3, 9600, "", "");
+  EXPECT_EQ(pjt.Serial().Port, 3);
+  pjt.CopyData(1, 3, 1, "two words", "");
+  EXPECT_EQ(pjt.Connection(), ConnectionState::WrongParameters);
+  EXPECT_EQ(pjt.ConnectionParameter(), 1);
+  EXPECT_EQ(pjt.Serial(), CComCtrl());
   pjt.SetChannel(std::make_shared<OneReply>());
   EXPECT_EQ(pjt.GetMirror(nullptr), 0);
   EXPECT_EQ(pjt.IncrementKeystoneV(nullptr), 0);

@@ -46,7 +46,6 @@ TEST(PjLinkLine, ParametersAreValuesOrNothing) {
   EXPECT_EQ(PjLink::Lamps("70000 1 2 0 3"), (Lamps{{65535, true}, {2, false}, {3, {}}}));
   EXPECT_EQ(PjLink::Lamps("1 1 x 0"), Lamps());
   EXPECT_EQ(PjLink::Lamps("1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1").size(), 8);
-  EXPECT_TRUE(PjLink::Parse("%1azAZ="));
   for (const char* none : {"", "%1POWR", "#1POWR=1", "%xPOWR=1", "%/POWR=1", "%1P[WR=1", "%1POW{=1",
                            "%1POW/=1", "%1POWR:1"}) {
     EXPECT_FALSE(PjLink::Parse(none)) << none;
@@ -54,10 +53,8 @@ TEST(PjLinkLine, ParametersAreValuesOrNothing) {
   for (const char* none : {"", " 2", " 1 0123abc", " 1 0123abcg", " 1 0123abc@", " 1 0123abc/"}) {
     EXPECT_FALSE(PjLink::ParseGreeting(std::string("PJLINK") + none)) << none;
   }
-  const std::vector<PjLinkInput> many(SourceList::kCapacity + 1, {310, std::string(99, 'x')});
-  const SourceList sources = SourcesOf(many, InputCodes::SharedNames);
-  EXPECT_EQ(sources.count, SourceList::kCapacity);
-  EXPECT_EQ(NameText(sources.names[0]), std::string(59, 'x') + " (3A)");
+  const std::vector<PjLinkInput> many(SourceList::kCapacity + 1, {310, "HDMI"});
+  EXPECT_EQ(SourcesOf(many, InputCodes::AllNames).count, SourceList::kCapacity);
 }
 
 TEST(PjLinkInputs, AreAskedForOneByOne) {
@@ -110,20 +107,17 @@ TEST(PjLinkInputInquiry, ForgetsWhatAnotherProjectorHadAndPausesAfterFailures) {
   EXPECT_TRUE(inquiry.Report());
   inquiry.CheckClass({});
   EXPECT_EQ(inquiry.AllInputs().size(), 1U) << "its class is not known";
+  inquiry.CheckClass('1');
+  EXPECT_TRUE(inquiry.AllInputs().empty());
   SessionTime now{1h};
-  for (const auto& pauses : {std::vector{1s, 2s, 3s, 3s}, {1s}}) {
-    inquiry.CheckClass('1');
-    EXPECT_TRUE(inquiry.AllInputs().empty());
-    for (const auto pause : pauses) {
-      EXPECT_FALSE(inquiry.Take({}, now) || inquiry.NextQuestion(now + pause - 1ms));
-      now += pause;
-      EXPECT_TRUE(inquiry.NextQuestion(now));
-    }
-    for (const char* told : {"32", "TV"}) inquiry.Take({PjLinkResult::Kind::Text, told}, now);
-    inquiry.CheckClass('1');
-    EXPECT_EQ(inquiry.AllInputs(), std::vector(1, PjLinkInput{32, "TV"}));
-    inquiry.Remember({}, '2');
+  for (const auto pause : {1s, 2s, 3s, 3s}) {
+    EXPECT_FALSE(inquiry.Take({}, now) || inquiry.NextQuestion(now + pause - 1ms));
+    now += pause;
+    EXPECT_TRUE(inquiry.NextQuestion(now));
   }
+  for (const char* told : {"32", "TV"}) inquiry.Take({PjLinkResult::Kind::Text, told}, now);
+  inquiry.CheckClass('1');
+  EXPECT_EQ(inquiry.AllInputs(), std::vector(1, PjLinkInput{32, "TV"}));
 }
 
 TEST(PjLinkAttempts, ALookUpThatRanOutOfTimeIsNotTheProblem) {
@@ -268,9 +262,8 @@ TEST(Sessions, AClassThatIsNotToldNowIsDoneWithout) {
   EXPECT_EQ(stepped.Do(Get(CommandCode::InputSource)).value, 31);
   EXPECT_EQ(stepped.projector.TakeRequests(), "CLSS, INPT");
   EXPECT_FALSE(stepped.session.ProtocolClass());
-  const PjLinkKnownClass unknown;
-  using enum PjLinkClass;
-  EXPECT_EQ((std::string{unknown.ForRequest(Either), unknown.ForRequest(Second)}), "12");
+  EXPECT_EQ(PjLinkKnownClass().ForRequest(PjLinkClass::Either), '1');
+  EXPECT_EQ(PjLinkKnownClass().ForRequest(PjLinkClass::Second), '2');
 }
 
 TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
@@ -294,19 +287,18 @@ TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
   const SessionStep burst = wire.Next({});
   EXPECT_EQ(burst.until, SessionTime(2s));
   EXPECT_EQ(receive({{9, five}}), Kind::Wait) << "for the welcome";
-  EXPECT_EQ(receive({{8, Wire::Welcome{}},
-                     {8, Wire::Welcome{0}},
-                     {9, Wire::Request{}},
-                     {9, Wire::Reply{}},
-                     {80, Wire::Reply{}},
-                     {72, Wire::Reply{}}}),
-            Kind::Finished);
+  EXPECT_EQ(
+      receive(
+          {{8, Wire::Welcome{}}, {8, Wire::Welcome{0}}, {9, Wire::Request{}}, {9, Wire::Reply{}}}),
+      Kind::Finished);
   EXPECT_EQ(wire.Reply().value, 5);
 
-  wire.Announce(reads);
-  wire.Begin(reads[0], {});
-  EXPECT_EQ(wire.Next({}).bytes.size(), 64 * Wire::kMaximumFrame) << "all were answered";
-  EXPECT_EQ(receive({{73, five}}), Kind::Finished);
+  for (const auto& [sent, answered] : {std::pair(1, 73), {64, 74}}) {
+    wire.Announce(reads);
+    wire.Begin(reads[0], {});
+    EXPECT_EQ(wire.Next({}).bytes.size(), sent * Wire::kMaximumFrame) << "up to 64 unanswered";
+    EXPECT_EQ(receive({{75, five}, {static_cast<std::uint16_t>(answered), five}}), Kind::Finished);
+  }
   wire.Closed();
   connect();
   wire.Closed();

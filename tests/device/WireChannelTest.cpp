@@ -333,18 +333,4 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
   }
 }
 
-TEST(WireChannelTest, AnnouncingAgainLeavesNoMoreThan64Unanswered) {
-  std::atomic<std::size_t> received = 0;
-  const Peer peer(Transport::Tcp, {Answers([&](End& end, const std::string& answer) {
-                    if (received == 0) end.Send(answer.substr(0, kWelcomeSize + kReplySize));
-                    received += answer.size() / kReplySize;
-                  })});
-  const auto channel = ChannelTo(peer);
-  for (const auto* const reply : {"5", "?"}) {
-    channel->Announce(std::vector(80, Get(5)));
-    EXPECT_EQ(Replies(*channel, {Get(5)}), reply);
-  }
-  EXPECT_EQ(received, 1 + 64);
-}
-
 }  // namespace

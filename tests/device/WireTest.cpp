@@ -84,7 +84,6 @@ TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
   const std::pair<ProjectorAddress, ProjectorAddress> cases[] = {
       {ParseConnection({1, 0, 65535, "192.0.2.1", ""}), TcpAddress{"192.0.2.1", 65535}},
       {ParseConnection({1, 9, 4352, "beamer", "pw"}), PjLinkAddress{"beamer", 4352, "pw"}},
-      {ParseConnection({1, 0, 0, "beamer", ""}), PjLinkAddress{"beamer", 4352, ""}},
       {ParseConnection({1, 0, 5000, "pjlink://beamer", "pw"}), PjLinkAddress{"beamer", 5000, "pw"}},
       {ParseConnection({1, 0, 4352, "tcp://beamer", ""}), TcpAddress{"beamer", 4352}},
       {ParseConnection({1, 0, 65536, "beamer", ""}), AddressError{"no network port '65536'"}},

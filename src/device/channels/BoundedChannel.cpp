@@ -152,8 +152,7 @@ void BoundedChannel::State::Work() {
     commandGiven.wait(lock, isCalled);
     if (ended) {
       const auto last = std::exchange(inner, nullptr);
-      lock.unlock();
-      return;
+      return lock.unlock();
     }
     const PjtCommand taken = *std::exchange(command, std::nullopt);
     const auto reads = std::exchange(announced, std::nullopt);

@@ -58,7 +58,7 @@ std::optional<Line> Parse(std::string_view text) {
 bool IsNotice(std::string_view datagram) {
   const auto line = Parse(datagram.substr(0, datagram.find_first_of("\r\n")));
   if (!line || line->protocolClass != '2' || line->separator != '=') return false;
-  constexpr std::array<std::string_view, 4> kNotices{"LKUP", "ERST", "POWR", "INPT"};
+  constexpr std::string_view kNotices[]{"LKUP", "ERST", "POWR", "INPT"};
   return std::ranges::any_of(kNotices,
                              [&](std::string_view name) { return SameWord(line->command, name); });
 }

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "device/protocol/PjLinkSession.h"
 
 /// A small PJLink projector, written from the standard independently of the library, with
@@ -42,6 +44,7 @@ class BadProjector {
   bool Connect(PjLinkTime now) {
     ++attempts;
     if (now < openAgain_) return false;
+    EXPECT_FALSE(isOpen_) << "the last connection has to be closed first";
     ++connections;
     return isOpen_ = true;
   }
@@ -145,6 +148,7 @@ class SteppedSession {
     auto& connection = session.Connection();
     switch (step.kind) {
       case PjLinkStep::Kind::Connect:
+        EXPECT_EQ(session.State(), ConnectionState::Connecting);
         if (projector.Connect(now)) {
           connection.Connected();
           coming_ = projector.greeting;

@@ -1,5 +1,7 @@
 #include <array>
+#include <atomic>
 #include <functional>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -20,7 +22,7 @@ class OneReply final : public ProjectorChannel {
  public:
   PjtReply Execute(const PjtCommand& command) override {
     last = command;
-    if (breaks) throw command;
+    MayBreak();
     return {
         .result = accepted ? AcceptedResult(command.operation) : RefusedResult(command.operation),
         .value = -2};
@@ -31,9 +33,10 @@ class OneReply final : public ProjectorChannel {
     MayBreak();
     return ConnectionState::Connected;
   }
-  std::optional<SourceList> Inputs() override { throw last; }
+  std::optional<SourceList> Inputs() override { return MayBreak(), SourceList(); }
+  std::optional<PowerState> Power() const override { return PowerState::On; }
   void MayBreak() const {
-    if (breaks) throw last;
+    if (breaks) throw std::bad_alloc();
   }
 
   bool accepted = true;
@@ -42,6 +45,8 @@ class OneReply final : public ProjectorChannel {
 };
 
 TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
+  static std::atomic<int> shortages = 0;
+  std::set_new_handler([] { ++shortages; });
   CPjtInterface p;
   short got = 30;
   auto* const word = reinterpret_cast<unsigned short*>(&got);
@@ -89,6 +94,11 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     p.SetChannel(channel);
     expectCall(form.accepted, form.value);
     EXPECT_EQ(channel->last, form.command);
+    EXPECT_EQ(p.Sent().refused, &form - forms) << "once by each before";
+    EXPECT_TRUE(p.Inputs() && p.Power() && p.Connection() == ConnectionState::Connected);
+    p.CutOff(true);
+    EXPECT_FALSE(p.Inputs() || p.Power());
+    p.CutOff(false);
     channel->accepted = false;
     expectCall(form.refused, 30);
     channel->breaks = true;
@@ -97,23 +107,26 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     EXPECT_EQ(Replies(bounded, {form.command}), "?");
     p.Announce({});
     p.AllowRetry();
-    EXPECT_EQ(p.Connection(), ConnectionState::None);
     EXPECT_EQ(bounded.Connection(), ConnectionState::None);
-    EXPECT_FALSE(p.Inputs() || bounded.Inputs());
-    p.CutOff(true);
-    EXPECT_FALSE(p.Inputs() || p.Power());
-    p.CutOff(false);
+    EXPECT_FALSE(p.Inputs() || bounded.Inputs() || p.Connection() != ConnectionState::None);
+    EXPECT_EQ(shortages.exchange(0), 8) << "each is reported";
     p.SetChannel(nullptr);
     expectCall(form.refused, 30);
     p.Announce({});
     p.AllowRetry();
-    EXPECT_EQ(p.Connection(), ConnectionState::None);
-    EXPECT_FALSE(p.Inputs() || p.Power());
+    EXPECT_FALSE(p.Inputs() || p.Power() || p.Connection() != ConnectionState::None);
   }
+  std::set_new_handler(nullptr);
 }
 
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
   CPjtInterface pjt;
+  pjt.CopyData(0, 3, 9600, "", "");
+  EXPECT_EQ(pjt.Serial().Port, 3);
+  pjt.CopyData(1, 3, 1, "two words", "");
+  EXPECT_EQ(pjt.Connection(), ConnectionState::WrongParameters);
+  EXPECT_EQ(pjt.ConnectionParameter(), 1);
+  EXPECT_EQ(pjt.Serial(), CComCtrl());
   pjt.SetChannel(std::make_shared<OneReply>());
   EXPECT_EQ(pjt.GetMirror(nullptr), 0);
   EXPECT_EQ(pjt.IncrementKeystoneV(nullptr), 0);

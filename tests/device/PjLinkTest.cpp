@@ -104,13 +104,14 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
     PjLinkChannel fresh = served.Channel();  // blank and mute are in one reply
     EXPECT_EQ(Replies(fresh, {Get(code)}), std::to_string(read)) << std::hex << code;
   }
-  EXPECT_EQ(Replies(channel,
-                    {Do(Op::SetPowerOn), Get(Code::RunningState), Set(Code::InputSource, 31),
-                     Do(Op::GetInputSource), Do(Op::SetBlank), Get(Code::BlankState),
-                     Set(Code::BlankState, 1), Do(Op::SetMute), Get(Code::Mute), Set(Code::Mute, 1),
-                     Get(Code::Mute), Get(Code::BlankState), Do(Op::SetFreeze), Get(Code::Freeze),
-                     Set(Code::Freeze, 1), Get(Code::Freeze), Inc(Code::Volume)}),
-            "0 1 0 31 0 0 0 0 0 0 1 1 0 0 0 1 0");
+  EXPECT_EQ(
+      Replies(channel,
+              {Do(Op::SetPowerOn), Get(Code::RunningState), Set(Code::InputSource, 31),
+               Set(Code::InputSource, 32), Do(Op::GetInputSource), Do(Op::SetBlank),
+               Get(Code::BlankState), Set(Code::BlankState, 1), Do(Op::SetMute), Get(Code::Mute),
+               Set(Code::Mute, 1), Get(Code::Mute), Get(Code::BlankState), Do(Op::SetFreeze),
+               Get(Code::Freeze), Set(Code::Freeze, 1), Get(Code::Freeze), Inc(Code::Volume)}),
+      "0 1 0 - 31 0 0 0 0 0 0 1 1 0 0 0 1 0");
   EXPECT_EQ(served.projector->CodeValue(Code::Volume), 17);
   const PjtCommand lower{Op::Dec, Code::Volume};
   EXPECT_EQ(Replies(channel, {lower, Do(Op::SetPowerOff), Get(Code::RunningState), lower}),
@@ -118,7 +119,7 @@ TEST(PjLinkTest, EveryOperationReachesTheProjector) {
       << "nothing is changed in standby";
   EXPECT_EQ(served.projector->CodeValue(Code::Volume), 16);
   EXPECT_EQ(Replies(channel, {Do(Op::SetFreeze, 2), Do(Op::SetMute, 2)}), "- -");
-  EXPECT_EQ(channel.Connection(), State::Connected);
+  EXPECT_TRUE(channel.Connection() == State::Connected && channel.Power() == PowerState::Standby);
 }
 
 TEST(PjLinkTest, AsksOnlyForWhatTheProjectorMayHave) {
@@ -131,8 +132,9 @@ TEST(PjLinkTest, AsksOnlyForWhatTheProjectorMayHave) {
 
   const Served first({.served = {.protocolClass = 1}});
   PjLinkChannel channel = first.Channel();
+  channel.Remember({.protocolClass = '2', .inputs = {{31, "HDMI"}}});
   EXPECT_EQ(Replies(channel, {Get(CommandCode::Freeze), Inc(CommandCode::Volume)}), "! !");
-  EXPECT_EQ(first.Channel().AskForInputs().first.at(0).name, "Digital 1");
+  EXPECT_TRUE(channel.Facts().inputs.empty()) << "another projector had them";
 }
 
 TEST(PjLinkTest, PasswordsAndInputs) {
@@ -140,14 +142,25 @@ TEST(PjLinkTest, PasswordsAndInputs) {
   const Served served({.password = "secret"});
   for (const auto* const wrong : {"", "Secret"}) {
     PjLinkChannel channel = served.Channel(wrong);
-    EXPECT_EQ(Replies(channel, {kGetPower}), "?");
+    EXPECT_TRUE(channel.Execute(kGetPower).unsent);
     EXPECT_EQ(channel.Connection(), State::PasswordRequired);
   }
-  const auto [inputs, areAllTold] = served.Channel("secret").AskForInputs();
-  EXPECT_TRUE(areAllTold);
-  EXPECT_EQ(inputs, (std::vector<PjLinkInput>{{31, "HDMI"}, {510, "Büro"}}));
   PjLinkChannel channel = served.Channel("secret");
+  const auto [inputs, areAllTold] = channel.AskForInputs();
+  EXPECT_TRUE(areAllTold && channel.Facts().inputs == inputs);
+  EXPECT_EQ(inputs, (std::vector<PjLinkInput>{{31, "HDMI"}, {510, "Büro"}}));
   EXPECT_EQ(Replies(channel, {kGetPower, kGetPower}), "1 1");
+  EXPECT_TRUE(channel.TendConnection(0ms) && !channel.TendConnection(1h));
+  EXPECT_EQ(channel.Connection(), State::Unused);
+}
+
+TEST(PjLinkTest, ACommandIsGivenUpEarlierWhenAskedAndAQuestionIsNot) {
+  const auto tells = Peer::Says({kGreeting, "%1CLSS=1\r", "%1INST=31\r"});
+  const Peer peer(Transport::Tcp, {Peer::Says({kGreeting}), tells});
+  PjLinkChannel channel(kHost, peer.port, "", {.connect = 1h, .answer = 1h});
+  channel.GiveUpAfter(0ms);
+  EXPECT_EQ(Replies(channel, {kGetPower}), "?");
+  EXPECT_EQ(channel.AskForInputs().first.at(0).name, "Digital 1");
 }
 
 TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
@@ -163,7 +176,8 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
   const auto replies = [](const std::string& text) { return Peer::Says({kGreeting, text}); };
   const auto breaks = Peer::Says({kGreeting, kOn, ""}, false);
   const auto standby = replies("%1POWR=0\r");
-  const auto twice = Peer::Says({kGreeting, "%1INPT=31\r" + kOn + kOn, "%1POWR=0\r"});
+  const std::string often = QByteArray(kOn.c_str()).repeated(400).toStdString();
+  const auto twice = Peer::Says({kGreeting, "%1INPT=31\r" + often, "%1POWR=0\r"});
   const auto does = Peer::Says({kGreeting, "%1POWR=OK\r", kOn});
   const std::string warm = "%1powr=3\r";
   const auto busy = Peer::Says({kGreeting, "%1POWR=ERR3\r", "%1powr=2\r", warm});
@@ -216,13 +230,14 @@ TEST(PjLinkTest, AsksForInputsWhenIdleAndAgainAfterAPause) {
   // Closes after each reply, as some projectors do.
   const auto says = [](const std::string& text) { return Peer::Says({kGreeting, text}, false); };
   Peer peer(Transport::Tcp,
-            {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says("%2INST=ERR3\r"), says("%1POWR=OK\r"),
-             says(kOn), says("%2INST=31 71  3a 5A\r"), says("%2INNM=Bü\x1Bro\r"),
-             says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
+            {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says(""), says(""), says(""), says(""),
+             says("%1POWR=OK\r"), says(kOn), says("%2INST=31 71  3a 5A\r"),
+             says("%2INNM=Bü\x1Bro\r"), says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
   PjLinkChannel channel(kHost, peer.port, "", {.firstPause = 400ms});
   EXPECT_FALSE(channel.Inputs() || channel.UseIdleTime()) << "no command was answered";
   EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource)}), "635");
   EXPECT_FALSE(channel.UseIdleTime() || channel.UseIdleTime());
+  EXPECT_EQ(channel.Connection(), State::Connected) << "no command has failed";
   EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn)}, 400ms), "0");
   while (channel.UseIdleTime()) continue;
   EXPECT_EQ(channel.Inputs(),
@@ -232,14 +247,15 @@ TEST(PjLinkTest, AsksForInputsWhenIdleAndAgainAfterAPause) {
 TEST(PjLinkTest, SaysWhyItCannotConnect) {
   const auto expect = [](PjLinkChannel&& channel, State state) {
     EXPECT_EQ(Replies(channel, {kGetPower}), "?");
-    EXPECT_FALSE(channel.AskForInputs().second);
+    EXPECT_FALSE(channel.AskForInputs().second || channel.TendConnection(0ms));
     EXPECT_EQ(channel.Connection(), state);
     EXPECT_EQ(Replies(channel, {Do(Op::GetMirror)}), "!");
   };
   const int before = lookUps;
+  expect({std::string(64, 'a'), 1, "", kLimits}, State::NameUnknown);
   expect({"localhost", 1, "", {.connect = 50ms}}, State::NameUnknown);
-  EXPECT_LE(lookUps, before + 2) << "once for the command, once for the inputs";
-  expect({"localhost", 1, "", kLimits}, State::NotReachable);
+  EXPECT_LE(lookUps, before + 2) << "once for the command, once for the inputs, for no long name";
+  expect({"localhost", 65535, "", kLimits}, State::NotReachable);
   expect({"no-such-host", 1, "", kLimits}, State::NameUnknown);
   expect({"", 4352, "", kLimits}, State::WrongParameters);
   expect({kHost, 0, "", kLimits}, State::WrongParameters);

@@ -31,7 +31,7 @@ TEST(PjLinkLine, ParametersAreValuesOrNothing) {
       {PjLink::Mute, "31=1 11=0 ="},
       {PjLink::Switch, "0=0 1=1 2="},
       {PjLink::PowerStatus, "3=1 2=2 4= /= 11="},
-      {PjLink::ErrorStatus, "010200=1 000010=8 000000=0 000003= 00000="},
+      {PjLink::ErrorStatus, "010200=1 020000=3 002000=4 000010=8 000000=0 000003= 00000="},
       {PjLink::InputNumber, "6Z=635 19=19 10= 1a= 1:= 1[= 71= 0A= 311="}};
   for (const auto& [read, list] : cases) {
     for (const QString& one : QString(list).split(' ')) {
@@ -60,6 +60,7 @@ TEST(PjLinkLine, ParametersAreValuesOrNothing) {
 TEST(PjLinkInputs, AreAskedForOneByOne) {
   using Kind = PjLinkResult::Kind;
   PjLinkInputs inputs;
+  inputs.SetPresent(31);
   inputs.SkipName();
   EXPECT_EQ(inputs.Next()->command, "INST") << "no name was asked for";
   const auto ask = [&](std::vector<PjLinkResult> results) {
@@ -80,7 +81,9 @@ TEST(PjLinkInputs, AreAskedForOneByOne) {
   inputs.SkipName();
   EXPECT_TRUE(inputs.Take({Kind::Text, "nobody asked"}));
   EXPECT_EQ(inputs.Known(), known);
-  EXPECT_EQ(PjLinkInputs::Named(7, "").name, "") << "there is no such input";
+  EXPECT_FALSE(PjLinkInputs::NameOf(7)) << "there is no such input";
+  EXPECT_EQ(PjLinkInputs::Named(7, "").name, "");
+  EXPECT_EQ(PjLinkInputs::Named(31, std::string(200, 'x')).name.size(), 128);
 
   // The present input takes the last place if there is none left.
   inputs.Forget();
@@ -93,16 +96,28 @@ TEST(PjLinkInputs, AreAskedForOneByOne) {
   EXPECT_EQ(inputs.Known()[14], (PjLinkInput{26, "Video 6"}));
 
   inputs.Remember({{7, "no PJLink"}, {31, "HDMI"}});
-  EXPECT_FALSE(inputs.Next() && inputs.Next()->command == "INST");
+  EXPECT_EQ(inputs.Next()->parameter, "?49") << "only the present one is missing";
 }
 
-TEST(PjLinkInputInquiry, ForgetsWhatAnotherProjectorHad) {
-  PjLinkInputInquiry inquiry(1s, 1s);
+TEST(PjLinkInputInquiry, ForgetsWhatAnotherProjectorHadAndPausesAfterFailures) {
+  PjLinkInputInquiry inquiry(1s, 3s);
+  inquiry.Remember({}, '2');
+  EXPECT_FALSE(inquiry.Report()) << "nothing is known";
   inquiry.Remember({{31, "HDMI"}}, '2');
+  EXPECT_TRUE(inquiry.Report());
   inquiry.CheckClass({});
   EXPECT_EQ(inquiry.AllInputs().size(), 1U) << "its class is not known";
   inquiry.CheckClass('1');
   EXPECT_TRUE(inquiry.AllInputs().empty());
+  SessionTime now{1h};
+  for (const auto pause : {1s, 2s, 3s, 3s}) {
+    EXPECT_FALSE(inquiry.Take({}, now) || inquiry.NextQuestion(now + pause - 1ms));
+    now += pause;
+    EXPECT_TRUE(inquiry.NextQuestion(now));
+  }
+  for (const char* told : {"32", "TV"}) inquiry.Take({PjLinkResult::Kind::Text, told}, now);
+  inquiry.CheckClass('1');
+  EXPECT_EQ(inquiry.AllInputs(), std::vector(1, PjLinkInput{32, "TV"}));
 }
 
 TEST(PjLinkAttempts, ALookUpThatRanOutOfTimeIsNotTheProblem) {
@@ -112,6 +127,9 @@ TEST(PjLinkAttempts, ALookUpThatRanOutOfTimeIsNotTheProblem) {
   EXPECT_EQ(attempts.Fail(ConnectionState::NotReachable, now), now + 50ms);
   EXPECT_FALSE(attempts.Fail(ConnectionState::NameUnknown, now + 50ms));
   EXPECT_EQ(attempts.Problem(), ConnectionState::NotReachable);
+  attempts.Start(now + 1s, 50ms);
+  attempts.Fail(ConnectionState::NameUnknown, now);
+  EXPECT_EQ(attempts.Problem(), ConnectionState::NameUnknown) << "that was another request";
 }
 
 /// Gives the same reply to everything.
@@ -189,7 +207,7 @@ TEST(Sessions, EventsAtTheWrongTimeChangeNothing) {
   for (int connections = 1; connections <= 2; ++connections) {
     connection.Connected();
     connection.NotConnected(ConnectionState::NotReachable, stepped.now);
-    connection.Received("%1POWR=0\r", stepped.now);
+    if (connections == 1) connection.Received("%1POWR=0\r", stepped.now);
     EXPECT_EQ(stepped.Do(Get(CommandCode::RunningState)).value, 1);
     EXPECT_EQ(stepped.projector.connections, connections);
     connection.Closed(stepped.now);
@@ -227,6 +245,7 @@ TEST(Sessions, AProjectorThatGreetsAndLeavesIsTriedAgainForAWhile) {
       if (step.kind == SessionStep::Kind::Wait) now = step.until;
       if (step.kind != SessionStep::Kind::Connect) continue;
       ++attempts;
+      connection.Received("on no connection", now);
       connection.Connected();
       connection.Received(greeting, now);
       connection.Closed(now);
@@ -242,33 +261,51 @@ TEST(Sessions, AClassThatIsNotToldNowIsDoneWithout) {
   stepped.projector.facts["CLSS"] = "ERR3";
   EXPECT_EQ(stepped.Do(Get(CommandCode::InputSource)).value, 31);
   EXPECT_EQ(stepped.projector.TakeRequests(), "CLSS, INPT");
+  EXPECT_FALSE(stepped.session.ProtocolClass());
+  EXPECT_EQ(PjLinkKnownClass().ForRequest(PjLinkClass::Either), '1');
+  EXPECT_EQ(PjLinkKnownClass().ForRequest(PjLinkClass::Second), '2');
 }
 
 TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
-  WireSession wire(WireSession::Medium::Reliable, {.connect = 1s, .answer = 1s}, 7);
-  const PjtCommand reads[] = {Get(CommandCode::Mute), Get(CommandCode::Freeze)};
+  using Kind = SessionStep::Kind;
+  WireSession wire(WireSession::Medium::Reliable, {.connect = 1s, .answer = 2s}, 7);
+  const auto receive = [&](const std::vector<Wire::Frame>& frames) {
+    std::string bytes;
+    for (const Wire::Frame& frame : frames) Wire::Append(bytes, frame);
+    wire.Received(bytes);
+    return wire.Next({}).kind;
+  };
+  const std::vector<PjtCommand> reads(64, Get(CommandCode::Mute));
+  const auto connect = [&] {
+    wire.Begin(reads[0], {});
+    EXPECT_EQ(wire.Next({}).kind, Kind::Connect);
+    wire.Connected();
+  };
+  const Wire::Reply five{Wire::Status::Answered, 1, 5};
   wire.Announce(reads);
-  wire.Begin(reads[0], {});
-  wire.Next({});
-  wire.Connected();
-  const std::size_t both = wire.Next({}).bytes.size();
-  std::string bytes;
-  for (const Wire::Frame& frame : {Wire::Frame{8, Wire::Welcome{}},
-                                   {8, Wire::Welcome{0}},
-                                   {9, Wire::Hello{}},
-                                   {9, Wire::Request{}},
-                                   {9, Wire::Reply{Wire::Status::Answered, 1, 5}}}) {
-    Wire::Append(bytes, frame);
-  }
-  wire.Received(bytes);
-  EXPECT_EQ(wire.Next({}).kind, SessionStep::Kind::Finished);
+  connect();
+  const SessionStep burst = wire.Next({});
+  EXPECT_EQ(burst.until, SessionTime(2s));
+  EXPECT_EQ(receive({{9, five}}), Kind::Wait) << "for the welcome";
+  EXPECT_EQ(
+      receive(
+          {{8, Wire::Welcome{}}, {8, Wire::Welcome{0}}, {9, Wire::Request{}}, {9, Wire::Reply{}}}),
+      Kind::Finished);
   EXPECT_EQ(wire.Reply().value, 5);
 
+  for (const auto& [sent, answered] : {std::pair(1, 73), {64, 74}}) {
+    wire.Announce(reads);
+    wire.Begin(reads[0], {});
+    EXPECT_EQ(wire.Next({}).bytes.size(), sent * Wire::kMaximumFrame) << "up to 64 unanswered";
+    EXPECT_EQ(receive({{75, five}, {static_cast<std::uint16_t>(answered), five}}), Kind::Finished);
+  }
   wire.Closed();
-  wire.Begin(reads[1], {});
-  EXPECT_EQ(wire.Next({}).kind, SessionStep::Kind::Connect);
-  wire.Connected();
-  EXPECT_EQ(wire.Next({}).bytes.size(), both - Wire::kMaximumFrame)
+  connect();
+  wire.Closed();
+  EXPECT_EQ(wire.Next({}).kind, Kind::Close);
+  EXPECT_TRUE(wire.Reply().unsent);
+  connect();
+  EXPECT_EQ(wire.Next({}).bytes.size(), burst.bytes.size() - 63 * Wire::kMaximumFrame)
       << "what was sent on the last connection is sent again";
 }
 

@@ -94,6 +94,7 @@ TEST(WireChannelTest, EveryFaultOfThePeerGivesAStateAndTheNextCommandWorks) {
       {"never answers", Peer::Says({}), NoAnswer},
       {"answers garbage", Peer::Says({"", "HTTP/1.1 400 Bad Request\r\n\r\n"}), NotUnderstood},
       {"half a frame", Peer::Says({"", "\xA5\x5A\x02"}), NoAnswer},
+      {"lies about kind", Peer::Says({"", "\xA5\x5A\x09"}), NotUnderstood},
       {"lies about length", Peer::Says({"", "\xA5\x5A\x02\xFF"}), NotUnderstood},
       {"ten megabytes", Peer::Says({"", std::string(kFlood, 'A')}), NotUnderstood},
       {"welcomes somebody else", Peer::Says({"", FrameBytes({1, Wire::Welcome{}})}), NoAnswer},
@@ -142,28 +143,28 @@ TEST(WireChannelTest, TheStatusOfAReplySaysWhatBecameOfTheCommand) {
       return FrameBytes({frame ? frame->sequence : std::uint16_t{}, Wire::Reply{status}});
     });
   };
-  struct Case {
-    Wire::Status status;
-    const char* reply;
-    ConnectionState state;
-  };
-  for (const auto& [status, reply, state] : {Case{Wire::Status::UnknownOperation, "!", Connected},
-                                             Case{Wire::Status::Unanswered, "?", Connected},
-                                             Case{Wire::Status::NoHello, "?", NotUnderstood}}) {
+  using enum Wire::Status;
+  for (const auto& [status, offered, answered, unsent, state] :
+       {std::tuple(UnknownOperation, false, true, false, Connected),
+        {Unanswered, true, false, false, Connected},
+        {NoHello, true, false, true, NotUnderstood}}) {
     const Peer peer(Transport::Tcp, {with(status), with(status)});
     const auto channel = ChannelTo(peer);
-    EXPECT_EQ(Replies(*channel, {Get(5)}), reply);
-    EXPECT_EQ(channel->Connection(), state) << reply;
+    const PjtReply reply = channel->Execute(Get(5));
+    EXPECT_EQ(std::tuple(reply.offered, reply.answered, reply.unsent),
+              std::tuple(offered, answered, unsent));
+    EXPECT_EQ(channel->Connection(), state);
   }
 }
 
 TEST(WireChannelTest, GivesUpEarlierWhenAsked) {
   const Peer peer(Transport::Tcp, {Peer::Says({})});
-  const auto channel = std::make_shared<TcpChannel>(
-      "127.0.0.1", peer.port, WireChannel::Limits{.connect = 1h, .answer = 1h});
-  channel->GiveUpAfter(50ms);
-  EXPECT_EQ(Replies(*channel, {Get(1)}), "?");
-  BoundedChannel bounded(channel, {.timeOut = 1h});
+  const WireChannel::Limits limits{.connect = 1h, .answer = 1h};
+  TcpChannel channel("127.0.0.1", peer.port, limits);
+  channel.GiveUpAfter(50ms);
+  EXPECT_EQ(Replies(channel, {Get(1)}), "?");
+  BoundedChannel bounded(std::make_shared<TcpChannel>("127.0.0.1", peer.port, limits),
+                         {.timeOut = 1h});
   bounded.GiveUpAfter(50ms);
   EXPECT_EQ(Replies(bounded, {Get(1)}), "?");
 }
@@ -179,8 +180,6 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
     EXPECT_EQ(ConnectionStateText(channel.Connection()), ConnectionStateText(state));
   };
   expect(TcpChannel("localhost", taken, kLimits), NoAnswer);
-  // Nobody is asked about a name that is too long.
-  expect(TcpChannel(std::string(64, 'a'), taken, kLimits), NameUnknown);
   expect(SerialChannel("/dev/no-such-port", 19200, kLimits), NotReachable);
   expect(SerialChannel("/dev/null", 19200, kLimits), NotReachable);
 
@@ -194,8 +193,7 @@ TEST(WireChannelTest, SaysWhyItCannotConnect) {
                            {.timeOut = 10ms});
     EXPECT_EQ(Replies(givenUp, {Get(1)}), "?");
   }
-  for (int i = 0; i < 200 && threads() > before; ++i) std::this_thread::sleep_for(10ms);
-  EXPECT_LE(threads(), before);
+  EXPECT_TRUE(Soon([&] { return threads() <= before; }));
 
   neverAccepts.close();
   expect(TcpChannel("127.0.0.1", taken, kLimits), NotReachable);
@@ -224,7 +222,7 @@ TEST(WireChannelTest, NoiseOnAnIdleConnectionEndsIt) {
   }
 }
 
-enum class Takes { All, Late, Part };
+enum class Takes { All, Late, Part, None };
 
 /// A line that does not take all bytes at once, or gives none although some have come.
 class FailingLine final : public QIODevice {
@@ -232,10 +230,10 @@ class FailingLine final : public QIODevice {
   explicit FailingLine(Takes takes) : takes_(takes) { open(ReadWrite | Unbuffered); }
   bool isSequential() const override { return true; }
   qint64 bytesAvailable() const override { return asked_++ % 2; }  // some come during a wait
-  qint64 bytesToWrite() const override { return takes_ == Takes::All ? 0 : 1; }
+  qint64 bytesToWrite() const override { return takes_ == Takes::Late || takes_ == Takes::Part; }
 
  protected:
-  qint64 readData(char*, qint64) override { return -1; }
+  qint64 readData(char*, qint64) override { return takes_ == Takes::None ? 0 : -1; }
   qint64 writeData(const char*, qint64 size) override { return size - (takes_ == Takes::Part); }
 
  private:
@@ -247,6 +245,7 @@ struct FailingChannel final : WireChannel {
   FailingChannel(Takes takes, bool alive)
       : WireChannel(Medium::Reliable, {}), does(takes), isAlive(alive) {}
   std::unique_ptr<QIODevice> Open(const QDeadlineTimer&, ConnectionState&) override {
+    EXPECT_EQ(Connection(), Connecting);
     return std::make_unique<FailingLine>(does);
   }
   bool IsAlive(QIODevice&) const override { return isAlive; }
@@ -259,7 +258,8 @@ TEST(WireChannelTest, ALineThatFailsIsGivenUp) {
   for (const auto& [takes, isAlive, state] : {std::tuple(Takes::Late, true, NoAnswer),
                                               {Takes::Late, false, Lost},
                                               {Takes::Part, true, Lost},
-                                              {Takes::All, true, Lost}}) {
+                                              {Takes::All, true, Lost},
+                                              {Takes::None, true, Lost}}) {
     FailingChannel channel(takes, isAlive);
     EXPECT_EQ(Replies(channel, {Get(1)}), "?");
     EXPECT_EQ(channel.Connection(), state);
@@ -312,6 +312,7 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
       {"in order", {Get(0), Get(1), Get(63), Get(64), Get(79)}, "0 1 63 64 79", {64, 16}},
       {"not announced in between", {Get(20), Get(500), Get(21)}, "20 500 21", {60, 1}},
       {"passed over, asked for later", {Get(20), Get(22), Get(21)}, "20 22 21", {60, 1}},
+      {"the rest passed over", {Get(0), Get(70)}, "0 70", {64, 10}},
       {"a change in between", {Get(20), kChange, Get(21)}, "20 1001 1021", {60, 1, 1}},
       {"asked twice", {Get(20), Get(20)}, "20 20", {60, 1}},
       {"late", {Get(20), Get(21)}, "20 21", {60, 1}, 0ms, kLimits.answer + 20ms},
@@ -330,20 +331,6 @@ TEST(WireChannelTest, AnnouncedReadsGoOutTogetherAndAreAnsweredInOrder) {
     }
     EXPECT_EQ(bursts, expected);
   }
-}
-
-TEST(WireChannelTest, AnnouncingAgainLeavesNoMoreThan64Unanswered) {
-  std::atomic<std::size_t> received = 0;
-  const Peer peer(Transport::Tcp, {Answers([&](End& end, const std::string& answer) {
-                    if (received == 0) end.Send(answer.substr(0, kWelcomeSize + kReplySize));
-                    received += answer.size() / kReplySize;
-                  })});
-  const auto channel = ChannelTo(peer);
-  for (const auto* const reply : {"5", "?"}) {
-    channel->Announce(std::vector(80, Get(5)));
-    EXPECT_EQ(Replies(*channel, {Get(5)}), reply);
-  }
-  EXPECT_EQ(received, 1 + 64);
 }
 
 }  // namespace

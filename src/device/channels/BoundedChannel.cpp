@@ -152,8 +152,7 @@ void BoundedChannel::State::Work() {
     commandGiven.wait(lock, isCalled);
     if (ended) {
       const auto last = std::exchange(inner, nullptr);
-      lock.unlock();
-      return;
+      return lock.unlock();
     }
     const PjtCommand taken = *std::exchange(command, std::nullopt);
     const auto reads = std::exchange(announced, std::nullopt);
@@ -252,7 +251,6 @@ PjtReply BoundedChannel::Execute(const PjtCommand& command) {
   if (isSent) {
     state->command = command;
     state->outstanding = true;
-    state->abandoned = false;
     state->recipient = &wait;
     state->commandGiven.notify_one();
     state->WaitUntil(lock, wait, [&] { return wait.reply.has_value(); });

@@ -9,7 +9,7 @@ namespace AdvancedControl {
 
 std::unique_ptr<QIODevice> TcpChannel::Open(const QDeadlineTimer& deadline,
                                             ConnectionState& problem) {
-  constexpr qint64 kReadAhead = 64L * 1024;
+  constexpr qint64 kReadAhead = 65'536;
   return ConnectSocket(host_, port_, kReadAhead, deadline, problem);
 }
 

@@ -45,7 +45,6 @@ void PjLinkConnection::Connected() {
   isOpen_ = true;
   stage_ = Stage::Greeting;
   replies_ = 0;
-  reader_.Clear();
 }
 
 void PjLinkConnection::NotConnected(ConnectionState problem, PjLinkTime now) {

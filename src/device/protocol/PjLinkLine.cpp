@@ -58,7 +58,7 @@ std::optional<Line> Parse(std::string_view text) {
 bool IsNotice(std::string_view datagram) {
   const auto line = Parse(datagram.substr(0, datagram.find_first_of("\r\n")));
   if (!line || line->protocolClass != '2' || line->separator != '=') return false;
-  constexpr std::array<std::string_view, 4> kNotices{"LKUP", "ERST", "POWR", "INPT"};
+  constexpr std::string_view kNotices[]{"LKUP", "ERST", "POWR", "INPT"};
   return std::ranges::any_of(kNotices,
                              [&](std::string_view name) { return SameWord(line->command, name); });
 }
@@ -186,7 +186,6 @@ std::optional<int> InputNumber(std::string_view code) {
 }
 
 std::optional<std::string> InputCode(int number) {
-  if (number < 0) return std::nullopt;
   const std::string code = number < 100 ? std::to_string(number)
                                         : std::to_string(number / 100) +
                                               static_cast<char>('A' + (number % 100 - 10) % 26);

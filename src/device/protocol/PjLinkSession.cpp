@@ -6,23 +6,17 @@
 
 namespace AdvancedControl {
 
-namespace {
-
-constexpr int kMostLost = 1;
-
-}  // namespace
-
 void PjLinkSession::RememberClass(char protocolClass) { class_.Remember(protocolClass); }
 
 void PjLinkSession::Begin(const PjtCommand& command, PjLinkTime now) {
   isQuestion_ = false;
-  lostAnswers_ = 0;
+  hasRepeated_ = false;
   Continue(execution_.Begin(command, answerTime_, class_, now), now);
 }
 
 void PjLinkSession::Begin(PjLinkQuestion question, PjLinkTime now) {
   isQuestion_ = true;
-  lostAnswers_ = 0;
+  hasRepeated_ = false;
   result_ = {};
   Continue(PjLinkWorkRequest{.protocolClass = question.protocolClass,
                              .mayAskClass = true,
@@ -77,7 +71,8 @@ void PjLinkSession::Ask(PjLinkTime now) {
 void PjLinkSession::Handle(const PjLinkAnswer& answer, PjLinkTime now) {
   const bool isForClass = stage_ == Stage::AskingClass;
   const bool mayRepeat = isForClass || isQuestion_;
-  if (mayRepeat && !answer.parameter && answer.sent && lostAnswers_++ < kMostLost) return Ask(now);
+  if (mayRepeat && !answer.parameter && answer.sent && !std::exchange(hasRepeated_, true))
+    return Ask(now);
   if (isForClass && answer.parameter) {
     class_.Take(*answer.parameter);
     request_.mayAskClass = false;

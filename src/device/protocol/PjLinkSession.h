@@ -78,8 +78,8 @@ class PROJECTOR_COMMON_EXPORT PjLinkSession {
 
   // The work in progress.
   Stage stage_ = Stage::Idle;
-  bool isQuestion_ = false;       ///< Whether the work is a question, and not a command.
-  std::uint8_t lostAnswers_ = 0;  ///< Number of lost answers to questions.
+  bool isQuestion_ = false;   ///< Whether the work is a question, and not a command.
+  bool hasRepeated_ = false;  ///< Whether a question was repeated because its answer got lost.
   PjLinkWorkRequest request_;
   PjLinkExecution execution_;  ///< Of a command.
   PjLinkResult result_;        ///< Of a question.

@@ -7,7 +7,6 @@ void WireConnection::Start(SessionTime welcomeBy) {
   welcomeBy_ = welcomeBy;
   welcome_.reset();
   decoder_ = {};
-  unsent_.clear();
 }
 
 void WireConnection::Opened(std::uint16_t hello) {

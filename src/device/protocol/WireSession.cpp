@@ -53,7 +53,7 @@ void WireSession::Received(std::string_view bytes) {
   const bool isInvalid = medium_ == Medium::Reliable && connection_.HasNoise();
   if (!isInvalid) return;
   if (stage_ == Stage::Idle) {
-    Drop();
+    connection_.Drop();
   } else {
     Fail(ConnectionState::NotUnderstood);
   }
@@ -131,7 +131,7 @@ void WireSession::TakeReply(const Wire::Reply& reply, SessionTime now) {
     stage_ = Stage::Idle;
   } else if (command_.RepeatForgotten()) {
     // The projector has forgotten the hello, for example after a restart.
-    Drop();
+    connection_.Drop();
     Start(now);
   } else {
     Fail(ConnectionState::NotUnderstood);
@@ -143,13 +143,8 @@ void WireSession::Await(Stage stage, SessionTime until) {
   until_ = until;
 }
 
-void WireSession::Drop() {
-  connection_.Drop();
-  requests_.ForgetSent();
-}
-
 void WireSession::Fail(ConnectionState problem) {
-  Drop();
+  connection_.Drop();
   connection_.SetState(problem);
   command_.Fail(problem);
   stage_ = Stage::Idle;

@@ -90,7 +90,6 @@ class PROJECTOR_COMMON_EXPORT WireSession {
   void TakeWelcome(SessionTime now);
   void TakeReply(const Wire::Reply& reply, SessionTime now);
   void Await(Stage stage, SessionTime until);
-  void Drop();
   void Fail(ConnectionState problem);
 
   const Medium medium_;

@@ -152,7 +152,8 @@ void BoundedChannel::State::Work() {
     commandGiven.wait(lock, isCalled);
     if (ended) {
       const auto last = std::exchange(inner, nullptr);
-      return lock.unlock();
+      lock.unlock();
+      return;
     }
     const PjtCommand taken = *std::exchange(command, std::nullopt);
     const auto reads = std::exchange(announced, std::nullopt);

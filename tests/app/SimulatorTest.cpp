@@ -3,9 +3,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
-#include <netinet/in.h>
 #include <optional>
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include <QLabel>
@@ -167,11 +165,9 @@ TEST(SimulatorPorts, NoneExceedsTheLastPort) {
 }
 
 TEST(SimulatorPorts, AreOpenedOrGiveTheReason) {
-  const int held = LoopbackSocket::Listen(0);
-  sockaddr_in place{};
-  socklen_t size = sizeof place;
-  getsockname(held, reinterpret_cast<sockaddr*>(&place), &size);
-  EXPECT_EQ(LoopbackSocket::Listen(ntohs(place.sin_port)), -1);
+  const quint16 port = LastingPort();
+  const int held = LoopbackSocket::Listen(port);
+  EXPECT_EQ(LoopbackSocket::Listen(port), -1);
   EXPECT_EQ(errno, EADDRINUSE);
   close(held);
   const Limited none(RLIMIT_NOFILE, 0);

@@ -293,7 +293,7 @@ TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
       Kind::Finished);
   EXPECT_EQ(wire.Reply().value, 5);
 
-  for (const auto& [sent, answered] : {std::pair(1, 73), {64, 74}}) {
+  for (const auto& [sent, answered] : {std::pair(1U, 73), {64U, 74}}) {
     wire.Announce(reads);
     wire.Begin(reads[0], {});
     EXPECT_EQ(wire.Next({}).bytes.size(), sent * Wire::kMaximumFrame) << "up to 64 unanswered";

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <functional>
 #include <map>
 #include <set>
 #include <sstream>
@@ -22,75 +21,51 @@ namespace {
 constexpr const char* kListing = TEST_SOURCE_DIR "/simulator/Settings.txt";
 constexpr int kLowest = -130, kHighest = 1010;  // more than any range that is not a word
 
-/// A new projector of a page set with one of its settings.
-class OneSetting {
- public:
-  OneSetting(int pageSet, SettingId id) : projector_({.pageSet = pageSet}), id_(id) {}
-
-  /// What the operation does, whose argument names one of several.
-  std::string Does(const PjtCommand& command, Verb verb) {
-    const bool isSecond = FormOf(command.operation).second == Argument::Value;
-    switch (verb) {
-      case Verb::Read:
-        return ' ' + Replies(projector_, {command});
-      case Verb::Write:
-        return Takes([&](int value) {
-          PjtCommand with = command;
-          (isSecond ? with.second : with.first) = static_cast<std::int16_t>(value);
-          return with;
-        });
-      case Verb::StepUp:
-      case Verb::StepDown: {
-        const int limit = kHighest - kLowest;
-        for (int i = 0; i < limit && IsAccepted(command); ++i) continue;
-        return " to " + std::to_string(Kept());
-      }
-      default:
-        projector_.SetValue(id_, Kept() + 1, kSource);
-        return IsAccepted(command) ? ' ' + std::to_string(Kept()) : " -";
+/// What a command does to a setting of a new projector: the reply, the last value to which it
+/// steps, the values that it takes with what is kept of them (" 1..3 as 0"), or the value
+/// afterwards.
+std::string Does(int pageSet, SettingId id, PjtCommand command, Verb verb) {
+  SimulatedProjector projector({.pageSet = pageSet});
+  const auto kept = [&] { return projector.Value(id, 0); };
+  const auto isAccepted = [&] {
+    return projector.Execute(command).result == AcceptedResult(command.operation);
+  };
+  if (verb == Verb::Read) return ' ' + Replies(projector, {command});
+  if (verb == Verb::StepUp || verb == Verb::StepDown) {
+    for (int i = kLowest; i < kHighest && isAccepted(); ++i) continue;
+    return " to " + std::to_string(kept());
+  }
+  if (verb != Verb::Write) {
+    projector.SetValue(id, kept() + 1, 0);
+    return isAccepted() ? ' ' + std::to_string(kept()) : " -";
+  }
+  const bool isSecond = FormOf(command.operation).second == Argument::Value;
+  std::ostringstream text;
+  int first = 0, next = kLowest, shift = 0;
+  const auto end = [&] {
+    if (next == kLowest) return;
+    text << ' ' << first;
+    if (next > first + 1) text << ".." << next - 1;
+    if (shift != 0) text << " as " << first + shift;
+  };
+  for (int value = kLowest; value < kHighest; ++value) {
+    (isSecond ? command.second : command.first) = static_cast<std::int16_t>(value);
+    if (!isAccepted()) continue;
+    if (value != next || kept() != value + shift) {
+      end();
+      first = value;
+      shift = kept() - value;
     }
+    next = value + 1;
   }
-
- private:
-  static constexpr int kSource = 0;
-
-  int Kept() const { return projector_.Value(id_, kSource); }
-  bool IsAccepted(const PjtCommand& command) {
-    return projector_.Execute(command).result == AcceptedResult(command.operation);
-  }
-
-  /// The values that are taken, and what is kept if that is something else: " 1..3 as 0".
-  std::string Takes(const std::function<PjtCommand(int)>& with) {
-    std::ostringstream text;
-    int first = 0, next = kLowest, shift = 0;
-    const auto end = [&] {
-      if (next == kLowest) return;
-      text << ' ' << first;
-      if (next > first + 1) text << ".." << next - 1;
-      if (shift != 0) text << " as " << first + shift;
-    };
-    for (int value = kLowest; value < kHighest; ++value) {
-      if (!IsAccepted(with(value))) continue;
-      if (value != next || Kept() != value + shift) {
-        end();
-        first = value;
-        shift = Kept() - value;
-      }
-      next = value + 1;
-    }
-    end();
-    return next == kLowest ? " nothing" : text.str();
-  }
-
-  SimulatedProjector projector_;
-  const SettingId id_;
-};
+  end();
+  return next == kLowest ? " nothing" : text.str();
+}
 
 std::string Describe(int pageSet, const Setting& setting) {
   std::ostringstream text;
   const auto add = [&](const PjtCommand& command, Verb verb) {
-    OneSetting one(pageSet, setting.id);
-    text << "; " << OperationName(command.operation) << one.Does(command, verb);
+    text << "; " << OperationName(command.operation) << Does(pageSet, setting.id, command, verb);
   };
   if (setting.code != 0) {
     add(Get(setting.code), Verb::Read);

@@ -230,14 +230,13 @@ TEST(PjLinkTest, AsksForInputsWhenIdleAndAgainAfterAPause) {
   // Closes after each reply, as some projectors do.
   const auto says = [](const std::string& text) { return Peer::Says({kGreeting, text}, false); };
   Peer peer(Transport::Tcp,
-            {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says(""), says(""), says(""), says(""),
-             says("%1POWR=OK\r"), says(kOn), says("%2INST=31 71  3a 5A\r"),
-             says("%2INNM=Bü\x1Bro\r"), says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
+            {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says("%2INST=ERR3\r"), says("%1POWR=OK\r"),
+             says(kOn), says("%2INST=31 71  3a 5A\r"), says("%2INNM=Bü\x1Bro\r"),
+             says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
   PjLinkChannel channel(kHost, peer.port, "", {.firstPause = 400ms});
   EXPECT_FALSE(channel.Inputs() || channel.UseIdleTime()) << "no command was answered";
   EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource)}), "635");
   EXPECT_FALSE(channel.UseIdleTime() || channel.UseIdleTime());
-  EXPECT_EQ(channel.Connection(), State::Connected) << "no command has failed";
   EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn)}, 400ms), "0");
   while (channel.UseIdleTime()) continue;
   EXPECT_EQ(channel.Inputs(),

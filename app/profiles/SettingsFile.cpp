@@ -16,7 +16,6 @@ QString KeyAt(const Snapshot& snapshot, const QString& path) {
   if (!isBeforehand && !path.startsWith("settings[")) return {};
   const auto& settings = isBeforehand ? snapshot.beforehand : snapshot.settings;
   const auto index = path.section('[', 1).section(']', 0, 0).toULongLong();
-  // unreachable: an entry that was not read; one that cannot be read is told before
   return index < settings.size() ? QString::fromStdString(settings[index].key) + ": " : QString();
 }
 

@@ -44,7 +44,7 @@ int OpenLocked(const QString& path) {
     // unreachable: the previous simulator would have to remove it just now
     if (isHeld && status.st_nlink > 0) return file;
     close(file);
-    // unreachable: the same
+    // unreachable: a lock on a file that was removed just now
     if (!isHeld) return -1;
   }
 }
@@ -56,18 +56,16 @@ SimulatorNotice::SimulatorNotice(const QString& profiles, const ServedAddresses&
   if (path_.isEmpty()) return;
   QDir().mkpath(QFileInfo(path_).path());
   file_ = OpenLocked(path_);
+  if (file_ < 0) return;
   QJsonObject json;
   for (const auto& [name, address] : served) {
     json[QString::fromStdString(name)] = QString::fromStdString(address);
   }
-  const QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
-  // unreachable: emptying fails only on a broken disk
-  const bool isTold = file_ >= 0 && ftruncate(file_, 0) == 0 &&
-                      write(file_, text.constData(), static_cast<std::size_t>(text.size())) ==
-                          static_cast<ssize_t>(text.size());
-  if (file_ < 0 || isTold) return;
-  close(file_);
-  file_ = -1;
+  // What was not written completely is no JSON, and tells nobody anything.
+  QFile file;
+  file.open(file_, QFile::WriteOnly, QFile::DontCloseHandle);
+  file.resize(0);
+  file.write(QJsonDocument(json).toJson(QJsonDocument::Compact));
 }
 
 SimulatorNotice::~SimulatorNotice() {

@@ -147,7 +147,7 @@ TEST(PjLinkAccessToNobody, EndsAfterOneTimeOut) {
   EXPECT_TRUE(other.Channel().IsGone()) << "it was never there";
   ProjectorAccess simulated(ProfileOf(0, 0), std::make_shared<Silent>(), kShort.connect);
   EXPECT_FALSE(simulated.Connection().Execute({PjtOperation::Inc, 0x2001}).answered);
-  EXPECT_TRUE(simulated.Channel().IsGone()) << "the same";
+  EXPECT_TRUE(simulated.Channel().IsGone()) << "nor was this one";
 }
 
 }  // namespace

@@ -14,7 +14,6 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/projectors/ProjectorView.h"
 #include "app/profiles/LoopbackSocket.h"
-#include "app/profiles/SimulatorNotice.h"
 #include "device/Connect.h"
 #include "device/channels/BoundedChannel.h"
 #include "fleet/ProfileFile.h"
@@ -173,18 +172,6 @@ TEST(SimulatorPorts, AreOpenedOrGiveTheReason) {
   const Limited none(RLIMIT_NOFILE, 0);
   EXPECT_EQ(LoopbackSocket::Listen(0), -1);
   EXPECT_EQ(errno, EMFILE);
-}
-
-TEST(SimulatorPorts, AreNotPublishedOnAFullDisk) {
-  const QTemporaryDir folder;
-  qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
-  const ServedAddresses served{{kName, "tcp://127.0.0.1:4400"}};
-  {
-    const Limited none(RLIMIT_FSIZE, 0);
-    const SimulatorNotice untold("profiles.json", served);
-    EXPECT_TRUE(FindServed("profiles.json").empty());
-  }
-  qunsetenv("XDG_RUNTIME_DIR");
 }
 
 TEST(Dialog, ConnectsByItselfAndNeedsAtMostTwoRoundTripsPerPage) {

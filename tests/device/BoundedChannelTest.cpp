@@ -182,7 +182,7 @@ TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
         Get(CommandCode::RunningState));
 }
 
-TEST_F(BoundedChannelTest, ACommandFromInsideTheWaitIsRefusedAndQuittingDoesNotEndTheWait) {
+TEST_F(BoundedChannelTest, QuittingDoesNotEndTheWait) {
   gate_->Open(false);
   BoundedChannel patient(gate_, {.timeOut = 1h});
   std::string reply;

@@ -103,7 +103,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     expectCall(form.refused, 30);
     channel->breaks = true;
     expectCall(form.refused, 30);
-    BoundedChannel bounded(channel);
+    BoundedChannel bounded(channel, {.timeOut = std::chrono::hours(1)});
     EXPECT_EQ(Replies(bounded, {form.command}), "?");
     p.Announce({});
     p.AllowRetry();

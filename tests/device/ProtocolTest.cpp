@@ -96,7 +96,7 @@ TEST(PjLinkInputs, AreAskedForOneByOne) {
   EXPECT_EQ(inputs.Known()[14], (PjLinkInput{26, "Video 6"}));
 
   inputs.Remember({{7, "no PJLink"}, {31, "HDMI"}});
-  EXPECT_EQ(inputs.Next()->parameter, "?49") << "only the present one is missing";
+  EXPECT_EQ(inputs.Next().value().parameter, "?49") << "only the present one is missing";
 }
 
 TEST(PjLinkInputInquiry, ForgetsWhatAnotherProjectorHadAndPausesAfterFailures) {

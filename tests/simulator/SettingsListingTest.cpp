@@ -30,23 +30,30 @@ std::string Does(int pageSet, SettingId id, PjtCommand command, Verb verb) {
   const auto isAccepted = [&] {
     return projector.Execute(command).result == AcceptedResult(command.operation);
   };
-  if (verb == Verb::Read) return ' ' + Replies(projector, {command});
   if (verb == Verb::StepUp || verb == Verb::StepDown) {
-    for (int i = kLowest; i < kHighest && isAccepted(); ++i) continue;
-    return " to " + std::to_string(kept());
+    int steps = kLowest;
+    while (steps < kHighest && isAccepted()) ++steps;
+    return steps == kHighest ? " without end" : " to " + std::to_string(kept());
   }
   if (verb != Verb::Write) {
+    const std::string before = verb == Verb::Read ? Replies(projector, {command}) + ' ' : "";
     projector.SetValue(id, kept() + 1, 0);
-    return isAccepted() ? ' ' + std::to_string(kept()) : " -";
+    const std::string reply = before + Replies(projector, {command});
+    return ' ' + reply + (verb == Verb::Read ? "" : " is " + std::to_string(kept()));
   }
   const bool isSecond = FormOf(command.operation).second == Argument::Value;
   std::ostringstream text;
   int first = 0, next = kLowest, shift = 0;
   const auto end = [&] {
     if (next == kLowest) return;
-    text << ' ' << first;
-    if (next > first + 1) text << ".." << next - 1;
-    if (shift != 0) text << " as " << first + shift;
+    const auto range = [&](int by) {
+      text << ' ' << first + by;
+      if (next == kHighest) text << " and more";
+      if (next > first + 1 && next < kHighest) text << ".." << next - 1 + by;
+    };
+    text << (text.str().empty() ? "" : ",");
+    range(0);
+    if (shift != 0) text << " as", range(shift);
   };
   for (int value = kLowest; value < kHighest; ++value) {
     (isSecond ? command.second : command.first) = static_cast<std::int16_t>(value);
@@ -62,10 +69,19 @@ std::string Does(int pageSet, SettingId id, PjtCommand command, Verb verb) {
   return next == kLowest ? " nothing" : text.str();
 }
 
+/// "Get 0x2003:", or with the point, channel or input that it names: "GetUserGammaPoint(3):".
+std::string NameOf(const PjtCommand& command) {
+  std::ostringstream text;
+  text << OperationName(command.operation);
+  if (command.code != 0) text << " 0x" << std::hex << command.code;
+  if (command.first != 0) text << '(' << command.first << ')';
+  return text.str() + ':';
+}
+
 std::string Describe(int pageSet, const Setting& setting) {
   std::ostringstream text;
   const auto add = [&](const PjtCommand& command, Verb verb) {
-    text << "; " << OperationName(command.operation) << Does(pageSet, setting.id, command, verb);
+    text << "; " << NameOf(command) << Does(pageSet, setting.id, command, verb);
   };
   if (setting.code != 0) {
     add(Get(setting.code), Verb::Read);
@@ -104,15 +120,16 @@ TEST(SettingsListing, IsWhatTheProjectorsDo) {
     for (int code = 0; code < 0x10000; ++code) {
       const bool isPlain =
           projector.CodeValue(static_cast<std::uint16_t>(code)) && !codes.contains(code);
-      if (isPlain) others << ' ' << std::hex << code;
+      if (isPlain) others << " 0x" << std::hex << code;
     }
     add("Codes without a meaning:" + others.str(), pageSet);
   }
   std::ranges::sort(found);
   std::ostringstream now, before;
+  now << "# What each command does to a setting, and in brackets the page sets that have it so.\n";
   for (const auto& [does, sets] : found) now << does << " (" << sets.substr(1) << ")\n";
   before << std::ifstream(kListing).rdbuf();
-  if (std::getenv("UPDATE_LISTING")) std::ofstream(kListing) << now.str();
+  if (std::getenv("UPDATE_LISTING")) return void(std::ofstream(kListing) << now.str());
   EXPECT_EQ(before.str(), now.str());
 }
 

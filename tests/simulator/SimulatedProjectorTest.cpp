@@ -19,17 +19,10 @@ using Op = PjtOperation;
 // A command to a new projector with a given value of a setting, the value after it, and the reply.
 constexpr std::tuple<Id, int, PjtCommand, int, const char*> kCases[] = {
     {Id::Brightness, 96, {Op::Dec, 0x2003}, 96, "-"},
-    // Values of a list.
-    {Id::VideoFormat, 10, {Op::Inc, 0x2200}, 4, "4"},
     {Id::VideoFormat, 10, {Op::Dec, 0x2200}, 10, "-"},
     // Values that are stepped as shown values.
     {Id::ColorTempGainG, 100, {Op::IncrementColorTempGain, 0, 1, -28}, 101, "-27"},
     {Id::ColorTempGainG, 100, {Op::IncrementColorTempGain, 0, 0, -28}, 100, "1"},
-    {Id::ColorTempOffsetB, 1, {Op::DecrementColorTempOffset, 0, 2, -127}, 0, "-128"},
-    {Id::ColorTempOffsetB, 1, {Op::DecrementColorTempOffset, 0, 3, -127}, 1, "-"},
-    {Id::GammaPoint3, 120, {Op::ExecUserGammaPReset, 0, 3}, 128, "128"},
-    {Id::GammaPoint3, 120, {Op::ExecUserGammaPReset, 0, 2}, 120, "128"},
-    {Id::KeystoneH, 1, {Op::ExecAutoKeyStone}, 128, "128"},
     {Id::PhaseH, 1, {Op::ExecAutoAdjust}, 16, "1344"},
     // An unknown code.
     {Id::Brightness, 97, {Op::Get, 0x30B4}, 97, "-"},

@@ -136,6 +136,9 @@ TEST(SettingsFile, TellsWhatIsWrongAndWhere) {
     return ParseSettingsFile(text, "f").error.section(": ", 1).toStdString();
   };
   EXPECT_EQ(error("2", "2, \"value\": 2"), "other.input-source: beforehand[0].value is here twice");
+  EXPECT_EQ(
+      error("\"settings\":", "\"settings\": [{\"key\": \"a\", \"key\": \"a\"}], \"settings\":"),
+      "settings[0].key is here twice");
   EXPECT_EQ(error("\"model\":", "\"model\": {}, \"model\":"), "model is here twice");
   EXPECT_EQ(ParseSettingsFile("\xEF\xBB\xBF" + good, "f").error, "");
   EXPECT_EQ(error("B", "\x01"), "control character in a text");

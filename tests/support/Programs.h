@@ -30,7 +30,7 @@ inline Outcome Run(
   process.setProcessEnvironment(environment);
   process.start(program, arguments);
   process.write(input);
-  process.closeWriteChannel();
+  if (!input.isEmpty()) process.closeWriteChannel();
   return Finish(process);
 }
 

@@ -113,7 +113,7 @@ bool PjLinkChannel::UseIdleTime() {
 
 bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {
   // A projector that closes after its reply may already have done so.
-  // unreachable: for certain; it shows this early only now and then
+  // unreachable: with certainty; few projectors have closed by then
   const bool wasOpen = socket_->IsOpen() || state_ == ConnectionState::Connected;
   if (socket_->IsOpen()) socket_->ReceiveUnsolicited();
   if (socket_->IsOpen() && unused >= limits_.unused) socket_->Close();

@@ -66,7 +66,7 @@ void PjLinkTcpSocket::Connect(const SessionStep& step) {
 void PjLinkTcpSocket::Listen(std::chrono::milliseconds time) {
   if (!socket_) return std::this_thread::sleep_for(time);
   // What has been read into the socket's buffer must not wait for more.
-  // unreachable: some; it would have to come while the request is being sent
+  // unreachable: bytes would have to come while the request is being sent
   if (socket_->bytesAvailable() == 0) socket_->waitForReadyRead(static_cast<int>(time.count()));
   connection_.Received(socket_->readAll().toStdString(), Clock::now());
   if (socket_->state() != QAbstractSocket::ConnectedState) Close();

@@ -71,8 +71,8 @@ void PjLinkSession::Ask(PjLinkTime now) {
 void PjLinkSession::Handle(const PjLinkAnswer& answer, PjLinkTime now) {
   const bool isForClass = stage_ == Stage::AskingClass;
   const bool mayRepeat = isForClass || isQuestion_;
-  if (mayRepeat && !answer.parameter && answer.sent && !std::exchange(hasRepeated_, true))
-    return Ask(now);
+  const bool isLost = mayRepeat && !answer.parameter && answer.sent;
+  if (isLost && !std::exchange(hasRepeated_, true)) return Ask(now);
   if (isForClass && answer.parameter) {
     class_.Take(*answer.parameter);
     request_.mayAskClass = false;

@@ -64,7 +64,7 @@ void WireRequests::Receive(const Wire::Frame& frame) {
 }
 
 std::optional<Wire::Reply> WireRequests::TakeReply(SessionTime now) {
-  // unreachable: none; the one that is waited for is among them
+  // unreachable: the request that is waited for is always there
   if (sent_.empty() || !sent_.front().reply) return std::nullopt;
   const auto reply = sent_.front().reply;
   sent_.erase(sent_.begin());

@@ -63,7 +63,7 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   QTest::keyClicks(search, QString::fromStdString(Rows(window)[one].profile.name));
   EXPECT_EQ(window.findChild<ProjectorView*>()->CurrentPosition(), static_cast<int>(one));
   const auto hasAlertNow = [&](const char* errors) {
-    const QByteArray number = QByteArray::number(qulonglong(one + 1));
+    const QByteArray number = QByteArray::number(qulonglong{one + 1});
     EXPECT_EQ(simulator.Control(number + " errors " + errors), "ok");
     Find<QAction>(window, "Refresh").trigger();
     const bool before = Rows(window)[one].hasAlert;
@@ -96,6 +96,7 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
 
 TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {
   std::vector<FleetProfile> profiles;
+  profiles.reserve(250);
   for (int i = 0; i < 250; ++i) profiles.push_back(Profile(std::to_string(i).c_str()));
   MainWindow window(profiles, kOften);
   window.show();

@@ -66,7 +66,7 @@ TEST(PjLinkInputs, AreAskedForOneByOne) {
   const auto ask = [&](std::vector<PjLinkResult> results) {
     std::ranges::reverse(results);
     const auto asked = inputs.AskForAll([&](const PjLinkQuestion&) {
-      const PjLinkResult result = results.back();
+      PjLinkResult result = results.back();
       results.pop_back();
       return result;
     });

@@ -37,8 +37,8 @@ struct FleetJobTest : ServingTest {
 
   /// The outcomes in the targets' order.
   static std::vector<WorkOutcome> Outcomes(const std::vector<WorkResult>& results) {
-    std::vector<WorkOutcome> outcomes;
-    for (const WorkResult& result : results) outcomes.push_back(result.outcome);
+    std::vector<WorkOutcome> outcomes(results.size());
+    std::ranges::transform(results, outcomes.begin(), &WorkResult::outcome);
     return outcomes;
   }
 

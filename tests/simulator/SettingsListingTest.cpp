@@ -25,7 +25,7 @@ constexpr int kLowest = -130, kHighest = 1010;  // more than any range that is n
 /// steps, the values that it takes with what is kept of them (" 1..3 as 0"), or the value
 /// afterwards.
 std::string Does(int pageSet, SettingId id, PjtCommand command, Verb verb) {
-  SimulatedProjector projector({.pageSet = pageSet});
+  SimulatedProjector projector({.pageSet = pageSet, .ranges = {}});
   const auto kept = [&] { return projector.Value(id, 0); };
   const auto isAccepted = [&] {
     return projector.Execute(command).result == AcceptedResult(command.operation);
@@ -107,7 +107,7 @@ TEST(SettingsListing, IsWhatTheProjectorsDo) {
     same->second += ' ' + std::to_string(pageSet);
   };
   for (const int pageSet : {1, 2, 3, 4, 5}) {
-    const SimulatedProjector projector({.pageSet = pageSet});
+    const SimulatedProjector projector({.pageSet = pageSet, .ranges = {}});
     std::set<int> codes;
     for (const SettingId id : projector.Settings()) {
       const Setting& setting = *projector.Describe(id);

@@ -38,7 +38,7 @@ namespace {
 /// The folder with a file for each language; empty if there is none.
 QString TranslationsFolder(std::span<const std::string> folders) {
   for (const std::string& folder : folders) {
-    const QString found = QString::fromStdString(folder) + QStringLiteral("/translations");
+    QString found = QString::fromStdString(folder) + QStringLiteral("/translations");
     if (!folder.empty() && QFileInfo::exists(found + QStringLiteral("/en.qm"))) return found;
   }
   return {};

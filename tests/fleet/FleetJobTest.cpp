@@ -1,5 +1,6 @@
 // Jobs on simulated projectors, which the thread of the test serves.
 
+#include <algorithm>
 #include <deque>
 #include <numeric>
 

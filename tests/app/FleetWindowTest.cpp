@@ -17,9 +17,6 @@
 #include "app/desktop/profiles/ConnectionTest.h"
 #include "app/desktop/profiles/SearchDialog.h"
 #include "app/desktop/profiles/TransferActions.h"
-#include "app/desktop/projectors/FleetWatch.h"
-#include "fleet/AddressHold.h"
-#include "fleet/MakeVisit.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Work.h"
 #include "tests/fleet/Served.h"
@@ -327,42 +324,4 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
 }
 
 // Who visits a projector that also has a dialog.
-TEST(FleetWatch, DoesNotVisitWhileADialogIsOpenOrItsChannelConnected) {
-  Served served;
-  Served other;
-  const auto profile = [](const char* name, const Served& at) {
-    FleetProfile made = Profile(name);
-    made.link = ProjectorLink::PjLink;
-    made.connection = {.isNetwork = true,
-                       .address = "127.0.0.1",
-                       .port = static_cast<std::int32_t>(at.pjLink.Port()),
-                       .secret = "secret"};
-    return made;
-  };
-  const FleetProfile a = profile("A", served);
-  const FleetProfile b = profile("B", other);
-  FleetWatch watch(kOften);
-  watch.SetProfiles({a, b});
-  const auto answered = [&watch](const FleetProfile& at) {
-    return watch.Projectors().State(FleetIdOf(at))->answered;
-  };
-  const auto othersAreVisited = [&] {
-    const auto before = answered(a);
-    for (int i = 0; i < 3; ++i) {
-      const auto last = answered(b);
-      EXPECT_TRUE(Soon([&] { return answered(b) != last; }));
-    }
-    return answered(a) == before;
-  };
-  ASSERT_TRUE(Soon([&] { return answered(a) && answered(b); }));
-  watch.LeaveToDialog(FleetIdOf(a));
-  EXPECT_TRUE(othersAreVisited());
-  std::optional<AddressHold> channel(PlaceOf(TargetOf(a)));
-  watch.TakeBack(FleetIdOf(a));
-  EXPECT_TRUE(othersAreVisited());
-  const auto before = answered(a);
-  channel.reset();
-  EXPECT_TRUE(Soon([&] { return answered(a) != before; }));
-}
-
 }  // namespace

@@ -13,11 +13,6 @@
 
 namespace {
 
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
-
 TEST(AcctlFile, NamesEveryMistakeByFileLineAndKeyAndSendsNothing) {
   const QTemporaryDir folder;
   const QString good = folder.filePath("good.json");

@@ -19,11 +19,6 @@
 
 namespace {
 
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
-
 /// A class 1 projector that is in a power state, and tells two inputs of one name.
 ScriptedPjLink::Script Projector(const std::string& power) {
   return [power](const std::string& request) -> std::string {
@@ -46,13 +41,10 @@ ScriptedPjLink::Script ProjectorBut(const std::string& request, const std::strin
   };
 }
 
-/// A profile that names no inputs, so that the projector is asked for them.
+/// A file with the profile "Any".
 class AnyProfile {
  public:
-  AnyProfile() {
-    Write(Path(), R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5,
-        "modelCode": 30, "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}]})");
-  }
+  AnyProfile() { Write(Path(), kAnyProfile); }
   QString Path() const { return folder_.filePath("any.json"); }
   /// With a time that is never over, unless the test waits for its end.
   Outcome Run(const ScriptedPjLink& projector, const QStringList& arguments,

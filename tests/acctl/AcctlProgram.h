@@ -9,6 +9,11 @@
 
 #include "tests/support/Programs.h"
 
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
 inline const QString kRoom = "Projector 5-30";
 /// It as output names it, if the program simulates it itself.
 inline const std::string kSimulated = "Projector 5-30 (simulated)  ";
@@ -23,6 +28,11 @@ inline const bool kAreFoldersSet = qputenv("XDG_CACHE_HOME", kCache.path().toUtf
                                    qputenv("XDG_STATE_HOME", kState.path().toUtf8()) &&
                                    qputenv("XDG_CONFIG_HOME", kState.path().toUtf8()) &&
                                    qunsetenv("XDG_RUNTIME_DIR");  // no simulator is looked for
+
+/// A profile that names no inputs, so that the projector is asked for them.
+inline constexpr char kAnyProfile[] = R"({"projectors": [
+    {"name": "Any", "model": "M", "dialogType": 5, "modelCode": 30,
+     "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}]})";
 
 /// The undo files of the runs so far.
 inline QStringList UndoFiles() {
@@ -64,9 +74,13 @@ inline QJsonObject Entry(const Outcome& run) {
   return json["projectors"][0].toObject();
 }
 
-/// Saves a projector's settings and changes many of them in the file.
-inline void SaveOthers(const QString& file) {
-  ASSERT_EQ(Acctl({"save", kRoom, file}).exitCode, 0);
-  const QByteArray between = ",\n            \"value\": ";
-  Write(file, Contents(file).replace("\"0\"" + between + "128", "\"1\"" + between + "129"));
-}
+/// A file of a projector's settings in which many are changed, in a folder of its own.
+struct OtherSettings {
+  OtherSettings() {
+    EXPECT_EQ(Acctl({"save", kRoom, file}).exitCode, 0);
+    const QByteArray between = ",\n            \"value\": ";
+    Write(file, Contents(file).replace("\"0\"" + between + "128", "\"1\"" + between + "129"));
+  }
+  const QTemporaryDir folder{};
+  const QString file = folder.filePath("good.json");
+};

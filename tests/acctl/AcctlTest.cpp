@@ -14,9 +14,6 @@
 
 namespace {
 
-using testing::HasSubstr;
-using testing::StartsWith;
-
 TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
   const std::pair<QStringList, const char*> kCases[] = {
       {{}, "a command is missing"},
@@ -56,7 +53,7 @@ TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
     SCOPED_TRACE(arguments.join(' ').toStdString());
     const Outcome run = Acctl(arguments);
     EXPECT_EQ(run.output, "");
-    EXPECT_THAT(run, Ends(2, testing::AllOf(StartsWith("acctl: "), HasSubstr(error))));
+    EXPECT_THAT(run, Ends(2, AllOf(StartsWith("acctl: "), HasSubstr(error))));
     EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1);
   }
 }
@@ -126,18 +123,15 @@ TEST(Acctl, TellsWhatIsRefusedAndWhatDoesNotAnswer) {
                     refuses.At({"watch", kRoom, "picture.tint", "--interval", "0.05"})),
               Ends(0, "acctl: Projector 5-30: picture.tint: cannot be read now\n"));
   const Simulator simulator({"--password", "secret"});
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("good.json");
-  SaveOthers(file);
+  const OtherSettings saved;
   const QStringList other{"--password", "secret", "--connect", simulator.Address("pjlink")};
   const char* const notOffered = ": skipped, PJLink does not have it: 1 of the file's settings\n";
-  EXPECT_THAT(Acctl(other + QStringList{"diff", kRoom, file, "--only", "picture.tint"}),
+  EXPECT_THAT(Acctl(other + QStringList{"diff", kRoom, saved.file, "--only", "picture.tint"}),
               Ends(0, HasSubstr(notOffered)));
-  Write(folder.filePath("any"), R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5,
-      "modelCode": 30, "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}]})");
-  const QStringList any{
-      "--profiles", folder.filePath("any"), "--connect", simulator.Address("pjlink"), "set",
-      "Any",        "other.input-source",   "RGB2"};
+  const QString profiles = saved.folder.filePath("any");
+  Write(profiles, kAnyProfile);
+  const QStringList any{"--profiles", profiles, "--connect",          simulator.Address("pjlink"),
+                        "set",        "Any",    "other.input-source", "RGB2"};
   EXPECT_THAT(Acctl(any + QStringList{"--password", "secret"}).output, HasSubstr(" RGB2 (32)\n"));
   EXPECT_THAT(Acctl(any), Ends(3, HasSubstr("no answer (password missing or wrong)\n")));
 
@@ -173,12 +167,11 @@ TEST(Acctl, WaitsForManyOnAFewThreads) {
 }
 
 TEST(Acctl, SaysWhenInterruptedWhatWasDone) {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("good.json");
-  SaveOthers(file);
+  const OtherSettings saved;
   const Simulator simulator({"--fault", "late 100"});
+  const QStringList apply = simulator.At({"apply", saved.file, kRoom});
   QProcess process;
-  process.start(ACCTL_PROGRAM, simulator.At({"apply", file, kRoom}));
+  process.start(ACCTL_PROGRAM, apply);
   const auto before = UndoFiles().size();
   while (UndoFiles().size() == before && process.state() != QProcess::NotRunning) {
     process.waitForFinished(20);
@@ -191,8 +184,8 @@ TEST(Acctl, SaysWhenInterruptedWhatWasDone) {
   EXPECT_THAT(cut, Ends(128 + SIGTERM, HasSubstr("interrupted")))
       << "a second signal loses no report";
   EXPECT_THAT(cut.output, HasSubstr(" different, "));
-  EXPECT_EQ(Acctl(simulator.At({"apply", file, kRoom})).exitCode, 0);
-  EXPECT_THAT(Acctl(simulator.At({"diff", kRoom, file})).output,
+  EXPECT_EQ(Acctl(apply).exitCode, 0);
+  EXPECT_THAT(Acctl(simulator.At({"diff", kRoom, saved.file})).output,
               testing::ContainsRegex("^Projector 5-30  [0-9]+ already so\n$"));
 
   QProcess watch;
@@ -220,10 +213,9 @@ TEST(Acctl, LeavesNothingHalfWritten) {
   EXPECT_EQ(Contents(file), "precious");
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"kept.json"});
 
-  QFile::remove(file);
-  SaveOthers(file);
+  const OtherSettings saved;
   const Simulator simulator;
-  const Outcome noUndo = Acctl(simulator.At({"apply", "--undo", "/proc", file, kRoom}));
+  const Outcome noUndo = Acctl(simulator.At({"apply", "--undo", "/proc", saved.file, kRoom}));
   EXPECT_THAT(noUndo, Ends(1, HasSubstr("nothing was sent")));
   EXPECT_THAT(noUndo.output, HasSubstr(" different, "));
   EXPECT_THAT(Acctl({"save", kRoom, "/proc/kept.json"}),

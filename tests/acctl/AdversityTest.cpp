@@ -14,12 +14,7 @@
 
 namespace {
 
-using testing::AllOf;
 using testing::AnyOf;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
 
 /// Set for the programs that are started meanwhile.
 class Environment {
@@ -60,7 +55,7 @@ TEST(Adversity, AFailedAllocationEndsTheProgramWithOneLine) {
                            Ends(-1, HasSubstr("ASSERT: \"this->isMutable()"))));
 #endif
     if (set.exitCode == 0) {
-      EXPECT_THAT(set.output, EndsWith("  ->  3\n"));
+      EXPECT_THAT(set.output, testing::EndsWith("  ->  3\n"));
     }
     told += set.exitCode == 1;
   }
@@ -68,27 +63,26 @@ TEST(Adversity, AFailedAllocationEndsTheProgramWithOneLine) {
 }
 
 TEST(Adversity, OnlyWhatTheDiskHasIsSaved) {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("good.json");
-  SaveOthers(file);
-  const QByteArray kept = Contents(file);
+  const OtherSettings saved;
+  const QByteArray kept = Contents(saved.file);
+  const QString fresh = saved.folder.filePath("new.json");
   const Simulator simulator;  // what acctl simulates itself is not recorded
-  const QStringList apply = simulator.At({"apply", file, kRoom});
+  const QStringList apply = simulator.At({"apply", saved.file, kRoom});
   for (const char* what : {"file", "folder"}) {
     SCOPED_TRACE(what);
     const FailingCalls calls("FAIL_SYNC", what);
-    const Outcome save = Acctl({"save", kRoom, folder.filePath("new.json")});
+    const Outcome save = Acctl({"save", kRoom, fresh});
     EXPECT_THAT(save, Ends(1, HasSubstr("new.json: Input/output error\n")));
     EXPECT_EQ(save.output, "");
     EXPECT_THAT(Acctl(apply), Ends(1, HasSubstr(": Input/output error; nothing was sent\n")));
   }
-  QFile::remove(folder.filePath("new.json"));
+  QFile::remove(fresh);
   const QStringList undo = UndoFiles();
   {
     const FailingCalls calls("FAIL_SYNC", "kill");
-    EXPECT_EQ(Acctl({"save", kRoom, file}).exitCode, -1);
+    EXPECT_EQ(Acctl({"save", kRoom, saved.file}).exitCode, -1);
     EXPECT_EQ(Acctl(apply).exitCode, -1);
-    EXPECT_EQ(Contents(file), kept);
+    EXPECT_EQ(Contents(saved.file), kept);
     EXPECT_EQ(UndoFiles(), undo);
   }
   {
@@ -115,10 +109,8 @@ TEST(Adversity, LinksAreFollowedUnlessTheyLeadInACircle) {
 }
 
 TEST(Adversity, StandardInputIsReadToItsEndHoweverSlowlyItIsWritten) {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("good.json");
-  SaveOthers(file);
-  const QByteArray text = Contents(file);
+  const OtherSettings saved;
+  const QByteArray text = Contents(saved.file);
   int ends[2];
   ASSERT_EQ(pipe2(ends, O_NONBLOCK | O_CLOEXEC), 0);
   QProcess acctl;
@@ -133,7 +125,7 @@ TEST(Adversity, StandardInputIsReadToItsEndHoweverSlowlyItIsWritten) {
   close(ends[1]);
   const Outcome diff = Finish(acctl);
   EXPECT_THAT(diff, Ends(0, ""));
-  EXPECT_EQ(diff.output, Acctl({"diff", kRoom, file}).output);
+  EXPECT_EQ(diff.output, Acctl({"diff", kRoom, saved.file}).output);
   EXPECT_NE(fcntl(ends[0], F_GETFL) & O_NONBLOCK, 0) << "it is ours";
   close(ends[0]);
 }
@@ -160,13 +152,11 @@ TEST(Adversity, RunsOnOneProjectorWaitForEachOther) {
 }
 
 TEST(Adversity, AnUndoFileIsForItsOwnProjector) {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("good.json"), other = "Projector 5-31";
-  SaveOthers(file);
-  EXPECT_THAT(Acctl({"apply", file, other}), Ends(0, Not(HasSubstr("--force"))));
-  EXPECT_THAT(Acctl({"apply", file, kRoom}), Ends(0, kNothingLasting));
-  const QString undo = folder.filePath("undo.json");
-  Write(undo, Contents(file).replace("\"model\": {", "\"undo\": true, \"model\": {"));
+  const OtherSettings saved;
+  const QString other = "Projector 5-31", undo = saved.folder.filePath("undo.json");
+  EXPECT_THAT(Acctl({"apply", saved.file, other}), Ends(0, Not(HasSubstr("--force"))));
+  EXPECT_THAT(Acctl({"apply", saved.file, kRoom}), Ends(0, kNothingLasting));
+  Write(undo, Contents(saved.file).replace("\"model\": {", "\"undo\": true, \"model\": {"));
   EXPECT_THAT(Acctl({"apply", undo, other}),
               Ends(2, HasSubstr("undoes a change of Projector 5-30; --force applies it to " +
                                 other.toStdString())));

@@ -66,9 +66,7 @@ TEST(CommandLog, NamesSettingsAndValuesAsTheDialogDoes) {
   const auto list = ReadProfileList(TEST_CATALOG_DIR "/projectors.json");
   const auto model = std::ranges::find(list.profiles, "Projector 5-30", &FleetProfile::name)->model;
   const PjtReply done{.result = 1};
-  const auto read = [](int value) {
-    return PjtReply{.result = 1, .value = static_cast<std::int16_t>(value)};
-  };
+  const auto read = [](std::int16_t value) { return PjtReply{.result = 1, .value = value}; };
   const std::tuple<PjtCommand, PjtReply, const char*, const char*> cases[] = {
       {{Op::Get, 0x2201}, read(126), "Sharpness", "2"},
       {{Op::Set, 0x2201, 122}, done, "Sharpness", "-2"},

@@ -15,8 +15,7 @@ namespace {
 using namespace std::chrono_literals;
 
 TEST(FleetWatch, DoesNotVisitWhileADialogIsOpenOrItsChannelConnected) {
-  Served served;
-  Served other;
+  Served served, other;
   const auto profile = [](const char* name, const Served& at) {
     FleetProfile made = Profile(name);
     made.link = ProjectorLink::PjLink;

@@ -95,8 +95,7 @@ TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {
   std::vector<FleetProfile> profiles;
   profiles.reserve(250);
   for (int i = 0; i < 250; ++i) profiles.push_back(Profile(std::to_string(i).c_str()));
-  MainWindow window(profiles, kOften);
-  window.show();
+  ShownWindow window(profiles, kOften);
   window.Session(249)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   ASSERT_TRUE(AreWatched(window));
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Problems) == 1; }));
@@ -109,8 +108,7 @@ TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {
 }
 
 TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
-  MainWindow window({Profile("A"), Profile("B")}, kOften);
-  window.show();
+  ShownWindow window({Profile("A"), Profile("B")}, kOften);
   const auto& alerts = *window.findChild<AlertList*>();
   const auto raise = [&window](int error) {
     window.Session(1)->Simulator().SetValue(SettingId::ErrorStatus, error);
@@ -120,8 +118,8 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_EQ(
       alerts.Open(),
       (std::vector{Alert{Rows(window)[1].id, Alert::Kind::Problem, ProjectorPart::Temperature}}));
-  EXPECT_EQ(alerts.findChild<QTreeWidget*>()->topLevelItem(0)->text(1), "B: Temperature");
   const auto& list = *alerts.findChild<QTreeWidget*>();
+  EXPECT_EQ(list.topLevelItem(0)->text(1), "B: Temperature");
   list.topLevelItem(0)->setSelected(true);
   window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   ASSERT_TRUE(Soon([&] { return list.topLevelItemCount() == 2; }));
@@ -130,14 +128,13 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_TRUE(Rows(window)[0].hasAlert);
   window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 0);
   raise(0);
-  EXPECT_TRUE(Soon([&] { return alerts.findChild<QTreeWidget*>()->topLevelItemCount() == 0; }));
+  EXPECT_TRUE(Soon([&] { return list.topLevelItemCount() == 0; }));
   raise(4);
   EXPECT_TRUE(Soon([&] { return Rows(window)[1].hasAlert; })) << "it came again";
 }
 
 TEST(FleetWindow, ShowsWhatADialogHasRead) {
-  MainWindow window({Profile("A")}, {.interval = 1h});
-  window.show();
+  ShownWindow window({Profile("A")}, {.interval = 1h});
   SimulatedProjector& projector = window.Session(0)->Simulator();
   ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.answered.has_value(); }));
   projector.SetValue(SettingId::LampTime, 777);
@@ -216,8 +213,7 @@ TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
   FleetProfile profile = Profile("A");
   profile.link = ProjectorLink::Network;
   profile.connection = {.isNetwork = true, .address = "127.0.0.1", .port = served.wirePort};
-  MainWindow window({profile}, {.interval = 1h});
-  window.show();
+  ShownWindow window({profile}, {.interval = 1h});
   window.OpenDialog(0, 0);
   ProjectorChannel& channel = *window.Session(0)->Channel();
   const auto connection = [&channel] { return channel.Connection(); };
@@ -302,16 +298,15 @@ TEST(FleetWindow, QuietHoursGoOnPastMidnight) {
 }
 
 TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
-  const QTemporaryDir folder;
-  MainWindow window(Shipped(folder));
-  window.show();
+  ShippedWindow window;
+  const QString file = window.folder.filePath("t.csv");
   const auto before = Rows(window).size();
   QByteArray table("name,address\n");
   for (int i = 0; i < 20; ++i) {
     table += "Room " + QByteArray::number(i) + (i % 2 == 0 ? ",192.0.2.1\n" : ",192.0.2.1:x\n");
   }
-  Write(folder.filePath("t.csv"), table);
-  window.findChild<TransferActions*>()->ImportFile(folder.filePath("t.csv"));
+  Write(file, table);
+  window.findChild<TransferActions*>()->ImportFile(file);
   auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   ASSERT_NE(said, nullptr);
   EXPECT_EQ(said->text(), "10 projectors added · 0 already known · 10 rows not taken");
@@ -323,5 +318,4 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   EXPECT_EQ(Rows(window).size(), before);
 }
 
-// Who visits a projector that also has a dialog.
 }  // namespace

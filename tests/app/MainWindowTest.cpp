@@ -19,7 +19,6 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/simulation/FaultPanel.h"
@@ -36,8 +35,7 @@
 namespace {
 
 TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
-  MainWindow window({Profile("A"), Profile("B")});
-  window.show();
+  ShownWindow window({Profile("A"), Profile("B")});
   QTableView& table = Table(window);
   window.findChild<ProjectorView*>()->Select(1);
   QTest::keyClick(&table, Qt::Key_Return);
@@ -57,8 +55,7 @@ TEST(MainWindow, HasOneDialogPerProjectorAndLogsTheirCommands) {
 }
 
 TEST(MainWindow, QuestionsAndWorkHoldUpNoDialog) {
-  MainWindow window({Profile("A")});
-  window.show();
+  ShownWindow window({Profile("A")});
   ASSERT_TRUE(AreWatched(window));
   CAdvanceDlg* dialog = window.OpenDialog(0);
   ProjectorSession& session = *window.Session(0);
@@ -122,11 +119,9 @@ TEST(MainWindow, TellsADialogTheRatedHoursAndTheWantedPreset) {
 }
 
 TEST(MainWindow, SaysThatAFileWasSaved) {
-  const QTemporaryDir folder;
-  MainWindow window(Shipped(folder));
-  window.show();
+  ShippedWindow window;
   for (const char* save : {"Export Table", "Save Log As", "Save Profiles As"}) {
-    const QString path = folder.filePath(QString(save) + ".saved");
+    const QString path = window.folder.filePath(QString(save) + ".saved");
     AnswerQuestionOf(Find<QAction>(window, save), [&path](QDialog& question) {
       Q_EMIT qobject_cast<QFileDialog*>(&question)->fileSelected(path);
     });
@@ -194,9 +189,7 @@ TEST(MainWindow, PreferencesTakeEffectAtOnce) {
   QSettings settings(folder.filePath("s.ini"), QSettings::IniFormat);
   MainWindow window(Shipped(folder), &settings);
   window.show();
-  const auto isDark = [&window] {
-    return window.palette().color(QPalette::Base).lightness() < 128;
-  };
+  const auto isDark = [&] { return window.palette().color(QPalette::Base).lightness() < 128; };
   ASSERT_FALSE(isDark());
   const auto open = [&window] {
     Find<QAction>(window, "Preferences").trigger();

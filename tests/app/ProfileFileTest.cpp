@@ -138,10 +138,6 @@ TEST(ProfileFile, ARangeWithANameIsGivenByIt) {
             "customGamma osdBrightness electricZoom treble bass ");
 }
 
-std::string Repeat(const char* text, int count) {
-  return QString(text).repeated(count).toStdString();
-}
-
 // Oversized files must be refused before they cost time or memory.
 TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
   const auto chain = [](int first, int last, int step) {
@@ -149,17 +145,17 @@ TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
     for (int i = first; i <= last; ++i) {
       text += QString(", \"%1\": {\"like\": \"%2\"}").arg(i).arg(i + step);
     }
-    return (text + "}}").toStdString();
+    return (text + "}}").toUtf8();
   };
-  std::string many = "{\"families\": {\"0\": {}";
-  for (int i = 1; i <= 1000; ++i) many += ", \"" + std::to_string(i) + "\": {}";
-  const WrongFile tooMuch[] = {
-      {Repeat("{\"a\":", 1000), "p.json:1:81: nested more than 16 deep"},
-      {"[" + QByteArray(67'108'864, ' ').toStdString(), "p.json:1:1: more than 67108864 bytes"},
-      {"[\n" + Repeat("1,", 5'000'001), "p.json:2:9999998: more than 5000000 values"},
-      {"[\"" + Repeat("a", 2048) + "\"]", "p.json:1: the file must hold an object"},
-      {"[\"" + Repeat("a", 2049) + "\"]", "p.json:1:2: text of more than 2048 bytes"},
-      {"{\"projectors\": [" + Repeat("0,", 100'000) + "0]}",
+  QByteArray many = "{\"families\": {\"0\": {}";
+  for (int i = 1; i <= 1000; ++i) many += ", \"" + QByteArray::number(i) + "\": {}";
+  const std::pair<QByteArray, const char*> tooMuch[] = {
+      {QByteArray("{\"a\":").repeated(1000), "p.json:1:81: nested more than 16 deep"},
+      {"[" + QByteArray(67'108'864, ' '), "p.json:1:1: more than 67108864 bytes"},
+      {"[\n" + QByteArray("1,").repeated(5'000'001), "p.json:2:9999998: more than 5000000 values"},
+      {"[\"" + QByteArray(2048, 'a') + "\"]", "p.json:1: the file must hold an object"},
+      {"[\"" + QByteArray(2049, 'a') + "\"]", "p.json:1:2: text of more than 2048 bytes"},
+      {"{\"projectors\": [" + QByteArray("0,").repeated(100'000) + "0]}",
        "p.json:1: projectors: has 100001 entries; at most 100000"},
       {many + "}}", "p.json:1: families: has 1001 families; at most 1000"},
       {chain(101, 117, -1), "p.json:1: families.117.like: leads through more than 16 families"},
@@ -167,7 +163,7 @@ TEST(ProfileFile, OversizedFilesAreRefusedAtOnce) {
   };
   for (const auto& [text, error] : tooMuch) {
     const std::clock_t start = std::clock();
-    const auto contents = ParseProfileList(QByteArray::fromStdString(text), "p.json");
+    const auto contents = ParseProfileList(text, "p.json");
     EXPECT_THAT(contents.error.toStdString(), testing::StartsWith(error));
     EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC) << error;
   }

@@ -13,7 +13,6 @@
 #include <QTranslator>
 #include <gtest/gtest.h>
 
-#include "app/desktop/MainWindow.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/details/DetailsPanel.h"
 #include "app/desktop/presets/PresetManager.h"

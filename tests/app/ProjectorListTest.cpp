@@ -14,7 +14,6 @@
 #include <QUndoStack>
 #include <gtest/gtest.h>
 
-#include "app/desktop/MainWindow.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
@@ -57,9 +56,7 @@ TEST(ProjectorList, OnlyADoubleClickOpensADialog) {
 }
 
 TEST(ProjectorList, IsSearchedAndSorted) {
-  const QTemporaryDir folder;
-  MainWindow window(Shipped(folder));
-  window.show();
+  ShippedWindow window;
   QTableView& table = Table(window);
   const QAbstractItemModel& found = *table.model();
   const int all = found.rowCount();
@@ -119,9 +116,8 @@ bool Accept(const QDialog& editor) {
 }
 
 TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
-  const QTemporaryDir folder;
-  MainWindow window(Shipped(folder));
-  window.show();
+  ShippedWindow window;
+  const QTemporaryDir& folder = window.folder;
   auto& list = *window.findChild<ProjectorView*>();
   const auto inFile = [&folder] { return Shipped(folder).Projectors(); };
   const auto before = inFile();
@@ -140,11 +136,8 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   });
   EXPECT_EQ(inFile().size(), before.size() + 1);
   EXPECT_EQ(Selected(window), "Hall");
-  EXPECT_EQ(Shipped(folder)
-                .Projectors()[static_cast<std::size_t>(list.CurrentPosition())]
-                .model->info.ModelCode,
-            11)
-      << "the model says it";
+  const auto added = static_cast<std::size_t>(list.CurrentPosition());
+  EXPECT_EQ(inFile()[added].model->info.ModelCode, 11) << "the model says it";
 
   CAdvanceDlg* open = window.OpenDialog(0);
   list.Select(1);

@@ -8,20 +8,17 @@
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
-#include "app/desktop/MainWindow.h"
 #include "app/desktop/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"
 #include "fleet/FleetUndo.h"
-#include "tests/app/Windows.h"
 #include "tests/app/Work.h"
 #include "tests/support/Programs.h"
 
 namespace {
 
 /// Two projectors of one model in the window, both selected, and a folder.
-struct Pair {
-  Pair() {
-    window.show();
+struct SettingsOfTwo : testing::Test {
+  SettingsOfTwo() {
     EXPECT_TRUE(AreWatched(window));
     Table(window).selectAll();
   }
@@ -29,53 +26,49 @@ struct Pair {
 
   const QTemporaryDir folder;
   const QString file = folder.filePath("good.json");
-  MainWindow window{{Profile("A"), Profile("B")}};
+  ShownWindow window{{Profile("A"), Profile("B")}};
   SettingsActions& actions = *window.findChild<SettingsActions*>();
 };
 
-TEST(SettingsActions, SavesSeveralAtOnceAndTriesAgain) {
-  Pair pair;
-  MainWindow& window = pair.window;
+TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriesAgain) {
   MakeSilent(window, 1, true);
-  pair.actions.SaveTo(pair.folder.path());
+  actions.SaveTo(folder.path());
   WorkDialog* dialog = &Done(window);
   EXPECT_EQ(Results(*dialog), QStringList({"A: done", "B: no answer"}));
-  const auto files = [&] { return QDir(pair.folder.path()).entryList({"*.json"}); };
+  const auto files = [&] { return QDir(folder.path()).entryList({"*.json"}); };
   EXPECT_EQ(files(), QStringList("A.json"));
   MakeSilent(window, 1, false);
   Find<QPushButton>(*dialog, "Retry the Failed").click();
   EXPECT_TRUE(Soon([&] { return files() == QStringList({"A.json", "B.json"}); }));
   EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("Settings of 2 projectors saved in"));
-  const SettingsFileContents saved = ReadSettingsFile(pair.folder.filePath("B.json"));
+  const SettingsFileContents saved = ReadSettingsFile(folder.filePath("B.json"));
   EXPECT_EQ(saved.snapshot.projector, "B");
   EXPECT_GT(saved.snapshot.settings.size(), 50U);
   dialog->close();
 
   window.findChild<ProjectorView*>()->Select(0);
-  pair.actions.SaveTo("/proc/x.json");
+  actions.SaveTo("/proc/x.json");
   ASSERT_TRUE(Soon([] { return QApplication::activeModalWidget() != nullptr; }));
   auto* error = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   ASSERT_NE(error, nullptr);
   EXPECT_TRUE(error->text().startsWith("cannot write /proc/x.json: "));
 }
 
-TEST(SettingsActions, AppliesWhatIsCheckedAndUndoesTheRun) {
-  Pair pair;
-  MainWindow& window = pair.window;
+TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   window.findChild<ProjectorView*>()->Select(0);
-  pair.actions.SaveTo(pair.file);
-  ASSERT_TRUE(Soon([&] { return QFile::exists(pair.file); }));
-  Snapshot snapshot = ReadSettingsFile(pair.file).snapshot;
+  actions.SaveTo(file);
+  ASSERT_TRUE(Soon([&] { return QFile::exists(file); }));
+  Snapshot snapshot = ReadSettingsFile(file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}, {"picture.tint", 129, ""}};
   snapshot.settings.insert(snapshot.settings.begin(), {"audio.volume", 999, "", 99});
   snapshot.settings.push_back({"main.contrast", 130, ""});  // of other models
-  Write(pair.file, WriteSnapshot(snapshot));
-  pair.Projector(0).SetValue(SettingId::Brightness, 135);
-  pair.Projector(1).SetValue(SettingId::Contrast, 120);
-  pair.Projector(1).SetValue(SettingId::PositionV, 50);
+  Write(file, WriteSnapshot(snapshot));
+  Projector(0).SetValue(SettingId::Brightness, 135);
+  Projector(1).SetValue(SettingId::Contrast, 120);
+  Projector(1).SetValue(SettingId::PositionV, 50);
 
   Table(window).selectAll();
-  pair.actions.OpenFile(pair.file, true);
+  actions.OpenFile(file, true);
   auto* dialog = window.findChild<ComparisonDialog*>();
   ASSERT_NE(dialog, nullptr);
   ASSERT_TRUE(HasCompared(*dialog));
@@ -96,16 +89,16 @@ TEST(SettingsActions, AppliesWhatIsCheckedAndUndoesTheRun) {
   Find<QPushButton>(*dialog, "Apply").click();
   WorkDialog& work = Done(window);
   EXPECT_EQ(Results(work), QStringList({"A: done", "B: done"}));
-  EXPECT_EQ(pair.Projector(0).Value(SettingId::Brightness), 128);
-  EXPECT_EQ(pair.Projector(1).Value(SettingId::Contrast), 128);
-  EXPECT_EQ(pair.Projector(1).Value(SettingId::PositionV), 50) << "unchecked";
-  EXPECT_EQ(pair.Projector(1).Value(SettingId::Sharpness), 128) << "unchecked";
-  const QStringList undo = QDir(pair.folder.path()).entryList({"good.undo.*.json"});
+  EXPECT_EQ(Projector(0).Value(SettingId::Brightness), 128);
+  EXPECT_EQ(Projector(1).Value(SettingId::Contrast), 128);
+  EXPECT_EQ(Projector(1).Value(SettingId::PositionV), 50) << "unchecked";
+  EXPECT_EQ(Projector(1).Value(SettingId::Sharpness), 128) << "unchecked";
+  const QStringList undo = QDir(folder.path()).entryList({"good.undo.*.json"});
   ASSERT_EQ(undo.size(), 1);
-  EXPECT_EQ(ReadFleetUndo(Contents(pair.folder.filePath(undo[0]))).undo.size(), 2U);
+  EXPECT_EQ(ReadFleetUndo(Contents(folder.filePath(undo[0]))).undo.size(), 2U);
   Find<QPushButton>(work, "Undo All").click();
-  EXPECT_TRUE(Soon([&] { return pair.Projector(1).Value(SettingId::Contrast) == 120; }));
-  EXPECT_TRUE(Soon([&] { return pair.Projector(0).Value(SettingId::Brightness) == 135; }));
+  EXPECT_TRUE(Soon([&] { return Projector(1).Value(SettingId::Contrast) == 120; }));
+  EXPECT_TRUE(Soon([&] { return Projector(0).Value(SettingId::Brightness) == 135; }));
 }
 
 }  // namespace

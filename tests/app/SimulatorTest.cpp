@@ -11,8 +11,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/desktop/MainWindow.h"
-#include "app/desktop/projectors/ProjectorView.h"
 #include "app/profiles/LoopbackSocket.h"
 #include "device/Connect.h"
 #include "device/channels/BoundedChannel.h"
@@ -21,6 +19,7 @@
 #include "pages/common/CTabPage.h"
 #include "simulator/SimulatedProjector.h"
 #include "simulator/WireResponder.h"
+#include "tests/app/Windows.h"
 #include "tests/device/Peer.h"
 #include "tests/support/Limited.h"
 #include "tests/support/Models.h"
@@ -62,22 +61,15 @@ TEST_F(SimulatorTest, OneProjectorIsReachableOverAllConnectionsAndRecoversFromLi
   EXPECT_EQ(tcp->Execute({PjtOperation::Set, 0x2001, 9999}).result, 0) << "a refusal is an answer";
   EXPECT_EQ(tcp->Connection(), Connected);
   std::int16_t mute = 0;
-  for (const auto& [transport, fault, state] :
-       std::initializer_list<std::tuple<const char*, const char*, ConnectionState>>{
-           {"tcp", "1 trickle", Connected},
-           {"tcp", "* late 100", Connected},
-           {"tcp", "1 silent", NoAnswer},
-           {"tcp", "1 garbage", NotUnderstood},
-           {"tcp", "1 cut 7", Lost},
-           {"pjlink", "1 trickle", Connected},
-           {"pjlink", "1 silent", NoAnswer},
-           {"pjlink", "1 garbage", NoAnswer},
-           {"pjlink", "1 cut 7", Lost},
-           {"serial", "1 late 900", NoAnswer},
-           {"serial", "1 silent", NoAnswer},
-           {"serial", "1 garbage", NoAnswer},
-           {"serial", "1 cut 7", NoAnswer},
-       }) {
+  const std::tuple<const char*, const char*, ConnectionState> cases[] = {
+      {"tcp", "1 trickle", Connected},  {"tcp", "* late 100", Connected},
+      {"tcp", "1 silent", NoAnswer},    {"tcp", "1 garbage", NotUnderstood},
+      {"tcp", "1 cut 7", Lost},         {"pjlink", "1 trickle", Connected},
+      {"pjlink", "1 silent", NoAnswer}, {"pjlink", "1 garbage", NoAnswer},
+      {"pjlink", "1 cut 7", Lost},      {"serial", "1 late 900", NoAnswer},
+      {"serial", "1 silent", NoAnswer}, {"serial", "1 garbage", NoAnswer},
+      {"serial", "1 cut 7", NoAnswer}};
+  for (const auto& [transport, fault, state] : cases) {
     SCOPED_TRACE(testing::Message() << transport << ' ' << fault);
     mute ^= 1;
     ASSERT_TRUE(tcp->Execute({PjtOperation::SetMute, 0, mute}).answered);
@@ -110,8 +102,7 @@ TEST_F(SimulatorTest, TheListShowsTheStateOfEveryConnection) {
   const QString line = folder_.filePath("line");
   ASSERT_TRUE(QFile::link(QString::fromStdString(profiles[2].connection.address), line));
   profiles[2].connection.address = line.toStdString();
-  MainWindow window(profiles, {.interval = 200ms, .longestPause = 200ms, .soonest = 200ms});
-  window.show();
+  ShownWindow window(profiles, {.interval = 200ms, .longestPause = 200ms, .soonest = 200ms});
   const auto& model = window.findChild<ProjectorView*>()->Model();
   const auto comesTo = [&model](int row, const QString& state) {
     const auto shown = [&] { return model.index(row, ProjectorColumns::State).data(); };

@@ -16,7 +16,6 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "app/desktop/MainWindow.h"
 #include "host/CAdvanceDlg.h"
 #include "host/FindLine.h"
 #include "tests/app/Windows.h"

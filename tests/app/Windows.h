@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "app/desktop/MainWindow.h"
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/desktop/projectors/ProjectorView.h"
 #include "tests/support/Models.h"
@@ -76,6 +77,23 @@ inline ProfileDocument Shipped(const QTemporaryDir& folder) {
   EXPECT_EQ(document.Load(name), "");
   return document;
 }
+
+/// The main window, open.
+struct ShownWindow : MainWindow {
+  explicit ShownWindow(std::vector<FleetProfile> profiles, const FleetPolicy& policy = {})
+      : MainWindow(std::move(profiles), policy) {
+    show();
+  }
+};
+
+struct OwnFolder {
+  const QTemporaryDir folder{};
+};
+
+/// The main window with the shipped projectors, open.
+struct ShippedWindow : OwnFolder, MainWindow {
+  ShippedWindow() : MainWindow(Shipped(folder)) { show(); }
+};
 
 /// Triggers an action that opens a modal dialog, and answers the dialog.
 inline void AnswerQuestionOf(QAction& action, const std::function<void(QDialog&)>& answer) {

@@ -2,7 +2,6 @@
 
 #include <QTreeWidget>
 
-#include "app/desktop/MainWindow.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/desktop/work/ComparisonDialog.h"
 #include "app/desktop/work/WorkDialog.h"

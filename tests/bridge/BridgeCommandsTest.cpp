@@ -45,9 +45,8 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_EQ(outcomeOf("/set/setup.auto-keystone", {"-m", "run"}), "accepted") << last;
   EXPECT_NE(Changes(), changes);
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "accepted");
-  EXPECT_TRUE(Soon([&] {
-    return subscriber.Json("projectors/" + id + "/state")["power"] == "standby";
-  })) << "what a command tells is published";
+  const auto power = [&] { return subscriber.Json("projectors/" + id + "/state")["power"]; };
+  EXPECT_TRUE(Soon([&] { return power() == "standby"; })) << "what a command tells is published";
 
   // Both kill switches.
   const std::string now = Changes();
@@ -65,8 +64,7 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "on"}), "accepted");
 
   // The projector refuses, and falls silent.
-  EXPECT_TRUE(
-      Soon([&] { return subscriber.Json("projectors/" + id + "/state")["power"] == "on"; }));
+  EXPECT_TRUE(Soon([&] { return power() == "on"; }));
   EXPECT_EQ(Control("* refuse"), "ok");
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "refused");
   EXPECT_EQ(Control("* silent"), "ok");

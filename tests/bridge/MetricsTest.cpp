@@ -41,8 +41,7 @@ QByteArray Everything() {
   FleetProfile known = ProfileOf("Hall \"1\"\\\n");
   known.ratedLampHours = 3000;
   const FleetProfile unknown = ProfileOf("Hall 2");
-  LiveState silent;
-  silent.reachability = Reachability::Silent;
+  const LiveState silent{.reachability = Reachability::Silent};
   const std::vector<MeasuredProjector> projectors{
       {&known, FullState()}, {&unknown, LiveState()}, {&known, silent}};
   MetricsText text;

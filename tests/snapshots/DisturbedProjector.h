@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <random>
+#include <utility>
 #include <vector>
 
 #include "app/profiles/ProjectorAccess.h"
@@ -25,6 +26,15 @@ inline const std::vector<FleetProfile>& Profiles() {
 
 inline const FleetProfile& Profile(std::string_view name) {
   return *std::ranges::find(Profiles(), name, &FleetProfile::name);
+}
+
+/// What a projector should be like.
+inline Snapshot Wanted(std::vector<SavedSetting> settings,
+                       std::vector<SavedSetting> beforehand = {}) {
+  Snapshot wanted;
+  wanted.settings = std::move(settings);
+  wanted.beforehand = std::move(beforehand);
+  return wanted;
 }
 
 /// Settings that a projector keeps for each source, or for each source and mode.

@@ -61,9 +61,8 @@ constexpr PjtReply kPending{.result = 1, .pending = true};
 constexpr PjtReply kSilent{.answered = false};
 
 TEST(Restoration, SaysWhyAChangeHasNotTakenEffect) {
-  Snapshot wanted;
-  wanted.settings = {
-      {"picture.gamma", 16, ""}, {"picture.tint", 131, ""}, {"picture.active-iris", 16, ""}};
+  const Snapshot wanted = Wanted(
+      {{"picture.gamma", 16, ""}, {"picture.tint", 131, ""}, {"picture.active-iris", 16, ""}});
   const std::pair<PjtReply, Outcomes> kCases[] = {
       {{.result = 1}, {Changed, Changed, Refused}},
       {kPending, {Unconfirmed, Unconfirmed, Pending}},
@@ -82,8 +81,7 @@ TEST(Restoration, SaysWhyAChangeHasNotTakenEffect) {
 }
 
 TEST(Restoration, SaysWhyASettingCannotBeRead) {
-  Snapshot wanted;
-  wanted.settings = {{"picture.contrast", 130, ""}, {"picture.tint", 131, ""}};
+  const Snapshot wanted = Wanted({{"picture.contrast", 130, ""}, {"picture.tint", 131, ""}});
   const struct {
     PjtReply reply;
     bool stops;
@@ -118,8 +116,7 @@ TEST(Restoration, SaysWhyASettingCannotBeRead) {
 
 // Contrast can be read only with another iris, and is read again after that was set.
 TEST(Restoration, ReadsAgainWhatAModeHasMadeReadable) {
-  Snapshot wanted;
-  wanted.settings = {{"picture.active-iris", 16, ""}, {"picture.contrast", 131, ""}};
+  const Snapshot wanted = Wanted({{"picture.active-iris", 16, ""}, {"picture.contrast", 131, ""}});
   ScriptedProjector target(CommandCode::Contrast, true, kRefused);
   target.script->isOn = [](const Disturbed& inner) {
     return inner.projector.Value(SettingId::ActiveIris) == 0;
@@ -155,11 +152,9 @@ TEST(Restoration, SendsBeforehandInOrderUpToAModeThatCannotBeSet) {
   for (const auto& one : cases) {
     ScriptedProjector target(CommandCode::ActiveIris, false, one.reply.value_or(PjtReply()));
     target.script->isOn = [&one](const Disturbed&) { return one.reply.has_value(); };
-    Snapshot wanted;
-    wanted.beforehand = one.beforehand;
-    wanted.settings = {{"picture.contrast", 131, ""}};
     const Restoration restoration =
-        target.Restore(wanted, nullptr, [&] { return target.channel->sent < one.changes; });
+        target.Restore(Wanted({{"picture.contrast", 131, ""}}, one.beforehand), nullptr,
+                       [&] { return target.channel->sent < one.changes; });
     EXPECT_EQ(OutcomesOf(restoration.Beforehand()), one.outcomes);
     EXPECT_EQ(OutcomesOf(restoration.Settings()), Outcomes{one.after});
   }
@@ -169,8 +164,7 @@ TEST(Restoration, SendsBeforehandInOrderUpToAModeThatCannotBeSet) {
 TEST(Restoration, ASettingOfAnotherSourceIsNotAffected) {
   ConnectedProjector target(Profile("Projector 5-30"));
   target.channel->trouble = {.lateBy = 1 << 20, .lateChange = 1};
-  Snapshot wanted;
-  wanted.settings = {{"audio.volume", 5, "", 0}, {"audio.volume", 6, "", 4}};
+  const Snapshot wanted = Wanted({{"audio.volume", 5, "", 0}, {"audio.volume", 6, "", 4}});
   EXPECT_EQ(OutcomesOf(target.Restore(wanted).Settings()), (Outcomes{Unconfirmed, Changed}));
 }
 
@@ -216,8 +210,7 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
       target.channel->projector.SetValue(id, 128);
     target.channel->projector.SetValue(SettingId::Gamma, 32);
     target.channel->memories = one.memories;
-    Snapshot wanted;
-    wanted.settings = one.wanted;
+    const Snapshot wanted = Wanted(one.wanted);
     const Restoration restoration =
         target.Restore(wanted, nullptr, [&] { return target.channel->sent < one.changes; });
     const Snapshot undo = restoration.Undo("", Texts());
@@ -238,10 +231,8 @@ TEST(Restoration, UndoLeavesOutWhatWasSoBeforeTheProjectorWasLost) {
   ScriptedProjector target(CommandCode::Contrast, true, kSilent);
   target.script->isOn = [](const Disturbed& inner) { return inner.sent > 0; };
   target.channel->projector.SetValue(SettingId::Contrast, 130);
-  Snapshot wanted;
-  wanted.beforehand = {{"picture.tint", 131, ""}};
-  wanted.settings = {{"picture.contrast", 130, ""}};
-  const Restoration restoration = target.Restore(wanted);
+  const Restoration restoration =
+      target.Restore(Wanted({{"picture.contrast", 130, ""}}, {{"picture.tint", 131, ""}}));
   EXPECT_EQ(OutcomesOf(restoration.Beforehand()), Outcomes{Changed});
   EXPECT_EQ(OutcomesOf(restoration.Settings()), Outcomes{NotReached});
   EXPECT_TRUE(restoration.Undo("", Texts()).settings.empty());

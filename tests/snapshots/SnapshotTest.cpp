@@ -128,9 +128,7 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
 }
 
 TEST(SettingsFile, TellsWhatIsWrongAndWhere) {
-  Snapshot snapshot;
-  snapshot.beforehand = {{"other.input-source", 2, "B", {}}};
-  const QByteArray good = WriteSnapshot(snapshot);
+  const QByteArray good = WriteSnapshot(Wanted({}, {{"other.input-source", 2, "B", {}}}));
   const auto error = [&good](const char* part, const char* instead) {
     const QByteArray text = QByteArray(good).replace(part, instead);
     return ParseSettingsFile(text, "f").error.section(": ", 1).toStdString();
@@ -248,8 +246,7 @@ TEST(SettingTexts, AreRecognised) {
     const auto typed = Texts().Parse(hosts, text);
     EXPECT_EQ(typed ? std::optional(typed->amount) : std::nullopt, value) << text;
   }
-  const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  const SettingTexts texts(folders, kEnglishUnitedStates);
+  const SettingTexts& texts = Texts();
   const ModelSetting& power = *target.settings.Find("other.power");
   EXPECT_EQ(texts.Parse(power, "standby")->amount, 0);
   EXPECT_FALSE(Resolve(power, {.amount = 1, .relative = true}, {}));

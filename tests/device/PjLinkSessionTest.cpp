@@ -251,22 +251,14 @@ TEST(PjLinkSession, HasTheWholeTimeForEachAnswerAndReconnectsAfterGrowingPauses)
   ExpectEach({
       {"slow", [](auto& it) { it.answers = 1990ms; }, kSetInput, "done", "INPT 32, INPT"},
       {"too slow", [](auto& it) { it.answers = 2010ms; }, kSetInput, "no answer", "INPT 32"},
-      {"closes after each reply, and needs a pause",
-       [](auto& it) {
-         it.closesAfterReply = 0ms;
-         it.gap = 200ms;
-       },
+      {"closes after each reply, and needs a pause", [](auto& it) { it.CloseEachTime(200ms); },
        kSetInput, "done", "INPT 32, INPT"},
       {"closes a moment after each reply", closesLate, kSetInput, "done", "INPT 32, INPT"},
       {"lets nobody in", [](auto& it) { it.greeting = ""; }, kSetInput, "unsent", ""},
       {"wants a password", [](auto& it) { it.greeting = "PJLINK ERRA\r"; }, kSetInput, "unsent",
        ""},
-      {"asks for none",
-       [](auto& it) {
-         it.facts.clear();
-         it.states.clear();
-       },
-       kGetInput, "not offered", "INPT, CLSS, INPT"},
+      {"asks for none", [](auto& it) { it.facts = it.states = {}; }, kGetInput, "not offered",
+       "INPT, CLSS, INPT"},
       {"has no mute", [](auto& it) { it.states.erase("AVMT"); }, Get(Code::Mute), "not offered",
        "AVMT"},
   });

@@ -117,12 +117,8 @@ TEST_F(FleetSimulator, AnswersOnTheWireToo) {
     return wire.read(size).toHex().toStdString();
   };
   EXPECT_EQ(exchange("a55a010200010101b7a1", 9), "a55a0201000101cd15");
-  const char* const question =
-      "a55a0308000200d320030000000004"
-      "70";  // Brightness
-  EXPECT_EQ(exchange(question, 15),
-            "a55a0407000200000000010080"
-            "40cf");
+  const char* const question = "a55a0308000200d32003000000000470";  // Brightness
+  EXPECT_EQ(exchange(question, 15), "a55a040700020000000001008040cf");
   EXPECT_EQ(Control("7 refuse"), "ok");
   EXPECT_THAT(exchange(question, 15), testing::StartsWith("a55a0407000200000000000000"));
   EXPECT_EQ(Control("7 count"),

@@ -1,10 +1,12 @@
 #include <chrono>
 #include <memory>
 #include <set>
+#include <thread>
 #include <utility>
 
 #include <gtest/gtest.h>
 
+#include "simulator/FaultChannel.h"
 #include "simulator/SettingsTable.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Replies.h"
@@ -12,8 +14,10 @@
 
 namespace {
 
+using namespace std::chrono_literals;
 using Id = SettingId;
 using Op = PjtOperation;
+using Clock = std::chrono::steady_clock;
 
 TEST(SimulatedProjector, ExecutesOrRefusesCommands) {
   SimulatedProjector projector;
@@ -116,16 +120,65 @@ TEST(SimulatedProjector, WarmsUpAndCoolsDownInTime) {
       EXPECT_EQ(projector->Execute(kSwitch[on]).result, AcceptedResult(kSwitch[on].operation));
       return projector;
     };
-    const auto slow = make(std::chrono::hours(1));
+    const auto slow = make(1h);
     EXPECT_EQ(slow->Power(), kMeanwhile[on]);
     EXPECT_EQ(slow->Value(Id::Power), on ? 1 : 2);
     EXPECT_EQ(slow->Execute(kSwitch[!on]).result, RefusedResult(kSwitch[!on].operation));
     EXPECT_EQ(slow->Power(), kMeanwhile[on]) << "it refuses until it has switched";
 
-    const auto quick = make(std::chrono::milliseconds(20));
+    const auto quick = make(20ms);
     EXPECT_TRUE(Soon([&] { return quick->Power() == kThen[on]; }));
     EXPECT_EQ(quick->Value(Id::Power), on ? 1 : 0);
   }
+}
+
+class FaultChannelTest : public testing::Test {
+ protected:
+  std::shared_ptr<SimulatedProjector> projector_ = std::make_shared<SimulatedProjector>();
+  FaultChannel channel_{projector_, 1min};
+};
+
+TEST_F(FaultChannelTest, TheMostSpecificFaultAppliesAndLateAnswersArrive) {
+  const std::vector commands{Do(Op::SetBrightness, 130), Do(Op::ExecTintReset), Get(0x2004),
+                             Do(Op::GetColorTempGainR),  Set(0x2002, 1),        Get(0x2002)};
+  const Fault refuse{.kind = Fault::Kind::Refuse};
+  channel_.SetFault(refuse);
+  EXPECT_EQ(Replies(channel_, commands), "- - - - - -");
+  EXPECT_EQ(projector_->Value(SettingId::Brightness), 128);
+  channel_.SetFault(Op::SetBrightness, {.kind = Fault::Kind::Late, .delay = 40ms});
+  const auto start = Clock::now();
+  EXPECT_EQ(Replies(channel_, commands), "130 - - - - -");
+  EXPECT_GE(Clock::now() - start, 40ms);
+  channel_.SetFault({.kind = Fault::Kind::FailRead});
+  channel_.SetFault(Op::SetBrightness, refuse);
+  EXPECT_EQ(Replies(channel_, commands), "- 128 - - 1 -");
+  channel_.SetFault({});
+  channel_.SetFault(std::uint16_t{0x2002}, refuse);
+  EXPECT_EQ(Replies(channel_, commands), "- 128 128 128 - -");
+  channel_.SetFault(Op::SetBrightness, {});
+  EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 - -");
+}
+
+TEST_F(FaultChannelTest, ADropOutEndsWhenTheFaultIsCleared) {
+  channel_.SetFault(Op::GetMirror, {.kind = Fault::Kind::DropOut});
+  std::thread clearer([this] {
+    std::this_thread::sleep_for(30ms);
+    // A fault of another command must not end the wait.
+    channel_.SetFault(Op::GetSpeaker, {.kind = Fault::Kind::Refuse});
+    std::this_thread::sleep_for(30ms);
+    channel_.Clear();
+  });
+  const auto start = Clock::now();
+  EXPECT_FALSE(channel_.Execute({Op::GetMirror}).answered);
+  const auto waited = Clock::now() - start;
+  clearer.join();
+  EXPECT_GE(waited, 55ms);
+  EXPECT_LT(waited, 30s);
+  EXPECT_TRUE(channel_.Execute({Op::GetMirror}).answered);
+
+  FaultChannel bounded(projector_, 20ms);
+  bounded.SetFault({.kind = Fault::Kind::DropOut});
+  EXPECT_FALSE(bounded.Execute({Op::GetMirror}).answered);
 }
 
 }  // namespace

@@ -57,13 +57,7 @@ TEST(FiveHundred, AreToldTrulyAndAskedPolitely) {
       Projector& before = fleet.projectors[host];
       before.isThere = false;
       host += '\'';
-      if (before.wire) {
-        fleet.projectors[host].wire = std::make_shared<WireDevice>();
-        fleet.watcher.Set({id, TcpAddress{.host = host}});
-      } else {
-        fleet.projectors[host];
-        fleet.watcher.Set({id, PjLinkAddress{.host = host, .password = {}}});
-      }
+      before.wire ? fleet.AddWire(id, host) : fleet.Add(id, host);
     }
     for (auto& [host, it] : fleet.projectors) {
       if (chance(4)) it.isThere = !it.isThere;

@@ -75,9 +75,7 @@ TEST(FleetTurns, StaysAwayWhileSomebodyElseWorks) {
 TEST(FleetTurns, TakesTurnsAtAnAddress) {
   SteppedFleet fleet({.interval = 1s});
   std::map<std::string, int> visits{{"one", 0}, {"same", 0}, {"again", 0}};
-  for (const auto& [id, none] : visits) {
-    fleet.watcher.Set({id, PjLinkAddress{.host = "shared", .password = {}}});
-  }
+  for (const auto& [id, none] : visits) fleet.Add(id, "shared");
   Projector& it = fleet.projectors["shared"];
   it.device.answers = 500ms;  // so that a visit takes longer than the interval
   std::map<std::string, std::optional<WallTime>> answered;
@@ -101,16 +99,16 @@ TEST(FleetTurns, TakesTurnsAtAnAddress) {
   const auto asked = it.connections.size();
   fleet.RunFor(60s);
   EXPECT_EQ(it.connections.size(), asked);
-  fleet.watcher.Set({"one", PjLinkAddress{.host = "elsewhere", .password = {}}});
+  const Projector& elsewhere = fleet.Add("one", "elsewhere");
   fleet.RunFor(1s);
   EXPECT_EQ(it.connections.size(), asked + 1) << "the pause has moved along";
-  EXPECT_EQ(fleet.projectors["elsewhere"].connections.size(), 0);
+  EXPECT_EQ(elsewhere.connections.size(), 0);
   fleet.watcher.Resume("one");
   fleet.watcher.Pause("same");
   fleet.watcher.Remove("same");
   fleet.RunFor(30s);
   EXPECT_GT(it.connections.size(), asked + 2);
-  EXPECT_GT(fleet.projectors["elsewhere"].connections.size(), 1);
+  EXPECT_GT(elsewhere.connections.size(), 1);
 }
 
 TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {

@@ -45,43 +45,28 @@ constexpr char kUsual[] =
     "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
 
 TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
-  const auto says = [](const char* command, const char* text) {
+  const auto says = [](const std::map<std::string, std::string>& now,
+                       std::chrono::hours busy = {}) {
     return [=](Projector& it) {
-      (it.device.states.contains(command) ? it.device.states : it.device.facts)[command] = text;
+      it.device.busyFor = busy;
+      for (const auto& [command, text] : now) {
+        (it.device.states.contains(command) ? it.device.states : it.device.facts)[command] = text;
+      }
     };
   };
   const std::tuple<const char*, std::function<void(Projector&)>, const char*> cases[] = {
       {"as usual", [](auto&) {}, kUsual},
-      {"in standby", says("POWR", "0"), "answers, standby"},
-      {"warming up, when it tells no more",
-       [](auto& it) {
-         it.device.states["POWR"] = "3";
-         it.device.busyFor = 1h;
-       },
-       "answers, warming up"},
+      {"in standby", says({{"POWR", "0"}}), "answers, standby"},
+      {"warming up, when it tells no more", says({{"POWR", "3"}}, 1h), "answers, warming up"},
       {"problems and lamps",
-       [](auto& it) {
-         it.device.states["POWR"] = "2";
-         it.device.facts["ERST"] = "020011";
-         it.device.facts["LAMP"] = "100 1 20000 0";
-         it.device.states["AVMT"] = "31";
-       },
+       says({{"POWR", "2"}, {"ERST", "020011"}, {"LAMP", "100 1 20000 0"}, {"AVMT", "31"}}),
        "answers, cooling down, 31 HDMI (31), 020011, 100 h lit, 20000 h out, filter 80 h, blank, "
        "mute, live"},
-      {"class 1", says("CLSS", "1"),
+      {"class 1", says({{"CLSS", "1"}}),
        "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, seen, heard"},
-      {"nonsense",
-       [](auto& it) {
-         for (const char* const state : {"POWR", "INPT"}) it.device.states[state] = "9";
-         for (const char* const fact : {"ERST", "LAMP"}) it.device.facts[fact] = "9x";
-       },
+      {"nonsense", says({{"POWR", "9"}, {"INPT", "9"}, {"ERST", "9x"}, {"LAMP", "9x"}}),
        "answers, filter 80 h, seen, heard, live"},
-      {"closes after each reply",
-       [](auto& it) {
-         it.device.closesAfterReply = 0ms;
-         it.device.gap = 300ms;
-       },
-       kUsual},
+      {"closes after each reply", [](auto& it) { it.device.CloseEachTime(300ms); }, kUsual},
       {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
        "answers, on, 31 HDMI (31)"},
       {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
@@ -223,10 +208,10 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
   SteppedFleet fleet;
   fleet.Add("a");
   fleet.RunFor(10s);
-  fleet.watcher.Set({"a", PjLinkAddress{.host = "elsewhere", .password = {}}});
-  fleet.projectors["elsewhere"].device.states["POWR"] = "0";
+  Projector& elsewhere = fleet.Add("a", "elsewhere");
+  elsewhere.device.states["POWR"] = "0";
   fleet.RunFor(10s);
-  EXPECT_EQ(fleet.projectors["elsewhere"].connections.size(), 1) << "at once";
+  EXPECT_EQ(elsewhere.connections.size(), 1) << "at once";
   EXPECT_EQ(fleet.State("a").power, PowerState::Standby);
   EXPECT_EQ(fleet.projectors["a"].connections.size(), 1);
   fleet.watcher.Set({"nowhere", AddressError{"no address"}});

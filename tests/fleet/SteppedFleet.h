@@ -50,15 +50,21 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
   explicit SteppedFleet(const FleetPolicy& policy = {})
       : states(*this, policy.history), watcher(policy, *this, *this, states) {}
 
-  Projector& Add(const std::string& id, const std::string& password = {}) {
-    watcher.Set({id, PjLinkAddress{.host = id, .password = password}});
-    return projectors[id];
+  Projector& Add(const std::string& id) { return Add(id, id); }
+  /// At a host of another name: it has moved, or shares the host.
+  Projector& Add(const std::string& id, const std::string& host) {
+    watcher.Set({id, PjLinkAddress{.host = host, .password = {}}});
+    return projectors[host];
   }
 
   Projector& AddWire(const std::string& id, std::shared_ptr<const ModelData> model = {}) {
-    watcher.Set({id, TcpAddress{.host = id}, std::move(model)});
-    projectors[id].wire = std::make_shared<WireDevice>();
-    return projectors[id];
+    return AddWire(id, id, std::move(model));
+  }
+  Projector& AddWire(const std::string& id, const std::string& host,
+                     std::shared_ptr<const ModelData> model = {}) {
+    watcher.Set({id, TcpAddress{.host = host}, std::move(model)});
+    projectors[host].wire = std::make_shared<WireDevice>();
+    return projectors[host];
   }
 
   void RunFor(SessionTime::duration time) {

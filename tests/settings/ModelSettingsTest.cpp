@@ -55,9 +55,7 @@ void ExpectSteps(CPjtInterface& projector, const ModelSettings& settings,
     const int last = upwards ? bounds.maximum : bounds.minimum;
     const int before = upwards ? last - 1 : last + 1;
     settings.Change(projector, setting, before + row.bias);
-    const auto step = [&](int known) {
-      return Step(projector, row, upwards, source, bounds, known);
-    };
+    const auto step = [&](int from) { return Step(projector, row, upwards, source, bounds, from); };
     EXPECT_EQ(step(before).value, last + row.bias);
     // Only the projector limits the steps for a source.
     if (FamilyOf(row.Stepping(upwards).operation) == OperationFamily::SourceStepper) continue;

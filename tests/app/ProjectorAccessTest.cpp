@@ -9,6 +9,7 @@
 #include "tests/device/BadProjector.h"
 #include "tests/device/Peer.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -51,13 +52,9 @@ class PjLinkAccess : public testing::Test {
     return projector_.TakeRequests();
   }
   static std::string InputName(ProjectorAccess& access) {
-    const auto& sources = access.Settings().Model().MySourceList;
-    const auto value =
-        access.Settings().Read(access.Connection(), *access.Settings().Find("status.input-source"));
-    for (std::size_t i = 0; i < static_cast<std::size_t>(sources.Size()); ++i) {
-      if (sources.firstValues[i] == value) return std::string(NameText(sources.names[i]));
-    }
-    return "";
+    const ModelSetting& input = *access.Settings().Find("status.input-source");
+    const auto value = access.Settings().Read(access.Connection(), input);
+    return value ? Texts().Value(input, *value) : "";
   }
   QString CacheFile() const {
     const QDir cache(folder_.filePath("advanced-control/pjlink"));

@@ -8,6 +8,7 @@
 #include "tests/bridge/Profiles.h"
 #include "tests/fleet/Served.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -35,9 +36,7 @@ TEST(DriftCheck, TellsHowManySettingsDiffer) {
     snapshot.settings.push_back({std::string(setting.key), setting.range->minimum, "", {}});
   }
   Write(folder.filePath("good.json"), WriteSnapshot(snapshot));
-  const std::vector<std::string> catalogs{TEST_CATALOG_DIR};
-  const SettingTexts texts(catalogs, 0x0409);
-  DriftCheck check(fleet, texts, folder.path());
+  DriftCheck check(fleet, Texts(), folder.path());
   check.Start([] { return true; }, std::chrono::milliseconds(1));
   EXPECT_TRUE(Becomes([&] { return fleet.State(0).drift == 2; }));
 

@@ -16,6 +16,7 @@
 #include "settings/RowParts.h"
 #include "tests/bridge/Profiles.h"
 #include "tests/support/Models.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -26,12 +27,6 @@ QJsonObject Json(const QByteArray& text) { return QJsonDocument::fromJson(text).
 
 FleetProfile HallOf(const CModelInfo2& info) {
   return ProfileOf("Hall \"1\"", MakeModelData(info), "mac:00:00:5e:00:53:01");
-}
-
-const SettingTexts& Texts() {
-  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  static const SettingTexts texts(folders, 0x0409);
-  return texts;
 }
 
 TEST(Topics, LevelsAreDistinctAndFitEveryBroker) {
@@ -211,8 +206,7 @@ class Desk : public testing::Test {
       models_,
       Texts(),
       topics_,
-      {.find = [this](const QByteArray& id,
-                      std::size_t&) { return id == "x" ? &profile_ : nullptr; },
+      {.find = [this](const QByteArray& id, auto&) { return id == "x" ? &profile_ : nullptr; },
        .run =
            [this](std::size_t, const Command& command) {
              said_ = "run " + command.key + '=' + command.value;

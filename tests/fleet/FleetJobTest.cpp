@@ -11,6 +11,7 @@
 #include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -30,7 +31,7 @@ struct FleetJobTest : ServingTest {
   }
 
   std::vector<WorkResult> Do(FleetWork work, Fleet* fleet = nullptr) {
-    FleetJob job(fleet, targets, std::move(work), texts);
+    FleetJob job(fleet, targets, std::move(work), Texts());
     EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
     undo = job.Undo();
     return job.Results();
@@ -141,7 +142,7 @@ TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThreadUntilItIsCancelled) {
   }
   targets.insert(targets.end(), 2, {"in its line", silent.front().Address()});
   const auto before = Threads();
-  FleetJob job(nullptr, targets, SwitchPower{true}, texts, {.timeOut = 60s});
+  FleetJob job(nullptr, targets, SwitchPower{true}, Texts(), {.timeOut = 60s});
   EXPECT_TRUE(Becomes([&] {
     return std::accumulate(silent.begin(), silent.end(), std::size_t{0},
                            [](std::size_t sum, auto& one) { return sum + one.Accept(); }) == 64;
@@ -161,7 +162,7 @@ TEST_F(FleetJobTest, WorksOnOneAtATimeAtAnAddress) {
   SilentServer silent;
   targets.clear();
   for (const char* const id : {"one", "same", "again"}) targets.push_back({id, silent.Address()});
-  FleetJob job(nullptr, targets, SwitchPower{true}, texts, {.timeOut = 60s});
+  FleetJob job(nullptr, targets, SwitchPower{true}, Texts(), {.timeOut = 60s});
   for (std::size_t i = 0; i < targets.size(); ++i) {
     EXPECT_TRUE(Becomes([&] { return silent.Accept() > i; }));
     EXPECT_EQ(silent.connections.size(), i + 1);

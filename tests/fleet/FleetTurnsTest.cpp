@@ -147,17 +147,12 @@ TEST(FleetTurns, AsksASilentOneLessAndLess) {
   Projector& it = fleet.Add("a");
   it.isThere = false;
   fleet.RunFor(2h);
-  std::vector<double> minutes;
-  for (std::size_t i = 1; i < it.connections.size(); ++i) {
-    minutes.push_back(
-        std::chrono::duration<double, std::ratio<60>>(it.connections[i] - it.connections[i - 1])
-            .count());
-  }
-  ASSERT_GE(minutes.size(), 10);
-  const double least[] = {1, 2, 4, 8, 10, 10};
-  for (std::size_t i = 0; i < std::size(least); ++i) {
-    EXPECT_GE(minutes[i], least[i]);
-    EXPECT_LE(minutes[i], least[i] * (1 + FleetPolicy().jitter));
+  ASSERT_GE(it.connections.size(), 11);
+  constexpr std::chrono::minutes kLeast[] = {1min, 2min, 4min, 8min, 10min, 10min};
+  for (std::size_t i = 0; i < std::size(kLeast); ++i) {
+    const auto pause = it.connections[i + 1] - it.connections[i];
+    EXPECT_GE(pause, kLeast[i]) << i;
+    EXPECT_LE(pause, kLeast[i] * (1 + FleetPolicy().jitter)) << i;
   }
   it.isThere = true;
   fleet.RunFor(12min);

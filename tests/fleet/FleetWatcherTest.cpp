@@ -221,23 +221,23 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
 }
 
 TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
-  // What is noticed, what is told then, and how many visits follow.
-  const std::tuple<FleetNetwork::Notice, const char*, int> cases[] = {
+  // What is noticed, how many visits follow, and what is told before them.
+  const std::tuple<FleetNetwork::Notice, int, const char*> cases[] = {
       {{"a", "POWR", "2"},
-       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live",
-       0},
-      {{"a", "powr", "0"}, "answers, standby, 000000, 1200 h lit, filter 80 h", 0},
+       0,
+       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
+      {{"a", "powr", "0"}, 0, "answers, standby, 000000, 1200 h lit, filter 80 h"},
       {{"a", "ERST", "002000"},
-       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 h, seen, heard, live",
-       0},
+       0,
+       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 h, seen, heard, live"},
       {{"a", "INPT", "32"},
-       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, seen, heard, live",
-       0},
-      {{"a", "LKUP", "00:00:5e:00:53:01"}, kUsual, 1},  // a network again
-      {{"a", "POWR", "9"}, kUsual, 1},
-      {{"b", "POWR", "0"}, kUsual, 0},
+       0,
+       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, seen, heard, live"},
+      {{"a", "LKUP", "00:00:5e:00:53:01"}, 1, kUsual},  // a network again
+      {{"a", "POWR", "9"}, 1, kUsual},
+      {{"b", "POWR", "0"}, 0, kUsual},
   };
-  for (const auto& [notice, told, visits] : cases) {
+  for (const auto& [notice, visits, told] : cases) {
     SteppedFleet fleet;
     Projector& it = fleet.Add("a");
     fleet.RunFor(10s);

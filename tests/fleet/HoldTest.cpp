@@ -9,6 +9,7 @@
 #include "fleet/SearchDriver.h"
 #include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -17,12 +18,11 @@ using namespace std::chrono_literals;
 struct HoldTest : ServingTest {
   std::unique_ptr<FleetJob> Job(const TcpAddress& at,
                                 AddressHold::Turn turn = AddressHold::Turn::Last) {
-    FleetJob::Options options{.timeOut = 60s};
-    options.turn = turn;
+    const FleetJob::Options options{.timeOut = 60s, .turn = turn};
     return std::make_unique<FleetJob>(
         &fleet,
         std::vector{FleetTarget{"a", at, std::make_shared<ModelData>(SimulatedModelData())}},
-        SetSetting{"setup.mirror", "2"}, texts, options);
+        SetSetting{"setup.mirror", "2"}, Texts(), options);
   }
   static bool IsOver(const FleetJob& job) { return job.HowFar().finished == 1; }
 

@@ -9,6 +9,7 @@
 #include "device/channels/ForwardingChannel.h"
 #include "fleet/ProjectorWork.h"
 #include "simulator/SimulatedProjector.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -17,8 +18,7 @@ using Op = PjtOperation;
 enum class Upset : char { Nothing, Refuses, Lacks, Busy, Pending, Ignores, Silent, Cancels };
 
 /// A simulated projector that is upset by a command, and does not carry it out.
-class UpsetProjector final : public ForwardingChannel {
- public:
+struct UpsetProjector final : ForwardingChannel {
   UpsetProjector()
       : ForwardingChannel(
             std::make_shared<SimulatedProjector>(SimulatedModel{.pageSet = 1, .ranges = {}})) {
@@ -68,12 +68,10 @@ struct ProjectorWorkTest : testing::Test {
     model->DialogType = 1;
     model->ModelCode = 1;
     const std::function<bool()> goesOn = [&] { return projector->goesOn; };
-    ProjectorWork one({"a", {}, model}, projector, texts, goesOn, [](auto&&...) {});
+    ProjectorWork one({"a", {}, model}, projector, Texts(), goesOn, [](auto&&...) {});
     return one.Do(work, [this](const Snapshot& undo) { kept = undo.settings; });
   }
 
-  const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  const SettingTexts texts{folders, 1033};
   std::vector<SavedSetting> kept;  ///< The last undo.
 };
 

@@ -18,7 +18,6 @@
 #include "simulator/PjLinkServer.h"
 #include "simulator/SimulatedProjector.h"
 #include "simulator/WireServer.h"
-#include "snapshots/SettingTexts.h"
 
 inline ModelData SimulatedModelData() {
   ModelData model;
@@ -48,14 +47,11 @@ struct Served {
   }
 };
 
-/// An application, which serves, and the texts of settings.
-class ServingTest : public testing::Test {
- protected:
-  int count_ = 0;
-  char* name_ = nullptr;
-  QCoreApplication application_{count_, &name_};
-  const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  const SettingTexts texts{folders, 1033};
+/// An application, which serves.
+struct ServingTest : testing::Test {
+  int argumentCount = 0;
+  char* program = nullptr;
+  QCoreApplication application{argumentCount, &program};
 };
 
 /// How many threads the program has.

@@ -14,8 +14,7 @@
 #include "tests/device/BadProjector.h"
 
 /// What answers on the wire: the codes that it has, with their values.
-class WireDevice final : public ProjectorChannel {
- public:
+struct WireDevice final : ProjectorChannel {
   std::map<std::uint16_t, int> values{
       {CommandCode::RunningState, 1}, {CommandCode::InputSource, 3}, {CommandCode::ErrorStatus, 0},
       {CommandCode::BlankState, 0},   {CommandCode::Mute, 0},        {CommandCode::Freeze, 0},

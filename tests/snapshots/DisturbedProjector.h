@@ -8,16 +8,10 @@
 
 #include "app/profiles/ProjectorAccess.h"
 #include "fleet/ProfileFile.h"
-#include "i18n/SystemLanguage.h"
 #include "snapshots/Restoration.h"
+#include "tests/support/Texts.h"
 
 // Simulated projectors of the profile file, with faults.
-
-inline const SettingTexts& Texts() {
-  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  static const SettingTexts texts(folders, kEnglishUnitedStates);
-  return texts;
-}
 
 inline const std::vector<FleetProfile>& Profiles() {
   static const auto profiles = ReadProfileList(TEST_CATALOG_DIR "/projectors.json").profiles;

@@ -179,11 +179,10 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
   } cases[] = {
       {{tint}, "picture.tint=128;", ""},
       // The other gamma has the wanted tint.
-      {{gamma, tint},
-       "picture.gamma=32;picture.tint=128;",
-       "",
-       1000,
-       {{{SettingId::Gamma}, {SettingId::Tint}, {32}, {{{16}, {131}}, {{32}, {128}}}}}},
+      {.wanted = {gamma, tint},
+       .settings = "picture.gamma=32;picture.tint=128;",
+       .beforehand = "",
+       .memories = {{{SettingId::Gamma}, {SettingId::Tint}, {32}, {{{16}, {131}}, {{32}, {128}}}}}},
       {{gamma}, "picture.gamma=32;", ""},
       {{gamma, tint},
        "picture.gamma=32;picture.tint=128;",
@@ -198,8 +197,7 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
   };
   const auto list = [](const std::vector<SavedSetting>& settings) {
     std::string all;
-    for (const SavedSetting& saved : settings)
-      all += saved.key + '=' + std::to_string(saved.value) + ';';
+    for (const auto& saved : settings) all += saved.key + '=' + std::to_string(saved.value) + ';';
     return all;
   };
   for (const auto& one : cases) {

@@ -6,8 +6,6 @@
 #include <set>
 #include <thread>
 
-#include <gtest/gtest.h>
-
 #include "device/channels/TcpChannel.h"
 #include "simulator/WireResponder.h"
 #include "tests/device/Peer.h"

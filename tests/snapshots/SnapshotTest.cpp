@@ -3,8 +3,6 @@
 #include <array>
 #include <gmock/gmock.h>
 
-#include <gtest/gtest.h>
-
 #include "app/profiles/SettingsFile.h"
 #include "settings/CatalogNumbers.h"
 #include "tests/snapshots/DisturbedProjector.h"
@@ -182,15 +180,11 @@ TEST(SettingTexts, ParsesTypedValues) {
 
 // Two entries of a name, one without a name, one of the catalog, and one that the catalog lacks.
 ModelSetting HostsList() {
-  return {.key = "input.hosts-list",
-          .kind = ModelSetting::Kind::Choice,
-          .bias = 2,
-          .entries = {{"HDMI", 31},
-                      {"HDMI", 32},
-                      {"VGA (1)", 1},
-                      {"", 7},
-                      {ListText::SwitchOff, 0},
-                      {9999, 8}}};
+  using Kind = ModelSetting::Kind;
+  ModelSetting list{.key = "input.hosts-list", .kind = Kind::Choice, .bias = 2, .entries = {}};
+  list.entries = {{"HDMI", 31}, {"HDMI", 32}, {"VGA (1)", 1}, {"", 7}, {ListText::SwitchOff, 0},
+                  {9999, 8}};
+  return list;
 }
 
 TEST(SettingTexts, AreThoseOfTheDialog) {

@@ -168,6 +168,9 @@ TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
       ++ended;
     };
     const Peer closing(Transport::Tcp, {answer}), listening(Transport::Tcp, {listens});
+    const Peer idle(Transport::Tcp, {listens});
+    BoundedChannel kept(connect(idle, 1min), {.tend = 5ms});
+    EXPECT_TRUE(kept.Execute(command).answered);
     BoundedChannel closed(connect(closing, 1h), {.tend = 5ms});
     EXPECT_TRUE(closed.Execute(command).answered);
     EXPECT_TRUE(Soon([&] { return closed.Connection() == ConnectionState::Unused; }));
@@ -176,6 +179,7 @@ TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
     EXPECT_TRUE(Soon([&] { return ended == 1; })) << "closed for good, not by half";
     EXPECT_TRUE(Soon([&] { return left.Connection() == ConnectionState::Unused; }));
     EXPECT_TRUE(left.Execute(command).answered) << "connects again";
+    EXPECT_EQ(kept.Connection(), ConnectionState::Connected) << "it was used of late";
   };
   check("wire", answerOnWire, wire, kCommand);
   check("PJLink", Peer::Says({"PJLINK 0\r", "%1POWR=1\r"}, false), pjLink,

@@ -17,6 +17,7 @@
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Peer.h"
 #include "tests/device/Replies.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -260,6 +261,10 @@ TEST(PjLinkTest, SaysWhyItCannotConnect) {
   expect({"", 4352, "", kLimits}, State::WrongParameters);
   expect({kHost, 0, "", kLimits}, State::WrongParameters);
   expect({kHost, 65536 + 4352, "", kLimits}, State::WrongParameters);
+  const Peer silent(Transport::Tcp, {Peer::Says({})});
+  PjLinkChannel waiting(kHost, silent.port, "", kLimits);
+  const std::jthread waits([&] { Replies(waiting, {kGetPower}); });
+  EXPECT_TRUE(Soon([&] { return waiting.Connection() == State::Connecting; }));
 }
 
 TEST(PjLinkTest, TheServerFollowsTheStandard) {

@@ -18,19 +18,18 @@ TEST(AcctlFile, NamesEveryMistakeByFileLineAndKeyAndSendsNothing) {
   const QString good = folder.filePath("good.json");
   ASSERT_EQ(Acctl({"save", kRoom, good}).exitCode, 0);
   const QByteArray text = Contents(good);
+  constexpr const char* kTint = "picture.tint";
   // Key, member and how it is edited; the error, and whether --lenient skips it.
   const std::tuple<const char*, const char*, const char*, const char*, bool> kCases[] = {
-      {"picture.tint", "key", R"("picture.tnit")",
+      {kTint, "key", R"("picture.tnit")",
        ":26: picture.tnit: no model has such a setting; did you mean picture.tint?", true},
-      {"picture.tint", "value", "999",
+      {kTint, "value", "999",
        ":28: picture.tint: value 999 is not possible; possible are 97 to 159, shown as -31 to 31",
        true},
-      {"picture.tint", "value", R"("5")", ":28: picture.tint: settings[3].value: must be a whole",
+      {kTint, "value", R"("5")", ":28: picture.tint: settings[3].value: must be a whole", false},
+      {kTint, "value", "128, \"value\": 129", ":28: picture.tint: settings[3].value is here twice",
        false},
-      {"picture.tint", "value", "128, \"value\": 129",
-       ":28: picture.tint: settings[3].value is here twice", false},
-      {"picture.tint", "text", R"("2",)", ":27: picture.tint: text \"2\" is not that of value 128",
-       true},
+      {kTint, "text", R"("2",)", ":27: picture.tint: text \"2\" is not that of value 128", true},
       {"picture.active-iris", "text", R"("Foo",)",
        ":47: picture.active-iris: text \"Foo\" is not that of value 0, which is \"Off\"", true},
       {"picture.active-iris", "value", "77",

@@ -42,18 +42,16 @@ ScriptedPjLink::Script ProjectorBut(const std::string& request, const std::strin
 }
 
 /// A file with the profile "Any".
-class AnyProfile {
- public:
+struct AnyProfile {
   AnyProfile() { Write(Path(), kAnyProfile); }
-  QString Path() const { return folder_.filePath("any.json"); }
+  QString Path() const { return folder.filePath("any.json"); }
   /// With a time that is never over, unless the test waits for its end.
   Outcome Run(const ScriptedPjLink& projector, const QStringList& arguments,
               const char* timeOut = "60") const {
     return Acctl(QStringList{"--profiles", Path(), "--timeout", timeOut} + projector.At(arguments));
   }
 
- private:
-  const QTemporaryDir folder_;
+  const QTemporaryDir folder{};
 };
 
 TEST(AcctlPjLink, TellsStandbyAsAStateAndNotAsFailures) {

@@ -16,17 +16,8 @@ using namespace std::chrono_literals;
 
 TEST(FleetWatch, DoesNotVisitWhileADialogIsOpenOrItsChannelConnected) {
   Served served, other;
-  const auto profile = [](const char* name, const Served& at) {
-    FleetProfile made = Profile(name);
-    made.link = ProjectorLink::PjLink;
-    made.connection = {.isNetwork = true,
-                       .address = "127.0.0.1",
-                       .port = static_cast<std::int32_t>(at.pjLink.Port()),
-                       .secret = "secret"};
-    return made;
-  };
-  const FleetProfile a = profile("A", served);
-  const FleetProfile b = profile("B", other);
+  const FleetProfile a = Profile("A", ProjectorLink::PjLink, served.pjLink.Port());
+  const FleetProfile b = Profile("B", ProjectorLink::PjLink, other.pjLink.Port());
   FleetWatch watch({.interval = 200ms, .longestPause = 200ms, .soonest = 200ms});
   watch.SetProfiles({a, b});
   const auto answered = [&watch](const FleetProfile& at) {

@@ -152,8 +152,7 @@ TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {
   const auto& events = Find<QListWidget>(window, "Recent events");
   EXPECT_EQ(events.item(0)->text(), "nothing yet");
   window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
-  EXPECT_TRUE(
-      Soon([&] { return events.item(0)->text().endsWith(QString("Temperature: OK → Error")); }));
+  EXPECT_TRUE(Soon([&] { return events.item(0)->text().endsWith("Temperature: OK → Error"); }));
 }
 
 TEST(FleetWindow, SearchFindsAProjectorAndMarksTheKnown) {
@@ -210,10 +209,7 @@ TEST(FleetWindow, TestConnectionSaysWhatAnswers) {
 TEST(FleetWindow, ADialogsConnectionIsLeftToAJobAndMadeAgain) {
   Served served;
   served.device->Execute({PjtOperation::SetPowerOn});
-  FleetProfile profile = Profile("A");
-  profile.link = ProjectorLink::Network;
-  profile.connection = {.isNetwork = true, .address = "127.0.0.1", .port = served.wirePort};
-  ShownWindow window({profile}, {.interval = 1h});
+  ShownWindow window({Profile("A", ProjectorLink::Network, served.wirePort)}, {.interval = 1h});
   window.OpenDialog(0, 0);
   ProjectorChannel& channel = *window.Session(0)->Channel();
   const auto connection = [&channel] { return channel.Connection(); };
@@ -231,13 +227,12 @@ TEST(FleetWindow, AlertsFollowTheRules) {
   ProjectorRow row{.id = "x", .profile = Profile("X")};
   row.profile.ratedLampHours = 2000;
   row.state = {.reachability = Reachability::Answers, .since = now, .lamps = {{.hours = 1799}}};
+  using Kinds = std::vector<std::pair<Alert::Kind, ProjectorPart>>;
   const auto found = [&](const AlertRules& rules = {}) {
-    std::vector<std::pair<Alert::Kind, ProjectorPart>> kinds;
-    for (const Alert& alert : FindAlerts(rules, {row}, now))
-      kinds.emplace_back(alert.kind, alert.part);
+    Kinds kinds;
+    for (const Alert& one : FindAlerts(rules, {row}, now)) kinds.emplace_back(one.kind, one.part);
     return kinds;
   };
-  using Kinds = std::vector<std::pair<Alert::Kind, ProjectorPart>>;
   using enum Alert::Kind;
   EXPECT_EQ(found(), Kinds());
   row.state.lamps[0].hours = 1800;

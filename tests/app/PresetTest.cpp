@@ -30,8 +30,7 @@ struct PresetTest : testing::Test {
     a = Position("Projector 5-30");
     b = Position("Projector 4-24");
     EXPECT_TRUE(Soon([&] { return Row(a).state.power && Row(b).state.power; }));
-    for (const std::size_t one : {a, b})
-      window->Session(one)->Simulator().SetValue(SettingId::Power, 1);
+    for (const std::size_t one : {a, b}) Projector(one).SetValue(SettingId::Power, 1);
   }
   ~PresetTest() override { qunsetenv("XDG_DATA_HOME"); }
 
@@ -42,6 +41,9 @@ struct PresetTest : testing::Test {
         Rows(*window).begin());
   }
   const ProjectorRow& Row(std::size_t position) const { return Rows(*window)[position]; }
+  SimulatedProjector& Projector(std::size_t position) const {
+    return window->Session(position)->Simulator();
+  }
 
   void Select(const std::vector<std::size_t>& positions) {
     auto& view = *window->findChild<ProjectorView*>();
@@ -73,7 +75,7 @@ struct PresetTest : testing::Test {
 
 TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
   Select({a});
-  window->Session(a)->Simulator().SetValue(SettingId::Brightness, 120);
+  Projector(a).SetValue(SettingId::Brightness, 120);
   Choose("Save as Preset");
   ASSERT_TRUE(Soon([&] { return window->findChild<PresetDialog*>() != nullptr; }));
   auto& dialog = *window->findChild<PresetDialog*>();
@@ -103,7 +105,7 @@ TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
   for (const SavedSetting& saved : preset->settings)
     EXPECT_TRUE(ofPage.contains(saved.key.substr(0, saved.key.find('.')))) << saved.key;
 
-  window->Session(a)->Simulator().SetValue(SettingId::Brightness, 128);
+  Projector(a).SetValue(SettingId::Brightness, 128);
   Select({a, b});
   Choose("Dark");
   auto* preview = window->findChild<ComparisonDialog*>();
@@ -114,8 +116,7 @@ TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
   EXPECT_EQ(lines.filter("do not apply to this model").size(), 1) << "on the other model";
   EXPECT_EQ(lines.filter("picture.").size(), 0) << "keys are for programs";
   Find<QPushButton>(*preview, "Apply").click();
-  EXPECT_TRUE(
-      Soon([&] { return window->Session(a)->Simulator().Value(SettingId::Brightness) == 120; }));
+  EXPECT_TRUE(Soon([&] { return Projector(a).Value(SettingId::Brightness) == 120; }));
 }
 
 TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
@@ -127,7 +128,7 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
   Choose("day", "Should Be Like");
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; }));
   const CAdvanceDlg& dialog = *window->OpenDialog(a, 0);
-  const int value = window->Session(a)->Simulator().Value(SettingId::Brightness);
+  const int value = Projector(a).Value(SettingId::Brightness);
   EXPECT_TRUE(Soon([&] { return dialog.LastSeen("picture.brightness") == value; }))
       << "the dialog counts what differed";
   const auto& alerts = *window->findChild<AlertList*>();
@@ -139,7 +140,7 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
   EXPECT_TRUE(Soon(hasAlert));
   Choose("Put Back What It Should Be");
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0; }));
-  EXPECT_EQ(window->Session(a)->Simulator().Value(SettingId::Brightness), 140);
+  EXPECT_EQ(Projector(a).Value(SettingId::Brightness), 140);
   EXPECT_TRUE(Soon([&] { return !hasAlert(); }));
 }
 

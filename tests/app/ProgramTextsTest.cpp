@@ -114,7 +114,11 @@ void ForEachWindow(const std::function<void(QWidget&)>& look) {
   show(presets);
 }
 
-TEST(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {
+struct ProgramTexts : testing::Test {
+  ~ProgramTexts() override { InstallTranslations(kEnglishUnitedStates); }
+};
+
+TEST_F(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {
   for (const auto& [name, direction] :
        {std::pair("qps_ploc", Qt::LeftToRight), {"qps_plocm", Qt::RightToLeft}}) {
     SCOPED_TRACE(name);
@@ -130,7 +134,7 @@ TEST(ProgramTexts, AreAllTranslatedAndHaveRoomWhenTheyAreLonger) {
   QApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
 }
 
-TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
+TEST_F(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
   const QTemporaryDir folder;
   for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders())) {
     SCOPED_TRACE(language.tag);
@@ -151,10 +155,9 @@ TEST(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
       EXPECT_TRUE(ink.isEmpty() || label->rect().contains(ink)) << label->text().toStdString();
     }
   }
-  InstallTranslations(kEnglishUnitedStates);
 }
 
-TEST(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
+TEST_F(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
   InstallTranslations(LanguageIdOf("he").value());
   const QTemporaryDir folder;
   QSettings settings(folder.filePath("settings"), QSettings::IniFormat);
@@ -163,10 +166,9 @@ TEST(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
   ASSERT_EQ(times.size(), 2);
   times.front()->setTime(QTime(22, 30));
   EXPECT_EQ(times.front()->text(), "22:30");
-  InstallTranslations(kEnglishUnitedStates);
 }
 
-TEST(ProgramTexts, FactsInLatinLettersBeginAtTheRightFromRightToLeftToo) {
+TEST_F(ProgramTexts, FactsInLatinLettersBeginAtTheRightFromRightToLeftToo) {
   InstallTranslations(LanguageIdOf("he").value());
   DetailsPanel panel({});
   const ProjectorRow row{.id = "a", .profile = Profile("A")};
@@ -179,10 +181,9 @@ TEST(ProgramTexts, FactsInLatinLettersBeginAtTheRightFromRightToLeftToo) {
     EXPECT_TRUE(IsWhite(image.copy(0, 0, 200, 60))) << label->text().toStdString();
     EXPECT_FALSE(IsWhite(image)) << label->text().toStdString();
   }
-  InstallTranslations(kEnglishUnitedStates);
 }
 
-TEST(ProgramTexts, OfQtAreInTheLanguageOfTheProgramForARegionToo) {
+TEST_F(ProgramTexts, OfQtAreInTheLanguageOfTheProgramForARegionToo) {
   const auto inQt = [](const char* context, const char* text) {
     return QCoreApplication::translate(context, text).toStdString();
   };
@@ -206,7 +207,6 @@ TEST(ProgramTexts, OfQtAreInTheLanguageOfTheProgramForARegionToo) {
     EXPECT_EQ(inQt("QPlatformTheme", "Cancel"), "Abbrechen") << "from Qt";
     EXPECT_EQ(inQt("SettingsFile", "standard input"), "standard input") << "there are no texts";
   }
-  InstallTranslations(kEnglishUnitedStates);
 }
 
 }  // namespace

@@ -31,8 +31,7 @@ TEST(ProjectorList, InitiallySelectsAProjectorWithRowsOnEveryTab) {
 }
 
 /// A desktop on which a single click activates.
-class SingleClickStyle : public QProxyStyle {
- public:
+struct SingleClickStyle : QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* result) const override {
     return hint == SH_ItemView_ActivateItemOnSingleClick

@@ -32,6 +32,14 @@ inline FleetProfile Profile(const char* name, CModelInfo2 model = MakeModel(5, 3
           .connection = {}};
 }
 
+/// The profile of one that is served on this machine.
+inline FleetProfile Profile(const char* name, ProjectorLink link, std::int32_t port) {
+  FleetProfile profile = Profile(name);
+  profile.link = link;
+  profile.connection = {.address = "127.0.0.1", .port = port, .secret = "secret"};
+  return profile;
+}
+
 /// Finds a widget by its text or accessible name, ignoring its mnemonic and a trailing "...".
 template <typename Part>
 Part& Find(const QObject& window, const QString& name) {

@@ -42,6 +42,7 @@ class BridgeProgram : public testing::Test {
     const auto at = text.indexOf('\n' + sample + ' ');
     return at < 0 ? -1 : text.mid(at + sample.size() + 2).split('\n').first().toDouble();
   }
+  static bool HoldsShare(quint16 port) { return Metric(port, "projector_bridge_holds_share") == 1; }
   static QByteArray NameOf(int number) {
     return "Projector " + QByteArray::number(number).rightJustified(5, '0');
   }

@@ -88,9 +88,8 @@ TEST_F(BridgeProgram, ServesFiveHundredProjectorsThroughFailures) {
   EXPECT_TRUE(Soon([&] { return subscriber->StateOf(NameOf(on))["power"] == "standby"; }));
 
   // The one that comes back long before the other has the share now.
-  const auto holds = [](quint16 at) { return Metric(at, "projector_bridge_holds_share"); };
-  EXPECT_TRUE(Soon([&] { return holds(secondPort) + holds(thirdPort) == 1; }));
-  const bool secondHolds = holds(secondPort) == 1;
+  EXPECT_TRUE(Soon([&] { return HoldsShare(secondPort) != HoldsShare(thirdPort); }));
+  const bool secondHolds = HoldsShare(secondPort);
   if (!secondHolds) std::swap(second, third);
 
   // A bridge dies. The broker says so, and the one that stood back takes over.
@@ -121,9 +120,7 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
       At(broker) + QStringList{"--takeover", "2", "--allow-commands", "power"};
   const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};
   Subscriber subscriber(broker.port);
-  const auto holds = [&](int which) {
-    return Metric(ports[which], "projector_bridge_holds_share") == 1;
-  };
+  const auto holds = [&](int which) { return HoldsShare(ports[which]); };
   for (const bool isCutOff : {false, true}) {
     int holder = 0;
     ASSERT_TRUE(Soon([&] {

@@ -59,20 +59,18 @@ QByteArray Everything() {
 TEST(Metrics, FollowTheConvention) {
   const std::string text = Everything().toStdString();
   const std::string hall = R"(projector="Hall \"1\"\\\n")";
-  for (const std::string& line : {
-           "projector_up{" + hall + "} 1\n",
-           "projector_power_state{" + hall + ",state=\"on\"} 1\n",
-           "projector_power_state{" + hall + ",state=\"standby\"} 0\n",
-           "projector_lamp_seconds_total{" + hall + ",lamp=\"2\"} 180000\n",
-           "projector_filter_seconds_total{" + hall + "} 25200\n",
-           "projector_error{" + hall + ",component=\"temperature\"} 2\n",
-           "projector_input_info{" + hall + ",input=\"HDMI\",number=\"31\"} 1\n",
-           "projector_drift_settings{" + hall + "} 3\n",
-           "projector_last_answer_timestamp_seconds{" + hall + "} 1700000000.25\n",
-           std::string("projector_bridge_answer_seconds_bucket{le=\"0.05\"} 1\n"),
-           std::string("projector_bridge_answer_seconds_bucket{le=\"+Inf\"} 2\n"),
-           std::string("projector_bridge_messages_total{kind=\"state\"} 5\n"),
-       }) {
+  for (const std::string& line :
+       {"projector_up{" + hall + "} 1\n", "projector_power_state{" + hall + ",state=\"on\"} 1\n",
+        "projector_power_state{" + hall + ",state=\"standby\"} 0\n",
+        "projector_lamp_seconds_total{" + hall + ",lamp=\"2\"} 180000\n",
+        "projector_filter_seconds_total{" + hall + "} 25200\n",
+        "projector_error{" + hall + ",component=\"temperature\"} 2\n",
+        "projector_input_info{" + hall + ",input=\"HDMI\",number=\"31\"} 1\n",
+        "projector_drift_settings{" + hall + "} 3\n",
+        "projector_last_answer_timestamp_seconds{" + hall + "} 1700000000.25\n",
+        std::string("projector_bridge_answer_seconds_bucket{le=\"0.05\"} 1\n"),
+        std::string("projector_bridge_answer_seconds_bucket{le=\"+Inf\"} 2\n"),
+        std::string("projector_bridge_messages_total{kind=\"state\"} 5\n")}) {
     EXPECT_THAT(text, HasSubstr(line));
   }
   EXPECT_THAT(text, Not(HasSubstr("projector_up{projector=\"Hall 2\"}"))) << "never asked";

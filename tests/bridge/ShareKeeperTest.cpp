@@ -73,12 +73,7 @@ class Bridges {
   }
   /// It does nothing while the others take over. Then it first does what was due.
   void Hang(One& one) {
-    for (const auto end = now_ + 2 * kTakeover; now_ < end;) {
-      now_ += 250ms;
-      for (One& other : all_) {
-        if (&other != &one) Work(other);
-      }
-    }
+    Pass(2 * kTakeover, &one);
     if (one.isUp) Tick(one);
   }
   /// It hangs until the broker gives its connection up. What has come before is still taken.
@@ -94,10 +89,13 @@ class Bridges {
     StartAgain(one);
   }
 
-  void Pass(std::chrono::milliseconds time) {
+  /// Time, in which all work but one that hangs.
+  void Pass(std::chrono::milliseconds time, const One* hangs = nullptr) {
     for (const auto end = now_ + time; now_ < end;) {
       now_ += 250ms;
-      for (One& one : all_) Work(one);
+      for (One& one : all_) {
+        if (&one != hangs) Work(one);
+      }
     }
   }
   /// Takes what has come, and does what is due.

@@ -19,8 +19,7 @@ namespace {
 using Op = PjtOperation;
 
 /// Gives every command the same reply, or throws, and stores the last command.
-class OneReply final : public ProjectorChannel {
- public:
+struct OneReply final : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
     last = command;
     MayBreak();

@@ -31,8 +31,7 @@ constexpr auto kTransports = {Transport::Tcp, Transport::Serial};
 const PjtCommand kChange = Set(1, 7);
 
 /// Answers reads with their code plus a counter of changes.
-class Device final : public ProjectorChannel {
- public:
+struct Device final : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
     if (!IsRead(command.operation)) ++state;
     return {.result = 1, .value = static_cast<std::int16_t>(command.code + 1000 * state)};

@@ -78,14 +78,12 @@ TEST(MessageTable, ReadsAnsiTextsInTheCodePageOfTheirLanguage) {
   };
   std::vector<TestTable> tables;
   for (const auto& [text, languages] : kCases) {
-    for (const std::uint32_t language : languages)
-      tables.push_back({language, {{1, {Ansi("\xD0\xC3")}}}});
+    for (const auto language : languages) tables.push_back({language, {{1, {Ansi("\xD0\xC3")}}}});
   }
   const auto table = MessageTable::Parse(TestModule(tables).bytes);
   ASSERT_TRUE(table);
   for (const auto& [text, languages] : kCases) {
-    for (const std::uint32_t language : languages)
-      EXPECT_EQ(TextIn(*table, language, 1), text) << language;
+    for (const auto language : languages) EXPECT_EQ(TextIn(*table, language, 1), text) << language;
   }
 }
 

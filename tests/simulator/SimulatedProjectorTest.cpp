@@ -132,51 +132,50 @@ TEST(SimulatedProjector, WarmsUpAndCoolsDownInTime) {
   }
 }
 
-class FaultChannelTest : public testing::Test {
- protected:
-  std::shared_ptr<SimulatedProjector> projector_ = std::make_shared<SimulatedProjector>();
-  FaultChannel channel_{projector_, 1min};
+struct FaultChannelTest : testing::Test {
+  std::shared_ptr<SimulatedProjector> projector = std::make_shared<SimulatedProjector>();
+  FaultChannel channel{projector, 1min};
 };
 
 TEST_F(FaultChannelTest, TheMostSpecificFaultAppliesAndLateAnswersArrive) {
   const std::vector commands{Do(Op::SetBrightness, 130), Do(Op::ExecTintReset), Get(0x2004),
                              Do(Op::GetColorTempGainR),  Set(0x2002, 1),        Get(0x2002)};
   const Fault refuse{.kind = Fault::Kind::Refuse};
-  channel_.SetFault(refuse);
-  EXPECT_EQ(Replies(channel_, commands), "- - - - - -");
-  EXPECT_EQ(projector_->Value(SettingId::Brightness), 128);
-  channel_.SetFault(Op::SetBrightness, {.kind = Fault::Kind::Late, .delay = 40ms});
+  channel.SetFault(refuse);
+  EXPECT_EQ(Replies(channel, commands), "- - - - - -");
+  EXPECT_EQ(projector->Value(SettingId::Brightness), 128);
+  channel.SetFault(Op::SetBrightness, {.kind = Fault::Kind::Late, .delay = 40ms});
   const auto start = Clock::now();
-  EXPECT_EQ(Replies(channel_, commands), "130 - - - - -");
+  EXPECT_EQ(Replies(channel, commands), "130 - - - - -");
   EXPECT_GE(Clock::now() - start, 40ms);
-  channel_.SetFault({.kind = Fault::Kind::FailRead});
-  channel_.SetFault(Op::SetBrightness, refuse);
-  EXPECT_EQ(Replies(channel_, commands), "- 128 - - 1 -");
-  channel_.SetFault({});
-  channel_.SetFault(std::uint16_t{0x2002}, refuse);
-  EXPECT_EQ(Replies(channel_, commands), "- 128 128 128 - -");
-  channel_.SetFault(Op::SetBrightness, {});
-  EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 - -");
+  channel.SetFault({.kind = Fault::Kind::FailRead});
+  channel.SetFault(Op::SetBrightness, refuse);
+  EXPECT_EQ(Replies(channel, commands), "- 128 - - 1 -");
+  channel.SetFault({});
+  channel.SetFault(std::uint16_t{0x2002}, refuse);
+  EXPECT_EQ(Replies(channel, commands), "- 128 128 128 - -");
+  channel.SetFault(Op::SetBrightness, {});
+  EXPECT_EQ(Replies(channel, commands), "130 128 128 128 - -");
 }
 
 TEST_F(FaultChannelTest, ADropOutEndsWhenTheFaultIsCleared) {
-  channel_.SetFault(Op::GetMirror, {.kind = Fault::Kind::DropOut});
+  channel.SetFault(Op::GetMirror, {.kind = Fault::Kind::DropOut});
   std::thread clearer([this] {
     std::this_thread::sleep_for(30ms);
     // A fault of another command must not end the wait.
-    channel_.SetFault(Op::GetSpeaker, {.kind = Fault::Kind::Refuse});
+    channel.SetFault(Op::GetSpeaker, {.kind = Fault::Kind::Refuse});
     std::this_thread::sleep_for(30ms);
-    channel_.Clear();
+    channel.Clear();
   });
   const auto start = Clock::now();
-  EXPECT_FALSE(channel_.Execute({Op::GetMirror}).answered);
+  EXPECT_FALSE(channel.Execute({Op::GetMirror}).answered);
   const auto waited = Clock::now() - start;
   clearer.join();
   EXPECT_GE(waited, 55ms);
   EXPECT_LT(waited, 30s);
-  EXPECT_TRUE(channel_.Execute({Op::GetMirror}).answered);
+  EXPECT_TRUE(channel.Execute({Op::GetMirror}).answered);
 
-  FaultChannel bounded(projector_, 20ms);
+  FaultChannel bounded(projector, 20ms);
   bounded.SetFault({.kind = Fault::Kind::DropOut});
   EXPECT_FALSE(bounded.Execute({Op::GetMirror}).answered);
 }

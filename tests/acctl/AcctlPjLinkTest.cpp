@@ -200,7 +200,7 @@ TEST(AcctlPjLink, TellsPendingBusyAndUnconfirmedApart) {
   const QStringList apply{"--json", "apply", file, "Any"};
 
   std::vector<std::jthread> runs;  // most of them wait for the time-out
-  const auto expect = [&](ScriptedPjLink::Script script, int exitCode, const char* error,
+  const auto expect = [&](const ScriptedPjLink::Script& script, int exitCode, const char* error,
                           const char* outcome) {
     runs.emplace_back([=, &any] {
       ScriptedPjLink projector(script);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
+#include <utility>
+#include <vector>
 
 #include <QAccessible>
 #include <QAction>

@@ -175,8 +175,8 @@ TEST(MetricsListener, ServesFewClientsAndSurvivesStrangeOnes) {
   const auto isClosed = [](const auto& socket) {
     return Soon([&] { return socket->state() == QAbstractSocket::UnconnectedState; });
   };
-  std::vector<std::unique_ptr<QTcpSocket>> idle;
-  for (int i = 0; i < MetricsListener::kMostClients; ++i) idle.push_back(connected("GET /"));
+  std::vector<std::unique_ptr<QTcpSocket>> idle(MetricsListener::kMostClients);
+  for (auto& socket : idle) socket = connected("GET /");
   ASSERT_TRUE(Soon([&] { return idle.back()->bytesToWrite() == 0; }));
   const auto tooMany = connected("GET / HTTP/1.1\r\n\r\n");
   EXPECT_TRUE(isClosed(tooMany));

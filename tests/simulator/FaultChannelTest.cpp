@@ -38,6 +38,8 @@ TEST_F(FaultChannelTest, TheMostSpecificFaultAppliesAndLateAnswersArrive) {
   EXPECT_EQ(Replies(channel_, commands), "- 128 128 128 - -");
   channel_.SetFault(Op::SetBrightness, {});
   EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 - -");
+  channel_.Clear();
+  EXPECT_EQ(Replies(channel_, commands), "130 128 128 128 1 1");
 }
 
 TEST_F(FaultChannelTest, ADropOutEndsWhenTheFaultIsCleared) {

@@ -15,30 +15,31 @@ void Store(std::map<Key, Fault>& faults, Key key, const Fault& fault) {
 
 }  // namespace
 
-void FaultChannel::SetFault(const Fault& fault) {
+template <typename Edit>
+void FaultChannel::Change(Edit edit) {
   const std::lock_guard lock(mutex_);
-  forAll_ = fault;
+  edit();
   changed_.notify_all();
+}
+
+void FaultChannel::SetFault(const Fault& fault) {
+  Change([&] { forAll_ = fault; });
 }
 
 void FaultChannel::SetFault(PjtOperation operation, const Fault& fault) {
-  const std::lock_guard lock(mutex_);
-  Store(byOperation_, operation, fault);
-  changed_.notify_all();
+  Change([&] { Store(byOperation_, operation, fault); });
 }
 
 void FaultChannel::SetFault(std::uint16_t code, const Fault& fault) {
-  const std::lock_guard lock(mutex_);
-  Store(byCode_, code, fault);
-  changed_.notify_all();
+  Change([&] { Store(byCode_, code, fault); });
 }
 
 void FaultChannel::Clear() {
-  const std::lock_guard lock(mutex_);
-  forAll_ = {};
-  byOperation_.clear();
-  byCode_.clear();
-  changed_.notify_all();
+  Change([&] {
+    forAll_ = {};
+    byOperation_.clear();
+    byCode_.clear();
+  });
 }
 
 Fault FaultChannel::FaultOf(const PjtCommand& command) const {

@@ -51,6 +51,9 @@ class PROJECTOR_COMMON_EXPORT FaultChannel : public ForwardingChannel {
   PjtReply Execute(const PjtCommand& command) override;
 
  private:
+  /// Ends the waits that the edit of the faults concerns.
+  template <typename Edit>
+  void Change(Edit edit);
   Fault FaultOf(const PjtCommand& command) const;
   /// Waits while `fault` holds for the command, at most for `time`.
   void Wait(std::unique_lock<std::mutex>& lock, const PjtCommand& command, const Fault& fault,

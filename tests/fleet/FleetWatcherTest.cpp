@@ -202,6 +202,24 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   fleet.states.Change("a", [](LiveState& state) { state.drift = 3; });
   fleet.RunFor(60s);
   EXPECT_EQ(fleet.State("a").drift, 3);
+  fleet.states.Learn("a", {PjtOperation::SetPowerOn}, {.result = 1}, {});
+  EXPECT_EQ(fleet.State("a").answered, fleet.Wall());
+
+  std::string fields;
+  const LiveState all{.reachability = Reachability::Answers,
+                      .power = PowerState::On,
+                      .source = PlayingSource{3, ""},
+                      .problems = PartProblems(),
+                      .blank = true,
+                      .mute = true,
+                      .freeze = true,
+                      .lamps = {{}},
+                      .filterHours = 1,
+                      .drift = 1};
+  for (const auto& one : ChangesBetween({}, all, {})) {
+    fields += std::to_string(static_cast<int>(one.field)) + std::to_string(one.index) + ' ';
+  }
+  EXPECT_EQ(fields, "00 10 20 30 31 32 33 34 35 40 50 60 70 80 90 ");
 }
 
 TEST(FleetWatcher, MovesAlongWithAProjector) {

@@ -61,6 +61,7 @@ TEST(SimulatedProjector, SoundIsKeptForEachSourceAndForStandby) {
                                 Do(Op::SetVolumeEachSrc, 256, 30), Set(0x2000, 2), Inc(0x2001),
                                 Do(Op::GetInputSrcVolume, 2), Do(Op::GetInputSrcVolume, kStandby)}),
             "5 16 30 - - 2 31 31 5");
+  EXPECT_EQ(projector.Value(Id::Volume, kStandby), 5);
   EXPECT_EQ(Replies(projector, {Do(Op::SetInputSrcTreble, 3, 130), Do(Op::GetInputSrcTreble, 2),
                                 Do(Op::SetInputSrcBass, 3, 126), Do(Op::GetInputSrcBass, 2),
                                 Do(Op::SetSRSWOW, 3, 2), Do(Op::GetSRSWOW, 2)}),
@@ -95,11 +96,13 @@ TEST(SimulatedModelTest, AHostsDescriptionDefinesTheProjector) {
     data.RangeTexts[RangeIndex::Contrast] = text;
     EXPECT_FALSE(DescribeModel(data).ranges.contains(Id::Contrast)) << text;
   }
+  data.RangeTexts[RangeIndex::Sharpness] = "8,8";
   SimulatedModel model = DescribeModel(data);
   model.missing = {Id::Tint};
   SimulatedProjector projector(model);
   EXPECT_EQ(projector.RangeOf(Id::Brightness), (SettingRange{100, 156}));
   EXPECT_EQ(projector.RangeOf(Id::Contrast), (SettingRange{80, 176})) << "a text without sense";
+  EXPECT_EQ(projector.RangeOf(Id::Sharpness), (SettingRange{8, 8}));
   EXPECT_FALSE(projector.Has(Id::Tint));
   EXPECT_EQ(Replies(projector, {Do(Op::SetTint, 128), Get(0x2203), Do(Op::ExecTintReset),
                                 Get(0x2000), Get(0x30A1), Do(Op::SetGamma, 1), Get(0x30A1),
@@ -113,22 +116,26 @@ TEST(SimulatedProjector, WarmsUpAndCoolsDownInTime) {
   constexpr PowerState kMeanwhile[] = {PowerState::CoolingDown, PowerState::WarmingUp};
   constexpr PowerState kThen[] = {PowerState::Standby, PowerState::On};
   for (const bool on : {true, false}) {
-    const auto make = [on](std::chrono::milliseconds time) {
+    const auto make = [on](std::chrono::milliseconds time, std::chrono::milliseconds otherTime) {
       auto projector = std::make_unique<SimulatedProjector>();
       projector->SetValue(Id::Power, on ? 0 : 1);
-      projector->SetPowerTimes(time, time);
+      projector->SetPowerTimes(on ? time : otherTime, on ? otherTime : time);
       EXPECT_EQ(projector->Execute(kSwitch[on]).result, AcceptedResult(kSwitch[on].operation));
       return projector;
     };
-    const auto slow = make(1h);
+    const auto slow = make(1h, 0ms);
+    slow->SetValue(Id::Brightness, 130);
     EXPECT_EQ(slow->Power(), kMeanwhile[on]);
     EXPECT_EQ(slow->Value(Id::Power), on ? 1 : 2);
     EXPECT_EQ(slow->Execute(kSwitch[!on]).result, RefusedResult(kSwitch[!on].operation));
     EXPECT_EQ(slow->Power(), kMeanwhile[on]) << "it refuses until it has switched";
 
-    const auto quick = make(20ms);
+    const auto quick = make(20ms, 1h), seen = make(20ms, 1h), switched = make(20ms, 1h);
     EXPECT_TRUE(Soon([&] { return quick->Power() == kThen[on]; }));
-    EXPECT_EQ(quick->Value(Id::Power), on ? 1 : 0);
+    EXPECT_TRUE(Soon([&] { return seen->Value(Id::Power) == on; }));
+    EXPECT_TRUE(Soon([&] { return Replies(*switched, {kSwitch[!on]}) != "-"; }));
+    EXPECT_NE(Replies(*quick, {kSwitch[on]}), "-");
+    EXPECT_EQ(quick->Power(), kThen[on]) << "it was so already";
   }
 }
 
@@ -156,6 +163,8 @@ TEST_F(FaultChannelTest, TheMostSpecificFaultAppliesAndLateAnswersArrive) {
   EXPECT_EQ(Replies(channel, commands), "- 128 128 128 - -");
   channel.SetFault(Op::SetBrightness, {});
   EXPECT_EQ(Replies(channel, commands), "130 128 128 128 - -");
+  channel.Clear();
+  EXPECT_EQ(Replies(channel, commands), "130 128 128 128 1 1");
 }
 
 TEST_F(FaultChannelTest, ADropOutEndsWhenTheFaultIsCleared) {

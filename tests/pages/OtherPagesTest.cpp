@@ -78,6 +78,8 @@ TEST(StatusPage, PowerErrorAndLampHaveAMark) {
     EXPECT_EQ(label(control).ShownMark(), mark) << key << ' ' << value;
   }
   EXPECT_EQ(label(20014).Share(), 0.95);
+  open.Dialog().SetWanted(WantedSettings());
+  EXPECT_EQ(label(20014).toolTip(), QStringLiteral("1900 h / 2000 h")) << "no note takes its place";
   open.Projector().Refuse("Get 0x1090");
   open.Page().InitDisp();
   EXPECT_FALSE(label(20014).Share());

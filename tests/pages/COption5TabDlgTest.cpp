@@ -69,10 +69,6 @@ TEST(OptionType5, AnOpenDialogTakesOtherSources) {
   open.Dialog().ReplaceSources(sources);
   EXPECT_EQ(open.Driver().Entries(20374), QStringList{"Camera"});
   EXPECT_EQ(open.Driver().Selected(20374), 0) << "it is read again";
-  OptionPage kept(47);
-  const QStringList before = kept.Driver().Entries(20374);
-  kept.Dialog().ReplaceSources(sources);
-  EXPECT_EQ(kept.Driver().Entries(20374), before) << "of the template";
 }
 
 TEST(OptionType5, ServiceOpensForTheModelOnTheSameProjector) {

@@ -91,56 +91,31 @@ TEST(NamedHandlers, Input5) {
 
 TEST(NamedHandlers, Setup5) {
   using Page = CSetupType5TabDlg;
-  ExpectOwnControls<Page>(4, {BUTTON(Stu5Btnatks),
-                              BUTTON(Stu5Btksvneg),
-                              BUTTON(Stu5Btksvpos),
-                              BUTTON(Stu5Btkshneg),
-                              BUTTON(Stu5Btkshpos),
-                              LIST(Stu5Wspcomb),
-                              LIST(Stu5Mircomb),
-                              BUTTON(Stu5Btvolneg),
-                              BUTTON(Stu5Btvolpos),
-                              LIST(Stu5Speakercomb),
-                              BUTTON(DzoomDecBtn),
-                              nullptr,
-                              BUTTON(DshiftUpBtn),
-                              BUTTON(DshiftDownBtn),
-                              BUTTON(DshiftLeftBtn),
-                              BUTTON(DshiftRightBtn),
-                              nullptr,
-                              BUTTON(Stu5Btreset),
-                              LIST(Stu5Argb1comb),
-                              LIST(Stu5Acomp1comb),
-                              LIST(Stu5Argb2comb),
-                              LIST(Stu5Acomp2comb),
-                              LIST(Stu5Ahdmicomb),
-                              LIST(Stu5Avidcomb),
-                              LIST(Stu5Asvidcomb),
-                              LIST(Stu5Acompcomb),
-                              LIST(Stu5Amiucomb),
-                              LIST(Stu5HdmiaudioComb),
-                              nullptr,
-                              LIST(CombMonitoroutRgb1),
-                              LIST(CombMonitoroutComputer1),
-                              LIST(CombMonitoroutRgb2),
-                              LIST(CombMonitoroutComputer2),
-                              LIST(CombMonitoroutHdmi),
-                              LIST(CombMonitoroutComponent),
-                              LIST(CombMonitoroutSvideo),
-                              LIST(CombMonitoroutVideo),
-                              LIST(CombMonitoroutMiu),
-                              LIST(CombMonitoroutStandby)});
+  ExpectOwnControls<Page>(
+      4, {BUTTON(Stu5Btnatks), BUTTON(Stu5Btksvneg), BUTTON(Stu5Btksvpos), BUTTON(Stu5Btkshneg),
+          BUTTON(Stu5Btkshpos), LIST(Stu5Wspcomb), LIST(Stu5Mircomb), BUTTON(Stu5Btvolneg),
+          BUTTON(Stu5Btvolpos), LIST(Stu5Speakercomb), BUTTON(DzoomDecBtn), nullptr,
+          BUTTON(DshiftUpBtn), BUTTON(DshiftDownBtn), BUTTON(DshiftLeftBtn), BUTTON(DshiftRightBtn),
+          nullptr, BUTTON(Stu5Btreset),
+          // The right column.
+          LIST(Stu5Argb1comb), LIST(Stu5Acomp1comb), LIST(Stu5Argb2comb), LIST(Stu5Acomp2comb),
+          LIST(Stu5Ahdmicomb), LIST(Stu5Avidcomb), LIST(Stu5Asvidcomb), LIST(Stu5Acompcomb),
+          LIST(Stu5Amiucomb), LIST(Stu5HdmiaudioComb), nullptr, LIST(CombMonitoroutRgb1),
+          LIST(CombMonitoroutComputer1), LIST(CombMonitoroutRgb2), LIST(CombMonitoroutComputer2),
+          LIST(CombMonitoroutHdmi), LIST(CombMonitoroutComponent), LIST(CombMonitoroutSvideo),
+          LIST(CombMonitoroutVideo), LIST(CombMonitoroutMiu), LIST(CombMonitoroutStandby)});
 }
 
 TEST(NamedHandlers, Audio5) {
   using Page = CAudioType5Dlg;
-  ExpectOwnControls<Page>(5, {BUTTON(Aud5Btnvolneg), BUTTON(Aud5Btnvolpos),  BUTTON(Aud5Btntreneg),
-                              BUTTON(Aud5Btntrepos), BUTTON(Aud5Btnbasneg),  BUTTON(Aud5Btnbaspos),
-                              LIST(Aud5Srswcomb),    LIST(Aud5Spekcomb),     LIST(Aud5Argb1comb),
-                              LIST(Aud5Acomp1comb),  LIST(Aud5Argb2comb),    LIST(Aud5Acomp2comb),
-                              LIST(Aud5Am1dcomb),    LIST(Aud5Ahdmicomb),    LIST(Aud5Avidcomb),
-                              LIST(Aud5Asvidcomb),   LIST(Aud5Acompcomb),    LIST(Aud5Amiucomb),
-                              LIST(Aud5Aoutstbcomb), LIST(Aud5Hdmiaudiocomb)});
+  ExpectOwnControls<Page>(
+      5, {BUTTON(Aud5Btnvolneg), BUTTON(Aud5Btnvolpos), BUTTON(Aud5Btntreneg),
+          BUTTON(Aud5Btntrepos), BUTTON(Aud5Btnbasneg), BUTTON(Aud5Btnbaspos),
+          // Lists.
+          LIST(Aud5Srswcomb), LIST(Aud5Spekcomb), LIST(Aud5Argb1comb), LIST(Aud5Acomp1comb),
+          LIST(Aud5Argb2comb), LIST(Aud5Acomp2comb), LIST(Aud5Am1dcomb), LIST(Aud5Ahdmicomb),
+          LIST(Aud5Avidcomb), LIST(Aud5Asvidcomb), LIST(Aud5Acompcomb), LIST(Aud5Amiucomb),
+          LIST(Aud5Aoutstbcomb), LIST(Aud5Hdmiaudiocomb)});
 }
 
 TEST(NamedHandlers, OptionType5) {

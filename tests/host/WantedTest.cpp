@@ -16,6 +16,7 @@
 #include "snapshots/Snapshot.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
+#include "toolkit/FittedScroll.h"
 
 namespace {
 
@@ -80,11 +81,9 @@ TEST(Projector, ItsLineIsCutOffWhereTheAgeOfTheReadingBegins) {
   EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width());
   EXPECT_TRUE(label.text().contains(QChar(0x2026))) << label.text().toStdString();
   EXPECT_TRUE(label.toolTip().startsWith(QChar(0x2068))) << label.toolTip().toStdString();
-  for (const auto& [seconds, text] : {std::pair{1, "just now"},
-                                      {2, "2 s ago"},
-                                      {59, "59 s ago"},
-                                      {60, "1 min ago"},
-                                      {179, "2 min ago"}}) {
+  const std::pair<int, const char*> ages[] = {
+      {1, "just now"}, {2, "2 s ago"}, {59, "59 s ago"}, {60, "1 min ago"}, {179, "2 min ago"}};
+  for (const auto& [seconds, text] : ages) {
     age = std::chrono::seconds(seconds);
     strip.ShowAge();
     EXPECT_EQ(strip.findChildren<QLabel*>().last()->text(), QStringLiteral("Read ") + text);
@@ -216,6 +215,9 @@ TEST_F(WantedTest, BothMarksOfARowLieBetweenItAndTheFrame) {
     }
   }
   EXPECT_GT(signs, 5) << "an exclamation mark";
+  open.Dialog().resize(open.Dialog().size() + QSize(40, 20));
+  EXPECT_EQ(open.Dialog().findChild<RowMarks*>()->geometry(),
+            open.Dialog().findChild<FittedScroll*>()->geometry().adjusted(-10, 0, 10, 0));
 }
 
 TEST(WantedOfAnInputSource, AsksForTheSourceOnlyIfTheValueIsWanted) {

@@ -81,7 +81,7 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
 }
 
 TEST_F(Finding, StaysOpenWithoutAMatchAndEscClosesOnlyTheLine) {
-  for (const char* text : {"no such row", ""}) {
+  for (const char* text : {"no such row", "reset", ""}) {
     Find(text, {Qt::Key_Return});
     EXPECT_TRUE(line.isVisible());
     EXPECT_EQ(QToolTip::text().toStdString(), "No setting has this name.") << text;

@@ -3,6 +3,7 @@
 #include <QCompleter>
 #include <QTabBar>
 #include <QTest>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include "host/FindLine.h"
@@ -32,7 +33,7 @@ struct Finding : testing::Test {
   }
   void Find(const char* text, const std::vector<Qt::Key>& keys) {
     QTest::keyClick(&open.Dialog(), Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(&line, QString::fromUtf8(text));
+    QTest::keyClicks(&line, QString::fromUtf8(text), {}, 1);
     QWidget* completions = line.completer()->popup();
     for (const Qt::Key key : keys) {
       QTest::keyClick(completions->isVisible() ? completions : &line, key);
@@ -80,10 +81,21 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
 }
 
 TEST_F(Finding, StaysOpenWithoutAMatchAndEscClosesOnlyTheLine) {
-  for (const char* text : {"no such row", ""}) {
+  for (const char* text : {"no such row", "reset", ""}) {
     Find(text, {Qt::Key_Return});
     EXPECT_TRUE(line.isVisible());
+    EXPECT_EQ(QToolTip::text().toStdString(), "No setting has this name.") << text;
+    QToolTip::hideText();
   }
+  EXPECT_EQ(line.text(), QString()) << "each search begins anew";
+  EXPECT_EQ(line.accessibleName(), QStringLiteral("Find a setting"));
+  EXPECT_EQ(line.placeholderText(), line.accessibleName() + QStringLiteral("…"));
+  EXPECT_TRUE(line.isClearButtonEnabled());
+  QTest::keyClicks(&line, QStringLiteral("a"));
+  auto* completions = qobject_cast<QAbstractItemView*>(line.completer()->popup());
+  EXPECT_GE(completions->viewport()->width(), completions->sizeHintForColumn(0));
+  EXPECT_EQ(line.completer()->maxVisibleItems(), 12);
+  QTest::keyClick(completions, Qt::Key_Escape);
   QTest::keyClick(&line, Qt::Key_Escape);
   Find("bright", {Qt::Key_Escape});
   EXPECT_FALSE(line.isVisible());

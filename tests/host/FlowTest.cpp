@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "pages/rows/RowMarks.h"
 #include "tests/host/PacedDialog.h"
 #include "tests/support/Soon.h"
 #include "toolkit/CSliderCtrl.h"
@@ -59,6 +60,7 @@ TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
       QTest::qWait(50);
       EXPECT_THAT(projector_->Take(), IsEmpty());
       EXPECT_THAT(boxes.Take(), IsEmpty());
+      EXPECT_EQ(dialog_.findChild<RowMarks*>(), nullptr) << "nor is a refusal marked";
     }
   }
 }
@@ -113,6 +115,8 @@ TEST_F(FlowTest, SourcesThatAreReplacedDuringAWaitAreReadAfterIt) {
   SourceList sources;
   AddSource(sources, 1, "Camera");
   InTheWait([&] {
+    EXPECT_TRUE(
+        dialog_.ShownPage()->Reader().WaitingText().startsWith(QStringLiteral("Reading… 1 of ")));
     dialog_.ReplaceSources(sources);
     projector_->Take();
     projector_->Pace(0ms);
@@ -127,12 +131,14 @@ TEST_F(FlowTest, SourcesThatAreReplacedDuringAWaitAreReadAfterIt) {
 TEST_F(FlowTest, AReadingThatWasDueAtTheEndIsNotMadeAtTheNextOpening) {
   Open();
   const auto sent = projector_->Take();
+  const QString power = Page().Text(20008);
   InTheWait([this] {
     dialog_.DispTabScreen();
     dialog_.reject();
     projector_->Pace(0ms);
   });
   dialog_.DispTabScreen();
+  EXPECT_EQ(Page().Text(20008), power) << "the reading that was left shows nothing";
   projector_->Take();
   Open();
   QTest::qWait(0);
@@ -191,6 +197,7 @@ TEST_F(SilentProjectorTest, ShowsThatNobodyAnswersAndTriesAgain) {
   ClickTab(kPictureTab);
   EXPECT_EQ(Status(), CatalogString(5, 4302));
   EXPECT_TRUE(Retry().isVisible());
+  EXPECT_EQ(Retry().text(), QStringLiteral("Retry"));
   EXPECT_FALSE(Page().IsEnabled(kIris));
   EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), CatalogString(5, 4304));
   EXPECT_EQ(Page().Item<QWidget>(kIris).accessibleDescription(), CatalogString(5, 4304));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/host/PacedDialog.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -66,6 +67,35 @@ TEST(Intake, ARecordOrItemGivesModelAndConnectionAndNullChangesNothing) {
   EXPECT_EQ(dialog.Model().ModelName, "Room 7");
   EXPECT_EQ(dialog.Model().ModelCode, 0) << "an item without a record";
   EXPECT_EQ(dialog.Projector().ConnectionText1(), "192.168.1.7");
+}
+
+struct ReportingChannel final : ProjectorChannel {
+  PjtReply Execute(const PjtCommand& command) override {
+    return {AcceptedResult(command.operation), 0};
+  }
+  std::optional<SourceList> Inputs() override { return inputs; }
+
+  std::optional<SourceList> inputs = SourceList();
+};
+
+TEST(Intake, WithoutNamesOfTheHostThoseOfTheProjectorAreUsedAsItReportsThem) {
+  CModelInfo2 model = MakeModel(5, 30);
+  for (const char* name : {"HDMI", "Video"}) {
+    const auto projector = std::make_shared<ReportingChannel>();
+    AddSource(*projector->inputs, 3, "HDMI");
+    CAdvanceDlg dialog;
+    Open(dialog, model, projector);
+    dialog.findChild<QTabBar*>()->setCurrentIndex(8);
+    const auto inputs = [&dialog] { return DialogDriver(*dialog.ShownPage()).Entries(20103); };
+    EXPECT_EQ(inputs(), QStringList{name});
+    AddSource(*projector->inputs, 4, "Camera");
+    AddSource(model.MySourceList, 1, "Video");
+    if (inputs() != QStringList{"HDMI"}) continue;
+    EXPECT_TRUE(Soon([&] { return inputs() == QStringList{"HDMI", "Camera"}; }));
+    const int sent = dialog.Projector().Sent().commands;
+    QTest::qWait(600);
+    EXPECT_EQ(dialog.Projector().Sent().commands, sent) << "nothing new, nothing read";
+  }
 }
 
 using IntakeOfAnOpenDialog = PacedDialog;

@@ -1,13 +1,18 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QBitmap>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QTabBar>
 #include <QTest>
 #include <QToolTip>
 #include <gtest/gtest.h>
 
+#include "host/FindLine.h"
+#include "host/ProjectorStrip.h"
 #include "pages/common/CTabPage.h"
+#include "pages/common/StatusLine.h"
 #include "resources/AdvancedControlResources.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
@@ -79,13 +84,42 @@ TEST(Tabs, TheDialogIsAsWideAsItsTabsOrItsWidestPage) {
   for (const int type : {1, 5}) {
     OpenDialog open(FullModel(type, type == 5 ? 30 : 1));
     auto& tabs = *open.Dialog().findChild<CTabCtrl*>();
-    int widest = 0;
+    QSize largest;
     for (const auto* page : open.Dialog().findChildren<CTabPage*>()) {
-      widest = std::max(widest, page->minimumWidth());
+      largest = largest.expandedTo(page->minimumSize());
     }
-    const int beside = open.Dialog().findChild<FittedScroll*>()->width() - widest;
-    EXPECT_EQ(std::min(beside, tabs.width() - tabs.sizeHint().width()), 0) << type;
+    const QSize beside = open.Dialog().findChild<FittedScroll*>()->size() - largest;
+    EXPECT_EQ(std::min(beside.width(), tabs.width() - tabs.sizeHint().width()), 0) << type;
+    EXPECT_EQ(beside.height(), 0) << type;
+    EXPECT_EQ(open.Dialog().minimumSize(), open.Dialog().sizeHint() / 3);
   }
+}
+
+TEST(Tabs, TheFrameAndWhatIsAroundItKeepTheirDistances) {
+  OpenDialog open(MakeModel(0, 1));
+  CAdvanceDlg& dialog = open.Dialog();
+  QTest::keyClick(&dialog, Qt::Key_F, Qt::ControlModifier);
+  dialog.setPalette(QPalette(Qt::darkGreen));
+  dialog.resize(dialog.size() + QSize(331, 17));
+  const QRect all = dialog.rect(), close = dialog.GetDlgItem(1)->geometry();
+  const QRect strip = dialog.findChild<ProjectorStrip*>()->geometry();
+  const QRect tabs = dialog.findChild<CTabCtrl*>()->geometry();
+  const QRect page = dialog.findChild<FittedScroll*>()->geometry();
+  EXPECT_EQ(close.size(), dialog.GetDlgItem(1)->sizeHint().expandedTo({90, 0}));
+  EXPECT_EQ(close.bottomRight(), all.bottomRight() - QPoint(12, 12));
+  EXPECT_EQ(strip, QRect(QPoint(20, 2), QPoint(all.right() - 20, tabs.top() - 3)));
+  EXPECT_EQ(tabs, QRect(QPoint(12, tabs.top()), QPoint(all.right() - 12, page.top() - 13)));
+  EXPECT_EQ(page, QRect(QPoint(20, 64), QPoint(all.right() - 20, close.top() - 33)));
+  const QRect line(QPoint(12, close.top()), QPoint(close.left() - 13, close.bottom()));
+  EXPECT_EQ(dialog.findChild<StatusLine*>()->geometry(), line);
+  EXPECT_EQ(dialog.findChild<FindLine*>()->geometry(), line.adjusted(line.width() - 301, 0, 0, 0));
+  const QImage drawn =
+      dialog.grab({0, tabs.bottom(), all.width(), close.top() - tabs.bottom()}).toImage();
+  const QRgb inside = drawn.pixel(15, drawn.height() / 2);
+  EXPECT_GT(qGreen(inside), qRed(inside));
+  const QImage frame = drawn.createMaskFromColor(inside, Qt::MaskOutColor);
+  EXPECT_EQ(QRegion(QBitmap::fromImage(frame)).boundingRect(),
+            QRect(QPoint(14, 2), QPoint(all.right() - 14, drawn.height() - 16)));
 }
 
 TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {
@@ -99,6 +133,7 @@ TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {
   CAdvanceDlg network;
   network.CopyData(&record, 0);
   network.SetHostOption(true);
+  network.Projector().SetChannel(std::make_shared<RecordingChannel>());
   ASSERT_TRUE(network.Create());
   EXPECT_EQ(network.windowTitle(), CatalogString(4, 155, "Hall %1", "10.0.0.7"));
   EXPECT_TRUE(network.windowTitle().contains(QStringLiteral("Hall %1")));
@@ -109,6 +144,8 @@ TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {
   record.ConnectionKinds[0] = 0;
   OpenDialog serial(record);
   EXPECT_TRUE(serial.Dialog().windowTitle().contains(QStringLiteral("4")));
+  const QString strip = serial.Dialog().findChild<ProjectorStrip*>()->findChild<QLabel*>()->text();
+  EXPECT_TRUE(strip.contains(QStringLiteral("COM4"))) << strip.toStdString();
 }
 
 TEST(Tabs, TheHostsResourceModuleIsRestoredInAnyOrderOfClosing) {
@@ -137,11 +174,13 @@ TEST(Keyboard, CyclesThroughTheTabsAndClosesTheDialogButNeverHidesItsPage) {
   };
   const auto& tabs = *dialog.findChild<QTabBar*>();
   for (int tab = 1; tab <= tabs.count(); ++tab) {
-    press(Qt::Key_PageDown, Qt::ControlModifier);
+    press(tab % 2 == 0 ? Qt::Key_PageDown : Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(tabs.currentIndex(), tab % tabs.count());
   }
   press(Qt::Key_PageUp, Qt::ControlModifier);
   EXPECT_EQ(tabs.currentIndex(), tabs.count() - 1);
+  press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(tabs.currentIndex(), tabs.count() - 2);
   QTest::mouseClick(dialog.GetDlgItem(1), Qt::LeftButton);
   for (const auto& [key, modifiers, onPage] : {std::tuple{Qt::Key_Return, Qt::NoModifier, false},
                                                {Qt::Key_C, Qt::AltModifier, true},

@@ -3,10 +3,12 @@
 
 #include <gmock/gmock.h>
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 #include "host/ProjectorStrip.h"
 #include "pages/common/StatusLine.h"
@@ -14,6 +16,7 @@
 #include "snapshots/Snapshot.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/Soon.h"
+#include "toolkit/FittedScroll.h"
 
 namespace {
 
@@ -57,6 +60,7 @@ TEST(Projector, IsNamedOverTheTabsAndInBoxes) {
   EXPECT_TRUE(title.startsWith(QStringLiteral("Lecture hall 2 — "))) << title.toStdString();
   dialog.Projector().SetChannel(std::make_shared<SilentChannel>());
   dialog.DispTabScreen();
+  { const CDialog::Busy nothingIsSent(&dialog); }
   EXPECT_TRUE(StripText(dialog).ends_with("does not answer")) << StripText(dialog);
 }
 
@@ -70,21 +74,40 @@ TEST(Projector, ItsLineIsCutOffWhereTheAgeOfTheReadingBegins) {
   strip.show();
   EXPECT_TRUE(label.toolTip().isEmpty());
   age = std::chrono::minutes(5);
-  strip.ShowAge();
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_TRUE(Soon([&] { return !label.toolTip().isEmpty(); }));
+  EXPECT_GT(clock.elapsed(), 500) << "it is looked at every second";
   EXPECT_LE(label.fontMetrics().horizontalAdvance(label.text()), label.width());
   EXPECT_TRUE(label.text().contains(QChar(0x2026))) << label.text().toStdString();
-  EXPECT_FALSE(label.toolTip().isEmpty());
+  EXPECT_TRUE(label.toolTip().startsWith(QChar(0x2068))) << label.toolTip().toStdString();
+  const std::pair<int, const char*> ages[] = {
+      {1, "just now"}, {2, "2 s ago"}, {59, "59 s ago"}, {60, "1 min ago"}, {179, "2 min ago"}};
+  for (const auto& [seconds, text] : ages) {
+    age = std::chrono::seconds(seconds);
+    strip.ShowAge();
+    EXPECT_EQ(strip.findChildren<QLabel*>().last()->text(), QStringLiteral("Read ") + text);
+  }
+  strip.SetAnswers(true);
+  strip.SetProjector({QStringLiteral("QD-1"), QString(), QStringLiteral("QD-1")});
+  EXPECT_EQ(label.accessibleName(), QStringLiteral("QD-1")) << "another one has not answered yet";
 }
 
 TEST(ReadAgain, F5ReadsThePageUnlessAHandlerRuns) {
   OpenDialog open(FullModel(5, 30), kPictureTab);
   open.Dialog().DispTabScreen();
   const auto reads = open.Projector().Take();
-  for (const bool busy : {true, false}) {
+  auto& again = *open.Dialog().findChild<ProjectorStrip*>()->findChild<QToolButton*>();
+  for (const auto& [busy, byMouse] :
+       {std::pair{true, false}, {true, true}, {false, false}, {false, true}}) {
     const CDialog::Busy handler(busy ? &open.Dialog() : nullptr);
-    QTest::keyClick(&open.Dialog(), Qt::Key_F5);
+    byMouse ? QTest::mouseClick(&again, Qt::LeftButton)
+            : QTest::keyClick(&open.Dialog(), Qt::Key_F5);
     EXPECT_EQ(open.Projector().Take(), busy ? std::vector<std::string>() : reads);
   }
+  EXPECT_EQ(again.accessibleName(), QStringLiteral("Read again (F5)"));
+  EXPECT_EQ(again.toolTip(), again.accessibleName());
+  EXPECT_TRUE(again.autoRaise() && !again.icon().isNull() && again.focusPolicy() == Qt::NoFocus);
 }
 
 TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
@@ -136,6 +159,7 @@ struct WantedTest : testing::Test {
     return controls;
   }
   QString Tab(int tab) { return open.Dialog().findChild<QTabBar*>()->tabText(tab); }
+  QString Tip(int tab) { return open.Dialog().findChild<QTabBar*>()->tabToolTip(tab); }
 
   OpenDialog open{FullModel(5, 30), kPictureTab, [](RecordingChannel& projector) {
                     projector.Answer("Get 0x2003", 128);
@@ -169,20 +193,31 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_FALSE(brightness.toolTip().contains(QStringLiteral("Wanted")));
 }
 
-TEST_F(WantedTest, BothMarksOfARowLieInsideTheFrame) {
+TEST_F(WantedTest, BothMarksOfARowLieBetweenItAndTheFrame) {
   open.Projector().Refuse("SetBrightness");
   open.Driver().Drag(kBrightness, 6);
-  const QImage marked = open.Dialog().grab().toImage();
-  open.Dialog().findChild<RowMarks*>()->hide();
-  const QImage plain = open.Dialog().grab().toImage();
-  int first = 0;
-  const auto isSame = [&](int x) {
-    const QRect column(x, 0, 1, plain.height());
-    return marked.copy(column) == plain.copy(column);
-  };
-  while (first < plain.width() && isSame(first)) ++first;
-  EXPECT_GT(first, open.Dialog().findChild<QTabBar*>()->x());
-  EXPECT_LT(first, plain.width());
+  QRect row = open.Page().RowRect(kBrightness);
+  row.moveTopLeft(
+      open.Page().GetDlgItem(kBrightness)->parentWidget()->mapTo(&open.Dialog(), row.topLeft()));
+  EXPECT_GT(row.left() - 6, open.Dialog().findChild<QTabBar*>()->x());
+  EXPECT_EQ(qobject_cast<RowMarks*>(open.Dialog().childAt(row.left() - 5, row.center().y())),
+            nullptr)
+      << "the mouse does not meet it";
+  const QImage drawn = open.Dialog().grab().toImage();
+  const QRgb bar = open.Dialog().palette().color(QPalette::Highlight).rgb();
+  int signs = 0;
+  for (int x = row.left() - 10; x < row.left() + 4; ++x) {
+    for (int y = row.top(); y <= row.bottom(); ++y) {
+      const bool isBar =
+          x >= row.left() - 6 && x < row.left() - 3 && y > row.top() + 1 && y < row.bottom() - 1;
+      EXPECT_EQ(drawn.pixel(x, y) == bar, isBar) << x - row.left() << ' ' << y - row.top();
+      signs += drawn.pixelColor(x, y).red() > drawn.pixelColor(x, y).green() + 60;
+    }
+  }
+  EXPECT_GT(signs, 5) << "an exclamation mark";
+  open.Dialog().resize(open.Dialog().size() + QSize(40, 20));
+  EXPECT_EQ(open.Dialog().findChild<RowMarks*>()->geometry(),
+            open.Dialog().findChild<FittedScroll*>()->geometry().adjusted(-10, 0, 10, 0));
 }
 
 TEST(WantedOfAnInputSource, AsksForTheSourceOnlyIfTheValueIsWanted) {
@@ -220,10 +255,15 @@ TEST_F(WantedTest, CountsPagesThatWereNotReadAsTheHostLastSawThem) {
   seen.settings.push_back({.key = "option.auto-off", .value = 5, .text = {}, .source = 3});
   open.Dialog().SetLastSeen(seen);
   EXPECT_EQ(Tab(kOptionTab), QStringLiteral("Option (1?)"));
+  EXPECT_EQ(Tip(kOptionTab), QStringLiteral("Not as wanted when last seen: 1"));
   EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture (2)")) << "this one was read";
+  EXPECT_EQ(Tip(kPictureTab), QStringLiteral("Not as wanted: 2"));
+  open.Dialog().SetLastSeen({});
+  EXPECT_EQ(Tab(kOptionTab) + Tip(kOptionTab), QStringLiteral("Option"));
   EXPECT_THAT(open.Projector().Take(), IsEmpty());
   open.SelectTab(kOptionTab);
   EXPECT_EQ(Tab(kOptionTab), QStringLiteral("Option (1)"));
+  EXPECT_FALSE(open.Dialog().findChild<RowMarks*>()->isVisible()) << "those of the other page";
 }
 
 }  // namespace

@@ -47,6 +47,10 @@ TEST_F(PictureTest, TheButtonAfterANumberDoesWhatTheListOfResetsDoes) {
   ASSERT_EQ(hover(kContrast).size(), 1U);
   QToolButton* contrast = visible().front();
   EXPECT_EQ(contrast->accessibleName(), QStringLiteral("Reset: Contrast"));
+  EXPECT_FALSE(contrast->icon().isNull());
+  const QRect field = open.Page().GetDlgItem(20330)->geometry();
+  EXPECT_EQ(contrast->geometry().left(), field.right() + 7);
+  EXPECT_NEAR(contrast->geometry().center().y(), field.center().y(), 1);
   EXPECT_TRUE(hover(kIris).empty());
   QWidget* plus = open.Page().GetDlgItem(20139);
   plus->setFocus();

@@ -65,109 +65,72 @@ void ExpectOwnControls(int tab, const Handlers<Page>& handlers) {
   EXPECT_EQ(tried.size(), handlers.size()) << "not every control was on the page of some model";
 }
 
+#define BUTTON(name) &Page::OnBnClicked##name
+#define LIST(name) &Page::OnCbnSelchange##name
+
 TEST(NamedHandlers, Picture5) {
   using Page = CPictureTabType5Dlg;
   ExpectOwnControls<Page>(
-      1, {&Page::OnBnClickedPicBgnBtn, &Page::OnBnClickedPicBgpBtn, &Page::OnBnClickedPicCnnBtn,
-          &Page::OnBnClickedPicCnpBtn, nullptr, nullptr, nullptr, nullptr,
-          &Page::OnBnClickedPicClrnBtn, &Page::OnBnClickedPicClrpBtn, &Page::OnBnClickedPicTintnBtn,
-          &Page::OnBnClickedPicTintpBtn, &Page::OnBnClickedPicShpnBtn, &Page::OnBnClickedPicShppBtn,
-          &Page::OnCbnSelchangePic5ActilisCombo, nullptr, &Page::OnBnClickedPicMyldBtn, nullptr,
-          &Page::OnBnClickedPicRstBtn});
+      1, {BUTTON(PicBgnBtn), BUTTON(PicBgpBtn), BUTTON(PicCnnBtn), BUTTON(PicCnpBtn), nullptr,
+          nullptr, nullptr, nullptr, BUTTON(PicClrnBtn), BUTTON(PicClrpBtn), BUTTON(PicTintnBtn),
+          BUTTON(PicTintpBtn), BUTTON(PicShpnBtn), BUTTON(PicShppBtn), LIST(Pic5ActilisCombo),
+          nullptr, BUTTON(PicMyldBtn), nullptr, BUTTON(PicRstBtn)});
 }
 
 TEST(NamedHandlers, Input5) {
   using Page = CInputType5Dlg;
   ExpectOwnControls<Page>(
       3,
-      {&Page::OnCbnSelchangeInput5ProgComb, &Page::OnCbnSelchangeInput5VidnrComb,
-       &Page::OnCbnSelchangeInput53dycsComb, &Page::OnCbnSelchangeInput5CospsComb,
-       &Page::OnCbnSelchangeInput5CompoComb, &Page::OnCbnSelchangeInput5CvidfmtComb,
-       &Page::OnCbnSelchangeInput5SvidfmtComb, &Page::OnCbnSelchangeInput5HdmiComb,
-       &Page::OnCbnSelchangeInput5M1dComb, &Page::OnCbnSelchangeInput5FrlckCombo,
-       &Page::OnCbnSelchangeInput5Framelockrgb1Comb, &Page::OnCbnSelchangeInput5Framelockcomp1Comb,
-       &Page::OnCbnSelchangeInput5Framelockrgb2Comb, &Page::OnCbnSelchangeInput5Framelockcomp2Comb,
-       &Page::OnCbnSelchangeInput5FramelockhdmiComb, &Page::OnCbnSelchangeInput5Rgbin1Comb,
-       &Page::OnCbnSelchangeInput5Computerin1Comb, &Page::OnCbnSelchangeInput5Rgbin2Comb,
-       &Page::OnCbnSelchangeInput5Computerin2Comb});
+      {LIST(Input5ProgComb), LIST(Input5VidnrComb), LIST(Input53dycsComb), LIST(Input5CospsComb),
+       LIST(Input5CompoComb), LIST(Input5CvidfmtComb), LIST(Input5SvidfmtComb),
+       LIST(Input5HdmiComb), LIST(Input5M1dComb), LIST(Input5FrlckCombo),
+       LIST(Input5Framelockrgb1Comb), LIST(Input5Framelockcomp1Comb), LIST(Input5Framelockrgb2Comb),
+       LIST(Input5Framelockcomp2Comb), LIST(Input5FramelockhdmiComb), LIST(Input5Rgbin1Comb),
+       LIST(Input5Computerin1Comb), LIST(Input5Rgbin2Comb), LIST(Input5Computerin2Comb)});
 }
 
 TEST(NamedHandlers, Setup5) {
   using Page = CSetupType5TabDlg;
-  ExpectOwnControls<Page>(4, {&Page::OnBnClickedStu5Btnatks,
-                              &Page::OnBnClickedStu5Btksvneg,
-                              &Page::OnBnClickedStu5Btksvpos,
-                              &Page::OnBnClickedStu5Btkshneg,
-                              &Page::OnBnClickedStu5Btkshpos,
-                              &Page::OnCbnSelchangeStu5Wspcomb,
-                              &Page::OnCbnSelchangeStu5Mircomb,
-                              &Page::OnBnClickedStu5Btvolneg,
-                              &Page::OnBnClickedStu5Btvolpos,
-                              &Page::OnCbnSelchangeStu5Speakercomb,
-                              &Page::OnBnClickedDzoomDecBtn,
-                              nullptr,
-                              &Page::OnBnClickedDshiftUpBtn,
-                              &Page::OnBnClickedDshiftDownBtn,
-                              &Page::OnBnClickedDshiftLeftBtn,
-                              &Page::OnBnClickedDshiftRightBtn,
-                              nullptr,
-                              &Page::OnBnClickedStu5Btreset,
-                              &Page::OnCbnSelchangeStu5Argb1comb,
-                              &Page::OnCbnSelchangeStu5Acomp1comb,
-                              &Page::OnCbnSelchangeStu5Argb2comb,
-                              &Page::OnCbnSelchangeStu5Acomp2comb,
-                              &Page::OnCbnSelchangeStu5Ahdmicomb,
-                              &Page::OnCbnSelchangeStu5Avidcomb,
-                              &Page::OnCbnSelchangeStu5Asvidcomb,
-                              &Page::OnCbnSelchangeStu5Acompcomb,
-                              &Page::OnCbnSelchangeStu5Amiucomb,
-                              &Page::OnCbnSelchangeStu5HdmiaudioComb,
-                              nullptr,
-                              &Page::OnCbnSelchangeCombMonitoroutRgb1,
-                              &Page::OnCbnSelchangeCombMonitoroutComputer1,
-                              &Page::OnCbnSelchangeCombMonitoroutRgb2,
-                              &Page::OnCbnSelchangeCombMonitoroutComputer2,
-                              &Page::OnCbnSelchangeCombMonitoroutHdmi,
-                              &Page::OnCbnSelchangeCombMonitoroutComponent,
-                              &Page::OnCbnSelchangeCombMonitoroutSvideo,
-                              &Page::OnCbnSelchangeCombMonitoroutVideo,
-                              &Page::OnCbnSelchangeCombMonitoroutMiu,
-                              &Page::OnCbnSelchangeCombMonitoroutStandby});
+  ExpectOwnControls<Page>(
+      4, {BUTTON(Stu5Btnatks), BUTTON(Stu5Btksvneg), BUTTON(Stu5Btksvpos), BUTTON(Stu5Btkshneg),
+          BUTTON(Stu5Btkshpos), LIST(Stu5Wspcomb), LIST(Stu5Mircomb), BUTTON(Stu5Btvolneg),
+          BUTTON(Stu5Btvolpos), LIST(Stu5Speakercomb), BUTTON(DzoomDecBtn), nullptr,
+          BUTTON(DshiftUpBtn), BUTTON(DshiftDownBtn), BUTTON(DshiftLeftBtn), BUTTON(DshiftRightBtn),
+          nullptr, BUTTON(Stu5Btreset),
+          // The right column.
+          LIST(Stu5Argb1comb), LIST(Stu5Acomp1comb), LIST(Stu5Argb2comb), LIST(Stu5Acomp2comb),
+          LIST(Stu5Ahdmicomb), LIST(Stu5Avidcomb), LIST(Stu5Asvidcomb), LIST(Stu5Acompcomb),
+          LIST(Stu5Amiucomb), LIST(Stu5HdmiaudioComb), nullptr, LIST(CombMonitoroutRgb1),
+          LIST(CombMonitoroutComputer1), LIST(CombMonitoroutRgb2), LIST(CombMonitoroutComputer2),
+          LIST(CombMonitoroutHdmi), LIST(CombMonitoroutComponent), LIST(CombMonitoroutSvideo),
+          LIST(CombMonitoroutVideo), LIST(CombMonitoroutMiu), LIST(CombMonitoroutStandby)});
 }
 
 TEST(NamedHandlers, Audio5) {
   using Page = CAudioType5Dlg;
   ExpectOwnControls<Page>(
-      5, {&Page::OnBnClickedAud5Btnvolneg,      &Page::OnBnClickedAud5Btnvolpos,
-          &Page::OnBnClickedAud5Btntreneg,      &Page::OnBnClickedAud5Btntrepos,
-          &Page::OnBnClickedAud5Btnbasneg,      &Page::OnBnClickedAud5Btnbaspos,
-          &Page::OnCbnSelchangeAud5Srswcomb,    &Page::OnCbnSelchangeAud5Spekcomb,
-          &Page::OnCbnSelchangeAud5Argb1comb,   &Page::OnCbnSelchangeAud5Acomp1comb,
-          &Page::OnCbnSelchangeAud5Argb2comb,   &Page::OnCbnSelchangeAud5Acomp2comb,
-          &Page::OnCbnSelchangeAud5Am1dcomb,    &Page::OnCbnSelchangeAud5Ahdmicomb,
-          &Page::OnCbnSelchangeAud5Avidcomb,    &Page::OnCbnSelchangeAud5Asvidcomb,
-          &Page::OnCbnSelchangeAud5Acompcomb,   &Page::OnCbnSelchangeAud5Amiucomb,
-          &Page::OnCbnSelchangeAud5Aoutstbcomb, &Page::OnCbnSelchangeAud5Hdmiaudiocomb});
+      5, {BUTTON(Aud5Btnvolneg), BUTTON(Aud5Btnvolpos), BUTTON(Aud5Btntreneg),
+          BUTTON(Aud5Btntrepos), BUTTON(Aud5Btnbasneg), BUTTON(Aud5Btnbaspos),
+          // Lists.
+          LIST(Aud5Srswcomb), LIST(Aud5Spekcomb), LIST(Aud5Argb1comb), LIST(Aud5Acomp1comb),
+          LIST(Aud5Argb2comb), LIST(Aud5Acomp2comb), LIST(Aud5Am1dcomb), LIST(Aud5Ahdmicomb),
+          LIST(Aud5Avidcomb), LIST(Aud5Asvidcomb), LIST(Aud5Acompcomb), LIST(Aud5Amiucomb),
+          LIST(Aud5Aoutstbcomb), LIST(Aud5Hdmiaudiocomb)});
 }
 
 TEST(NamedHandlers, OptionType5) {
   using Page = COption5TabDlg;
   ExpectOwnControls<Page>(
-      6, {&Page::OnCbnSelchangeOpt5Atseacomb, &Page::OnCbnSelchangeOpt5Atkscomb,
-          &Page::OnCbnSelchangeOpt5Atoncomb, &Page::OnBnClickedOpt5Btnatoffneg,
-          &Page::OnBnClickedOpt5Btnatoffpos, &Page::OnCbnSelchangeOpt5Mybtn1comb,
-          &Page::OnCbnSelchangeOpt5Mybtn2comb, nullptr, nullptr,
-          &Page::OnCbnSelchangeOth4CcdisplayComb, &Page::OnCbnSelchangeOth4CcmodeComb,
-          &Page::OnCbnSelchangeOth4CcchannelComb});
+      6, {LIST(Opt5Atseacomb), LIST(Opt5Atkscomb), LIST(Opt5Atoncomb), BUTTON(Opt5Btnatoffneg),
+          BUTTON(Opt5Btnatoffpos), LIST(Opt5Mybtn1comb), LIST(Opt5Mybtn2comb), nullptr, nullptr,
+          LIST(Oth4CcdisplayComb), LIST(Oth4CcmodeComb), LIST(Oth4CcchannelComb)});
 }
 
 TEST(NamedHandlers, Service) {
   using Page = CServiceDlg;
-  ExpectOwnControls<Page>(0,
-                          {&Page::OnCbnSelchangeSvcAtadjenbcomb, &Page::OnBnClickedSvcIrfrontchk,
-                           &Page::OnBnClickedSvcIrrearchk, &Page::OnBnClickedSvcIrtopchk,
-                           &Page::OnCbnSelchangeSvcIrfreqncomb, &Page::OnCbnSelchangeSvcIrfreqhcomb,
-                           &Page::OnCbnSelchangeSvcFocuslockcomb});
+  ExpectOwnControls<Page>(
+      0, {LIST(SvcAtadjenbcomb), BUTTON(SvcIrfrontchk), BUTTON(SvcIrrearchk), BUTTON(SvcIrtopchk),
+          LIST(SvcIrfreqncomb), LIST(SvcIrfreqhcomb), LIST(SvcFocuslockcomb)});
 }
 
 }  // namespace

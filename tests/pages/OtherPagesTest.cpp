@@ -61,23 +61,21 @@ TEST(StatusPage, PowerErrorAndLampHaveAMark) {
   };
   EXPECT_FALSE(label(20014).Share()) << "the rated hours are not known";
   open.Dialog().SetRatedLampHours(2000);
-  for (const auto& [key, value, control, mark] : {std::tuple{"Get 0x6000", 0, 20008, Idle},
-                                                  {"Get 0x6000", 1, 20008, Good},
-                                                  {"Get 0x6000", 2, 20008, Attention},
-                                                  {"Get 0x6020", 0, 20010, Good},
-                                                  {"Get 0x1090", 500, 20014, Good},
-                                                  {"Get 0x1090", 1900, 20014, Attention},
-                                                  {"Get 0x1090", 2100, 20014, Attention},
-                                                  {"Get 0x1090", 500, 20014, Good},
-                                                  {"Get 0x6020", 6, 20014, Attention},
-                                                  {"Get 0x1090", 1900, 20014, Attention},
-                                                  {"Get 0x6020", 3, 20010, Bad},
-                                                  {"Get 0x6020", 3, 20014, Bad}}) {
+  const std::tuple<const char*, int, int, StateLabel::Mark> cases[] = {
+      {"Get 0x6000", 0, 20008, Idle},         {"Get 0x6000", 1, 20008, Good},
+      {"Get 0x6000", 2, 20008, Attention},    {"Get 0x6020", 0, 20010, Good},
+      {"Get 0x1090", 500, 20014, Good},       {"Get 0x1090", 1900, 20014, Attention},
+      {"Get 0x1090", 2100, 20014, Attention}, {"Get 0x1090", 500, 20014, Good},
+      {"Get 0x6020", 6, 20014, Attention},    {"Get 0x1090", 1900, 20014, Attention},
+      {"Get 0x6020", 3, 20010, Bad},          {"Get 0x6020", 3, 20014, Bad}};
+  for (const auto& [key, value, control, mark] : cases) {
     open.Projector().Answer(key, value);
     open.Page().InitDisp();
     EXPECT_EQ(label(control).ShownMark(), mark) << key << ' ' << value;
   }
   EXPECT_EQ(label(20014).Share(), 0.95);
+  open.Dialog().SetWanted(WantedSettings());
+  EXPECT_EQ(label(20014).toolTip(), QStringLiteral("1900 h / 2000 h")) << "no note takes its place";
   open.Projector().Refuse("Get 0x1090");
   open.Page().InitDisp();
   EXPECT_FALSE(label(20014).Share());

@@ -3,16 +3,19 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "pages/common/RowMenu.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Soon.h"
 #include "toolkit/Contrast.h"
 
 namespace {
 
 constexpr int kBrightness = 20136, kField = 20329, kContrast = 20138, kIris = 20293;
+constexpr int kSharpness = 20152, kIrisCaption = 20621;
 constexpr int kVolume = 20317, kIrFront = 20375, kPositionV = 20205, kAutoOff = 20369;
 
 // The question that a row's menu opens.
@@ -25,6 +28,7 @@ struct RowMenus : testing::Test {
   OpenDialog open{FullModel(5, 30), 1, [](RecordingChannel& projector) {
                     projector.Answer("Get 0x2003", 138);
                     projector.Answer("Get 0x3304", 16);
+                    projector.Answer("Get 0x2201", 100);
                     projector.Refuse("Get 0x2004");
                   }};
   CTabPage& page = open.Page();
@@ -33,16 +37,24 @@ struct RowMenus : testing::Test {
 
 TEST_F(RowMenus, ShowTheRangeAndTheOpeningValueOfARow) {
   driver.Drag(kBrightness, 4);
+  open.Projector().Answer("Get 0x2003", 132);
+  page.InitDisp();
   for (const auto& [control, lines] : std::vector<std::pair<int, std::string>>{
            {kField, "(Range: -32 to 32), (When opened: 10), Put back, Enter a value…, Copy"},
+           {kSharpness, "(Range: 1 to 7), (When opened: -24), (Put back), Enter a value…, Copy"},
            {kContrast,
             "(The projector did not report this setting.), (Put back), "
             "(Enter a value…), Copy"},
            {kIris, "(When opened: Theater), (Put back), Copy"},
+           {kIrisCaption, "(When opened: Theater), (Put back), Copy"},
            {21065, ""}}) {
     EXPECT_EQ(Menu(page, control, "Copy"), lines) << control;
   }
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Active Iris: Theater"));
+  open.Projector().Refuse("Get 0x2003");
+  page.InitDisp();
+  EXPECT_NE(Menu(page, kField).find("(When opened: 10), (Put back), (Enter a value…), Copy"),
+            std::string::npos);
 }
 
 TEST_F(RowMenus, PutBackActsLikeAUserAndNeverWhileAHandlerRuns) {
@@ -70,6 +82,7 @@ TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
   EXPECT_NE(QApplication::activePopupWidget(), nullptr);
   QApplication::activePopupWidget()->close();
   auto* question = &Asked(page, kBrightness);
+  EXPECT_EQ(question->windowTitle(), QStringLiteral("Brightness"));
   EXPECT_EQ(question->textValue(), QStringLiteral("10"));
   EXPECT_EQ(question->labelText(), QStringLiteral("Range: -32 to 32"));
   auto* field = question->findChild<QLineEdit*>();
@@ -83,11 +96,17 @@ TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
     EXPECT_EQ(question->labelText(), QStringLiteral("Enter a whole number from -32 to 32."));
   }
   field->setText(QString());
-  QTest::keyClicks(field, QStringLiteral("-9"));
+  QTest::keyClicks(field, QStringLiteral("-32"));
   open.Projector().Refuse("SetBrightness");
   QTest::keyClick(question, Qt::Key_Return);
-  EXPECT_EQ(open.Projector().Take(), Strings{"SetBrightness 119"});
-  EXPECT_EQ(driver.SliderAt(kBrightness), -9) << "this page's refused drags stay";
+  EXPECT_EQ(open.Projector().Take(), Strings{"SetBrightness 96"});
+  EXPECT_EQ(driver.SliderAt(kBrightness), -32) << "this page's refused drags stay";
+  question = &Asked(page, kBrightness);
+  question->setTextValue(QStringLiteral("32"));
+  const CDialog::Busy handler(&open.Dialog());
+  question->accept();
+  EXPECT_FALSE(question->isVisible());
+  EXPECT_EQ(driver.SliderAt(kBrightness), -32) << "a handler runs";
 }
 
 TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
@@ -98,7 +117,8 @@ TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
                          menu.palette().color(QPalette::Disabled, QPalette::Base)),
               3);
   }
-  auto* question = &Asked(open.Page(), kAutoOff);
+  EXPECT_TRUE(menu.actions().front()->isSeparator());
+  const QPointer question = &Asked(open.Page(), kAutoOff);
   const auto* field = question->findChild<QLineEdit*>();
   const auto* unit = field->findChild<QLabel*>();
   ASSERT_NE(unit, nullptr);
@@ -107,6 +127,7 @@ TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
   EXPECT_GE(field->textMargins().right(), field->width() - unit->x() - 1)
       << "the number ends there";
   question->reject();
+  EXPECT_TRUE(Soon([&] { return question == nullptr; }));
 }
 
 TEST(RowMenu, TheOpeningValueBelongsToTheInputSource) {
@@ -138,6 +159,12 @@ TEST(RowMenu, StepsArrowRowsWhileStepsComeNearer) {
   projector.Answer("Get 0x2100", 40);
   Menu(open.Page(), kPositionV, "Put back");
   EXPECT_EQ(projector.Take(), (Strings{"Dec 0x2100", "Get 0x2100"}));
+  MessageBoxes boxes;
+  projector.Refuse("Inc 0x2100");
+  question = &Asked(open.Page(), kPositionV);
+  question->setTextValue(QStringLiteral("45"));
+  question->accept();
+  EXPECT_EQ(projector.Take(), Strings{"Inc 0x2100"}) << "a refusal ends the stepping";
 }
 
 }  // namespace

@@ -20,9 +20,8 @@ bool IsPress(const QEvent& event) {
 }
 
 bool IsEnter(const QEvent& event) {
-  if (event.type() != QEvent::KeyPress) return false;
-  const int key = static_cast<const QKeyEvent&>(event).key();
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
+  const auto is = [&event](int key) { return static_cast<const QKeyEvent&>(event).key() == key; };
+  return event.type() == QEvent::KeyPress && (is(Qt::Key_Return) || is(Qt::Key_Enter));
 }
 
 }  // namespace

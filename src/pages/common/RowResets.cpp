@@ -110,7 +110,6 @@ QToolButton* RowResets::ButtonOf(RowView& row) {
   button->setAutoRaise(true);
   button->setIcon(ThemedIcon(IconName::Reset));
   button->setIconSize(IconSize(dialog));
-  button->setFocusPolicy(Qt::TabFocus);
   const RowTemplate& list = TemplateRowOf(dialog, ControlOf(resets->Row()));
   const QString name =
       WindowText(*dialog.GetDlgItem(list.controls.front().id)) + QStringLiteral(": ") + what;

@@ -27,7 +27,6 @@ void ListRowView::UseTemplate() {
 }
 
 void ListRowView::Read(Source source) {
-  if (!row_.read) return;
   const auto value = ReadSetting(source);
   if (Projector().IsAbandoned()) return;
   if (!value) {

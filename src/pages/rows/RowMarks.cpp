@@ -34,10 +34,8 @@ QRect VisiblePart(const QWidget& page) {
 
 RowMarks::RowMarks(SettingsDialog& page) : QWidget(page.window()), page_(page) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  setAttribute(Qt::WA_NoSystemBackground);
   page.installEventFilter(this);
   if (!page.isWindow()) page.parentWidget()->installEventFilter(this);  // moves when it scrolls
-  Place();
 }
 
 void RowMarks::Show(std::vector<Mark> marks) {

@@ -109,7 +109,7 @@ TEST(Tabs, TheFrameAndWhatIsAroundItKeepTheirDistances) {
   EXPECT_EQ(close.bottomRight(), all.bottomRight() - QPoint(12, 12));
   EXPECT_EQ(strip, QRect(QPoint(20, 2), QPoint(all.right() - 20, tabs.top() - 3)));
   EXPECT_EQ(tabs, QRect(QPoint(12, tabs.top()), QPoint(all.right() - 12, page.top() - 13)));
-  EXPECT_EQ(page, QRect(QPoint(20, 64), QPoint(all.right() - 20, close.top() - 33)));
+  EXPECT_EQ(page, QRect(QPoint(20, page.top()), QPoint(all.right() - 20, close.top() - 33)));
   const QRect line(QPoint(12, close.top()), QPoint(close.left() - 13, close.bottom()));
   EXPECT_EQ(dialog.findChild<StatusLine*>()->geometry(), line);
   EXPECT_EQ(dialog.findChild<FindLine*>()->geometry(), line.adjusted(line.width() - 301, 0, 0, 0));

@@ -1,5 +1,3 @@
-#include <tuple>
-
 #include <QApplication>
 #include <QLayout>
 #include <QPen>
@@ -156,7 +154,7 @@ TEST_F(DialogTest, RunsModallySeveralTimes) {
   }
 }
 
-TEST_F(DialogTest, ADragCatchesAtZeroFromWhereTheTrackIsFilled) {
+TEST_F(DialogTest, ADragCatchesAtZeroAndKeysDoNot) {
   auto& slider = dialog.Item<CSliderCtrl>(4);
   slider.SetRange(-500, 500, 100);  // less than a pixel a position
   const QPoint start = slider.HandleRect().center();
@@ -174,36 +172,6 @@ TEST_F(DialogTest, ADragCatchesAtZeroFromWhereTheTrackIsFilled) {
   slider.setFocus();
   QTest::keyClick(&slider, Qt::Key_Right);
   EXPECT_EQ(slider.value(), 1) << "keys reach every position";
-
-  slider.setValue(-250);
-  const QImage image = slider.grab().toImage();
-  const auto at = [&](double share) {
-    return image.pixelColor(static_cast<int>(image.width() * share), image.height() / 2);
-  };
-  EXPECT_NE(at(0.4), at(0.1)) << "filled between the handle and 0";
-  EXPECT_EQ(at(0.9), at(0.1)) << "but not beyond 0";
-}
-
-TEST_F(DialogTest, TicksAreCountedFromZeroAndAFieldHasRoomForEveryNumber) {
-  auto& slider = dialog.Item<CSliderCtrl>(4);
-  for (const auto& [minimum, maximum, distance, count] : {std::tuple{-10, 10, 2, 11},
-                                                          {1, 10, 3, 4},
-                                                          {-3, 10, 2, 7},
-                                                          {-10, -1, 3, 4},
-                                                          {-500, 500, 1, 11},
-                                                          {5, 5, 1, 0}}) {
-    slider.SetRange(minimum, maximum, distance);
-    const QImage image = slider.grab().toImage();
-    const int row = slider.HandleRect().bottom() + 4;
-    int ticks = 0;
-    for (int x = 1; x < image.width(); ++x) {
-      ticks += image.pixel(x, row) != image.pixel(0, row) &&
-               image.pixel(x - 1, row) == image.pixel(0, row);
-    }
-    EXPECT_EQ(ticks, count) << minimum << " to " << maximum;
-  }
-  const QWidget& field = *dialog.GetDlgItem(6);
-  EXPECT_GE(field.width(), field.fontMetrics().horizontalAdvance(QStringLiteral("-00000")));
 }
 
 TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {

@@ -7,15 +7,15 @@
 #include <fstream>
 #include <sstream>
 
+#include <QAccessible>
 #include <QFontDatabase>
-#include <QScreen>
+#include <QMetaEnum>
 #include <QTabBar>
 #include <QTest>
 #include <QToolTip>
 #include <gtest/gtest.h>
 
-#include "tests/support/DialogDriver.h"
-#include "tests/support/Soon.h"
+#include "tests/toolkit/SampleDialog.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CurveView.h"
 #include "toolkit/DragBubble.h"
@@ -24,6 +24,7 @@
 #include "toolkit/Icons.h"
 #include "toolkit/NumberField.h"
 #include "toolkit/StateLabel.h"
+#include "toolkit/TemplateRows.h"
 
 namespace {
 
@@ -42,31 +43,41 @@ QPalette PaletteOf(const QColor& text, const QColor& behind) {
   return palette;
 }
 
+QFont Blocks(int size) {
+  static const int blocks =
+      QFontDatabase::addApplicationFont(TEST_SOURCE_DIR "/toolkit/Blocks.ttf");
+  QFont font(QFontDatabase::applicationFontFamilies(blocks));
+  font.setPixelSize(size);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
+  return font;
+}
+
+void ExpectRecord(const char* path, const std::string& now) {
+  std::ostringstream before;
+  before << std::ifstream(path).rdbuf();
+  if (std::getenv("UPDATE_LISTING")) return void(std::ofstream(path) << now);
+  EXPECT_EQ(before.str(), now);
+}
+
 template <class Control>
-Control& Placed(Control* control, int x, int y, QSize size) {
-  control->setGeometry({{x, y}, size});
+Control& Placed(Control* control, int x, int y, int width, int height) {
+  control->setGeometry(x, y, width, height);
   return *control;
 }
 
 constexpr int kSliders[][4] = {
     {-10, 10, 4, 3}, {1, 10, 3, 2}, {0, 500, 300, 1}, {-8, 4, -4, 4}, {5, 5, 5, 1}};
 
-TEST(Drawings, AreAsRecorded) {
-  const int blocks = QFontDatabase::addApplicationFont(TEST_SOURCE_DIR "/toolkit/Blocks.ttf");
-  QFont font(QFontDatabase::applicationFontFamilies(blocks));
-  font.setPixelSize(10);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  font.setStyleStrategy(QFont::NoSubpixelAntialias);
+TEST_F(DialogTest, ControlsLookAsRecorded) {
   QWidget stage;
-  stage.setFont(font);
+  stage.setFont(Blocks(10));
   stage.setPalette(PaletteOf(Qt::black, Qt::white));
-  stage.resize(100, 600);
-  std::ostringstream now, before;
+  stage.resize(100, 560);
+  std::ostringstream now;
   const auto record = [&](const char* name, int from, int to) {
-    Activate(stage);
     QImage image(stage.size(), QImage::Format_RGB32);
     stage.render(&image);
-    EXPECT_TRUE(Soon([&] { return stage.screen()->grabWindow(stage.winId()).toImage() == image; }));
     now << '\n' << name << '\n';
     for (int y = from; y < to; ++y) {
       std::string line;
@@ -75,89 +86,114 @@ TEST(Drawings, AreAsRecorded) {
     }
   };
 
-  auto& curves = Placed(new CurveView(&stage), 0, 0, {90, 60});
-  auto& dark = Placed(new CurveView(&stage), 0, 62, {60, 40});
+  Placed(new CurveView(&stage), 0, 0, 90, 60)
+      .Show({{.label = "ab", .hue = 0, .accepted = {{0, 0}, {1, .5}}, .values = {1, 2}},
+             {.label = "a", .hue = 120, .accepted = {{0, 0}, {1, .5}}, .values = {3, 4}},
+             {.hue = 240},
+             {.accepted = {{0, .5}, {.5, 1.2}, {1, 1}},
+              .tried = {{0, .5}, {.5, -.2}, {1, 1}},
+              .values = {5, 6, 7}}},
+            6);
+  auto& dark = Placed(new CurveView(&stage), 0, 62, 60, 40);
   dark.setPalette(PaletteOf(Qt::white, Qt::black));
-  std::vector<StateLabel*> marks;
-  for (const int y : {104, 119, 134, 149, 164}) {
-    marks.push_back(&Placed(new StateLabel("ab", &stage), 0, y, {100, 12}));
-    marks.back()->SetMark(StateLabel::Mark::Idle);
-    if (y == 149) marks.back()->setLayoutDirection(Qt::RightToLeft);
-    marks.back()->SetShare(1);
-    marks.back()->adjustSize();
-  }
+  dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
   const QString theme = QIcon::themeName();
   QIcon::setThemeName("none");
-  for (const int i : {0, 1, 2, 3}) {
-    auto& icon = Placed(new QLabel(&stage), 25 * i, 180, {24, 20});
+  for (const int i : {0, 1, 2, 3, 4}) {
+    auto& mark = Placed(new StateLabel("ab", &stage), 0, 104 + 15 * i, 0, 0);
+    if (i == 3) mark.setLayoutDirection(Qt::RightToLeft);
+    mark.SetMark(static_cast<StateLabel::Mark>(i));
+    mark.SetShare(i == 4 ? std::nullopt : std::optional(.4 * i));
+    mark.adjustSize();
+    auto& slider = Placed(new CSliderCtrl(&stage), 5, 270 + 27 * i, 80, 25);
+    slider.SetRange(kSliders[i][0], kSliders[i][1], kSliders[i][3]);
+    slider.setValue(kSliders[i][2]);
+    slider.setEnabled(i != 1);
+    slider.setSliderDown(i == 3);
+    if (i == 4) break;
+    auto& icon = Placed(new QLabel(&stage), 25 * i, 180, 24, 20);
     icon.setPixmap(ThemedIcon(static_cast<IconName>(i)).pixmap(icon.size()));
-    auto& field = Placed(new NumberField(&stage), 0, 204 + 10 * i, {99, 10});
+    auto& field = Placed(new NumberField(&stage), 0, 204 + 10 * i, 99, 10);
     field.setFrame(false);
     field.setText("123");
     field.setLayoutDirection(i < 2 ? Qt::LeftToRight : Qt::RightToLeft);
     field.SetUnit(i % 2 ? "ms" : "%", i == 3 ? "1234567890" : "123");
   }
   QIcon::setThemeName(theme);
-  std::vector<CSliderCtrl*> sliders;
-  for (const auto& [low, high, value, tick] : kSliders) {
-    const int y = 270 + 27 * static_cast<int>(sliders.size());
-    sliders.push_back(&Placed(new CSliderCtrl(&stage), 5, y, {80, 0}));
-    sliders.back()->SetRange(low, high, tick);
-    sliders.back()->setValue(value);
-    sliders.back()->resize(80, sliders.back()->sizeHint().height());
-  }
-  sliders[1]->setEnabled(false);
-  sliders[3]->setSliderDown(true);
-  auto& tabs = Placed(new QTabBar(&stage), 0, 560, {200, 20});
+  auto& tabs = Placed(new QTabBar(&stage), 0, 500, 200, 20);
   for (const char* text : {"one", "two"}) tabs.addTab(text);
-  auto& control = Placed(new QWidget(&stage), 10, 410, {30, 8});
-  control.setFocusPolicy(Qt::TabFocus);
+  Placed(new QWidget(&stage), 10, 410, 30, 8).setFocusPolicy(Qt::TabFocus);
   FocusRing ring(stage);
-  record("", 0, 0);
+  Activate(stage);
   EXPECT_FALSE(ring.isVisible());
-  curves.Show({{.label = "ab", .hue = 0, .accepted = {{0, 0}, {1, .5}}, .values = {1, 2}},
-               {.label = "a", .hue = 120, .accepted = {{0, 0}, {1, .5}}, .values = {3, 4}},
-               {.hue = 240},
-               {.accepted = {{0, .5}, {.5, 1.2}, {1, 1}},
-                .tried = {{0, .5}, {.5, -.2}, {1, 1}},
-                .values = {5, 6, 7}}},
-              6);
-  dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
-  record("Three curves, of which two coincide and one is tried. A curve on black.", 0, 102);
-  for (const int i : {0, 1, 2, 3, 4}) {
-    marks[i]->SetMark(static_cast<StateLabel::Mark>(i));
-    marks[i]->SetShare(i == 4 ? std::nullopt : std::optional(.4 * i));
-  }
-  record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
-  record("Icons: reset, refresh, information, stop.", 180, 200);
-  record("Numbers: %, ms, % from right to left, ms from right to left.", 204, 244);
-  while (!sliders[2]->hasFocus()) QTest::keyClick(&stage, Qt::Key_Tab);
   const QPalette tips = QToolTip::palette();
   QToolTip::setPalette(PaletteOf(Qt::red, Qt::green));
+  const auto sliders = stage.findChildren<CSliderCtrl*>();
   for (const auto& [slider, to, letters] : {std::tuple{sliders[0], 5, 2}, {sliders[2], 500, 15}}) {
     AttachDragBubble(*slider, [letters](int) { return QString(letters, 'a'); });
     slider->DragTo(0);
     slider->DragTo(to);
   }
-  record("Sliders: with 0, disabled, with the focus, down, without range. Two have a bubble.", 250,
-         400);
-  EXPECT_EQ(stage.childAt(60, 255), nullptr) << "the bubble is seen only";
   QToolTip::setPalette(tips);
+  while (!sliders[2]->hasFocus()) QTest::keyClick(&stage, Qt::Key_Tab);
+  record("Three curves, of which two coincide and one is tried. A curve on black.", 0, 102);
+  record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
+  record("Icons: reset, refresh, information, stop.", 180, 200);
+  record("Numbers: %, ms, % from right to left, ms from right to left.", 204, 244);
+  record("Sliders: with 0, disabled, focused, down, without range. Two with bubbles.", 250, 400);
+
   for (const int tab : {0, 1}) {
     while (!tabs.hasFocus()) QTest::keyClick(&stage, Qt::Key_Tab);
     tabs.setCurrentIndex(tab);
-    EXPECT_EQ(ring.geometry(), tabs.tabRect(tab).translated(0, 560).adjusted(3, 3, -3, -3));
+    EXPECT_EQ(ring.geometry(), tabs.tabRect(tab).translated(0, 500).adjusted(3, 3, -3, -3));
   }
   QTest::keyClick(&stage, Qt::Key_Tab);
-  Flash(stage, {10, 427, 30, 8});
-  Flash(stage, {92, 427, 30, 8});
+  for (const int x : {10, 92}) Flash(stage, {x, 427, 30, 8});
   record("The focus. A place that is shown, and one at the edge.", 406, 440);
-  for (const int y : {408, 426}) EXPECT_EQ(stage.childAt(20, y), nullptr) << "they are seen only";
+  for (const QPoint at : {QPoint(60, 255), {20, 408}, {20, 426}}) {
+    EXPECT_EQ(stage.childAt(at), nullptr) << "does not take the mouse from others";
+  }
+  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Drawings.txt", now.str());
+}
 
-  constexpr const char* kDrawings = TEST_SOURCE_DIR "/toolkit/Drawings.txt";
-  before << std::ifstream(kDrawings).rdbuf();
-  if (std::getenv("UPDATE_LISTING")) return void(std::ofstream(kDrawings) << now.str());
-  EXPECT_EQ(before.str(), now.str());
+TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
+  std::ostringstream now;
+  QWidget window;
+  const auto roles = QMetaEnum::fromType<QAccessible::Role>();
+  for (const auto& [name, isPage, direction, size] :
+       {std::tuple{"A page", true, Qt::LeftToRight, 10},
+        {"A page from right to left", true, Qt::RightToLeft, 10},
+        {"A dialog", false, Qt::LeftToRight, 10},
+        {"A dialog that is larger than the screen", false, Qt::LeftToRight, 90}}) {
+    CDialog shown(902, &window);
+    if (isPage) shown.setWindowFlags(Qt::Widget);
+    shown.setLayoutDirection(direction);
+    shown.setFont(Blocks(size));
+    ASSERT_TRUE(shown.Create());
+    shown.ShowRow(27, false);
+    const TemplateRows* const pages[] = {&shown.Rows()};
+    if (isPage) TemplateRows::ShareCaptionWidths(pages);
+    if (isPage) shown.setGeometry(0, 0, 700, 200);
+    window.show();
+    shown.show();
+    QCoreApplication::processEvents();
+    QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
+    now << '\n' << name << ": " << roles.valueToKey(access.role()) << '\n';
+    for (int i = 0; i < access.childCount(); ++i) {
+      QAccessibleInterface& child = *access.child(i);
+      const auto& control = static_cast<const QWidget&>(*child.object());
+      const auto* label = qobject_cast<const QLabel*>(&control);
+      const QRect at = control.geometry();
+      now << at.x() << ',' << at.y() << ' ' << at.width() << 'x' << at.height() << ' '
+          << roles.valueToKey(child.role()) << (child.state().checkable ? " checkable" : "")
+          << (child.state().invisible ? " absent" : "") << " \""
+          << child.text(QAccessible::Name).toStdString() << "\" \""
+          << child.text(QAccessible::Description).toStdString() << "\" "
+          << (label && label->buddy() ? label->buddy()->metaObject()->className() : "") << '\n';
+      EXPECT_EQ(access.indexOfChild(&child), i);
+    }
+  }
+  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Places.txt", now.str());
 }
 
 }  // namespace

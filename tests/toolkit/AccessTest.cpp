@@ -77,6 +77,9 @@ TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
   Act(one, Actions::pressAction());
   EXPECT_TRUE(combo.currentIndex() == 1 && one.state().selected);
   EXPECT_EQ(dialog.choices, 1);
+  int start = -1, end = -1;
+  list.textInterface()->attributes(0, &start, &end);
+  EXPECT_EQ(list.textInterface()->text(start + 1, end), QStringLiteral("ne"));
   QAccessibleInterface& two = *dropDown.child(2);
   Act(two, Actions::toggleAction());
   combo.setEnabled(false);

@@ -1,3 +1,6 @@
+#include <tuple>
+
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPen>
 #include <QTest>
@@ -178,6 +181,21 @@ TEST_F(DialogTest, ADragCatchesAtZeroAndKeysDoNot) {
   EXPECT_GT(slider.value(), 0) << "nothing to catch at";
 }
 
+TEST(Contrast, IsThatOfTheirLuminances) {
+  for (const auto& [color, onWhite, onBlack] : {std::tuple{QColor(119, 119, 119), 4.48, 4.69},
+                                                {QColor(10, 10, 10), 19.8, 1.06},
+                                                {QColor(Qt::red), 4., 5.25},
+                                                {QColor(Qt::green), 1.37, 15.3},
+                                                {QColor(Qt::blue), 8.59, 2.44}}) {
+    EXPECT_NEAR(ContrastOf(color, Qt::white), onWhite, .01);
+    EXPECT_NEAR(ContrastOf(Qt::black, color), onBlack, .01);
+    for (const QColor& behind : {QColor(Qt::white), QColor(Qt::black)}) {
+      const double least = ContrastOf(behind, color);
+      EXPECT_NEAR(ContrastOf(behind, ReadableOn(behind, color, 4.5)), std::max(least, 4.8), .35);
+    }
+  }
+}
+
 TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
   const std::pair<QPalette::ColorRole, QPalette::ColorRole> roles[] = {
       {QPalette::WindowText, QPalette::Window},
@@ -217,6 +235,9 @@ TEST_F(DialogTest, ListsShareTheWidthOfTheLongestEntryUpToALimit) {
     const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
     EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
     EXPECT_LT(longer.sizeHint().width(), 500);
+    longer.showPopup();
+    EXPECT_GT(longer.view()->width(), needed);
+    longer.hidePopup();
   }
 }
 

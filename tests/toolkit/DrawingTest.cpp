@@ -17,6 +17,7 @@
 
 #include "tests/toolkit/SampleDialog.h"
 #include "toolkit/CSliderCtrl.h"
+#include "toolkit/CTabCtrl.h"
 #include "toolkit/CurveView.h"
 #include "toolkit/DragBubble.h"
 #include "toolkit/Flash.h"
@@ -67,7 +68,7 @@ Control& Placed(Control* control, int x, int y, int width, int height) {
 }
 
 constexpr int kSliders[][4] = {
-    {-10, 10, 4, 3}, {1, 10, 3, 2}, {0, 500, 300, 1}, {-8, 4, -4, 4}, {5, 5, 5, 1}};
+    {-10, 10, 4, 3}, {1, 28, 9, 1}, {0, 500, 300, 1}, {-8, 4, -4, 4}, {5, 5, 5, 1}};
 
 TEST_F(DialogTest, ControlsLookAsRecorded) {
   QWidget stage;
@@ -110,6 +111,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider.setValue(kSliders[i][2]);
     slider.setEnabled(i != 1);
     slider.setSliderDown(i == 3);
+    slider.setLayoutDirection(i == 3 ? Qt::RightToLeft : Qt::LeftToRight);
     if (i == 4) break;
     auto& icon = Placed(new QLabel(&stage), 25 * i, 180, 24, 20);
     icon.setPixmap(ThemedIcon(static_cast<IconName>(i)).pixmap(icon.size()));
@@ -140,7 +142,8 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
   record("Icons: reset, refresh, information, stop.", 180, 200);
   record("Numbers: %, ms, % from right to left, ms from right to left.", 204, 244);
-  record("Sliders: with 0, disabled, focused, down, without range. Two with bubbles.", 250, 400);
+  record("Sliders: with 0, disabled, focused, from right to left, without range. Two with bubbles.",
+         250, 400);
 
   for (const int tab : {0, 1}) {
     while (!tabs.hasFocus()) QTest::keyClick(&stage, Qt::Key_Tab);
@@ -164,7 +167,8 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
        {std::tuple{"A page", true, Qt::LeftToRight, 10},
         {"A page from right to left", true, Qt::RightToLeft, 10},
         {"A dialog", false, Qt::LeftToRight, 10},
-        {"A dialog that is larger than the screen", false, Qt::LeftToRight, 90}}) {
+        {"A large dialog", false, Qt::LeftToRight, 120},
+        {"A large dialog from right to left", false, Qt::RightToLeft, 120}}) {
     CDialog shown(902, &window);
     if (isPage) shown.setWindowFlags(Qt::Widget);
     shown.setLayoutDirection(direction);
@@ -175,10 +179,16 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
     if (isPage) TemplateRows::ShareCaptionWidths(pages);
     if (isPage) shown.setGeometry(0, 0, 700, 200);
     window.show();
-    shown.show();
-    QCoreApplication::processEvents();
+    isPage ? shown.show() : Activate(shown);
+    for (const int id : {5, 7, 3, 23}) {
+      shown.GetDlgItem(id)->setFocus();
+      const QRect seen = shown.GetDlgItem(id)->visibleRegion().boundingRect();
+      EXPECT_EQ(seen, shown.GetDlgItem(id)->rect()) << "scrolled to";
+    }
     QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
-    now << '\n' << name << ": " << roles.valueToKey(access.role()) << '\n';
+    now << '\n'
+        << name << ": " << roles.valueToKey(access.role()) << ' '
+        << shown.windowTitle().toStdString() << '\n';
     for (int i = 0; i < access.childCount(); ++i) {
       QAccessibleInterface& child = *access.child(i);
       const auto& control = static_cast<const QWidget&>(*child.object());
@@ -193,7 +203,16 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       EXPECT_EQ(access.indexOfChild(&child), i);
     }
   }
-  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Places.txt", now.str());
+  CTabCtrl tabs(&window);
+  tabs.setFont(Blocks(10));
+  tabs.show();
+  for (const int length : {9, 30, 3, 15}) tabs.addTab(QString(length, QLatin1Char('a')));
+  for (const int width : {400, 200, 150, 60}) {
+    tabs.resize(width, 30);
+    now << "\nTabs in " << width << ':';
+    for (int i = 0; i < tabs.count(); ++i) now << ' ' << tabs.tabRect(i).width();
+  }
+  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Places.txt", now.str() + '\n');
 }
 
 }  // namespace

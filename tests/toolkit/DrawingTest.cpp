@@ -8,8 +8,8 @@
 #include <sstream>
 
 #include <QAccessible>
+#include <QDebug>
 #include <QFontDatabase>
-#include <QMetaEnum>
 #include <QTabBar>
 #include <QTest>
 #include <QToolTip>
@@ -160,47 +160,44 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
 }
 
 TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
-  std::ostringstream now;
+  QString now;
+  QDebug record = QDebug(&now).nospace();
   QWidget window;
-  const auto roles = QMetaEnum::fromType<QAccessible::Role>();
-  for (const auto& [name, isPage, direction, size] :
-       {std::tuple{"A page", true, Qt::LeftToRight, 10},
-        {"A page from right to left", true, Qt::RightToLeft, 10},
-        {"A dialog", false, Qt::LeftToRight, 10},
-        {"A large dialog", false, Qt::LeftToRight, 120},
-        {"A large dialog from right to left", false, Qt::RightToLeft, 120}}) {
+  window.resize(800, 300);
+  window.show();
+  for (const auto& [name, flags, direction, size] :
+       {std::tuple{"A page", Qt::Widget, Qt::LeftToRight, 10},
+        {"A page from right to left", Qt::Widget, Qt::RightToLeft, 10},
+        {"A dialog", Qt::Dialog, Qt::LeftToRight, 10},
+        {"A large dialog", Qt::Dialog, Qt::LeftToRight, 120},
+        {"A large dialog from right to left", Qt::Dialog, Qt::RightToLeft, 120}}) {
     CDialog shown(902, &window);
-    if (isPage) shown.setWindowFlags(Qt::Widget);
+    shown.setWindowFlags(flags);
     shown.setLayoutDirection(direction);
     shown.setFont(Blocks(size));
     ASSERT_TRUE(shown.Create());
     shown.ShowRow(27, false);
     const TemplateRows* const pages[] = {&shown.Rows()};
-    if (isPage) TemplateRows::ShareCaptionWidths(pages);
-    if (isPage) shown.setGeometry(0, 0, 700, 200);
-    window.show();
-    isPage ? shown.show() : Activate(shown);
-    for (const int id : {5, 7, 3, 23}) {
-      shown.GetDlgItem(id)->setFocus();
-      const QRect seen = shown.GetDlgItem(id)->visibleRegion().boundingRect();
-      EXPECT_EQ(seen, shown.GetDlgItem(id)->rect()) << "scrolled to";
-    }
+    if (!shown.isWindow()) TemplateRows::ShareCaptionWidths(pages);
+    if (!shown.isWindow()) shown.setGeometry(0, 0, 700, 200);
+    shown.isWindow() ? Activate(shown) : shown.show();
     QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
-    now << '\n'
-        << name << ": " << roles.valueToKey(access.role()) << ' '
-        << shown.windowTitle().toStdString() << '\n';
+    record << '\n' << name << ' ' << access.role() << ' ' << shown.windowTitle() << '\n';
     for (int i = 0; i < access.childCount(); ++i) {
       QAccessibleInterface& child = *access.child(i);
-      const auto& control = static_cast<const QWidget&>(*child.object());
+      auto& control = static_cast<QWidget&>(*child.object());
       const auto* label = qobject_cast<const QLabel*>(&control);
-      const QRect at = control.geometry();
-      now << at.x() << ',' << at.y() << ' ' << at.width() << 'x' << at.height() << ' '
-          << roles.valueToKey(child.role()) << (child.state().checkable ? " checkable" : "")
-          << (child.state().invisible ? " absent" : "") << " \""
-          << child.text(QAccessible::Name).toStdString() << "\" \""
-          << child.text(QAccessible::Description).toStdString() << "\" "
-          << (label && label->buddy() ? label->buddy()->metaObject()->className() : "") << '\n';
+      record << control.geometry() << ' ' << child.role() << ' ' << child.text(QAccessible::Name)
+             << ' ' << child.text(QAccessible::Description)
+             << (child.state().checkable ? " checkable" : "");
+      if (label && label->buddy()) record << " of " << label->buddy()->metaObject()->className();
+      record << '\n';
       EXPECT_EQ(access.indexOfChild(&child), i);
+    }
+    for (const int id : {5, 7, 3, 23}) {
+      QWidget& control = *shown.GetDlgItem(id);
+      control.setFocus();
+      EXPECT_EQ(control.visibleRegion().boundingRect(), control.rect()) << "scrolled to";
     }
   }
   CTabCtrl tabs(&window);
@@ -209,10 +206,10 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
   for (const int length : {9, 30, 3, 15}) tabs.addTab(QString(length, QLatin1Char('a')));
   for (const int width : {400, 200, 150, 60}) {
     tabs.resize(width, 30);
-    now << "\nTabs in " << width << ':';
-    for (int i = 0; i < tabs.count(); ++i) now << ' ' << tabs.tabRect(i).width();
+    record << "\nTabs in " << width << ':';
+    for (int i = 0; i < tabs.count(); ++i) record << ' ' << tabs.tabRect(i).width();
   }
-  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Places.txt", now.str() + '\n');
+  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Places.txt", now.toStdString() + '\n');
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <tuple>
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QPen>
 #include <QTest>
@@ -230,9 +229,6 @@ TEST_F(DialogTest, ListsShareTheWidthOfTheLongestEntryUpToALimit) {
     const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
     EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
     EXPECT_LT(longer.sizeHint().width(), 500);
-    longer.showPopup();
-    EXPECT_GT(longer.view()->width(), needed);
-    longer.hidePopup();
   }
 }
 

@@ -36,7 +36,8 @@ TEST_F(AccessTest, AListHasItsDropDownAndThatHasTheEntries) {
   }
   EXPECT_EQ(dropDown.indexOfChild(&list), -1);
   EXPECT_EQ(one.text(QAccessible::Name), QStringLiteral("One"));
-  EXPECT_TRUE(list.state().hasPopup && one.text(QAccessible::Value).isEmpty());
+  EXPECT_TRUE(list.state().hasPopup && list.state().expandable);
+  EXPECT_TRUE(one.text(QAccessible::Value).isEmpty());
   for (const int outside : {-1, 3}) EXPECT_EQ(dropDown.child(outside), nullptr);
 
   EXPECT_TRUE(one.state().offscreen && one.rect().isNull());

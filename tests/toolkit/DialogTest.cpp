@@ -163,8 +163,8 @@ TEST_F(DialogTest, ADragCatchesAtZeroAndKeysDoNot) {
     QTest::mouseMove(&slider, start + QPoint(apart, 0));
     return slider.value();
   };
-  EXPECT_GT(dragTo(20), 0);
-  EXPECT_EQ(dragTo(2), 0);
+  EXPECT_GT(dragTo(4), 0);
+  EXPECT_EQ(dragTo(3), 0);
   EXPECT_EQ(dragTo(-2), 0);
   EXPECT_LT(dragTo(-20), 0);
   QTest::mouseRelease(&slider, Qt::LeftButton, {}, start);

@@ -112,14 +112,14 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider.setEnabled(i != 1);
     slider.setSliderDown(i == 3);
     slider.setLayoutDirection(i == 3 ? Qt::RightToLeft : Qt::LeftToRight);
+    auto& field = Placed(new NumberField(&stage), 0, 200 + 10 * i, 99, 10);
+    field.setFrame(false);
+    if (i < 4) field.setText("123");
+    field.setLayoutDirection(i < 2 ? Qt::LeftToRight : Qt::RightToLeft);
+    field.SetUnit(i % 2 ? "ms" : "%", i == 3 ? "1234567890" : "123");
     if (i == 4) break;
     auto& icon = Placed(new QLabel(&stage), 25 * i, 180, 24, 20);
     icon.setPixmap(ThemedIcon(static_cast<IconName>(i)).pixmap(icon.size()));
-    auto& field = Placed(new NumberField(&stage), 0, 204 + 10 * i, 99, 10);
-    field.setFrame(false);
-    field.setText("123");
-    field.setLayoutDirection(i < 2 ? Qt::LeftToRight : Qt::RightToLeft);
-    field.SetUnit(i % 2 ? "ms" : "%", i == 3 ? "1234567890" : "123");
   }
   QIcon::setThemeName(theme);
   auto& tabs = Placed(new QTabBar(&stage), 0, 500, 200, 20);
@@ -138,7 +138,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   record("Three curves, of which two coincide and one is tried. A curve on black.", 0, 102);
   record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
   record("Icons: reset, refresh, information, stop.", 180, 200);
-  record("Numbers: %, ms, % from right to left, ms from right to left.", 204, 244);
+  record("Numbers: %, ms, % from right to left, ms from right to left, none.", 200, 250);
   record("Sliders: with 0, disabled, focused, from right to left, without range. Two with bubbles.",
          250, 400);
 
@@ -188,7 +188,8 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       auto& control = static_cast<QWidget&>(*child.object());
       const auto* label = qobject_cast<const QLabel*>(&control);
       record << control.geometry() << ' ' << child.role() << ' ' << child.text(QAccessible::Name)
-             << ' ' << child.text(QAccessible::Description)
+             << ' ' << child.text(QAccessible::Description) << ' '
+             << child.text(QAccessible::Accelerator)
              << (child.state().checkable ? " checkable" : "");
       if (label && label->buddy()) record << " of " << label->buddy()->metaObject()->className();
       record << '\n';

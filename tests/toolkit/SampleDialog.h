@@ -21,19 +21,20 @@ inline constexpr RowTemplate kRows[] = {
 };
 inline constexpr DialogTemplate kTemplate{
     .number = 900, .caption = "Sample", .rulerHeight = 20, .rows = kRows};
+inline constexpr const char* kLongEntries[] = {"An entry that is longer than lists become"};
 inline constexpr RowTemplate kKinds[] = {
     SliderRow(Left, Label(1, "Level:"), 2, {3, 4, 5, 6}, Button(7, "Reset")),
     Row(Left, Label(8, "Move"), Colon(9), Text(10, "V"), Arrow(11, "←"), Arrow(12, "→")),
     Row(Left, Text(13, "H"), Minus(14), Field(15), Plus(16)),
     Row(Left, Label(17, "State"), Colon(18), Text(19, "Good")),
-    Row(Right, Label(20, "Mode"), Colon(21), Combo(22, kEntries),
+    Row(Right, Label(20, "Mode"), Colon(21), Combo(22, kLongEntries),
         Button(23, "A button that is longer than most")),
     Row(Right, Label(24, "Longer"), Colon(25), Check(26, "Once")),
     Row(Right, Label(27, "Absent, and longer than all"), Colon(28), Combo(29, kEntries)),
     Row(Bottom, Close(30, "End")),
 };
 inline constexpr DialogTemplate kKindsTemplate{
-    .number = 902, .caption = "Kinds", .width = 300, .height = 90, .rows = kKinds};
+    .number = 902, .caption = "Kinds", .width = 800, .rows = kKinds};
 inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kKindsTemplate};
 inline constexpr ResourceModule kModule{kTemplates};
 

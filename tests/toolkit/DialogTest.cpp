@@ -214,14 +214,8 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
   QApplication::setPalette(before);
 }
 
-TEST_F(DialogTest, ListsShareTheWidthOfTheLongestEntryUpToALimit) {
+TEST_F(DialogTest, AListIsAsWideAsItsLongestEntryUpToALimit) {
   auto& longer = dialog.Item<CComboBox>(9);
-  const auto& shorter = dialog.Item<CComboBox>(13);
-  EXPECT_EQ(longer.width(), shorter.width());
-  EXPECT_EQ(longer.x(), dialog.GetDlgItem(3)->x());
-  EXPECT_LT(longer.width(), dialog.GetDlgItem(5)->geometry().right() - longer.x());
-  EXPECT_LT(dialog.GetDlgItem(10)->x() - longer.geometry().right(), 20)
-      << "its button is beside it";
   for (const int letters : {20, 200}) {
     longer.clear();
     longer.Add(QString(letters, QLatin1Char('n')));

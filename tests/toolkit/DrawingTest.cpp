@@ -3,7 +3,6 @@
 // the colours are given, and each sign is a block of the font in Blocks.ttf.
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -57,7 +56,7 @@ QFont Blocks(int size) {
 void ExpectRecord(const char* path, const std::string& now) {
   std::ostringstream before;
   before << std::ifstream(path).rdbuf();
-  if (std::getenv("UPDATE_LISTING")) return void(std::ofstream(path) << now);
+  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) return void(std::ofstream(path) << now);
   EXPECT_EQ(before.str(), now);
 }
 
@@ -153,6 +152,8 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   for (const QPoint at : {QPoint(60, 255), {20, 408}, {20, 426}}) {
     EXPECT_EQ(stage.childAt(at), nullptr) << "does not take the mouse from others";
   }
+  stage.findChild<NumberField*>()->setFocus();
+  EXPECT_FALSE(ring.isVisible()) << "a field takes the focus of the mouse only";
   delete sliders[0];
   sliders[2]->setEnabled(false);
   EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 9; })) << "no bubbles";
@@ -182,7 +183,9 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
     if (!shown.isWindow()) shown.setGeometry(0, 0, 700, 200);
     shown.isWindow() ? Activate(shown) : shown.show();
     QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
-    record << '\n' << name << ' ' << access.role() << ' ' << shown.windowTitle() << '\n';
+    record << '\n'
+           << name << ' ' << access.role() << ' ' << shown.windowTitle() << ' ' << shown.sizeHint()
+           << '\n';
     for (int i = 0; i < access.childCount(); ++i) {
       QAccessibleInterface& child = *access.child(i);
       auto& control = static_cast<QWidget&>(*child.object());

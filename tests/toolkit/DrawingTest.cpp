@@ -1,6 +1,7 @@
-// Compares the pictures of the controls that draw themselves with a file. After an intended change,
-// rewrite it with UPDATE_LISTING=1 and review the differences. So that all machines draw the same,
-// the colours are given, and each sign is a block of the font in Blocks.ttf.
+// Compares with files what the controls that draw themselves look like, and where controls stand
+// and how they are named. After an intended change, rewrite the files with UPDATE_LISTING=1 and
+// review the differences. So that all machines draw the same, the colours are given, and each sign
+// is a block of the font in Blocks.ttf.
 
 #include <algorithm>
 #include <fstream>

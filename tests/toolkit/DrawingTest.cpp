@@ -106,7 +106,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     mark.SetMark(static_cast<StateLabel::Mark>(i));
     mark.SetShare(i == 4 ? std::nullopt : std::optional(.4 * i));
     mark.adjustSize();
-    auto& slider = Placed(new CSliderCtrl(&stage), 5, 270 + 27 * i, 80, 25);
+    auto& slider = Placed(new CSliderCtrl(&stage), 5, 270 + 27 * i, 80, 27);
     slider.SetRange(kSliders[i][0], kSliders[i][1], kSliders[i][3]);
     slider.setValue(kSliders[i][2]);
     slider.setEnabled(i != 1);

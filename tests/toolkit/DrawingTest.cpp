@@ -130,7 +130,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   EXPECT_FALSE(ring.isVisible());
   const auto sliders = stage.findChildren<CSliderCtrl*>();
   for (const auto& [slider, to, letters] : {std::tuple{sliders[0], 5, 2}, {sliders[2], 500, 15}}) {
-    AttachDragBubble(*slider, [letters](int) { return QString(letters, 'a'); });
+    AttachDragBubble(*slider, [letters = letters](int) { return QString(letters, 'a'); });
     slider->DragTo(0);
     slider->DragTo(to);
   }

@@ -42,7 +42,6 @@ QRect CSliderCtrl::HandleRect() const {
 void CSliderCtrl::SetRange(int minimum, int maximum, int tickFrequency) {
   setRange(minimum, maximum);
   setTickInterval(std::max(1, tickFrequency));
-  setSingleStep(1);
   setPageStep(std::max(1, (maximum - minimum) / 10));
 }
 

@@ -35,6 +35,9 @@ TEST_F(AccessTest, AListHasItsDropDownAndThatHasTheEntries) {
     EXPECT_EQ(dropDown.indexOfChild(dropDown.child(position)), position);
   }
   EXPECT_EQ(dropDown.indexOfChild(&list), -1);
+  EXPECT_EQ(one.text(QAccessible::Name), QStringLiteral("One"));
+  EXPECT_TRUE(list.state().hasPopup && list.state().expandable);
+  EXPECT_TRUE(one.text(QAccessible::Value).isEmpty());
   for (const int outside : {-1, 3}) EXPECT_EQ(dropDown.child(outside), nullptr);
 
   EXPECT_TRUE(one.state().offscreen && one.rect().isNull());
@@ -63,12 +66,21 @@ TEST_F(AccessTest, EachControlCanBeFocusedAndASliderIsSetOnlyToOtherValues) {
   QCoreApplication::processEvents();
   EXPECT_EQ(dialog.scrolls, std::vector{5});
   EXPECT_EQ(slider.text(QAccessible::Value), QStringLiteral("5"));
+  QAccessibleInterface& check = AccessOf(*dialog.GetDlgItem(15));
+  for (const bool checked : {true, false}) {
+    Act(check, Actions::toggleAction());
+    EXPECT_EQ(check.state().checked, checked);
+  }
+  EXPECT_EQ(dialog.GetDlgItem(14)->accessibleName(), QStringLiteral("Close"));
 }
 
 TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
   Act(one, Actions::pressAction());
-  EXPECT_EQ(combo.currentIndex(), 1);
+  EXPECT_TRUE(combo.currentIndex() == 1 && one.state().selected);
   EXPECT_EQ(dialog.choices, 1);
+  int start = -1, end = -1;
+  list.textInterface()->attributes(0, &start, &end);
+  EXPECT_EQ(list.textInterface()->text(start + 1, end - 1), QStringLiteral("n"));
   QAccessibleInterface& two = *dropDown.child(2);
   Act(two, Actions::toggleAction());
   combo.setEnabled(false);
@@ -85,7 +97,7 @@ TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
   Act(two, Actions::pressAction());
   EXPECT_EQ(combo.currentIndex(), 1);
   EXPECT_EQ(dialog.choices, 1);
-  EXPECT_TRUE(two.state().invalid);
+  EXPECT_TRUE(two.state().invalid && !two.state().selectable && !two.state().selected);
   EXPECT_TRUE(two.text(QAccessible::Name).isEmpty() && two.rect().isNull());
 }
 

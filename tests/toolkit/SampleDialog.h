@@ -21,13 +21,21 @@ inline constexpr RowTemplate kRows[] = {
 };
 inline constexpr DialogTemplate kTemplate{
     .number = 900, .caption = "Sample", .rulerHeight = 20, .rows = kRows};
-inline constexpr RowTemplate kCaptions[] = {
-    Row(Left, Label(1, "Caption"), Colon(2), Check(3, "Left")),
-    Row(Left, Label(4, "Longest caption of all, but absent"), Colon(5), Check(6, "Absent")),
-    Row(Right, Label(7, "Longer caption"), Colon(8), Check(9, "Right")),
+inline constexpr const char* kLongEntries[] = {"An entry that is longer than lists become"};
+inline constexpr RowTemplate kKinds[] = {
+    SliderRow(Left, Label(1, "Level:"), 2, {3, 4, 5, 6}, Button(7, "Reset")),
+    Row(Left, Label(8, "Move"), Colon(9), Text(10, "V"), Arrow(11, "←"), Arrow(12, "→")),
+    Row(Left, Text(13, "H"), Minus(14), Field(15), Plus(16)),
+    Row(Left, Label(17, "State"), Colon(18), Text(19, "Good")),
+    Row(Right, Label(20, "Mode"), Colon(21), Combo(22, kLongEntries),
+        Button(23, "A button that is longer than most")),
+    Row(Right, Label(24, "Longer caption"), Colon(25), Check(26, "Once")),
+    Row(Right, Label(27, "Absent, and longer than all"), Colon(28), Combo(29, kEntries)),
+    Row(Bottom, Close(30, "End")),
 };
-inline constexpr DialogTemplate kCaptionsTemplate{.number = 902, .rows = kCaptions};
-inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kCaptionsTemplate};
+inline constexpr DialogTemplate kKindsTemplate{
+    .number = 902, .caption = "Kinds", .width = 800, .rows = kKinds};
+inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kKindsTemplate};
 inline constexpr ResourceModule kModule{kTemplates};
 
 struct SampleDialog : CDialog {

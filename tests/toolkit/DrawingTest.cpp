@@ -1,0 +1,220 @@
+// Compares with files what the controls that draw themselves look like, and where controls stand
+// and how they are named. After an intended change, rewrite the files with UPDATE_LISTING=1 and
+// review the differences. So that all machines draw the same, the colours are given, and each sign
+// is a block of the font in Blocks.ttf.
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+#include <QAccessible>
+#include <QDebug>
+#include <QFontDatabase>
+#include <QTabBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "tests/support/Soon.h"
+#include "tests/toolkit/SampleDialog.h"
+#include "toolkit/CSliderCtrl.h"
+#include "toolkit/CTabCtrl.h"
+#include "toolkit/CurveView.h"
+#include "toolkit/DragBubble.h"
+#include "toolkit/Flash.h"
+#include "toolkit/FocusRing.h"
+#include "toolkit/Icons.h"
+#include "toolkit/NumberField.h"
+#include "toolkit/StateLabel.h"
+#include "toolkit/TemplateRows.h"
+
+namespace {
+
+/// A letter for red, yellow, green, cyan, blue or magenta, in lower case if it is pale, or one of
+/// " .:*#" from white to black.
+char Sign(const QColor& color) {
+  const auto [low, high] = std::minmax({color.red(), color.green(), color.blue()});
+  if (high - low < 25) return " .:*#"[(255 - high + 32) / 64];
+  return (high - low < 140 ? "rygcbm" : "RYGCBM")[(color.hsvHue() + 30) / 60 % 6];
+}
+
+QPalette PaletteOf(const QColor& text, const QColor& behind) {
+  QPalette palette(text, behind, behind, Qt::darkGray, Qt::darkGray, text, text, behind, behind);
+  palette.setColor(QPalette::Highlight, Qt::blue);
+  palette.setColor(QPalette::ToolTipBase, Qt::green);
+  return palette;
+}
+
+QFont Blocks(int size) {
+  static const int blocks =
+      QFontDatabase::addApplicationFont(TEST_SOURCE_DIR "/toolkit/Blocks.ttf");
+  QFont font(QFontDatabase::applicationFontFamilies(blocks));
+  font.setPixelSize(size);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setStyleStrategy(QFont::NoSubpixelAntialias);
+  return font;
+}
+
+void ExpectRecord(const char* path, const std::string& now) {
+  std::ostringstream before;
+  before << std::ifstream(path).rdbuf();
+  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) return void(std::ofstream(path) << now);
+  EXPECT_EQ(before.str(), now);
+}
+
+template <class Control>
+Control& Placed(Control* control, int x, int y, int width, int height) {
+  control->setGeometry(x, y, width, height);
+  return *control;
+}
+
+constexpr int kSliders[][4] = {
+    {-10, 10, 4, 3}, {1, 28, 9, 1}, {0, 500, 300, 1}, {-8, 4, -4, 4}, {5, 5, 5, 1}};
+
+TEST_F(DialogTest, ControlsLookAsRecorded) {
+  QWidget stage;
+  stage.setFont(Blocks(10));
+  stage.setPalette(PaletteOf(Qt::black, Qt::white));
+  stage.resize(100, 560);
+  std::ostringstream now;
+  const auto record = [&](const char* name, int from, int to) {
+    QImage image(stage.size(), QImage::Format_RGB32);
+    stage.render(&image);
+    now << '\n' << name << '\n';
+    for (int y = from; y < to; ++y) {
+      std::string line;
+      for (int x = 0; x < image.width(); ++x) line += Sign(image.pixelColor(x, y));
+      now << line.erase(line.find_last_not_of(' ') + 1) << '\n';
+    }
+  };
+
+  Placed(new CurveView(&stage), 0, 0, 90, 60)
+      .Show({{.label = "ab", .hue = 0, .accepted = {{0, 0}, {1, .5}}, .values = {1, 2}},
+             {.label = "a", .hue = 120, .accepted = {{0, 0}, {1, .5}}, .values = {3, 4}},
+             {.hue = 240},
+             {.accepted = {{0, .5}, {.5, 1.2}, {1, 1}},
+              .tried = {{0, .5}, {.5, -.2}, {1, 1}},
+              .values = {5, 6, 7}}},
+            6);
+  auto& dark = Placed(new CurveView(&stage), 0, 62, 60, 40);
+  dark.setPalette(PaletteOf(Qt::white, Qt::black));
+  dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
+  const QString theme = QIcon::themeName();
+  QIcon::setThemeName("none");
+  for (const int i : {0, 1, 2, 3, 4}) {
+    auto& mark = Placed(new StateLabel("ab", &stage), 0, 104 + 15 * i, 0, 0);
+    if (i == 3) mark.setLayoutDirection(Qt::RightToLeft);
+    mark.SetMark(static_cast<StateLabel::Mark>(i));
+    mark.SetShare(i == 4 ? std::nullopt : std::optional(.4 * i));
+    mark.adjustSize();
+    auto& slider = Placed(new CSliderCtrl(&stage), 5, 270 + 27 * i, 80, 27);
+    slider.SetRange(kSliders[i][0], kSliders[i][1], kSliders[i][3]);
+    slider.setValue(kSliders[i][2]);
+    slider.setEnabled(i != 1);
+    slider.setSliderDown(i == 3);
+    slider.setLayoutDirection(i == 3 ? Qt::RightToLeft : Qt::LeftToRight);
+    auto& field = Placed(new NumberField(&stage), 0, 200 + 10 * i, 99, 10);
+    field.setFrame(false);
+    if (i < 4) field.setText("123");
+    field.setLayoutDirection(i < 2 ? Qt::LeftToRight : Qt::RightToLeft);
+    field.SetUnit(i % 2 ? "ms" : "%", i == 3 ? "1234567890" : "123");
+    if (i == 4) break;
+    auto& icon = Placed(new QLabel(&stage), 25 * i, 180, 24, 20);
+    icon.setPixmap(ThemedIcon(static_cast<IconName>(i)).pixmap(icon.size()));
+  }
+  QIcon::setThemeName(theme);
+  auto& tabs = Placed(new QTabBar(&stage), 0, 500, 200, 20);
+  for (const char* text : {"one", "two"}) tabs.addTab(text);
+  Placed(new QWidget(&stage), 10, 410, 30, 8).setFocusPolicy(Qt::TabFocus);
+  FocusRing ring(stage);
+  Activate(stage);
+  EXPECT_FALSE(ring.isVisible());
+  const auto sliders = stage.findChildren<CSliderCtrl*>();
+  for (const auto& [slider, to, letters] : {std::tuple{sliders[0], 5, 2}, {sliders[2], 500, 15}}) {
+    AttachDragBubble(*slider, [letters = letters](int) { return QString(letters, 'a'); });
+    slider->DragTo(0);
+    slider->DragTo(to);
+  }
+  while (!sliders[2]->hasFocus()) QTest::keyClick(&stage, Qt::Key_Tab);
+  record("Three curves, of which two coincide and one is tried. A curve on black.", 0, 102);
+  record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
+  record("Icons: reset, refresh, information, stop.", 180, 200);
+  record("Numbers: %, ms, % from right to left, ms from right to left, none.", 200, 250);
+  record("Sliders: with 0, disabled, focused, from right to left, without range. Two with bubbles.",
+         250, 400);
+
+  for (const int tab : {0, 1}) {
+    while (!tabs.hasFocus()) QTest::keyClick(&stage, Qt::Key_Tab);
+    tabs.setCurrentIndex(tab);
+    EXPECT_EQ(ring.geometry(), tabs.tabRect(tab).translated(0, 500).adjusted(3, 3, -3, -3));
+  }
+  QTest::keyClick(&stage, Qt::Key_Tab);
+  for (const int x : {10, 92}) Flash(stage, {x, 427, 30, 8});
+  record("The focus. A place that is shown, and one at the edge.", 406, 440);
+  for (const QPoint at : {QPoint(60, 255), {20, 408}, {20, 426}}) {
+    EXPECT_EQ(stage.childAt(at), nullptr) << "does not take the mouse from others";
+  }
+  stage.findChild<NumberField*>()->setFocus();
+  EXPECT_FALSE(ring.isVisible()) << "a field takes the focus of the mouse only";
+  delete sliders[0];
+  sliders[2]->setEnabled(false);
+  EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 9; })) << "no bubbles";
+  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Drawings.txt", now.str());
+}
+
+TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
+  QString now;
+  QDebug record = QDebug(&now).nospace();
+  QWidget window;
+  window.resize(800, 300);
+  window.show();
+  for (const auto& [name, flags, direction, size] :
+       {std::tuple{"A page", Qt::Widget, Qt::LeftToRight, 10},
+        {"A page from right to left", Qt::Widget, Qt::RightToLeft, 10},
+        {"A dialog", Qt::Dialog, Qt::LeftToRight, 10},
+        {"A large dialog", Qt::Dialog, Qt::LeftToRight, 120},
+        {"A large dialog from right to left", Qt::Dialog, Qt::RightToLeft, 120}}) {
+    CDialog shown(902, &window);
+    shown.setWindowFlags(flags);
+    shown.setLayoutDirection(direction);
+    shown.setFont(Blocks(size));
+    ASSERT_TRUE(shown.Create());
+    shown.ShowRow(27, false);
+    const TemplateRows* const pages[] = {&shown.Rows()};
+    if (!shown.isWindow()) TemplateRows::ShareCaptionWidths(pages);
+    if (!shown.isWindow()) shown.setGeometry(0, 0, 700, 200);
+    shown.isWindow() ? Activate(shown) : shown.show();
+    QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
+    record << '\n'
+           << name << ' ' << access.role() << ' ' << shown.windowTitle() << ' ' << shown.sizeHint()
+           << '\n';
+    for (int i = 0; i < access.childCount(); ++i) {
+      QAccessibleInterface& child = *access.child(i);
+      auto& control = static_cast<QWidget&>(*child.object());
+      const auto* label = qobject_cast<const QLabel*>(&control);
+      record << control.geometry() << ' ' << child.role() << ' ' << child.text(QAccessible::Name)
+             << ' ' << child.text(QAccessible::Description) << ' '
+             << child.text(QAccessible::Accelerator)
+             << (child.state().checkable ? " checkable" : "");
+      if (label && label->buddy()) record << " of " << label->buddy()->metaObject()->className();
+      record << '\n';
+      EXPECT_EQ(access.indexOfChild(&child), i);
+    }
+    for (const int id : {5, 7, 3, 23}) {
+      QWidget& control = *shown.GetDlgItem(id);
+      control.setFocus();
+      EXPECT_EQ(control.visibleRegion().boundingRect(), control.rect()) << "scrolled to";
+    }
+  }
+  CTabCtrl tabs(&window);
+  tabs.setFont(Blocks(10));
+  tabs.show();
+  for (const int length : {9, 30, 3, 15}) tabs.addTab(QString(length, QLatin1Char('a')));
+  for (const int width : {400, 200, 150, 60}) {
+    tabs.resize(width, 30);
+    record << "\nTabs in " << width << ':';
+    for (int i = 0; i < tabs.count(); ++i) record << ' ' << tabs.tabRect(i).width();
+  }
+  ExpectRecord(TEST_SOURCE_DIR "/toolkit/Places.txt", now.toStdString() + '\n');
+}
+
+}  // namespace

@@ -3,7 +3,7 @@
 
 BUILD is an optimised build that has the targets failing_calls and host_files: the sanitizers bring an allocator of their own, and in
 a debug build Qt asserts before it touches memory that it did not get. The calls are an allocation, or a system call
-that ends with an error, is cut short or is interrupted (tests/support/FailingCalls.cpp). All points of all commands are
+that ends with an error, is cut short or is interrupted (scripts/faults/FailingCalls.cpp). All points of all commands are
 tried in an order that the seed tells, until the time is over. A point such as "apply:error:117" tries this one alone.
 
 Held after each run: no crash but an end that says "out of memory"; success is told only of what was done, and in the

@@ -21,7 +21,7 @@ class Equivalents:
             if lines and len(lines) < 4:
                 raise SystemExit(f"equivalent.txt: no reason for: {lines}")
             if lines:
-                file, before, after = lines[:3]
+                file, before, after = (" ".join(line.split()) for line in lines[:3])
                 if before not in self.text(file):
                     raise SystemExit(f"equivalent.txt: {file} no longer has: {before}")
                 self.listed.add((file, before, after))

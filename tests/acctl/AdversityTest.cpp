@@ -29,7 +29,7 @@ class Environment {
 };
 
 /// Calls fail in the programs that are started meanwhile, as `name` and `value` tell
-/// tests/support/FailingCalls.cpp.
+/// scripts/faults/FailingCalls.cpp.
 struct FailingCalls {
   FailingCalls(const char* name, const QByteArray& value) : which(name, value) {}
 

@@ -2,8 +2,6 @@
 // file. After an intended change, rewrite it with UPDATE_LISTING=1 and review the differences.
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <map>
 #include <set>
 #include <sstream>
@@ -15,6 +13,7 @@
 
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Replies.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -125,12 +124,10 @@ TEST(SettingsListing, IsWhatTheProjectorsDo) {
     add("Codes without a meaning:" + others.str(), pageSet);
   }
   std::ranges::sort(found);
-  std::ostringstream now, before;
+  std::ostringstream now;
   now << "# What each command does to a setting, and in brackets the page sets that have it so.\n";
   for (const auto& [does, sets] : found) now << does << " (" << sets.substr(1) << ")\n";
-  before << std::ifstream(kListing).rdbuf();
-  if (std::getenv("UPDATE_LISTING")) return void(std::ofstream(kListing) << now.str());
-  EXPECT_EQ(before.str(), now.str());
+  ExpectRecord(kListing, now.str());
 }
 
 }  // namespace

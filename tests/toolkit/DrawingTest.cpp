@@ -4,7 +4,6 @@
 // is a block of the font in Blocks.ttf.
 
 #include <algorithm>
-#include <fstream>
 #include <sstream>
 
 #include <QAccessible>
@@ -14,6 +13,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 #include "tests/toolkit/SampleDialog.h"
 #include "toolkit/CSliderCtrl.h"
@@ -52,13 +52,6 @@ QFont Blocks(int size) {
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setStyleStrategy(QFont::NoSubpixelAntialias);
   return font;
-}
-
-void ExpectRecord(const char* path, const std::string& now) {
-  std::ostringstream before;
-  before << std::ifstream(path).rdbuf();
-  if (qEnvironmentVariableIsSet("UPDATE_LISTING")) return void(std::ofstream(path) << now);
-  EXPECT_EQ(before.str(), now);
 }
 
 template <class Control>

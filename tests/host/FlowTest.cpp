@@ -31,7 +31,7 @@ TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
   };
   for (const auto& [name, leave] : ways) {
     for (const std::string moment : {"opening", "refresh", "change"}) {
-      SCOPED_TRACE(name + " while " + moment);
+      SCOPED_TRACE(testing::Message() << name << " while " << moment);
       if (moment != "opening") {
         Open(kPictureTab);
       }

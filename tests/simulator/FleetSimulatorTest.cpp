@@ -190,7 +190,7 @@ TEST_F(FleetSimulator, AnswersASearchWhereItHasMoved) {
   while (Ask(AddressOf(one), "%1CLSS ?") != "%1CLSS=2") ASSERT_LT(++one, kCount);
   const std::string itself = answer(AddressOf(one));
   EXPECT_THAT(itself, MatchesRegex("%2ACKN=02:00:00:00:00:..\r"));
-  const QByteArray number = QByteArray::number(qulonglong(one + 1));
+  const QByteArray number = QByteArray::number(qulonglong{one} + 1);
   EXPECT_EQ(Control(number + " address 127.64.9.9"), "ok");
   EXPECT_EQ(Ask(AddressOf(one), "%1CLSS ?"), "-");
   EXPECT_EQ(answer(QHostAddress("127.64.9.9")), itself);

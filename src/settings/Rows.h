@@ -82,7 +82,7 @@ struct ListRow {
   int caption = 0;
   int control = 0;
   Entries entries{};
-  std::optional<Call> read{};
+  std::optional<Call> read{};  ///< If missing, the list is disabled.
   std::optional<Call> send{};  ///< If missing, the list is shown but a choice is not sent.
   ListRules rules{};
   Presence on{};

@@ -30,7 +30,7 @@ struct SettingsOfTwo : testing::Test {
   SettingsActions& actions = *window.findChild<SettingsActions*>();
 };
 
-TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriesAgain) {
+TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   MakeSilent(window, 1, true);
   actions.SaveTo(folder.path());
   WorkDialog* dialog = &Done(window);

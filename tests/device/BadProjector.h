@@ -37,7 +37,7 @@ class BadProjector {
   std::map<std::string, int> distorts{};  ///< Number of replies that are garbled.
   std::map<std::string, int> refuses{};   ///< Number of replies that are ERR3.
 
-  /// Closes after each reply, and refuses connections for this time then.
+  /// Closes after each reply, and then refuses connections for this time.
   void CloseEachTime(Milliseconds pause) { closesAfterReply = Milliseconds(0), gap = pause; }
 
   std::vector<std::string> requests{};  ///< Requests received, without class and "?".

@@ -163,7 +163,8 @@ TEST_F(FleetTest, HandsOutManyChangesInParts) {
   }));
   EXPECT_EQ(parts, (std::vector<std::size_t>{1000, 1000, 500}));
   EXPECT_EQ(wakes, 3);
-  fleet.Learn("a", {PjtOperation::Get, CommandCode::RunningState}, {.result = 1}, PowerState::Standby);
+  fleet.Learn("a", {PjtOperation::Get, CommandCode::RunningState}, {.result = 1},
+              PowerState::Standby);
   EXPECT_TRUE(Becomes([&] { return wakes == 4; }));
 }
 

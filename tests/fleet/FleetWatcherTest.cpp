@@ -206,16 +206,10 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   EXPECT_EQ(fleet.State("a").answered, fleet.Wall());
 
   std::string fields;
-  const LiveState all{.reachability = Reachability::Answers,
-                      .power = PowerState::On,
-                      .source = PlayingSource{3, ""},
-                      .problems = PartProblems(),
-                      .blank = true,
-                      .mute = true,
-                      .freeze = true,
-                      .lamps = {{}},
-                      .filterHours = 1,
-                      .drift = 1};
+  LiveState all;
+  all.reachability = Reachability::Answers, all.power = PowerState::On;
+  all.source = PlayingSource(), all.problems = PartProblems(), all.lamps = {{}};
+  all.blank = all.mute = all.freeze = true, all.filterHours = all.drift = 1;
   for (const auto& one : ChangesBetween({}, all, {})) {
     fields += std::to_string(static_cast<int>(one.field)) + std::to_string(one.index) + ' ';
   }

@@ -45,7 +45,9 @@ TEST_F(BridgeProgram, CarriesOutWhatIsAllowedAndAnswers) {
   EXPECT_EQ(outcomeOf("/set/setup.auto-keystone", {"-m", "run"}), "accepted") << last;
   EXPECT_NE(Changes(), changes);
   EXPECT_EQ(outcomeOf("/set/power", {"-m", "off"}), "accepted");
-  const auto power = [&] { return subscriber.Json("projectors/" + id + "/state")["power"]; };
+  const auto power = [&]() -> QJsonValue {
+    return subscriber.Json("projectors/" + id + "/state")["power"];
+  };
   EXPECT_TRUE(Soon([&] { return power() == "standby"; })) << "what a command tells is published";
 
   // Both kill switches.

@@ -56,6 +56,9 @@ def parse_arguments():
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--budget", type=float, default=60, metavar="SECONDS",
                         help="of tests for one mutant, the quickest first (default: 60)")
+    parser.add_argument("--quick", action="store_true",
+                        help="a first pass over many: two seconds of tests for each, and no look whether one that lives is "
+                             "equivalent; --again then tries those that lived in full")
     parser.add_argument("--suites", nargs="+", metavar="SUITE", help="use only these test programs")
     parser.add_argument("--build", default="build/dev", help="the build to take objects from (default: build/dev)")
     parser.add_argument("--seconds", type=float, metavar="SECONDS",
@@ -165,13 +168,14 @@ class Run:
         self.results, self.jobs = results, arguments.jobs
         self.builder = Builder(ROOT, ROOT / arguments.build, self.work, units, links, sources)
         self.isTimed = arguments.seconds is not None
+        self.isQuick = arguments.quick or self.isTimed
         limit = arguments.seconds or math.inf
         now = time.monotonic()
         self.end = now + limit
         with ThreadPoolExecutor(self.jobs) as pool:
             suites = self.builder.build_all(pool, arguments.suites, now + limit / 3)
             self.reach = Reach(suites, self.work, self.builder, pool, now + 2 * limit / 3)
-        self.trial = Trial(self.reach, self.work, arguments.budget)
+        self.trial = Trial(self.reach, self.work, 2 if arguments.quick else arguments.budget)
         self.plain = {}  # file: its optimised object without a mutant
         self.lock = threading.Lock()
 
@@ -209,7 +213,7 @@ class Run:
             outcome, detail = self.alone(mutant, folder)
         else:
             outcome, detail = self.trial.test(mutant, tests, self.work / "bin", {"MUTANT": str(number)})
-        if outcome == "alive" and not self.isTimed:
+        if outcome == "alive" and not self.isQuick:
             with self.lock:
                 if mutant.file not in self.plain:
                     self.plain[mutant.file] = self.optimised(replace(mutant, after=None), folder)

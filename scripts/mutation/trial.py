@@ -151,7 +151,7 @@ class Trial:
             seconds = sum(self.reach.seconds[test] for test in batch)
             program = programs / suite.name if (programs / suite.name).exists() else suite
             told, result = run(program, ["--gtest_fail_fast", "--gtest_filter=" + ":".join(test for _, test in batch)],
-                               self.folder, f"{programs}:{suite.parent}", variables, 20 + 6 * seconds, math.ceil(3 + 4 * seconds))
+                               self.folder, f"{programs}:{suite.parent}", variables, 10 + 6 * seconds, math.ceil(3 + 4 * seconds))
             if told is not None and result == 0:
                 continue
             failed = [line.split("]", 1)[1].split("(")[0].split(",")[0].strip()

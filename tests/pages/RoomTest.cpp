@@ -140,9 +140,8 @@ TEST_P(ScreenSizeTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
 
 /// The languages of the catalog's modules, or with TEST_LANGUAGES all of them.
 std::vector<std::string> Locales() {
-  std::vector<std::string> locales{"en_US.UTF-8", "zh_CN.UTF-8"};
-  if (!qEnvironmentVariableIsSet("TEST_LANGUAGES")) return locales;
-  locales.clear();
+  if (!qEnvironmentVariableIsSet("TEST_LANGUAGES")) return {"en_US.UTF-8", "zh_CN.UTF-8"};
+  std::vector<std::string> locales;
   for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders())) {
     locales.push_back(LocaleOf(language.id));
   }

@@ -192,10 +192,6 @@ TEST(Contrast, IsThatOfTheirLuminances) {
 }
 
 TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
-  const std::pair<QPalette::ColorRole, QPalette::ColorRole> roles[] = {
-      {QPalette::WindowText, QPalette::Window},
-      {QPalette::ButtonText, QPalette::Button},
-      {QPalette::Text, QPalette::Base}};
   const QPalette before = QApplication::palette();
   for (const QColor& color : {QColor(239, 239, 239), QColor(Qt::white), QColor(53, 53, 53)}) {
     dialog.setVisible(color != Qt::white);  // a hidden one looks right when it is shown
@@ -203,14 +199,15 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
     QCoreApplication::processEvents();
     dialog.show();
     ASSERT_EQ(dialog.palette().color(QPalette::Window), color);
-    for (const auto& [text, background] : roles) {
+    for (const auto& [text, background] : {std::pair(QPalette::WindowText, QPalette::Window),
+                                           {QPalette::ButtonText, QPalette::Button},
+                                           {QPalette::Text, QPalette::Base}}) {
       const QPalette palette = dialog.GetDlgItem(10)->palette();
       const QColor disabled = palette.color(QPalette::Disabled, text);
       EXPECT_GE(ContrastOf(disabled, palette.color(QPalette::Disabled, background)), 3);
       EXPECT_NE(disabled, palette.color(QPalette::Active, text)) << "still looks disabled";
     }
-    const QColor ring = FocusPen(dialog).color();
-    EXPECT_GE(ContrastOf(ring, dialog.palette().color(QPalette::Window)), 3);
+    EXPECT_GE(ContrastOf(FocusPen(dialog).color(), color), 3);
   }
   QApplication::setPalette(before);
 }

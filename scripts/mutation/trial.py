@@ -108,7 +108,8 @@ class Reach:
 
 
 class Trial:
-    """Runs tests on mutants; those that killed others of the same file or folder first, then the quickest."""
+    """Runs tests on mutants; those that killed others of the same file or folder first, then those of the suite that is
+    named after the folder, and of each kind the quickest."""
 
     def __init__(self, reach, work, budget):
         self.reach, self.budget = reach, budget
@@ -125,7 +126,13 @@ class Trial:
         with self.lock:
             kills = dict(count for place in self.places(mutant) for count in self.kills[place].most_common(6))
         best = sorted((test for test in kills if test in tests), key=lambda test: self.reach.seconds[test] / kills[test])
-        order = best + sorted((test for test in tests if test not in best), key=lambda test: self.reach.seconds[test])
+        folder = Path(mutant.file).parts[1]
+
+        def rank(test):
+            suite, _ = test
+            return not folder.startswith(suite.name.split("_")[0]), self.reach.seconds[test]
+
+        order = best + sorted((test for test in tests if test not in best), key=rank)
         batches, spent, quick = [], 0.0, {}
         for count, test in enumerate(order):
             seconds = self.reach.seconds[test]

@@ -26,10 +26,12 @@ namespace {
 TEST(Tabs, EachShowsItsPageAlone) {
   for (const auto& [dialogType, count] : {std::pair{0, 1}, {6, 1}, {-1, 1}, {1, 9}, {5, 9}}) {
     OpenDialog open(MakeModel(dialogType, dialogType == 5 ? 30 : 1));
-    const auto& tabs = *open.Dialog().findChild<QTabBar*>();
+    auto& tabs = *open.Dialog().findChild<QTabBar*>();
     ASSERT_EQ(tabs.count(), count) << "type " << dialogType;
     for (int tab = 0; tab < count; ++tab) {
       open.SelectTab(tab);
+      tabs.clearFocus();
+      EXPECT_FALSE(Wheel(tabs, 1) || Wheel(tabs, -1) || tabs.currentIndex() != tab);
       const auto pages = open.Dialog().findChildren<CTabPage*>();
       EXPECT_EQ(std::ranges::count_if(pages, &QWidget::isVisible), 1);
       EXPECT_TRUE(open.Page().isVisible());

@@ -64,11 +64,12 @@ void DialogDriver::Press(int id, Qt::Key key) const {
   QTest::keyClick(&control, key);
 }
 
-void Wheel(QWidget& control, int notches, Qt::KeyboardModifiers keys) {
+bool Wheel(QWidget& control, int notches, Qt::KeyboardModifiers keys) {
   const QPointF at = control.rect().center();
   QWheelEvent event(at, control.mapToGlobal(at), {}, {0, 120 * notches}, Qt::NoButton, keys,
                     Qt::NoScrollPhase, false);
   QApplication::sendEvent(&control, &event);
+  return event.isAccepted();
 }
 
 void Activate(QWidget& window) {

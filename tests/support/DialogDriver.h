@@ -16,7 +16,8 @@
 #include "tests/support/RecordingChannel.h"
 #include "toolkit/CComboBox.h"
 
-void Wheel(QWidget& control, int notches, Qt::KeyboardModifiers keys = {});
+/// Whether the wheel was used; otherwise it scrolls what is around the control.
+bool Wheel(QWidget& control, int notches, Qt::KeyboardModifiers keys = {});
 /// Shows a window in front of all others.
 void Activate(QWidget& window);
 
@@ -39,8 +40,8 @@ class DialogDriver {
   /// Drags the slider's handle until it shows this position, and releases it.
   void Drag(int id, int position) const;
   void Press(int id, Qt::Key key) const;
-  void Wheel(int id, int notches, Qt::KeyboardModifiers keys = {}) const {
-    ::Wheel(Item<QWidget>(id), notches, keys);
+  bool Wheel(int id, int notches, Qt::KeyboardModifiers keys = {}) const {
+    return ::Wheel(Item<QWidget>(id), notches, keys);
   }
 
   bool IsEnabled(int id) const;

@@ -1,0 +1,87 @@
+// Compares with a file how the widgets of the dialog differ from those that Qt makes: where the
+// focus may go, what repeats, what has a tool tip. After an intended change, rewrite the file with
+// UPDATE_LISTING=1 and review the differences.
+
+#include <map>
+#include <memory>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QToolButton>
+
+#include "pages/common/NumberQuestion.h"
+#include "tests/pages/EachPage.h"
+#include "tests/support/Record.h"
+#include "toolkit/MessageBox.h"
+
+namespace {
+
+/// A widget of the same kind as Qt makes it.
+template <class... Kind>
+std::unique_ptr<QWidget> PlainLike(const QWidget& widget) {
+  std::unique_ptr<QWidget> plain;
+  ((plain == nullptr && qobject_cast<const Kind*>(&widget) != nullptr ? plain.reset(new Kind)
+                                                                      : void()),
+   ...);
+  return plain;
+}
+
+/// Whether the property does not depend on the machine, the moment and the kind of setting.
+bool IsOfInterest(const QMetaProperty& property) {
+  static const QString others =
+      " x y width height minimumWidth minimumHeight maximumWidth maximumHeight font focus visible "
+      "isActiveWindow enabled checked value minimum maximum sliderPosition cursorPosition "
+      "currentIndex currentText text displayText windowTitle count ";
+  const bool isReadable =
+      QMetaType::canConvert(property.metaType(), QMetaType::fromType<QString>());
+  return (property.isEnumType() || isReadable) &&
+         !others.contains(QStringLiteral(" %1 ").arg(property.name()));
+}
+
+TEST(Properties, AreAsRecorded) {
+  std::map<QString, int> found;
+  const auto look = [&](QWidget& window) {
+    const auto widgets = window.findChildren<QWidget*>() << &window;
+    for (const QWidget* widget : widgets) {
+      if (!widget->isVisible()) continue;
+      const auto plain =
+          PlainLike<QComboBox, QPushButton, QToolButton, QCheckBox, QSlider, QLineEdit, QLabel,
+                    QTabBar, QScrollArea, QFrame, QDialog, QWidget>(*widget);
+      QString line = widget->metaObject()->className();
+      for (int i = 0; i < plain->metaObject()->propertyCount(); ++i) {
+        const QMetaProperty property = plain->metaObject()->property(i);
+        const QVariant value = property.read(widget);
+        if (value == property.read(plain.get()) || !IsOfInterest(property)) continue;
+        const bool isText = value.typeId() == QMetaType::QString;
+        line += QStringLiteral(", %1 %2").arg(property.name(), isText ? "given" : value.toString());
+      }
+      ++found[line];
+    }
+  };
+  ForEachPage([&](OpenDialog& open, CTabPage&) { look(open.Dialog()); }, {FullModel(5, 30)});
+  ForEachPopup(look);
+  QWidget window;
+  window.setLayoutDirection(Qt::RightToLeft);
+  for (const bool asks : {false, true}) {
+    QTimer::singleShot(0, &window, [&look] {
+      look(*QApplication::activeModalWidget());
+      QApplication::activeModalWidget()->close();
+    });
+    asks ? void(AskYesNo(window, {}, {})) : ShowStopMessage(window, {}, {});
+  }
+  auto* const question = new NumberQuestion("a", {.minimum = 0, .maximum = 9}, 3, &window);
+  question->SetUnit("s");
+  question->show();
+  look(*question);
+  QString now;
+  for (const auto& [line, count] : found) {
+    now += QStringLiteral("%1 × %2\n").arg(count).arg(line);
+  }
+  ExpectRecord(TEST_SOURCE_DIR "/pages/listing/Properties.txt", now.toStdString());
+}
+
+}  // namespace

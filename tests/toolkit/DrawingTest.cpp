@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QDebug>
 #include <QFontDatabase>
+#include <QLayout>
 #include <QTabBar>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -157,6 +158,15 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   ExpectRecord(TEST_SOURCE_DIR "/toolkit/Drawings.txt", now.str());
 }
 
+struct KindsDialog : CDialog {
+  using CDialog::CDialog;
+  bool OnInitDialog() override {
+    ShowRow(27, false);
+    PlaceBesideClose(*new QLabel("beside", this));
+    return true;
+  }
+};
+
 TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
   QString now;
   QDebug record = QDebug(&now).nospace();
@@ -169,12 +179,11 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
         {"A dialog", Qt::Dialog, Qt::LeftToRight, 10},
         {"A large dialog", Qt::Dialog, Qt::LeftToRight, 120},
         {"A large dialog from right to left", Qt::Dialog, Qt::RightToLeft, 120}}) {
-    CDialog shown(902, &window);
+    KindsDialog shown(902, &window);
     shown.setWindowFlags(flags);
     shown.setLayoutDirection(direction);
     shown.setFont(Blocks(size));
     ASSERT_TRUE(shown.Create());
-    shown.ShowRow(27, false);
     const TemplateRows* const pages[] = {&shown.Rows()};
     if (!shown.isWindow()) TemplateRows::ShareCaptionWidths(pages);
     if (!shown.isWindow()) shown.setGeometry(0, 0, 700, 200);
@@ -200,6 +209,8 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       control.setFocus();
       EXPECT_EQ(control.visibleRegion().boundingRect(), control.rect()) << "scrolled to";
     }
+    for (const int id : {1, 8, 13}) shown.ShowRow(id, false);
+    record << "Without numbers: " << shown.layout()->totalSizeHint() << '\n';
   }
   ExpectRecord(TEST_SOURCE_DIR "/toolkit/Places.txt", now.toStdString());
 }

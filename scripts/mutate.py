@@ -54,11 +54,11 @@ def parse_arguments():
     parser.add_argument("--again", action="store_true", help="try those anew that lived")
     parser.add_argument("--list", action="store_true", help="list the mutants, and test nothing")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
-    parser.add_argument("--budget", type=float, default=60, metavar="SECONDS",
-                        help="of tests for one mutant, the quickest first (default: 60)")
+    parser.add_argument("--budget", type=float, metavar="SECONDS",
+                        help="of tests for one mutant, the quickest first (default: 60, or 2 with --quick)")
     parser.add_argument("--quick", action="store_true",
-                        help="a first pass over many: two seconds of tests for each, and no look whether one that lives is "
-                             "equivalent; --again then tries those that lived in full")
+                        help="a first pass over many, without a look whether a mutant that lives is equivalent; "
+                             "--again then tries those that lived in full")
     parser.add_argument("--suites", nargs="+", metavar="SUITE", help="use only these test programs")
     parser.add_argument("--build", default="build/dev", help="the build to take objects from (default: build/dev)")
     parser.add_argument("--seconds", type=float, metavar="SECONDS",
@@ -175,7 +175,7 @@ class Run:
         with ThreadPoolExecutor(self.jobs) as pool:
             suites = self.builder.build_all(pool, arguments.suites, now + limit / 3)
             self.reach = Reach(suites, self.work, self.builder, pool, now + 2 * limit / 3)
-        self.trial = Trial(self.reach, self.work, 2 if arguments.quick else arguments.budget)
+        self.trial = Trial(self.reach, self.work, arguments.budget or (2 if arguments.quick else 60))
         self.plain = {}  # file: its optimised object without a mutant
         self.lock = threading.Lock()
 

@@ -169,12 +169,24 @@ TEST_F(FlowTest, InputDuringAWaitIsDropped) {
 
 TEST_F(FlowTest, TheWindowIsShownBeforeTheFirstReadAndShowsProgress) {
   projector_->Pace(200ms);
+  const auto darkest = [this](int caption) {
+    const QRect place = Page().Item<QWidget>(caption).geometry();
+    const QImage seen = dialog_.ShownPage()->grab(place).toImage();
+    int grey = 255;
+    for (int i = 0; i < place.width() * place.height(); ++i) {
+      grey = std::min(grey, qGray(seen.pixel(i % place.width(), i / place.width())));
+    }
+    return grey;
+  };
   QStringList seen;
   QTimer look;
   look.callOnTimeout([&] {
     EXPECT_TRUE(dialog_.isVisible());
     if (!seen.contains(Status())) seen << Status();
     EXPECT_TRUE(Status().isEmpty() || Veil() != nullptr);
+    if (Status() != CatalogString(5, 4300, std::int64_t{4}, std::int64_t{8})) return;
+    EXPECT_LT(darkest(20000), 80) << "is read";
+    EXPECT_GT(darkest(20007), 120) << "is still to be read";
   });
   look.start(20);
   Open();

@@ -41,9 +41,12 @@ class PacedDialog : public testing::Test {
   }
   QTabBar& Tabs() { return *dialog_.findChild<QTabBar*>(); }
   DialogDriver Page() { return DialogDriver(*dialog_.ShownPage()); }
+  /// What dims the page, and covers all of it.
   QWidget* Veil() {
     auto* last = qobject_cast<QWidget*>(dialog_.ShownPage()->children().last());
-    return last != nullptr && last->cursor().shape() == Qt::WaitCursor ? last : nullptr;
+    if (last == nullptr || last->cursor().shape() != Qt::WaitCursor) return nullptr;
+    EXPECT_TRUE(last->isVisible() && last->geometry() == dialog_.ShownPage()->rect());
+    return last;
   }
   QString Status() { return dialog_.findChild<StatusLine*>()->findChild<QLabel*>()->text(); }
   QPushButton& Retry() { return *dialog_.findChild<StatusLine*>()->findChild<QPushButton*>(); }

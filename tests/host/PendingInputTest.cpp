@@ -178,10 +178,14 @@ TEST_F(PendingInputTest, TheReleaseOfAButtonHeldSinceBeforeIsNoFurtherPress) {
   Open(kPictureTab);
   projector_->Take();
   auto& plus = Page().Item<QPushButton>(kPlus);
-  InTheWait([&] {
-    QTest::mouseRelease(&plus, Qt::LeftButton);
-    projector_->Pace(0ms);
-  });
+  InTheWait(
+      [&] {
+        EXPECT_FALSE(Veil()->mask().contains(plus.geometry().center())) << "its row can be used";
+        EXPECT_TRUE(Veil()->mask().contains(Page().Item<QWidget>(kIris).geometry().center()));
+        QTest::mouseRelease(&plus, Qt::LeftButton);
+        projector_->Pace(0ms);
+      },
+      true);
   QTest::mousePress(&plus, Qt::LeftButton);
   EXPECT_TRUE(Soon([&] { return !look_.isActive() && !dialog_.IsBusy(); }));
   EXPECT_FALSE(plus.isDown());

@@ -36,6 +36,9 @@ TEST(Tabs, EachShowsItsPageAlone) {
       EXPECT_EQ(std::ranges::count_if(pages, &QWidget::isVisible), 1);
       EXPECT_TRUE(open.Page().isVisible());
     }
+    tabs.setFocus();
+    EXPECT_EQ(Wheel(tabs, 1), count > 1);
+    EXPECT_EQ(tabs.currentIndex(), std::max(count - 2, 0));
   }
 }
 

@@ -33,7 +33,7 @@ struct Finding : testing::Test {
   }
   void Find(const char* text, const std::vector<Qt::Key>& keys) {
     QTest::keyClick(&open.Dialog(), Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(&line, QString::fromUtf8(text), {}, 1);
+    QTest::keyClicks(open.Dialog().focusWidget(), QString::fromUtf8(text), {}, 1);
     QWidget* completions = line.completer()->popup();
     for (const Qt::Key key : keys) {
       QTest::keyClick(completions->isVisible() ? completions : &line, key);
@@ -97,8 +97,10 @@ TEST_F(Finding, StaysOpenWithoutAMatchAndEscClosesOnlyTheLine) {
   EXPECT_EQ(line.completer()->maxVisibleItems(), 12);
   QTest::keyClick(completions, Qt::Key_Escape);
   QTest::keyClick(&line, Qt::Key_Escape);
-  Find("bright", {Qt::Key_Escape});
-  EXPECT_FALSE(line.isVisible());
+  for (const auto& [text, key] : {std::pair("bright", Qt::Key_Escape), {"", Qt::Key_Tab}}) {
+    Find(text, {key});
+    EXPECT_FALSE(line.isVisible());
+  }
   EXPECT_TRUE(open.Dialog().isVisible());
 }
 

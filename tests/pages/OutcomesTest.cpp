@@ -99,6 +99,8 @@ constexpr Case kCases[] = {
      "Not accepted: Power Up Input Computer2. The projector has Computer1.", 21057, 1},
     {"no input", 1, 1, 4, [](const DialogDriver& page) { page.Choose(21057, 3); }, nullptr,
      "MIU cannot be chosen here."},
+    {"step without a source", 5, 30, 5, [](const DialogDriver& page) { page.Click(20346); },
+     "GetInputSource", "Not accepted: Volume +. The projector has 0.", 20347},
     {"only shown on Video", 4, 9, 3, [](const DialogDriver& page) { page.Choose(20221, 1); },
      nullptr, "This setting is only shown here. A choice is not sent."},
 };
@@ -170,6 +172,10 @@ TEST(Outcomes, OfEveryRefusedActAreToldAndMarked) {
 
 TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
   OpenDialog open(FullModel(5, 30));
+  const auto gamma = MakePopUp(PopUp::Gamma, open.Dialog());
+  Open(*gamma);
+  DialogDriver(*gamma).Click(20336);
+  EXPECT_EQ(Said(*gamma), "User Gamma Point 1 reset");
   const auto service = MakePopUp(PopUp::Service, open.Dialog());
   Open(*service);
   open.Projector().Refuse("SetIRFront");

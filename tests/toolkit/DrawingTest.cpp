@@ -141,7 +141,11 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
 
   tabTo(tabs);
   tabs.setCurrentIndex(1);
-  EXPECT_EQ(ring.geometry(), tabs.tabRect(1).translated(0, 500).adjusted(3, 3, -3, -3));
+  for (const int y : {500, 495}) {
+    tabs.move(0, y);
+    EXPECT_EQ(ring.geometry(), tabs.tabRect(1).translated(0, y).adjusted(3, 3, -3, -3));
+    EXPECT_TRUE(ring.isVisible());
+  }
   QTest::keyClick(&stage, Qt::Key_Tab);
   for (const int x : {10, 92}) Flash(stage, {x, 427, 30, 8});
   record("The focus. A place that is shown, and one at the edge.", 406, 440);

@@ -4,8 +4,6 @@
 #include <csignal>
 #include <tuple>
 
-#include <QJsonArray>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

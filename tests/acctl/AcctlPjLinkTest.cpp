@@ -10,7 +10,6 @@
 #include <vector>
 
 #include <QJsonArray>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

@@ -302,12 +302,11 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   }
   Write(file, table);
   window.findChild<TransferActions*>()->ImportFile(file);
-  auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  ASSERT_NE(said, nullptr);
-  EXPECT_EQ(said->text(), "10 projectors added · 0 already known · 10 rows not taken");
-  EXPECT_EQ(said->informativeText().count("Line "), 10);
-  EXPECT_TRUE(said->informativeText().startsWith("Line 3: "));
-  said->close();
+  auto& said = Modal<QMessageBox>();
+  EXPECT_EQ(said.text(), "10 projectors added · 0 already known · 10 rows not taken");
+  EXPECT_EQ(said.informativeText().count("Line "), 10);
+  EXPECT_TRUE(said.informativeText().startsWith("Line 3: "));
+  said.close();
   EXPECT_EQ(Rows(window).size(), before + 10);
   Find<QAction>(window, "Undo Import Table").trigger();
   EXPECT_EQ(Rows(window).size(), before);

@@ -16,7 +16,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
@@ -28,6 +27,7 @@
 #include "i18n/Catalog.h"
 #include "pages/common/CTabPage.h"
 #include "tests/app/Windows.h"
+#include "tests/support/DialogDriver.h"
 #include "toolkit/Accessibility.h"
 #include "toolkit/FittedScroll.h"
 #include "toolkit/StateLabel.h"
@@ -70,24 +70,19 @@ TEST(MainWindow, QuestionsAndWorkHoldUpNoDialog) {
     dialog->DispTabScreen();
   };
   inTheWait([&] { Find<QAction>(window, "Keyboard Shortcuts").trigger(); });
-  ASSERT_NE(QApplication::activeModalWidget(), nullptr) << "open, and the page is read";
-  EXPECT_EQ(QApplication::activeModalWidget()->windowTitle(), "Keyboard Shortcuts");
-  QApplication::activeModalWidget()->close();
+  EXPECT_EQ(Modal<QDialog>().windowTitle(), "Keyboard Shortcuts") << "and the page is read";
+  Modal<QDialog>().close();
 
   inTheWait([&] {
     Find<QAction>(window, "Save Settings").trigger();
-    auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(ask, nullptr);
-    ask->selectFile(file);
-    QMetaObject::invokeMethod(ask, "accept");
+    Modal<QFileDialog>().selectFile(file);
+    QMetaObject::invokeMethod(&Modal<QFileDialog>(), "accept");
   });
   ASSERT_TRUE(Soon([&] { return QFile::exists(file); }));
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "nothing went wrong";
   EXPECT_EQ(ReadSettingsFile(file).error, "");
   Find<QAction>(window, "Compare with File").trigger();
-  auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-  ASSERT_NE(ask, nullptr);
-  EXPECT_EQ(ask->directory().path(), folder.path()) << "where the last file was";
+  EXPECT_EQ(Modal<QFileDialog>().directory().path(), folder.path()) << "where the last file was";
 }
 
 TEST(MainWindow, TellsADialogTheRatedHoursAndTheWantedPreset) {
@@ -171,9 +166,7 @@ TEST(FaultPanel, SetsAndRemovesFaultsOfTheSelectedProjector) {
   Choose(panel, "Fault", "Delay");
   auto& delay = *panel.findChild<QSpinBox*>();
   delay.clearFocus();
-  QWheelEvent wheel(QPointF(5, 5), delay.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                    Qt::NoModifier, Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&delay, &wheel);
+  Wheel(delay, -1);
   EXPECT_EQ(delay.value(), 500);
 
   panel.SetSession(&first);
@@ -193,10 +186,9 @@ TEST(MainWindow, PreferencesTakeEffectAtOnce) {
   ASSERT_FALSE(isDark());
   const auto open = [&window] {
     Find<QAction>(window, "Preferences").trigger();
-    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    return &Modal<QDialog>();
   };
   QDialog* dialog = open();
-  ASSERT_NE(dialog, nullptr);
   Choose(*dialog, "Colors", "Dark");
   EXPECT_TRUE(Soon(isDark)) << "as soon as it is chosen";
   dialog->reject();

@@ -189,10 +189,9 @@ TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
     QApplication::processEvents();
   };
   for (const char* wrong : {"../day", "other"}) {
+    SCOPED_TRACE(wrong);
     rename(wrong);
-    auto* said = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    ASSERT_NE(said, nullptr) << wrong;
-    said->close();
+    Modal<QMessageBox>().close();
     EXPECT_EQ(list.currentItem()->text(), "day");
   }
   rename("night");
@@ -203,10 +202,8 @@ TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
   manager.activateWindow();
   ASSERT_TRUE(Soon([&] { return list.hasFocus(); }));
   QTest::keyClick(&list, Qt::Key_Delete);
-  auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  ASSERT_NE(question, nullptr);
-  EXPECT_TRUE(question->informativeText().contains("Projector 5-30"));
-  Find<QPushButton>(*question, "Remove").click();
+  EXPECT_TRUE(Modal<QMessageBox>().informativeText().contains("Projector 5-30"));
+  Find<QPushButton>(Modal<QMessageBox>(), "Remove").click();
   EXPECT_EQ(PresetFolder::Names(), QStringList{"other"});
   EXPECT_EQ(Row(a).profile.snapshot, "");
   Find<QAction>(*window, "Undo Remove Preset").trigger();

@@ -236,10 +236,8 @@ TEST(ProjectorList, AFileThatCannotBeWrittenIsSaidBeforeAnybodyTypes) {
   }
   AnswerQuestionOf(Find<QAction>(window, "Edit"), [&](QDialog& question) {
     Find<QPushButton>(question, "Save Profiles As").click();
-    auto* ask = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(ask, nullptr);
-    ask->selectFile(folder.filePath("p.json"));
-    QMetaObject::invokeMethod(ask, "accept");
+    Modal<QFileDialog>().selectFile(folder.filePath("p.json"));
+    QMetaObject::invokeMethod(&Modal<QFileDialog>(), "accept");
   });
   auto* editor = window.findChild<ProfileEditor*>();
   ASSERT_NE(editor, nullptr) << "the edit goes on";

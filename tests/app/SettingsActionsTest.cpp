@@ -49,9 +49,7 @@ TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   window.findChild<ProjectorView*>()->Select(0);
   actions.SaveTo("/proc/x.json");
   ASSERT_TRUE(Soon([] { return QApplication::activeModalWidget() != nullptr; }));
-  auto* error = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  ASSERT_NE(error, nullptr);
-  EXPECT_TRUE(error->text().startsWith("cannot write /proc/x.json: "));
+  EXPECT_TRUE(Modal<QMessageBox>().text().startsWith("cannot write /proc/x.json: "));
 }
 
 TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {

@@ -88,10 +88,7 @@ class Walk {
     auto* tabs = dialog.findChild<QTabBar*>();
     const int tab = Pick(tabs->count());
     if (choice == 7) {
-      if (Pick(2) == 0)
-        dialog.close();
-      else
-        QTest::keyClick(&dialog, Qt::Key_Escape);
+      Pick(2) == 0 ? void(dialog.close()) : QTest::keyClick(&dialog, Qt::Key_Escape);
     } else if (choice == 8) {
       tabs->setCurrentIndex(tab);
     } else if (choice < 11) {

@@ -53,6 +53,14 @@ Part& Find(const QObject& window, const QString& name) {
   std::abort();
 }
 
+/// The modal dialog that is open.
+template <typename Dialog>
+Dialog& Modal() {
+  if (auto* open = qobject_cast<Dialog*>(QApplication::activeModalWidget())) return *open;
+  ADD_FAILURE() << "there is no " << Dialog::staticMetaObject.className();
+  std::abort();
+}
+
 inline QTableView& Table(const QWidget& window) {
   return *window.findChild<ProjectorView*>()->findChild<QTableView*>();
 }
@@ -108,8 +116,7 @@ struct ShippedWindow : OwnFolder, MainWindow {
 /// Triggers an action that opens a modal dialog, and answers the dialog.
 inline void AnswerQuestionOf(QAction& action, const std::function<void(QDialog&)>& answer) {
   action.trigger();
-  const QPointer dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  ASSERT_NE(dialog, nullptr);
+  const QPointer dialog = &Modal<QDialog>();
   answer(*dialog);
   if (dialog != nullptr && dialog->isVisible()) dialog->reject();
   QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);

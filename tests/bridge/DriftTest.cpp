@@ -38,10 +38,10 @@ TEST(DriftCheck, TellsHowManySettingsDiffer) {
   Write(folder.filePath("good.json"), WriteSnapshot(snapshot));
   DriftCheck check(fleet, Texts(), folder.path());
   check.Start([] { return true; }, std::chrono::milliseconds(1));
-  EXPECT_TRUE(Becomes([&] { return fleet.State(0).drift == 2; }));
+  EXPECT_TRUE(Soon([&] { return fleet.State(0).drift == 2; }));
 
   fleet.SetAsking(true);
-  EXPECT_TRUE(Becomes([&] { return fleet.States()[0].state.power && changes > 0; }));
+  EXPECT_TRUE(Soon([&] { return fleet.States()[0].state.power && changes > 0; }));
   fleet.Observe();
   fleet.Observe();
   EXPECT_EQ(fleet.Answers().Count(), 1U) << "each answer counts once";

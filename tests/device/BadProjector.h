@@ -148,48 +148,39 @@ class SteppedSession {
   }
 
   void Do(const PjLinkStep& step) {
+    using enum PjLinkStep::Kind;
     auto& connection = session.Connection();
-    switch (step.kind) {
-      case PjLinkStep::Kind::Connect:
-        EXPECT_EQ(session.State(), ConnectionState::Connecting);
-        if (projector.Connect(now)) {
-          connection.Connected();
-          coming_ = projector.greeting;
-          comesAt_ = now;
-        } else {
-          connection.NotConnected(ConnectionState::NotReachable, now);
-        }
-        break;
-      case PjLinkStep::Kind::Send: {
-        if (closesAt_) break;  // it reads nothing more
-        const auto answer = projector.Receive(step.bytes, now);
-        coming_ = answer.value_or("");
-        comesAt_ = now + projector.answers;
-        if (projector.closesAfterReply > BadProjector::Milliseconds(0)) {
-          closesAt_ = comesAt_ + *projector.closesAfterReply;
-        }
-        if (!answer && !projector.IsOpen()) connection.Closed(now);
-        break;
+    if (step.kind == Connect) {
+      EXPECT_EQ(session.State(), ConnectionState::Connecting);
+      if (!projector.Connect(now)) {
+        return connection.NotConnected(ConnectionState::NotReachable, now);
       }
-      case PjLinkStep::Kind::Wait:
-        if (coming_.empty() && closesAt_ && closesAt_ <= step.until) {
-          now = *std::exchange(closesAt_, std::nullopt);
-          projector.Close(now);
-          connection.Closed(now);
-          break;
-        }
-        if (coming_.empty() || comesAt_ > step.until) {
-          now = step.until;
-          break;
-        }
-        now = std::max(now, comesAt_);
-        connection.Received(std::exchange(coming_, {}), now);
-        if (!projector.IsOpen()) connection.Closed(now);
-        break;
-      default:
-        projector.Close(now);
-        coming_.clear();
-        closesAt_.reset();
+      connection.Connected();
+      coming_ = projector.greeting;
+      comesAt_ = now;
+    } else if (step.kind == Send) {
+      if (closesAt_) return;  // it reads nothing more
+      const auto answer = projector.Receive(step.bytes, now);
+      coming_ = answer.value_or("");
+      comesAt_ = now + projector.answers;
+      if (projector.closesAfterReply > BadProjector::Milliseconds(0)) {
+        closesAt_ = comesAt_ + *projector.closesAfterReply;
+      }
+      if (!answer && !projector.IsOpen()) connection.Closed(now);
+    } else if (step.kind != Wait) {
+      projector.Close(now);
+      coming_.clear();
+      closesAt_.reset();
+    } else if (coming_.empty() && closesAt_ && closesAt_ <= step.until) {
+      now = *std::exchange(closesAt_, std::nullopt);
+      projector.Close(now);
+      connection.Closed(now);
+    } else if (coming_.empty() || comesAt_ > step.until) {
+      now = step.until;
+    } else {
+      now = std::max(now, comesAt_);
+      connection.Received(std::exchange(coming_, {}), now);
+      if (!projector.IsOpen()) connection.Closed(now);
     }
   }
 

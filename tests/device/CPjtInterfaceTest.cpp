@@ -182,8 +182,7 @@ TEST(FormatCommandTest, ShowsCommandAndReply) {
 }
 
 /// Records which member was called, and returns unusual values.
-class Scribe final : public ProjectorChannel {
- public:
+struct Scribe final : ProjectorChannel {
   PjtReply Execute(const PjtCommand&) override { return Note("execute"), PjtReply{.value = 7}; }
   void Announce(std::span<const PjtCommand> reads) override {
     Note("announce " + std::to_string(reads.size()));
@@ -196,10 +195,9 @@ class Scribe final : public ProjectorChannel {
   std::optional<SourceList> Inputs() override { return Note("inputs"), SourceList(); }
   bool UseIdleTime() override { return Note("idle"), true; }
 
-  std::string called;
-
- private:
   void Note(const std::string& what) { called += what + "; "; }
+
+  std::string called;
 };
 
 TEST(ForwardingChannelTest, ForwardsEveryMember) {

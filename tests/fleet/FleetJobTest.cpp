@@ -32,7 +32,7 @@ struct FleetJobTest : ServingTest {
 
   std::vector<WorkResult> Do(FleetWork work, Fleet* fleet = nullptr) {
     FleetJob job(fleet, targets, std::move(work), Texts());
-    EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
+    EXPECT_TRUE(Soon([&] { return job.HowFar().finished == targets.size(); }));
     undo = job.Undo();
     return job.Results();
   }
@@ -129,7 +129,7 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
   auto problem = SerialLine::Problem::None;
   int file = -1;
   ASSERT_TRUE(
-      Becomes([&] { return (file = SerialLine::Open(line.device, line.baud, problem)) >= 0; }));
+      Soon([&] { return (file = SerialLine::Open(line.device, line.baud, problem)) >= 0; }));
   EXPECT_EQ(Do(TakeSnapshots())[1].outcome, NoAnswer) << "another program has the port";
   SerialLine::Close(file);
 }
@@ -143,14 +143,14 @@ TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThreadUntilItIsCancelled) {
   targets.insert(targets.end(), 2, {"in its line", silent.front().Address()});
   const auto before = Threads();
   FleetJob job(nullptr, targets, SwitchPower{true}, Texts(), {.timeOut = 60s});
-  EXPECT_TRUE(Becomes([&] {
+  EXPECT_TRUE(Soon([&] {
     return std::accumulate(silent.begin(), silent.end(), std::size_t{0},
                            [](std::size_t sum, auto& one) { return sum + one.Accept(); }) == 64;
   }));
   EXPECT_EQ(Threads(), before + 1);
   job.Cancel();
   silent.clear();
-  EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
+  EXPECT_TRUE(Soon([&] { return job.HowFar().finished == targets.size(); }));
   job.Wait();
   const auto outcomes = Outcomes(job.Results());
   EXPECT_EQ(outcomes.front(), Done);
@@ -164,12 +164,12 @@ TEST_F(FleetJobTest, WorksOnOneAtATimeAtAnAddress) {
   for (const char* const id : {"one", "same", "again"}) targets.push_back({id, silent.Address()});
   FleetJob job(nullptr, targets, SwitchPower{true}, Texts(), {.timeOut = 60s});
   for (std::size_t i = 0; i < targets.size(); ++i) {
-    EXPECT_TRUE(Becomes([&] { return silent.Accept() > i; }));
+    EXPECT_TRUE(Soon([&] { return silent.Accept() > i; }));
     EXPECT_EQ(silent.connections.size(), i + 1);
     EXPECT_EQ(job.HowFar().finished, i);
     silent.connections.back()->close();
   }
-  EXPECT_TRUE(Becomes([&] { return job.HowFar().finished == targets.size(); }));
+  EXPECT_TRUE(Soon([&] { return job.HowFar().finished == targets.size(); }));
 }
 
 // Somebody else's turn must not shorten the wait for a connection.

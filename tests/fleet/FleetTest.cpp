@@ -43,7 +43,7 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   fleet.Set({"closed", TcpAddress{.host = "127.0.0.1", .port = 1}});
   fleet.Set({"closed by name", TcpAddress{.host = "localhost", .port = 1}});
   fleet.Set({"nowhere", TcpAddress{.host = "255.255.255.255", .port = 1}});
-  ASSERT_TRUE(Becomes([&] { return fleet.Tally().begun > 50; }));
+  ASSERT_TRUE(Soon([&] { return fleet.Tally().begun > 50; }));
   for (const char* const id : {"pjlink", "wire"}) {
     EXPECT_EQ(Reached(id), Reachability::Answers) << id;
     EXPECT_EQ(fleet.State(id)->power, PowerState::On) << id;
@@ -51,7 +51,7 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   EXPECT_EQ(Reached("locked"), Reachability::WrongPassword);
   EXPECT_EQ(Reached("other"), Reachability::NotUnderstood);
   for (const char* const id : {"closed", "closed by name", "nowhere", "unnamed"}) {
-    EXPECT_TRUE(Becomes([&] { return Reached(id) == Reachability::Silent; })) << id;
+    EXPECT_TRUE(Soon([&] { return Reached(id) == Reachability::Silent; })) << id;
   }
   EXPECT_EQ(fleet.State("unnamed")->connection, ConnectionState::NameUnknown);
 
@@ -60,10 +60,10 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   {
     const Fleet::Pause pause(fleet, "pjlink");
     served.device->Execute({PjtOperation::Set, CommandCode::BlankState, 1});
-    EXPECT_TRUE(Becomes([&] { return fleet.State("wire")->blank == true; }));
+    EXPECT_TRUE(Soon([&] { return fleet.State("wire")->blank == true; }));
     EXPECT_NE(fleet.State("pjlink")->blank, true);
   }
-  EXPECT_TRUE(Becomes([&] { return fleet.State("pjlink")->blank == true; }));
+  EXPECT_TRUE(Soon([&] { return fleet.State("pjlink")->blank == true; }));
   EXPECT_EQ(fleet.TakeChanges().changes.size(), 2);
   EXPECT_EQ(wakes, before + 1) << "once for all that came since";
 }
@@ -75,23 +75,23 @@ TEST_F(FleetTest, WatchesASerialPortAndLeavesItToOthers) {
   fleet.Set({"line", address});
   fleet.Set({"none", SerialAddress{.device = "/dev/no-such-port"}});
   fleet.Set({"file", SerialAddress{.device = "/dev/null"}});
-  ASSERT_TRUE(Becomes([&] { return Reached("line") == Reachability::Answers; }));
-  EXPECT_TRUE(Becomes([&] { return Reached("none") == Reachability::Silent; }));
-  EXPECT_TRUE(Becomes([&] { return Reached("file") == Reachability::Silent; }));
+  ASSERT_TRUE(Soon([&] { return Reached("line") == Reachability::Answers; }));
+  EXPECT_TRUE(Soon([&] { return Reached("none") == Reachability::Silent; }));
+  EXPECT_TRUE(Soon([&] { return Reached("file") == Reachability::Silent; }));
   fleet.Remove("none");
   fleet.Remove("file");
 
   auto problem = SerialLine::Problem::None;
   int file = -1;
-  ASSERT_TRUE(Becomes([&] {
+  ASSERT_TRUE(Soon([&] {
     file = SerialLine::Open(address.device, address.baud, problem);
     return file >= 0;
   })) << "it is free between two visits";
   const FleetTally before = fleet.Tally();
-  EXPECT_TRUE(Becomes([&] { return fleet.Tally().abandoned > before.abandoned + 1; }));
+  EXPECT_TRUE(Soon([&] { return fleet.Tally().abandoned > before.abandoned + 1; }));
   EXPECT_EQ(Reached("line"), Reachability::Answers);
   SerialLine::Close(file);
-  EXPECT_TRUE(Becomes([&] { return fleet.Tally().answered > before.answered + 1; }));
+  EXPECT_TRUE(Soon([&] { return fleet.Tally().answered > before.answered + 1; }));
   EXPECT_EQ(fleet.Tally().unanswered, before.unanswered);
 }
 
@@ -108,7 +108,7 @@ TEST_F(FleetTest, LooksNamesUpOnTwoThreadsForAll) {
   EXPECT_LE(Threads(), before + 2);
   resolvers.pop_front();
   std::map<std::uint32_t, int> found;
-  EXPECT_TRUE(Becomes([&] {
+  EXPECT_TRUE(Soon([&] {
     for (NameResolver& resolver : resolvers) {
       for (const auto& one : resolver.Take()) {
         ++found[one.asker];
@@ -130,7 +130,7 @@ TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {
   }
   EXPECT_EQ(fleet.ListenForNotices("127.0.0.1", port), 0) << "it is taken";
   EXPECT_EQ(fleet.ListenForNotices("nowhere", port), 0);
-  ASSERT_TRUE(Becomes([&] { return slow.Tally().answered == 1; }));
+  ASSERT_TRUE(Soon([&] { return slow.Tally().answered == 1; }));
   QUdpSocket projector;
   projector.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
   const auto send = [&](const QByteArray& text) {
@@ -139,13 +139,13 @@ TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {
   send("");
   send("no notice");
   send("%2erst=002000\r\n");
-  EXPECT_TRUE(Becomes([&] {
+  EXPECT_TRUE(Soon([&] {
     const auto problems = slow.State("a")->problems;
     return problems && problems->at(2) == ProblemGrade::Error;
   }));
   EXPECT_EQ(slow.Tally().begun, 1);
   send("%2lkup=00:00:00:00:00:00");
-  EXPECT_TRUE(Becomes([&] { return slow.Tally().answered == 2; }));
+  EXPECT_TRUE(Soon([&] { return slow.Tally().answered == 2; }));
   EXPECT_EQ(slow.State("a")->problems, PartProblems()) << "as it says itself";
 }
 
@@ -156,7 +156,7 @@ TEST_F(FleetTest, HandsOutManyChangesInParts) {
   for (int i = 1; i <= kChanges; ++i) fleet.LearnDrift("a", i);
   std::vector<std::size_t> parts;
   int taken = 0, told = 0;
-  EXPECT_TRUE(Becomes([&] {
+  EXPECT_TRUE(Soon([&] {
     if (std::exchange(told, wakes.load()) == wakes) return false;
     parts.push_back(fleet.TakeChanges().changes.size());
     return (taken += static_cast<int>(parts.back())) == kChanges;
@@ -165,7 +165,7 @@ TEST_F(FleetTest, HandsOutManyChangesInParts) {
   EXPECT_EQ(wakes, 3);
   fleet.Learn("a", {PjtOperation::Get, CommandCode::RunningState}, {.result = 1},
               PowerState::Standby);
-  EXPECT_TRUE(Becomes([&] { return wakes == 4; }));
+  EXPECT_TRUE(Soon([&] { return wakes == 4; }));
 }
 
 // Many visits are in the middle of something whenever it ends.
@@ -177,7 +177,7 @@ TEST_F(FleetTest, EndsAtAnyMoment) {
                projector % 2 == 0 ? ProjectorAddress(served.PjLink("secret"))
                                   : TcpAddress{.host = "localhost", .port = served.wirePort}});
     }
-    EXPECT_TRUE(Becomes([&] { return one.Tally().begun > 40 || i % 2 != 0; }));
+    EXPECT_TRUE(Soon([&] { return one.Tally().begun > 40 || i % 2 != 0; }));
   }
 }
 

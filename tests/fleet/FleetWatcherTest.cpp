@@ -113,7 +113,7 @@ TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
   for (const auto& [name, values, told] : cases) {
     SCOPED_TRACE(name);
     SteppedFleet fleet;
-    Projector& it = fleet.AddWire("a", model);
+    Projector& it = fleet.AddWire("a", "a", model);
     for (const auto& [code, value] : values) it.wire->values[code] = value;
     fleet.RunFor(20s);
     EXPECT_EQ(Words(fleet.State("a")), told);

@@ -32,7 +32,7 @@ struct HoldTest : ServingTest {
 TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
   SilentServer silent;
   fleet.Set({"a", silent.Address()});
-  ASSERT_TRUE(Becomes([&] { return silent.Open() == 1; })) << "a visit";
+  ASSERT_TRUE(Soon([&] { return silent.Open() == 1; })) << "a visit";
   bool hasSearched = false;
   SearchDriver search(
       {.addresses = {QHostAddress(QHostAddress::LocalHost)},
@@ -40,25 +40,25 @@ TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
        .limits = {.connect = 60s}},
       [](const FoundProjector&) {}, [&] { hasSearched = true; });
   search.Start();
-  ASSERT_TRUE(Becomes([&] { return fleet.Tally().abandoned == 1 && silent.Accept() == 2; }));
+  ASSERT_TRUE(Soon([&] { return fleet.Tally().abandoned == 1 && silent.Accept() == 2; }));
   const auto last = Job(silent.Address());
   const auto next = Job(silent.Address(), AddressHold::Turn::Next);
   const auto cancelled = Job(silent.Address());
   cancelled->Cancel();
-  EXPECT_TRUE(Becomes([&] { return IsOver(*cancelled); }));
+  EXPECT_TRUE(Soon([&] { return IsOver(*cancelled); }));
   EXPECT_EQ(cancelled->Results().front().outcome, WorkOutcome::Stopped);
   const auto address = PlaceOf({.id = {}, .address = silent.Address()});
-  ASSERT_TRUE(Becomes([&] { return AddressHold::LengthOfLine(address) == 3; }));
+  ASSERT_TRUE(Soon([&] { return AddressHold::LengthOfLine(address) == 3; }));
 
   const std::function<bool()> ends[] = {[&] { return hasSearched; }, [&] { return IsOver(*next); },
                                         [&] { return IsOver(*last); }};
   for (std::size_t i = 0; i < std::size(ends); ++i) {
-    EXPECT_TRUE(Becomes([&] { return silent.Accept() == i + 2 && silent.Open() == 1; })) << i;
+    EXPECT_TRUE(Soon([&] { return silent.Accept() == i + 2 && silent.Open() == 1; })) << i;
     EXPECT_FALSE(ends[i]());
     EXPECT_EQ(fleet.Tally().begun, 1) << "no visit meanwhile";
     silent.connections.back()->write("what is this?\r\n");
     silent.connections.back()->disconnectFromHost();
-    EXPECT_TRUE(Becomes(ends[i])) << i;
+    EXPECT_TRUE(Soon(ends[i])) << i;
   }
 }
 
@@ -88,7 +88,7 @@ TEST(AddressHoldTest, ServesTheLineInItsOrder) {
 TEST_F(HoldTest, ADialogsCommandComesAfterTheJobThatWorks) {
   SilentServer silent;
   const auto job = Job(silent.Address());
-  ASSERT_TRUE(Becomes([&] { return silent.Open() == 1; }));
+  ASSERT_TRUE(Soon([&] { return silent.Open() == 1; }));
   const auto later = Job(silent.Address());
   const TcpAddress at = silent.Address();
   BoundedChannel dialog(
@@ -101,13 +101,13 @@ TEST_F(HoldTest, ADialogsCommandComesAfterTheJobThatWorks) {
   EXPECT_EQ(silent.Accept(), 1U);
 
   silent.connections.front()->close();
-  ASSERT_TRUE(Becomes([&] { return IsOver(*job); }));
+  ASSERT_TRUE(Soon([&] { return IsOver(*job); }));
   EXPECT_FALSE(dialog.Execute({PjtOperation::GetMirror}).unsent) << "before the other job";
-  EXPECT_TRUE(Becomes([&] { return silent.Accept() == 3; })) << "it has not answered";
+  EXPECT_TRUE(Soon([&] { return silent.Accept() == 3; })) << "it has not answered";
   EXPECT_EQ(dialog.Connection(), ConnectionState::NoAnswer);
   EXPECT_EQ(silent.Open(), 1);
   silent.connections.back()->close();
-  EXPECT_TRUE(Becomes([&] { return IsOver(*later); }));
+  EXPECT_TRUE(Soon([&] { return IsOver(*later); }));
 }
 
 }  // namespace

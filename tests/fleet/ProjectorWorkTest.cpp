@@ -17,11 +17,20 @@ using Op = PjtOperation;
 
 enum class Upset : char { Nothing, Refuses, Lacks, Busy, Pending, Ignores, Silent, Cancels };
 
+/// What upsets a projector, and how.
+struct Cause {
+  Upset upset = Upset::Nothing;
+  Op at = Op::SetPowerOn;  ///< Instead of this one, it is every read.
+  std::uint16_t code = 0;
+  int passes = 0;  ///< Of the command before the first that upsets.
+};
+
 /// A simulated projector that is upset by a command, and does not carry it out.
-struct UpsetProjector final : ForwardingChannel {
-  UpsetProjector()
+struct UpsetProjector final : ForwardingChannel, Cause {
+  explicit UpsetProjector(const Cause& cause = {})
       : ForwardingChannel(
-            std::make_shared<SimulatedProjector>(SimulatedModel{.pageSet = 1, .ranges = {}})) {
+            std::make_shared<SimulatedProjector>(SimulatedModel{.pageSet = 1, .ranges = {}})),
+        Cause(cause) {
     Inner().Execute({Op::SetPowerOn});
   }
   PjtReply Execute(const PjtCommand& command) override {
@@ -40,20 +49,13 @@ struct UpsetProjector final : ForwardingChannel {
             .busy = upset == Upset::Busy};
   }
 
-  Upset upset = Upset::Nothing;
-  Op at = Op::SetPowerOn;  ///< Instead of this one, it is every read.
-  std::uint16_t code = 0;
-  int passes = 0;  ///< Of the command before the first that upsets.
   bool goesOn = true;
 };
 
 struct WorkCase {
   FleetWork work;
   const char* expected;  ///< The outcome's name and the reason.
-  Upset upset = Upset::Nothing;
-  Op at = Op::SetPowerOn;
-  std::uint16_t code = 0;
-  int passes = 0;
+  Cause cause{};
 };
 
 ApplySnapshots Saved(const char* key, int value) {
@@ -86,37 +88,37 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
       {SetSetting{"status.lamp-time", "1"}, "Refused: it cannot be set"},
       {SetSetting{mirror.key, "9999"}, "Refused: '9999' leads to no value that the setting allows"},
       {adjust, "Done: "},
-      {adjust, "Refused: refused", Refuses, Op::ExecAutoAdjust},
-      {adjust, "NoAnswer: no connection", Silent, Op::ExecAutoAdjust},
+      {adjust, "Refused: refused", {Refuses, Op::ExecAutoAdjust}},
+      {adjust, "NoAnswer: no connection", {Silent, Op::ExecAutoAdjust}},
       {SetSetting{"picture.my-memory", "9"}, "Refused: '9' is no entry of its list"},
       {SetSetting{"picture.my-memory", "x"}, "Refused: 'x' is no entry of its list"},
       {SetSetting{"picture.my-memory", "=2"}, "Done: "},
       {off, "Done: "},
       {on, "Done: "},
       {SetSetting{off.key, "x"}, "Refused: 'x' is not one of: Standby, On"},
-      {off, "Refused: refused", Refuses, Op::SetPowerOff},
-      {SwitchPower{false}, "Refused: refused", Refuses, Op::SetPowerOff},
-      {off, "Refused: the projector does not have it", Lacks, Op::SetPowerOff},
-      {off, "Refused: the projector is busy or in standby", Busy, Op::SetPowerOff},
-      {off, "Pending: ", Pending, Op::SetPowerOff},
-      {off, "NoAnswer: no connection", Silent, Op::SetPowerOff},
-      {off, "NoAnswer: no connection", Silent, Op::Get, kPower},
-      {off, "Pending: ", Refuses, Op::Get, kPower},
+      {off, "Refused: refused", {Refuses, Op::SetPowerOff}},
+      {SwitchPower{false}, "Refused: refused", {Refuses, Op::SetPowerOff}},
+      {off, "Refused: the projector does not have it", {Lacks, Op::SetPowerOff}},
+      {off, "Refused: the projector is busy or in standby", {Busy, Op::SetPowerOff}},
+      {off, "Pending: ", {Pending, Op::SetPowerOff}},
+      {off, "NoAnswer: no connection", {Silent, Op::SetPowerOff}},
+      {off, "NoAnswer: no connection", {Silent, Op::Get, kPower}},
+      {off, "Pending: ", {Refuses, Op::Get, kPower}},
       {SwitchPower{false}, "Done: "},
-      {SwitchPower{false}, "Pending: ", Ignores, Op::SetPowerOff},
-      {SwitchPower{false}, "Pending: ", Refuses, Op::Get, kPower},
-      {SwitchPower{false}, "NoAnswer: no connection", Silent, Op::Get, kPower},
+      {SwitchPower{false}, "Pending: ", {Ignores, Op::SetPowerOff}},
+      {SwitchPower{false}, "Pending: ", {Refuses, Op::Get, kPower}},
+      {SwitchPower{false}, "NoAnswer: no connection", {Silent, Op::Get, kPower}},
       {brighter, "Done: "},
-      {brighter, "NoAnswer: no connection", Silent, Op::Get, CommandCode::Brightness},
+      {brighter, "NoAnswer: no connection", {Silent, Op::Get, CommandCode::Brightness}},
       {mirror, "Done: "},
-      {mirror, "Refused: main.mirror: the projector does not have it", Lacks, Op::GetMirror},
-      {mirror, "Refused: main.mirror: the projector is busy or in standby", Busy, Op::SetMirror},
-      {mirror, "Pending: ", Pending, Op::SetMirror},
-      {mirror, "NoAnswer: not confirmed, it may have changed", Refuses, Op::GetMirror, 0, 1},
-      {mirror, "Stopped: ", Cancels, Op::GetMirror},
-      {TakeSnapshots{}, "Refused: the projector reports none of its settings now", Refuses},
-      {TakeSnapshots{}, "Stopped: ", Cancels, Op::GetMirror},
-      {CompareSnapshots{saved.snapshots}, "Stopped: ", Cancels, Op::GetMirror},
+      {mirror, "Refused: main.mirror: the projector does not have it", {Lacks, Op::GetMirror}},
+      {mirror, "Refused: main.mirror: the projector is busy or in standby", {Busy, Op::SetMirror}},
+      {mirror, "Pending: ", {Pending, Op::SetMirror}},
+      {mirror, "NoAnswer: not confirmed, it may have changed", {Refuses, Op::GetMirror, 0, 1}},
+      {mirror, "Stopped: ", {Cancels, Op::GetMirror}},
+      {TakeSnapshots{}, "Refused: the projector reports none of its settings now", {Refuses}},
+      {TakeSnapshots{}, "Stopped: ", {Cancels, Op::GetMirror}},
+      {CompareSnapshots{saved.snapshots}, "Stopped: ", {Cancels, Op::GetMirror}},
       {ApplySnapshots{}, "Refused: there is no snapshot for it"},
       {saved, "Done: "},
       {Saved("no.such", 1), "Refused: no.such: the model does not have it"},
@@ -125,12 +127,7 @@ TEST_F(ProjectorWorkTest, TellsWhatBecameOfIt) {
   constexpr const char* kOutcomes[] = {"Waiting", "Working",  "Done",   "Pending",
                                        "Refused", "NoAnswer", "Stopped"};
   for (const WorkCase& one : cases) {
-    const auto projector = std::make_shared<UpsetProjector>();
-    projector->upset = one.upset;
-    projector->at = one.at;
-    projector->code = one.code;
-    projector->passes = one.passes;
-    const WorkResult result = Do(one.work, projector);
+    const WorkResult result = Do(one.work, std::make_shared<UpsetProjector>(one.cause));
     EXPECT_EQ(kOutcomes[static_cast<std::size_t>(result.outcome)] + (": " + result.reason),
               one.expected)
         << &one - cases;
@@ -149,8 +146,8 @@ TEST_F(ProjectorWorkTest, TellsWhyASettingIsNotAsSaved) {
                                                    {Saved("main.mirror", 9), Kind::DoesNotApply},
                                                    {Saved("main.brightness", 100), Kind::NotRead}};
   for (const auto& [saved, kind] : kinds) {
-    const auto projector = std::make_shared<UpsetProjector>();
-    projector->upset = kind == Kind::NotRead ? Upset::Refuses : Upset::Lacks;
+    const Cause cause{kind == Kind::NotRead ? Upset::Refuses : Upset::Lacks};
+    const auto projector = std::make_shared<UpsetProjector>(cause);
     const auto found = Do(CompareSnapshots{saved.snapshots}, projector).differences;
     ASSERT_EQ(found->size(), 1U);
     EXPECT_EQ(found->front().kind, kind) << found->front().saved.key;

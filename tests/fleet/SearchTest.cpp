@@ -58,29 +58,14 @@ TEST(SearchRange, IsReadAsPeopleWriteIt) {
     }
     EXPECT_THAT(told, HasSubstr(expected)) << text;
   }
-  for (const QString wrong : {"::1-2001:db8::1",
-                              "2001:db8::2-1",
-                              "::1-192.0.2.1",
-                              "2001:db8::/129",
-                              "2001:db8::1::",
-                              "0.0.0.0/0",
-                              "192.0.2.12-10",
-                              "192.0.2.256",
-                              "192.0.2",
-                              "192.0.2.1/33",
-                              "projector.example",
-                              "192.0.2.0001",
-                              "192.0.2.1/",
-                              "192.0.2.1/2:",
-                              "192.0.2.1a",
-                              "x/24",
-                              "x-7",
-                              "192.0.2.9-192.0.2.7",
-                              "192.0.2.9-x",
-                              "2001:db8::1-00001",
-                              "2001:db8::1-2001:db9::1"}) {
-    EXPECT_EQ(ParseSearchRange(wrong).error,
-              '"' + wrong + "\" is neither an IP address nor a range of them");
+  const QString wrong =
+      "::1-2001:db8::1 2001:db8::2-1 ::1-192.0.2.1 2001:db8::/129 2001:db8::1:: "
+      "0.0.0.0/0 192.0.2.12-10 192.0.2.256 192.0.2 192.0.2.1/33 projector.example "
+      "192.0.2.0001 192.0.2.1/ 192.0.2.1/2: 192.0.2.1a x/24 x-7 192.0.2.9-192.0.2.7 "
+      "192.0.2.9-x 2001:db8::1-00001 2001:db8::1-2001:db9::1";
+  for (const QString& one : wrong.split(' ')) {
+    EXPECT_EQ(ParseSearchRange(one).error,
+              '"' + one + "\" is neither an IP address nor a range of them");
   }
 }
 
@@ -128,31 +113,22 @@ FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
   std::optional<PjLinkProjectorSession> end;
   SearchInquiry inquiry({.address = "192.0.2.1", .port = 4352}, given, {});
   const PjLinkTime now{};
+  using enum PjLinkStep::Kind;
   for (int steps = 0; steps < 200; ++steps) {
     const PjLinkStep step = inquiry.Next(now);
-    switch (step.kind) {
-      case PjLinkStep::Kind::Finished:
-        EXPECT_TRUE(inquiry.HasFound());
-        return inquiry.Found();
-      case PjLinkStep::Kind::Connect:
-        end.emplace(responder, wanted);
-        inquiry.Connection().Connected();
-        inquiry.Connection().Received(end->Greeting(), now);
-        break;
-      case PjLinkStep::Kind::Send:
-        if (--answers < 0) {
-          inquiry.Connection().Closed(now);
-          break;
-        }
-        end->Add(step.bytes);
-        while (const auto exchange = end->Next())
-          inquiry.Connection().Received(exchange->reply, now);
-        break;
-      case PjLinkStep::Kind::Close:
-        break;
-      case PjLinkStep::Kind::Wait:
-        ADD_FAILURE() << "waits";
-        return inquiry.Found();
+    auto& connection = inquiry.Connection();
+    if (step.kind == Connect) {
+      end.emplace(responder, wanted);
+      connection.Connected();
+      connection.Received(end->Greeting(), now);
+    } else if (step.kind == Send && --answers < 0) {
+      connection.Closed(now);
+    } else if (step.kind == Send) {
+      end->Add(step.bytes);
+      while (const auto exchange = end->Next()) connection.Received(exchange->reply, now);
+    } else if (step.kind != Close) {
+      EXPECT_TRUE(step.kind == Finished && inquiry.HasFound()) << "waits";
+      return inquiry.Found();
     }
   }
   ADD_FAILURE() << "goes on for ever";

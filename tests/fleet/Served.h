@@ -1,12 +1,9 @@
 #pragma once
 
-#include <chrono>
 #include <filesystem>
-#include <functional>
 #include <iterator>
 #include <memory>
 #include <string>
-#include <thread>
 
 #include <QCoreApplication>
 #include <QHostAddress>
@@ -18,6 +15,7 @@
 #include "simulator/PjLinkServer.h"
 #include "simulator/SimulatedProjector.h"
 #include "simulator/WireServer.h"
+#include "tests/support/Soon.h"
 
 inline ModelData SimulatedModelData() {
   ModelData model;
@@ -57,15 +55,4 @@ struct ServingTest : testing::Test {
 /// How many threads the program has.
 inline auto Threads() {
   return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
-}
-
-/// Serves until it is so; false if that takes very long.
-inline bool Becomes(const std::function<bool()>& isSo) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-  while (!isSo()) {
-    if (std::chrono::steady_clock::now() > end) return false;
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
-  return true;
 }

@@ -56,9 +56,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     return projectors[host];
   }
 
-  Projector& AddWire(const std::string& id, std::shared_ptr<const ModelData> model = {}) {
-    return AddWire(id, id, std::move(model));
-  }
+  Projector& AddWire(const std::string& id) { return AddWire(id, id); }
   Projector& AddWire(const std::string& id, const std::string& host,
                      std::shared_ptr<const ModelData> model = {}) {
     watcher.Set({id, TcpAddress{.host = host}, std::move(model)});

@@ -19,8 +19,7 @@ bool IsHighlighted(const CDialog& dialog, int control) {
 }
 
 struct Finding : testing::Test {
-  OpenDialog open{FullModel(5, 30), 0,
-                  [](RecordingChannel& projector) { projector.Refuse("Get 0x2004"); }};
+  OpenDialog open{FullModel(5, 30), 0, Answers({{"Get 0x2004", -1}})};
   FindLine& line = Made();
   QTabBar& tabs = *open.Dialog().findChild<QTabBar*>();
 

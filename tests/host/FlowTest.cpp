@@ -32,9 +32,7 @@ TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
   for (const auto& [name, leave] : ways) {
     for (const std::string moment : {"opening", "refresh", "change"}) {
       SCOPED_TRACE(testing::Message() << name << " while " << moment);
-      if (moment != "opening") {
-        Open(kPictureTab);
-      }
+      if (moment != "opening") Open(kPictureTab);
       projector_->Take();
       std::size_t sent = 0;
       InTheWait([&, &leave = leave] {

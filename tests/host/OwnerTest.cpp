@@ -67,11 +67,8 @@ class Host {
   void LetDie() {
     sentAtDeath_ = projector->sent;
     waitedAtDeath_ = projector->waiting;
-    if (later_) {
-      owner_->deleteLater();
-    } else {
-      delete owner_;
-    }
+    if (!later_) return delete owner_;
+    owner_->deleteLater();
   }
 
   void Die(CAdvanceDlg& dialog, Moment moment) {

@@ -33,6 +33,9 @@ struct PendingInputTest : PacedDialog {
     for (const PjtCommand& command : projector_->Take()) sent.push_back(FormatCommand(command));
     return sent;
   }
+  void Press(int times, int control) {
+    for (int i = 0; i < times; ++i) Page().Click(control);
+  }
   bool IsLight() {
     const auto& field = Page().Item<QLineEdit>(kField);
     return field.palette().color(QPalette::Text) ==
@@ -49,14 +52,11 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
   const std::string &up = one[0], &read = one[1];
   const std::string down = "Dec" + up.substr(3);
   const auto set = [](int shown) { return "SetBrightness(" + std::to_string(shown + 128) + ")"; };
-  const auto times = [this](int count, int control) {
-    for (int i = 0; i < count; ++i) Page().Click(control);
-  };
   // What is done meanwhile, what is sent besides, and how far it leads.
   const std::tuple<const char*, std::function<void()>, Strings, int> cases[] = {
-      {"presses", [=] { times(3, kPlus); }, {up, read, up, read, up, read}, 4},
+      {"presses", [this] { Press(3, kPlus); }, {up, read, up, read, up, read}, 4},
       {"both ways",
-       [=] { times(1, kPlus), times(2, kMinus); },
+       [this] { Press(1, kPlus), Press(2, kMinus); },
        {up, read, down, read, down, read},
        0},
       {"by keys, beside Shift and a click into the field",
@@ -73,7 +73,7 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
        {set(9)},
        9},
       {"a position between presses",
-       [=, this] { times(1, kPlus), Page().Drag(kSlider, -5), times(1, kPlus); },
+       [this] { Press(1, kPlus), Page().Drag(kSlider, -5), Press(1, kPlus); },
        {up, read, set(-5), up, read},
        -4},
   };
@@ -100,9 +100,7 @@ TEST_F(PendingInputTest, IsShownUntilTheLastPressIsAnswered) {
   std::vector<int> shown;
   QObject::connect(&Page().Item<QLineEdit>(kField), &QLineEdit::textChanged, &dialog_,
                    [&](const QString& text) { shown.push_back(text.toInt()); });
-  SentBy([this] {
-    for (int i = 0; i < 3; ++i) Page().Click(kPlus);
-  });
+  SentBy([this] { Press(3, kPlus); });
   EXPECT_THAT(shown, testing::ElementsAre(start + 2, start + 3, start + 4));
 }
 
@@ -142,7 +140,7 @@ TEST_F(PendingInputTest, IsDroppedByAnythingElse) {
     Open(kPictureTab);
     MessageBoxes boxes;
     const auto sent = SentBy([&, &act = act, &atOnce = atOnce] {
-      for (int i = 0; i < 3; ++i) Page().Click(kPlus);
+      Press(3, kPlus);
       act();
       EXPECT_FALSE(atOnce && IsLight());
     });

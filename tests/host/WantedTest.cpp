@@ -161,10 +161,8 @@ struct WantedTest : testing::Test {
   QString Tab(int tab) { return open.Dialog().findChild<QTabBar*>()->tabText(tab); }
   QString Tip(int tab) { return open.Dialog().findChild<QTabBar*>()->tabToolTip(tab); }
 
-  OpenDialog open{FullModel(5, 30), kPictureTab, [](RecordingChannel& projector) {
-                    projector.Answer("Get 0x2003", 128);
-                    projector.Answer("Get 0x2004", 128);
-                  }};
+  OpenDialog open{FullModel(5, 30), kPictureTab,
+                  Answers({{"Get 0x2003", 128}, {"Get 0x2004", 128}})};
   Snapshot wanted;
 };
 
@@ -221,8 +219,7 @@ TEST_F(WantedTest, BothMarksOfARowLieBetweenItAndTheFrame) {
 }
 
 TEST(WantedOfAnInputSource, AsksForTheSourceOnlyIfTheValueIsWanted) {
-  OpenDialog open(FullModel(1, 1), kOptionTab,
-                  [](RecordingChannel& projector) { projector.Answer("GetInputSource", 3); });
+  OpenDialog open(FullModel(1, 1), kOptionTab, Answers({{"GetInputSource", 3}}));
   const auto reads = [&open] {
     open.Projector().Take();
     open.Dialog().DispTabScreen();

@@ -19,13 +19,10 @@ CModelInfo2 PictureModel(int dialogType = 5, int modelCode = 30) {
   return model;
 }
 
-struct PictureTest : testing::Test {
-  static void Custom(RecordingChannel& channel) {
-    for (const char* read : {"Get 0x30A1", "Get 0x30B0"}) channel.Answer(read, 17);
-    channel.Answer("Get 0x3304", 0x10);
-  }
+const auto kCustom = Answers({{"Get 0x30A1", 17}, {"Get 0x30B0", 17}, {"Get 0x3304", 0x10}});
 
-  OpenDialog open{PictureModel(), 1, Custom};
+struct PictureTest : testing::Test {
+  OpenDialog open{PictureModel(), 1, kCustom};
   DialogDriver driver = open.Driver();
   RecordingChannel& projector = open.Projector();
 };
@@ -143,8 +140,7 @@ TEST(PicturePages, SendAnEntryWithTheValueMinusOneLikeAnyOther) {
 
 TEST(PicturePages, ShowTheMiddleAndNoEntryBeforeTheFirstRead) {
   for (const auto& [dialogType, modelCode] : {std::pair{5, 30}, {4, 11}}) {
-    OpenDialog open(MakeModel(dialogType, modelCode), 1,
-                    [](RecordingChannel& channel) { channel.Refuse("Get 0x2201"); });
+    OpenDialog open(MakeModel(dialogType, modelCode), 1, Answers({{"Get 0x2201", -1}}));
     const DialogDriver driver = open.Driver();
     EXPECT_EQ(driver.SliderAt(20152), 4);
     driver.Item<QWidget>(20148).setEnabled(true);
@@ -159,8 +155,8 @@ TEST(PicturePages, ShowTheMiddleAndNoEntryBeforeTheFirstRead) {
 TEST(PicturePages, APopUpBelongsToTheDialogInUse) {
   CModelInfo2 wide = PictureModel();
   wide.RangeText(RangeIndex::GammaPoint) = "78,178";
-  OpenDialog first(wide, 1, PictureTest::Custom);
-  OpenDialog second(PictureModel(), 1, PictureTest::Custom);
+  OpenDialog first(wide, 1, kCustom);
+  OpenDialog second(PictureModel(), 1, kCustom);
   Activate(first.Dialog());
   WhenModal("CGammaDlg", [&](CDialog& dialog) {
     EXPECT_EQ(dialog.Owner(), &first.Dialog());

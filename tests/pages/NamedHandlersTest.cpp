@@ -26,10 +26,7 @@ void ExpectOwnControls(int tab, const Handlers<Page>& handlers) {
   for (const CModelInfo2& model : EveryModel()) {
     if (model.DialogType != 5 || tried.size() == handlers.size()) continue;
     SCOPED_TRACE(NameOf(model));
-    OpenDialog open(model, tab, [](RecordingChannel& projector) {
-      projector.Answer("Get", 128);
-      projector.Answer("Get 0x3304", 0);
-    });
+    OpenDialog open(model, tab, Answers({{"Get", 128}, {"Get 0x3304", 0}}));
     MessageBoxes boxes(true);
     std::unique_ptr<RowDialog> popUp;
     if constexpr (std::is_same_v<Page, CServiceDlg>) {

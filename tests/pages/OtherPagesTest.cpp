@@ -87,7 +87,7 @@ TEST(OtherPages, AProjectorThatStaysOnOrIsSilentHasRefusedToTurnOff) {
                                                      {-1, kRefusal, "-", false},
                                                      {0, kQuestion, "Off", true},
                                                      {2, kQuestion, "Cooling Down", false}}) {
-    OpenDialog open(MakeModel(5, 34), 7, [](RecordingChannel& p) { p.Answer("Get 0x6000", 1); });
+    OpenDialog open(MakeModel(5, 34), 7, Answers({{"Get 0x6000", 1}}));
     after < 0 ? open.Projector().Refuse("Get 0x6000")
               : open.Projector().Answer("Get 0x6000", after);
     MessageBoxes boxes(true);

@@ -47,10 +47,7 @@ class Outcomes : public testing::TestWithParam<Case> {};
 TEST_P(Outcomes, AreSaidBesideCloseAndMarkedUntilTheNextSuccess) {
   const Case& tried = GetParam();
   OpenDialog open(FullModel(tried.dialogType, tried.modelCode), tried.tab,
-                  [](RecordingChannel& projector) {
-                    projector.Answer("Get 0x2003", 128);
-                    projector.Answer("Get 0x2004", 128);
-                  });
+                  Answers({{"Get 0x2003", 128}, {"Get 0x2004", 128}}));
   MessageBoxes boxes;
   if (tried.refused != nullptr) open.Projector().Refuse(tried.refused);
   tried.act(open.Driver());

@@ -3,8 +3,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QHoverEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QToolButton>
 
@@ -42,21 +40,11 @@ class Outcomes {
 // The text that a visible control shows.
 QString ShownBy(const ControlTemplate& control, const QWidget& widget) {
   using enum ControlKind;
-  switch (control.kind) {
-    case Combo:
-      return QString::number(static_cast<const CComboBox&>(widget).currentIndex());
-    case Slider:
-      return QString::number(static_cast<const CSliderCtrl&>(widget).value());
-    case Field:
-      return '"' + static_cast<const QLineEdit&>(widget).text() + '"';
-    case Check:
-      return QString::number(static_cast<const QAbstractButton&>(widget).isChecked());
-    case Text:
-      if (*control.caption != '\0') return {};
-      return '"' + static_cast<const QLabel&>(widget).text() + '"';
-    default:
-      return {};
-  }
+  if (control.kind == Combo) return widget.property("currentIndex").toString();
+  if (control.kind == Slider) return widget.property("value").toString();
+  if (control.kind == Check) return QString::number(widget.property("checked").toInt());
+  const bool isText = control.kind == Field || (control.kind == Text && *control.caption == '\0');
+  return isText ? '"' + widget.property("text").toString() + '"' : QString();
 }
 
 class PageDescriber {

@@ -25,12 +25,9 @@ QInputDialog& Asked(CDialog& page, int id) {
 }
 
 struct RowMenus : testing::Test {
-  OpenDialog open{FullModel(5, 30), 1, [](RecordingChannel& projector) {
-                    projector.Answer("Get 0x2003", 138);
-                    projector.Answer("Get 0x3304", 16);
-                    projector.Answer("Get 0x2201", 100);
-                    projector.Refuse("Get 0x2004");
-                  }};
+  OpenDialog open{
+      FullModel(5, 30), 1,
+      Answers({{"Get 0x2003", 138}, {"Get 0x3304", 16}, {"Get 0x2201", 100}, {"Get 0x2004", -1}})};
   CTabPage& page = open.Page();
   DialogDriver driver = open.Driver();
 };
@@ -146,8 +143,7 @@ TEST(RowMenu, TheOpeningValueBelongsToTheInputSource) {
 }
 
 TEST(RowMenu, StepsArrowRowsWhileStepsComeNearer) {
-  OpenDialog open(FullModel(5, 30), 2,
-                  [](RecordingChannel& projector) { projector.Answer("Get 0x2100", 40); });
+  OpenDialog open(FullModel(5, 30), 2, Answers({{"Get 0x2100", 40}}));
   RecordingChannel& projector = open.Projector();
   EXPECT_EQ(Menu(open.Page(), kPositionV), "(When opened: 40), (Put back), Enter a value…, Copy");
   auto* question = &Asked(open.Page(), kPositionV);

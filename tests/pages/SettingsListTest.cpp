@@ -9,19 +9,12 @@
 #include "app/profiles/ProjectorAccess.h"
 #include "device/ModelDataIntake.h"
 #include "fleet/ProfileFile.h"
-#include "i18n/SystemLanguage.h"
 #include "settings/PageTables.h"
-#include "snapshots/SettingTexts.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/Texts.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {
-
-const SettingTexts& Texts() {
-  static const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  static const SettingTexts texts(folders, kEnglishUnitedStates);
-  return texts;
-}
 
 // Number of a control's caption in its template: that of the label before it, or of a box its own.
 int CaptionNumber(const DialogTemplate& page, int control) {

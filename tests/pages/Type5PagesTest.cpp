@@ -18,11 +18,7 @@ constexpr int kCurrentInput = 20337, kReset = 20328, kStandby = 20368, kHdmi = 2
 /// The shown page of a model, on a projector with these values; −1 is a refusal.
 struct Type5Page : OpenDialog {
   Type5Page(int tab, int code, const std::map<std::string, int>& values = {})
-      : OpenDialog(FullModel(5, code), tab, [&values](RecordingChannel& channel) {
-          for (const auto& [key, value] : values) {
-            value < 0 ? channel.Refuse(key) : channel.Answer(key, value);
-          }
-        }) {}
+      : OpenDialog(FullModel(5, code), tab, Answers(values)) {}
 
   CAudioType5Dlg& Audio() {
     return static_cast<CAudioType5Dlg&>(Dialog().Page(PageId::AudioType5));

@@ -102,18 +102,14 @@ void ExpectTruth(ConnectedProjector& target, const Restoration& restoration,
     const auto now =
         target.settings.Read(target.connection, *restored.setting, restored.saved.source);
     const auto number = static_cast<std::size_t>(&restored - restoration.Settings().data());
-    switch (restored.outcome) {
-      case Outcome::Changed:
-      case Outcome::AlreadySo:
-        EXPECT_EQ(now, restored.saved.value);
-        break;
-      case Outcome::NotReached:
-      case Outcome::Differs:
-        EXPECT_EQ(now, restored.before ? restored.before : before.Settings()[number].before)
-            << "nothing was sent";
-        break;
-      default:
-        EXPECT_TRUE(!restored.now || now == restored.now);
+    const Outcome outcome = restored.outcome;
+    if (outcome == Outcome::Changed || outcome == Outcome::AlreadySo) {
+      EXPECT_EQ(now, restored.saved.value);
+    } else if (outcome == Outcome::NotReached || outcome == Outcome::Differs) {
+      EXPECT_EQ(now, restored.before ? restored.before : before.Settings()[number].before)
+          << "nothing was sent";
+    } else {
+      EXPECT_TRUE(!restored.now || now == restored.now);
     }
   }
 }

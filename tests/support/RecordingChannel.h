@@ -37,3 +37,12 @@ class RecordingChannel final : public ProjectorChannel {
   std::set<std::string> refused_;
   Strings sent_;
 };
+
+/// A projector's answers to commands with these keys; −1 is a refusal.
+inline auto Answers(const std::map<std::string, int>& values) {
+  return [values](RecordingChannel& projector) {
+    for (const auto& [key, value] : values) {
+      value < 0 ? projector.Refuse(key) : projector.Answer(key, value);
+    }
+  };
+}

@@ -14,7 +14,7 @@ bool Soon(auto isSo) {
     if (end.hasExpired()) return false;
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QThread::msleep(5);
+    QThread::msleep(1);
   }
   return true;
 }

@@ -107,7 +107,6 @@ TEST(ReadAgain, F5ReadsThePageUnlessAHandlerRuns) {
   }
   EXPECT_EQ(again.accessibleName(), QStringLiteral("Read again (F5)"));
   EXPECT_EQ(again.toolTip(), again.accessibleName());
-  EXPECT_TRUE(again.autoRaise() && !again.icon().isNull() && again.focusPolicy() == Qt::NoFocus);
 }
 
 TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {

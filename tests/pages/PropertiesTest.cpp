@@ -32,17 +32,11 @@ std::unique_ptr<QWidget> PlainLike(const QWidget& widget) {
 
 /// What the record says of a property's value; nothing for sizes, colours and the like.
 QString Said(const QVariant& value) {
-  const auto given = [](bool isThere) { return isThere ? QStringLiteral("given") : QString(); };
-  switch (value.typeId()) {
-    case QMetaType::QString:
-      return given(!value.toString().isEmpty());
-    case QMetaType::QPixmap:
-      return given(!value.value<QPixmap>().isNull());
-    case QMetaType::QIcon:
-      return given(!value.value<QIcon>().isNull());
-    default:
-      return value.toString();
-  }
+  const bool isGiven = value.typeId() == QMetaType::QPixmap ? !value.value<QPixmap>().isNull()
+                       : value.typeId() == QMetaType::QIcon
+                           ? !value.value<QIcon>().isNull()
+                           : value.typeId() == QMetaType::QString && !value.toString().isEmpty();
+  return isGiven ? "given" : value.toString();
 }
 
 /// What depends on the machine, the moment or the setting.
@@ -87,9 +81,7 @@ TEST(Properties, AreAsRecorded) {
   question->show();
   look(*question);
   QString now;
-  for (const auto& [line, count] : found) {
-    now += QStringLiteral("%1 × %2\n").arg(count).arg(line);
-  }
+  for (const auto& [line, count] : found) now += QStringLiteral("%1 × %2\n").arg(count).arg(line);
   ExpectRecord(TEST_SOURCE_DIR "/pages/listing/Properties.txt", now.toStdString());
 }
 

@@ -70,6 +70,19 @@ def parse_arguments():
     return parser.parse_args()
 
 
+def shield_devices():
+    """As root, a mutant of what writes files could put a file in the place of a device. So this program and the tests get
+    a /dev of their own, which cannot be changed."""
+    if os.geteuid() != 0 or "MUTATE_SHIELDED" in os.environ:
+        return
+    script = 'mount --rbind /dev /dev && mount -o remount,bind,ro /dev && exec "$0" "$@"'
+    shielded = ["unshare", "--mount", "sh", "-c", script]
+    if subprocess.run([*shielded, "true"], stderr=subprocess.DEVNULL).returncode == 0:
+        os.environ["MUTATE_SHIELDED"] = "1"
+        os.execvp(shielded[0], [*shielded, sys.executable, *sys.argv])
+    print("/dev cannot be shielded here: a mutant may put a file in the place of a device", flush=True)
+
+
 def changed_lines(revision):
     """{file: lines} added or changed since the revision; None if the clone does not have it."""
     if subprocess.run(["git", "cat-file", "-e", revision], cwd=ROOT, stderr=subprocess.DEVNULL).returncode != 0:
@@ -295,6 +308,8 @@ def is_enough(killed, alive, share, isSample):
 
 def main():
     arguments = parse_arguments()
+    if not arguments.list:
+        shield_devices()
     WORK.mkdir(parents=True, exist_ok=True)
     units, links = read_units(ROOT, ROOT / arguments.build), Links(ROOT / arguments.build)
     mutants, sources = choose(arguments, units, links)

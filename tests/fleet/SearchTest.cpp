@@ -98,9 +98,10 @@ TEST(SearchAnswer, IsAMacNumber) {
   EXPECT_EQ(ParseSearchAnswer("%2ackn=00-00-5e-00-53-01\r\n"), "00:00:5e:00:53:01");
   EXPECT_EQ(ParseSearchAnswer({"%2ACKN=00:af:5e:00:53:09 \0", 26}), "00:af:5e:00:53:09");
   for (const char* other :
-       {"", "%2SRCH\r", "%2ACKN=\r", "%2ACKN=00:00:5e:00:53\r", "%2ACKN=00:00:5e:00:53:0g\r",
-        "%2ACKN=00:00:5e:00:53:0/\r", "%2ACKN=00:00:5e:00:53:0G\r", "%2ACKN=00:00:5e.00:53:01\r",
-        "%2ACKN 00:00:5e:00:53:01\r", "%2ACKN=00:00:5e:00:53:0`\r", "%2LKUP=00:00:5e:00:53:01\r"}) {
+       {"", "%2ACKN=00:00:5e:00:53:0:\r", "%2ACKN=\r", "%2ACKN=00:00:5e:00:53\r",
+        "%2ACKN=00:00:5e:00:53:0g\r", "%2ACKN=00:00:5e:00:53:0/\r", "%2ACKN=00:00:5e:00:53:0G\r",
+        "%2ACKN=00:00:5e.00:53:01\r", "%2ACKN 00:00:5e:00:53:01\r", "%2ACKN=00:00:5e:00:53:0`\r",
+        "%2LKUP=00:00:5e:00:53:01\r"}) {
     EXPECT_EQ(ParseSearchAnswer(other), std::nullopt) << other;
   }
 }

@@ -57,8 +57,8 @@ def parse_arguments():
     parser.add_argument("--budget", type=float, metavar="SECONDS",
                         help="of tests for one mutant, the quickest first (default: 60, or 2 with --quick)")
     parser.add_argument("--quick", action="store_true",
-                        help="a first pass over many, without a look whether a mutant that lives is equivalent; "
-                             "--again then tries those that lived in full")
+                        help="a first pass over many, without a look whether a mutant that lives is equivalent; without "
+                             "--quick, the same command then tries those that lived in full")
     parser.add_argument("--suites", nargs="+", metavar="SUITE", help="use only these test programs")
     parser.add_argument("--build", default="build/dev", help="the build to take objects from (default: build/dev)")
     parser.add_argument("--seconds", type=float, metavar="SECONDS",
@@ -156,9 +156,9 @@ class Results:
         result = self.known.get(mutant.id)
         return result if result and result["digest"] == digest(mutant.file) else None
 
-    def add(self, mutant, outcome, detail, seconds):
+    def add(self, mutant, outcome, detail, seconds, isQuick):
         result = {"id": mutant.id, "digest": digest(mutant.file), "outcome": outcome, "detail": detail,
-                  "seconds": round(seconds, 1)}
+                  "seconds": round(seconds, 1), "quick": isQuick}
         with self.lock:
             self.known[mutant.id] = result
             with self.path.open("a") as file:
@@ -254,7 +254,7 @@ class Run:
                     if ended is None:
                         continue
                     outcome, detail = ended
-                    self.results.add(mutant, outcome, detail, time.monotonic() - started)
+                    self.results.add(mutant, outcome, detail, time.monotonic() - started, self.isQuick)
                     print(f"{outcome:10} {mutant.id}  {detail}", flush=True)
             except queue.Empty:
                 pass
@@ -322,8 +322,9 @@ def main():
 
     def is_open(mutant):
         result = results.find(mutant)
-        return (result is None or bool(arguments.only)
-                or (arguments.again and result["outcome"] == "alive"))
+        isAlive = result is not None and result["outcome"] == "alive"
+        isTriedAgain = arguments.again or result is not None and result.get("quick") and not arguments.quick
+        return result is None or bool(arguments.only) or isAlive and isTriedAgain
 
     equivalents = Equivalents(ROOT)
     wanted = [mutant for mutant in mutants if is_open(mutant) and not equivalents.has(mutant)]

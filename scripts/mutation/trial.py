@@ -108,8 +108,8 @@ class Reach:
 
 
 class Trial:
-    """Runs tests on mutants; those that killed others of the same file or folder first, then those of the suite that is
-    named after the folder, and of each kind the quickest."""
+    """Runs tests on mutants: first those that killed others of the same file or folder in the least time, then those of
+    suites that are named after a folder of the file, then all others, the quickest first."""
 
     def __init__(self, reach, work, budget):
         self.reach, self.budget = reach, budget
@@ -126,11 +126,12 @@ class Trial:
         with self.lock:
             kills = dict(count for place in self.places(mutant) for count in self.kills[place].most_common(6))
         best = sorted((test for test in kills if test in tests), key=lambda test: self.reach.seconds[test] / kills[test])
-        folder = Path(mutant.file).parts[1]
+        folders = Path(mutant.file).parts[:2]
 
         def rank(test):
             suite, _ = test
-            return not folder.startswith(suite.name.split("_")[0]), self.reach.seconds[test]
+            isOfOthers = not any(folder.startswith(suite.name.split("_")[0]) for folder in folders)
+            return isOfOthers, self.reach.seconds[test]
 
         order = best + sorted((test for test in tests if test not in best), key=rank)
         batches, spent, quick = [], 0.0, {}
@@ -158,7 +159,7 @@ class Trial:
             seconds = sum(self.reach.seconds[test] for test in batch)
             program = programs / suite.name if (programs / suite.name).exists() else suite
             told, result = run(program, ["--gtest_fail_fast", "--gtest_filter=" + ":".join(test for _, test in batch)],
-                               self.folder, f"{programs}:{suite.parent}", variables, 10 + 6 * seconds, math.ceil(3 + 4 * seconds))
+                               self.folder, f"{programs}:{suite.parent}", variables, 20 + 6 * seconds, math.ceil(3 + 4 * seconds))
             if told is not None and result == 0:
                 continue
             failed = [line.split("]", 1)[1].split("(")[0].split(",")[0].strip()

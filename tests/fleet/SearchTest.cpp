@@ -128,7 +128,7 @@ FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
       end->Add(step.bytes);
       while (const auto exchange = end->Next()) connection.Received(exchange->reply, now);
     } else if (step.kind != Close) {
-      EXPECT_TRUE(step.kind == Finished && inquiry.HasFound()) << "waits";
+      EXPECT_TRUE(step.kind == Finished && inquiry.HasFound()) << "waits, or has found nothing";
       return inquiry.Found();
     }
   }

@@ -32,6 +32,7 @@ struct Finding : testing::Test {
   }
   void Find(const char* text, const std::vector<Qt::Key>& keys) {
     QTest::keyClick(&open.Dialog(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(line.isVisible()) << text;
     QTest::keyClicks(open.Dialog().focusWidget(), QString::fromUtf8(text), {}, 1);
     QWidget* completions = line.completer()->popup();
     for (const Qt::Key key : keys) {
@@ -93,7 +94,6 @@ TEST_F(Finding, StaysOpenWithoutAMatchAndEscClosesOnlyTheLine) {
   QTest::keyClicks(&line, QStringLiteral("a"));
   auto* completions = qobject_cast<QAbstractItemView*>(line.completer()->popup());
   EXPECT_GE(completions->viewport()->width(), completions->sizeHintForColumn(0));
-  EXPECT_EQ(line.completer()->maxVisibleItems(), 12);
   QTest::keyClick(completions, Qt::Key_Escape);
   QTest::keyClick(&line, Qt::Key_Escape);
   for (const auto& [text, key] : {std::pair("bright", Qt::Key_Escape), {"", Qt::Key_Tab}}) {

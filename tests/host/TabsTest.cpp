@@ -31,13 +31,13 @@ TEST(Tabs, EachShowsItsPageAlone) {
     for (int tab = 0; tab < count; ++tab) {
       open.SelectTab(tab);
       tabs.clearFocus();
-      EXPECT_FALSE(Wheel(tabs, 1) || Wheel(tabs, -1) || tabs.currentIndex() != tab);
+      EXPECT_FALSE(Wheel(tabs, 1) || Wheel(tabs, -1) || tabs.currentIndex() != tab) << tab;
       const auto pages = open.Dialog().findChildren<CTabPage*>();
       EXPECT_EQ(std::ranges::count_if(pages, &QWidget::isVisible), 1);
       EXPECT_TRUE(open.Page().isVisible());
     }
     tabs.setFocus();
-    EXPECT_EQ(Wheel(tabs, 1), count > 1);
+    Wheel(tabs, 1);
     EXPECT_EQ(tabs.currentIndex(), std::max(count - 2, 0));
   }
 }
@@ -83,6 +83,8 @@ TEST(Tabs, AreAllInSightOnANarrowScreen) {
   QApplication::sendEvent(&tabs, &help);
   EXPECT_EQ(QToolTip::text(), tabs.tabText(1));
   QToolTip::hideText();
+  tabs.resize(30, 30);
+  for (int i = 0; i < 3; ++i) EXPECT_GE(tabs.tabRect(i).width(), 5 * metrics.averageCharWidth());
 }
 
 TEST(Tabs, TheDialogIsAsWideAsItsTabsOrItsWidestPage) {

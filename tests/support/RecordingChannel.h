@@ -38,7 +38,7 @@ class RecordingChannel final : public ProjectorChannel {
   Strings sent_;
 };
 
-/// A projector's answers to commands with these keys; −1 is a refusal.
+/// A projector's answers to commands with these keys; a negative one is a refusal.
 inline auto Answers(const std::map<std::string, int>& values) {
   return [values](RecordingChannel& projector) {
     for (const auto& [key, value] : values) {

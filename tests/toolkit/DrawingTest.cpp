@@ -213,6 +213,7 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       control.setFocus();
       EXPECT_EQ(control.visibleRegion().boundingRect(), control.rect()) << "scrolled to";
     }
+    if (size != 10) continue;
     for (const int id : {1, 8, 13}) shown.ShowRow(id, false);
     record << "Without numbers: " << shown.layout()->totalSizeHint() << '\n';
   }

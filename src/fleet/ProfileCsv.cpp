@@ -33,6 +33,15 @@ struct WrongRow {
 /// The cells of a row by their meaning; an empty cell changes nothing. Several columns may be tags.
 using Cells = std::map<CsvColumn, QStringList>;
 
+/// A cell in one line and without halves of surrogate pairs, as a file of profiles has its texts.
+QString OneLine(const QString& cell) {
+  QString text = QString::fromUtf8(cell.toUtf8());
+  for (QChar& c : text) {
+    if (c.category() == QChar::Other_Control) c = u' ';
+  }
+  return text == cell ? text : text.trimmed();
+}
+
 QString One(const Cells& cells, CsvColumn column) {
   const auto found = cells.find(column);
   return found == cells.end() ? QString() : found->second.first();
@@ -196,8 +205,7 @@ JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
     }
     members.push_back({"tags", all});
   }
-  QString notes = One(cells, CsvColumn::Notes);
-  tell("notes", notes.replace(QLatin1Char('\n'), QLatin1Char(' ')));
+  tell("notes", One(cells, CsvColumn::Notes));
   if (const QString hours = One(cells, CsvColumn::RatedLampHours); !hours.isEmpty()) {
     bool isNumber = false;
     const int number = hours.toInt(&isNumber);
@@ -260,7 +268,8 @@ CsvImport Importer::Import(const CsvTable& table) {
     Cells cells;
     for (qsizetype i = 0; i < row.cells.size(); ++i) {
       const auto column = columns[static_cast<std::size_t>(i)];
-      if (column && !row.cells[i].isEmpty()) cells[*column].append(row.cells[i]);
+      if (const QString text = OneLine(row.cells[i]); column && !text.isEmpty())
+        cells[*column].append(text);
     }
     try {
       ++(Take(cells) ? result.added : result.changed);

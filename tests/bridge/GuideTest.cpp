@@ -13,12 +13,11 @@ namespace {
 using testing::HasSubstr;
 
 /// A mail server that keeps what it gets.
-class MailServer {
- public:
+struct MailServer {
   MailServer() {
-    EXPECT_TRUE(server_.listen(QHostAddress::LocalHost));
-    QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
-      QTcpSocket* const client = server_.nextPendingConnection();
+    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [this] {
+      QTcpSocket* const client = server.nextPendingConnection();
       client->write("220 mail\r\n");
       QObject::connect(
           client, &QTcpSocket::readyRead, client, [this, client, isMail = false]() mutable {
@@ -37,12 +36,9 @@ class MailServer {
           });
     });
   }
-  quint16 Port() const { return server_.serverPort(); }
 
   QByteArray mails;
-
- private:
-  QTcpServer server_;
+  QTcpServer server;
 };
 
 /// The guide's commands, with free ports and in a hurry.
@@ -77,7 +73,7 @@ TEST(Guide, LeadsToAMailAndToTheAllClear) {
                 {"9550", metricsPort},
                 {"19090", number(LastingPort())},
                 {"19093", number(LastingPort())},
-                {"127.0.0.1:25", "127.0.0.1:" + number(mail.Port())},
+                {"127.0.0.1:25", "127.0.0.1:" + number(mail.server.serverPort())},
                 {"interval: 15s", "interval: 1s"},
                 {"group_wait: 5s", "group_wait: 1s"},
                 {"/usr/share/advanced-control-bridge/projector-alerts.yml",

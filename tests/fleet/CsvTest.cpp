@@ -98,9 +98,10 @@ constexpr char kFile[] = R"({
 TEST(ProfileCsv, TakesTheRowsThatAreRight) {
   const CsvImport import = ImportCsv(
       kFile,
-      "Name;IP Address;Port;Protocol;Model;MAC address;Building;Tags;Lamp life;Purchased\r\n"
-      "A2;192.0.2.9;;;;00-00-5E-00-53-01;3;lab | old;2000;2019\r\n"
-      "C;192.0.2.3;7240;wire;M 30;;;;;\r\n"
+      "Name;IP Address;Port;Protocol;Model;MAC address;Building;Tags;Lamp life;Purchased;Notes;"
+      "Snapshot\r\n"
+      "A2;192.0.2.9;;;;00-00-5E-00-53-01;3;lab | old;2000;2019;by\tme;day\r\n"
+      "C;192.0.2.2;7240;wire;M 30;;;;;\r\n"
       "D;pjlink://d.example:4400;;;X1;;;;;\r\n"
       "E;192.0.2;;;;;;;;\r\n"
       "F;192.0.2.4;;radio;;;;;;\r\n"
@@ -108,10 +109,12 @@ TEST(ProfileCsv, TakesTheRowsThatAreRight) {
       ";192.0.2.6;;;;;;;;\r\n"
       "G;;;;;;;;;\r\n"
       "H;192.0.2.7;;;;;;;many;\r\n"
-      "B;;;;;;;spare;;\r\n");
+      "B;;;;;;;spare;;\r\n"
+      "C;192.0.2.3;7240;wire;;;;;;\r\n"
+      "I;;;;;;;;;;;;x\r\n");
   EXPECT_EQ(import.error, "");
   EXPECT_EQ(import.added, 2U);
-  EXPECT_EQ(import.changed, 2U);
+  EXPECT_EQ(import.changed, 3U);
   EXPECT_THAT(import.unused, ElementsAre("Purchased"));
   EXPECT_EQ(Described({.header = {}, .rows = {}, .faults = import.faults}),
             " ! 5: no address '192.0.2'"
@@ -119,15 +122,16 @@ TEST(ProfileCsv, TakesTheRowsThatAreRight) {
             " ! 7: \"A2\" is the name of another projector, with the identity mac:00:00:5e:00:53:01"
             " ! 8: \"name\" is missing"
             " ! 9: \"connection\" is missing"
-            " ! 10: \"many\" is not a number of hours");
+            " ! 10: \"many\" is not a number of hours"
+            " ! 13: 13 cells, but the header has 12");
   const ProfileList list = ParseProfileList(import.text, "p.json");
   ASSERT_EQ(list.error, "");
   ASSERT_EQ(list.profiles.size(), 4U);
   const FleetProfile& a = list.profiles[0];
-  EXPECT_EQ(a.name, "A2");
   EXPECT_EQ(AddressOf(a), ProjectorAddress(PjLinkAddress{"192.0.2.9", 4352, "open"}));
   EXPECT_THAT(a.tags, ElementsAre("3", "lab", "old"));
   EXPECT_EQ(a.ratedLampHours, 2000);
+  EXPECT_EQ(a.name + '/' + a.notes + '/' + a.snapshot, "A2/by me/day");
   EXPECT_TRUE(import.text.contains("\"x-mine\": 1, \"link\": \"pjlink\",\n"))
       << "as it was written";
   EXPECT_THAT(list.profiles[1].tags, ElementsAre("spare"));

@@ -187,17 +187,17 @@ FoundProjector At(const char* address, const char* name, const char* serial, con
 TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
   const TakenProjectors taken = TakeFound(
       kFile,
-      {At("192.0.2.2", "A", "1"),                          // moved to where another one was
-       At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),     // moved, known by its second identity
-       At("2001:db8::3", "C", "3"),                        // gets its identity
-       At("192.0.2.4", "Hall", "4"),                       // new, with a name that is taken
-       At("192.0.2.5", "", "0000"),                        // new, without a name
-       At("192.0.2.6", "D", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing
-       At("192.0.2.7", "E", "same", "00:00:5e:00:53:07")},
+      {At("192.0.2.2", "A", "1"),                             // moved to where another one was
+       At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),        // moved, known by its second identity
+       At("2001:db8::3", "C", "3"),                           // gets its identity
+       At("192.0.2.4", "Hall", "4"),                          // new, with a name that is taken
+       At("192.0.2.5", "", "0000"),                           // new, without a name
+       At("192.0.2.6", "Hall", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing
+       At("192.0.2.7", "Hall", "same", "00:00:5e:00:53:07")},
       "secret");
   EXPECT_THAT(taken.moved, ElementsAre("By serial", "By MAC"));
   EXPECT_EQ(taken.known, 1U);
-  EXPECT_THAT(taken.added, ElementsAre("Hall (2)", "M 30 192.0.2.5", "D", "E"));
+  EXPECT_THAT(taken.added, ElementsAre("Hall (2)", "M 30 192.0.2.5", "Hall (3)", "Hall (4)"));
   const ProfileList list = ParseProfileList(taken.text, "p.json");
   ASSERT_EQ(list.error, "");
   ASSERT_THAT(list.profiles, SizeIs(8));
@@ -214,6 +214,7 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
   EXPECT_TRUE(taken.text.contains("\"x-mine\": true"));
 
   EXPECT_EQ(TakeFound(kFile, {At("192.0.2.1", "A", "1")}, "").text, kFile) << "nothing new";
+  EXPECT_NE(TakeFound(kFile, {At("192.0.2.2", "A", "1")}, "").text, kFile) << "moved";
   FoundProjector unknown = At("192.0.2.1", "Z", "9"), locked{.address = "192.0.2.20", .port = 4352};
   unknown.model = "Other";
   locked.needsPassword = true;

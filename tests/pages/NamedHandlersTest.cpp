@@ -41,21 +41,20 @@ void ExpectOwnControls(int tab, const Handlers<Page>& handlers) {
     ASSERT_EQ(controls.size(), handlers.size());
     for (std::size_t i = 0; i < handlers.size(); ++i) {
       const int control = controls[i];
-      const auto handler = handlers[i];
       auto& widget = driver.Item<QWidget>(control);
-      if (handler == nullptr) tried.insert(i);
+      if (handlers[i] == nullptr) tried.insert(i);
       if (!widget.isVisible() || tried.contains(i)) continue;
       SCOPED_TRACE(NameOf(widget));
       const auto* const list = qobject_cast<CComboBox*>(&widget);
       if (list != nullptr && list->count() < 2) continue;
       list != nullptr ? driver.Choose(control, 1) : driver.Click(control);
       const auto sent = open.Projector().TakeChanges();
-      (static_cast<Page&>(page).*handler)();
+      (static_cast<Page&>(page).*handlers[i])();
       EXPECT_EQ(open.Projector().TakeChanges(), sent);
       if (sent.size() == 1) tried.insert(i);
       if (list == nullptr) continue;
       driver.Item<CComboBox>(control).Select(-1);
-      (static_cast<Page&>(page).*handler)();
+      (static_cast<Page&>(page).*handlers[i])();
       EXPECT_TRUE(open.Projector().TakeChanges().empty()) << "nothing is selected";
     }
   }

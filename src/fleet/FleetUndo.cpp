@@ -4,6 +4,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "fleet/OneLine.h"
+
 namespace AdvancedControl {
 
 namespace {
@@ -11,14 +13,6 @@ namespace {
 constexpr QLatin1String kProjectors("undoOfJob");
 constexpr QLatin1String kId("id");
 constexpr QLatin1String kSnapshot("snapshot");
-
-/// A file may have any characters in a text.
-QString OneLine(QString text) {
-  for (QChar& c : text) {
-    if (c < QLatin1Char(' ')) c = QLatin1Char(' ');
-  }
-  return text;
-}
 
 }  // namespace
 

@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 
 #include "fleet/CsvColumn.h"
+#include "fleet/OneLine.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
 
@@ -32,15 +33,6 @@ struct WrongRow {
 
 /// The cells of a row by their meaning; an empty cell changes nothing. Several columns may be tags.
 using Cells = std::map<CsvColumn, QStringList>;
-
-/// A cell in one line and without halves of surrogate pairs, as a file of profiles has its texts.
-QString OneLine(const QString& cell) {
-  QString text = QString::fromUtf8(cell.toUtf8());
-  for (QChar& c : text) {
-    if (c.category() == QChar::Other_Control) c = u' ';
-  }
-  return text == cell ? text : text.trimmed();
-}
 
 QString One(const Cells& cells, CsvColumn column) {
   const auto found = cells.find(column);
@@ -268,8 +260,10 @@ CsvImport Importer::Import(const CsvTable& table) {
     Cells cells;
     for (qsizetype i = 0; i < row.cells.size(); ++i) {
       const auto column = columns[static_cast<std::size_t>(i)];
-      if (const QString text = OneLine(row.cells[i]); column && !text.isEmpty())
-        cells[*column].append(text);
+      const QString& cell = row.cells[i];
+      const QString line = OneLine(cell);
+      const QString text = line == cell ? cell : line.trimmed();
+      if (column && !text.isEmpty()) cells[*column].append(text);
     }
     try {
       ++(Take(cells) ? result.added : result.changed);

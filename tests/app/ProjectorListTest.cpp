@@ -141,7 +141,7 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   CAdvanceDlg* open = window.OpenDialog(0);
   list.Select(1);
   AnswerQuestionOf(Find<QAction>(window, "Edit"), [](QDialog& editor) {
-    Field(editor, "Name").setText("A \"大厅\"");
+    Field(editor, "Name").setText("A\n\"大厅\"\n");
     EXPECT_TRUE(Accept(editor));
   });
   auto others = inFile();

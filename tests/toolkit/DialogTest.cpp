@@ -85,8 +85,6 @@ TEST_F(DialogTest, TheWheelNeedsTheFocus) {
   dialog.GetDlgItem(10)->setFocus();
   EXPECT_FALSE(driver.Wheel(4, 1));
   EXPECT_FALSE(driver.Wheel(9, -1));
-  EXPECT_EQ(driver.SliderAt(4), 0);
-  EXPECT_EQ(driver.Selected(9), 0);
   dialog.GetDlgItem(4)->setFocus();
   EXPECT_TRUE(driver.Wheel(4, 1));
   driver.Item<CSliderCtrl>(4).setValue(99);

@@ -6,6 +6,7 @@
 #include <QScrollBar>
 
 #include "app/desktop/Mnemonic.h"
+#include "fleet/OneLine.h"
 #include "toolkit/CComboBox.h"
 
 namespace {
@@ -86,7 +87,8 @@ void EntryForm::SetRowVisible(QWidget* field, bool isVisible) {
 QJsonValue EntryForm::ValueOf(const QLineEdit* field, bool keepsSpaces) const {
   QJsonValue written = ValueAt(entry_, field->objectName());
   if (field->text() == TextOf(written)) return written;
-  const QString text = keepsSpaces ? field->text() : field->text().trimmed();
+  const QString line = OneLine(field->text());
+  const QString text = keepsSpaces ? line : line.trimmed();
   if (text.isEmpty()) return QJsonValue::Undefined;
   bool isNumber = false;
   const int number = text.toInt(&isNumber);

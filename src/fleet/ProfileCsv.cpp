@@ -260,9 +260,7 @@ CsvImport Importer::Import(const CsvTable& table) {
     Cells cells;
     for (qsizetype i = 0; i < row.cells.size(); ++i) {
       const auto column = columns[static_cast<std::size_t>(i)];
-      const QString& cell = row.cells[i];
-      const QString line = OneLine(cell);
-      const QString text = line == cell ? cell : line.trimmed();
+      const QString text = OneLine(row.cells[i]);
       if (column && !text.isEmpty()) cells[*column].append(text);
     }
     try {

@@ -161,7 +161,8 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(SerialAddress{"/dev/ttyUSB0", 9600}));
   AnswerQuestionOf(Find<QAction>(window, "Edit"), [](QDialog& editor) {
     Choose(editor, "Reached through", "PJLink");
-    Fill(editor, {{"Address", "192.0.2.7"}, {"Port", "4352"}, {"Password", " open "}});
+    Fill(editor, {{"Address", "192.0.2.7"}, {"Port", "4352"}});
+    Field(editor, "Password").setText("\t open \n");  // as pasted
     EXPECT_TRUE(Accept(editor));
   });
   AnswerQuestionOf(Find<QAction>(window, "Edit"),

@@ -18,8 +18,6 @@ namespace {
 using namespace std::chrono_literals;
 using enum WorkOutcome;
 
-constexpr PjtCommand kGetMirror{PjtOperation::GetMirror};
-
 struct FleetJobTest : ServingTest {
   FleetJobTest() {
     const auto model = std::make_shared<const ModelData>(SimulatedModelData());
@@ -46,7 +44,7 @@ struct FleetJobTest : ServingTest {
 
   std::vector<int> Mirrors() {
     std::vector<int> mirrors;
-    for (const Served& one : served) mirrors.push_back(one.device->Execute(kGetMirror).value);
+    for (const Served& one : served) mirrors.push_back(one.device->Execute({PjtOperation::GetMirror}).value);
     return mirrors;
   }
 

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
-#include "device/ModelDataIntake.h"
 #include "fleet/ProfileFile.h"
 #include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"

@@ -1,127 +1,41 @@
 // Reads profile files, and edits them without disturbing their formatting.
 
-#include <cctype>
 #include <ctime>
 #include <gmock/gmock.h>
 #include <set>
 #include <string>
 #include <sys/stat.h>
-#include <utility>
 
 #include <QJsonArray>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "fleet/ProfileFile.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Record.h"
 
 namespace {
 
-// The file, or the members of its only projector. Then the start of the message after the file's
-// name; or, without a line number, after "1: projectors[0].".
-using WrongFile = std::pair<std::string, const char*>;
-
-std::string Named(const std::string& name) {
-  return R"("name": ")" + name + R"(", "model": "M", "dialogType": 1, "modelCode": 1, )" +
-         R"("connection": {"serial": {"port": 1}})";
-}
-
-const std::string kWhole = Named("A");
-
-const WrongFile kWrongFiles[] = {
-    {"", "1:1: "},
-    {"{\n  \"projectors\": [\n    {\"é\": 1,, }\n  ]\n}", "3:14: "},
-    {"{\n\"projectors\": [\n", "3:1: "},
-    {"[]", "1: the file must hold an object"},
-    {"{}", "1: \"projectors\" is missing"},
-    {"{\n\"projectors\": []}", "2: projectors: there is no projector"},
-    {"\"name\": \"A\"", "1: projectors[0]: \"model\" is missing"},
-    {"\n\n\"brightnes\": 1", "3: projectors[0].brightnes: unknown key"},
-    {"\n\"name\": \"A\",\n\"name\": \"B\"", "3: projectors[0].name: is here twice"},
-    {R"("name": "")", "name: must be"},
-    {R"("modelCode": 1.5)", "modelCode: must be a whole number"},
-    {"\"name\": \"" + std::string(257, 'x') + '"', "name: is longer than 256 bytes"},
-    {R"("tags": ["A", ""])", "tags[1]: must be a text that is not empty"},
-    {R"("tags": 1)", "tags: must be an array"},
-    {R"("ratedLampHours": 0)", "ratedLampHours: is 0; it must be 1 to 1000000"},
-    {R"("snapshot": {})", "snapshot: must be a text"},
-    {R"("X-other": 1)", "X-other: unknown key"},
-    {R"("modelCode": 2147483648)", "modelCode: is 2147483648;"},
-    {R"("gamma": [0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0])",
-     "gamma: has 33 entries; at most 32"},
-    {"\"whisper\": [\"Normal\",\n\"" + std::string(63, 'x') + "é\"]",
-     "2: projectors[0].whisper[1]: is longer than 64 bytes"},
-    {R"("myButtons": [{"value": 1}])", "myButtons[0].name: must be a text"},
-    {R"("mySources": [{"name": "A"}])", "mySources[0].value: must be a whole"},
-    {"\"ranges\": {\n\"loudness\": [0, 1]}", "2: projectors[0].ranges.loudness: is neither"},
-    {R"("ranges": {"34": [0, 1]})",
-     "ranges.34: is neither the name of a range nor a number 0 to 33"},
-    {R"("ranges": {"tint": [10]})", "ranges.tint: must be [minimum, maximum]"},
-    {"\"ranges\": {\"tint\":\n[160, 96]}",
-     "2: projectors[0].ranges.tint: has a minimum above its maximum"},
-    {"\"ranges\": {\"tint\": [0,\n\"1\"]}", "2: projectors[0].ranges.tint[1]: must be a whole"},
-    {R"("connection": {"network": {}, "serial": {}})", "connection: must have"},
-    {R"("connection": {"network": {"address": "a", "port": 65536}})",
-     "connection.network.port: is 65536; it must be 1 to 65535"},
-    {R"("connection": {"network": {"address": "192.0.2", "port": 4352}})",
-     "connection.network.address: is neither the name of a host nor an IP address"},
-    {R"("connection": {"serial": {"port": 0}})", "connection.serial.port: is 0;"},
-    {R"("connection": {"serial": {"port": 257}})",
-     "connection.serial.port: is 257; it must be 1 to 256"},
-    {R"("connection": {"serial": {"port": 1, "baud": 4000001}})",
-     "connection.serial.baud: is 4000001;"},
-    {R"("connection": {"serial": {"port": 1, "device": "COM1"}})",
-     "connection.serial.device: must be a path"},
-    {R"("link": "radio")", "link: must be simulated, network, serial or pjlink"},
-    {kWhole + R"(, "link": "pjlink")", "link: needs a network connection"},
-    {R"("name": "A", "model": "M", "dialogType": 1, "modelCode": 1, "link": "serial",)"
-     R"("connection": {"network": {"address": "a", "port": 1}})",
-     "link: needs a serial connection"},
-    {R"("ranges": {"bass": [0, 65536]})", "ranges.bass[1]: is 65536; it must be -32768 to 65535"},
-    {R"("ranges": {"bass": [-32769, 0]})", "ranges.bass[0]: is -32769;"},
-    {R"("ranges": {"022": [0, 1]})", "ranges.022: is neither"},
-    {R"("gamma": [1, 65536])", "gamma[1]: is 65536; it must be 0 to 65535"},
-    {R"("aspect": [{"value": -1, "name": "A"}])", "aspect[0].value: is -1;"},
-    {"{\n\"a\\u0000b\": 1}", "2:3: control character in a text"},
-    {"{\"a\\nb\": 1}", "1:4: control character in a text"},
-    {"{\"a\x7f\": 1}", "1:4: control character in a text"},
-    {"[\"\\ud800\\u0041\"]", "1:3: half a surrogate pair in a text"},
-    {"[\"\\ud800 and more\"]", "1:3: half a surrogate pair in a text"},
-    {"[\"\\u007f\"]", "1:3: control character in a text"},
-    {"[\"\\", "1:"},
-    {"[\"\\ud83d\\ude00 \\ue000 \\/ \\\\ \\\" \\u00e4\"]", "1: the file must hold an object"},
-    {"[\"\\u12", "1:5: "},
-    {"[\"\\u00g0\"]", "1:7: "},
-    {"{\n\t\"projectors\":\r[], \"a\": 1,\n\"a\": 2}", "3: a: is here twice"},
-    {"{\"families\": []}", "1: families: must be an object"},
-    {R"("aspect": [true])", "aspect[0]: must be a number, a text or an object with"},
-    {R"("connection": {"serial": {}})", "connection.serial.port: must be a whole number"},
-    {"[\"\\ud83d\\ude00\\ude00\"]", "1:15: half a surrogate pair in a text"},
-    {"{\"families\": {\n\"%1\": {\"gamma\": [\n-1]}}}", "3: families.%1.gamma[0]: is -1;"},
-    {R"("lacks": ["Tint", "Coffee"])", "lacks[1]: there is no setting \"Coffee\""},
-    {R"("like": "x")", "like: there is no family \"x\""},
-    {"{\"families\": {\n\"a\": {\"like\": \"b\"},\n\"b\": {\"like\": \"a\"}}}",
-     "3: families.b.like: makes \"a\" like itself"},
-    {"{\"projectors\": [], \"tags\": {\"a\": {\n\"snapshot\": 1}}}",
-     "2: tags.a.snapshot: must be a text"},
-    {"{\"families\": {\"a\": {\n\"dialogType\": \"5\"}}, \"projectors\": []}",
-     "2: families.a.dialogType: must be a whole number"},
-    {kWhole + "}, {" + kWhole, "1: projectors[1].name: \"A\" is the name of projectors[0] too"},
-    {kWhole + R"(, "identity": "id:1"}, {"identity": "id:1", )" + Named("B"),
-     "1: projectors[1].identity: \"id:1\" is the identity of projectors[0] too"},
-};
-
+// A case of the record is a file, or the members of its only projector, and then what is reported.
+// There, ␡ and ␍ stand for the control characters.
 TEST(ProfileFile, ErrorsAreReportedWithTheirPlace) {
-  for (const auto& [text, error] : kWrongFiles) {
-    const bool isFile = text.empty() || text[0] == '{' || text[0] == '[';
-    const std::string file = isFile ? text : "{\"projectors\": [{" + text + "}]}";
-    const ProfileList contents = ParseProfileList(QByteArray(file.c_str()), "p.json");
-    const char* place = std::isdigit(error[0]) ? "p.json:" : "p.json:1: projectors[0].";
-    EXPECT_THAT(contents.error.toStdString(), testing::StartsWith(std::string(place) + error));
-    EXPECT_FALSE(contents.error.contains('\n'));
-    EXPECT_TRUE(contents.profiles.empty());
+  const char* const record = TEST_SOURCE_DIR "/app/WrongProfiles.txt";
+  const QRegularExpression wrong("((?:.*\n)*?)→ .*\n\n?");
+  QByteArray now;
+  for (auto found = wrong.globalMatch(QString::fromUtf8(Contents(record))); found.hasNext();) {
+    const QByteArray text = found.next().captured(1).toUtf8();
+    QByteArray file = text.left(text.size() - 1);
+    file.replace("␡", "\x7f").replace("␍", "\r");
+    const bool isFile = file.isEmpty() || file[0] == '{' || file[0] == '[';
+    const ProfileList contents =
+        ParseProfileList(isFile ? file : "{\"projectors\": [{" + file + "}]}", "p.json");
+    EXPECT_TRUE(contents.profiles.empty()) << file.data();
+    now += text + "→ " + contents.error.toUtf8() + "\n\n";
   }
+  ASSERT_NE(now, "");
+  ExpectRecord(record, now.chopped(1).toStdString());
 }
 
 TEST(ProfileFile, ARangeWithANameIsGivenByIt) {

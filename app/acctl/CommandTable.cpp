@@ -152,3 +152,9 @@ const CommandForm* FindCommand(std::string_view name) {
   const auto* const found = std::ranges::find(kCommands, name, &CommandForm::name);
   return found != std::end(kCommands) ? found : nullptr;
 }
+
+std::string UsageOf(const CommandForm& form) {
+  std::string usage = "acctl " + std::string(form.name);
+  if (!form.usage.empty()) usage += ' ' + std::string(form.usage);
+  return usage;
+}

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 enum class Command : std::uint8_t {
@@ -55,3 +56,5 @@ std::span<const CommandForm> CommandForms();
 const CommandForm& FormOf(Command command);
 /// The command of this name, or null.
 const CommandForm* FindCommand(std::string_view name);
+/// How it is called: "acctl get P KEY...".
+std::string UsageOf(const CommandForm& form);

@@ -54,12 +54,6 @@ constexpr Named kFiles[] = {
 };
 // clang-format on
 
-std::string UsageOf(const CommandForm& form) {
-  std::string usage = "acctl " + std::string(form.name);
-  if (!form.usage.empty()) usage += ' ' + std::string(form.usage);
-  return usage;
-}
-
 std::vector<std::string> Lines(std::string_view text) {
   std::vector<std::string> lines;
   std::istringstream stream{std::string(text)};

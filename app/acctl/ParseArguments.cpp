@@ -302,8 +302,7 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
   const bool isRight = count >= form->least && count <= form->most;
   if (isRight) Distribute(std::move(given.words), form->words, arguments);
   if (!isRight || !TakeSpecialWords(arguments)) {
-    return wrong(Message(Acctl::tr("use: %1"),
-                         "acctl " + std::string(form->name) + ' ' + std::string(form->usage)));
+    return wrong(Message(Acctl::tr("use: %1"), UsageOf(*form)));
   }
   const bool needsFile = NeedsFile(form->command) && arguments.folder.empty();
   if (needsFile && arguments.file.empty()) {

@@ -20,38 +20,8 @@ Outcome RunProgram(const QStringList& arguments) {
   return Run(ADVANCED_CONTROL_PROGRAM, arguments, {}, environment);
 }
 
-const std::pair<QStringList, const char*> kWrongArguments[] = {
-    {{"--colour"}, "Unknown option 'colour'"},
-    {{"hall"}, "Unexpected argument 'hall'"},
-    {{"--open"}, "open"},
-    {{"--open="}, "--open needs a value"},
-    {{"--open", "Nobody"}, "there is no projector 'Nobody'"},
-    {{"--tab", "1"}, "--tab needs --open"},
-    {{"--open", "Projector 5-30", "--tab", "x"}, "'x' is not a number"},
-    {{"--open", "Projector 5-30", "--tab=-1"}, "tabs 0 to 8"},
-    {{"--open", "Projector 5-32", "--tab", "8"}, "tabs 0 to 7"},
-    {{"--screenshot", "a.png"}, "--screenshot needs --open"},
-    {{"--open", "Projector 5-30", "--screenshot", "/nowhere/a.png"}, "/nowhere/a.png: "},
-    {{"--tour", "/dev/null/tour"}, "/dev/null/tour"},
-    {{"--list", "--tour", "x"}, "Only one of"},
-    {{"-platform=offscreen", "--list"}, "'=' in '-platform=offscreen'"},
-    {{"--list", "-style"}, "--style needs a value"},
-    {{"--list", "--language", "1066"}, "no texts in '1066'"},
-    {{"--profiles", "/nowhere.json"}, "cannot read profiles /nowhere.json: "},
-    {{"--profiles", "/dev/zero"}, "cannot read profiles /dev/zero: not a regular"},
-    {{}, "no display"},
-    {{"--colour", "--language", "2052"}, "未知选项“colour”"},
-    {{"--profiles", "/dev/zero", "--language", "2052"}, "无法读取配置文件 /dev/zero：不是普通文件"},
-};
-
-TEST(Program, ReportsAWrongCommandLineInOneLineWithAnExitCode) {
-  for (const auto& [arguments, error] : kWrongArguments) {
-    const Outcome run = RunProgram(arguments);
-    EXPECT_EQ(run.exitCode, arguments.isEmpty() ? 1 : 2) << error;
-    EXPECT_THAT(run.errors, HasSubstr(error));
-    EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1) << run.errors;
-    EXPECT_EQ(run.output, "") << error;
-  }
+TEST(Program, AnswersWrongUseAsRecorded) {
+  ExpectErrors(TEST_SOURCE_DIR "/app/WrongUse.txt", RunProgram);
 }
 
 TEST(Program, SavesPicturesOfTheRequestedTabAndLanguage) {

@@ -20,7 +20,7 @@ namespace {
 
 // A case of the record is a file, or the members of its only projector, and then what is reported.
 // There, ␡ and ␍ stand for the control characters.
-TEST(ProfileFile, ErrorsAreReportedWithTheirPlace) {
+TEST(ProfileFile, ErrorsAreReportedAsRecorded) {
   const char* const record = TEST_SOURCE_DIR "/app/WrongProfiles.txt";
   const QRegularExpression wrong("((?:.*\n)*?)→ .*\n\n?");
   QByteArray now;

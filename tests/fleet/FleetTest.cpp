@@ -147,6 +147,10 @@ TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {
   send("%2lkup=00:00:00:00:00:00");
   EXPECT_TRUE(Soon([&] { return slow.Tally().answered == 2; }));
   EXPECT_EQ(slow.State("a")->problems, PartProblems()) << "as it says itself";
+  slow.AskSoon("a");
+  EXPECT_TRUE(Soon([&] { return slow.Tally().answered == 3; }));
+  slow.SetInterval(1ms);
+  EXPECT_TRUE(Soon([&] { return slow.Tally().answered > 3; }));
 }
 
 TEST_F(FleetTest, HandsOutManyChangesInParts) {
@@ -163,9 +167,22 @@ TEST_F(FleetTest, HandsOutManyChangesInParts) {
   }));
   EXPECT_EQ(parts, (std::vector<std::size_t>{1000, 1000, 500}));
   EXPECT_EQ(wakes, 3);
-  fleet.Learn("a", {PjtOperation::Get, CommandCode::RunningState}, {.result = 1},
-              PowerState::Standby);
+  fleet.LearnDrift("a", {});
   EXPECT_TRUE(Soon([&] { return wakes == 4; }));
+  fleet.TakeChanges();
+  fleet.Learn("a", {PjtOperation::Get, CommandCode::RunningState}, {.result = 1},
+              PowerState::WarmingUp);
+  EXPECT_TRUE(Soon([&] { return wakes == 5; }));
+  EXPECT_EQ(fleet.State("a")->power, PowerState::WarmingUp) << "and not only on";
+}
+
+TEST(FileEvents, AreWokenOnce) {
+  FileEvents events;
+  events.Wake();
+  events.Wait(SessionTime::max());
+  const auto end = std::chrono::steady_clock::now() + 50ms;
+  events.Wait(end);
+  EXPECT_GE(std::chrono::steady_clock::now(), end);
 }
 
 // Many visits are in the middle of something whenever it ends.

@@ -58,18 +58,37 @@ TEST(FleetTurns, StaysAwayWhileSomebodyElseWorks) {
   fleet.watcher.AskSoon("b");
   fleet.RunFor(1ms);
   fleet.watcher.AskSoon("b");
-  fleet.RunFor(10s);
+  fleet.RunFor(3s);
+  EXPECT_EQ(other.connections.size(), asked + 3) << "not too soon";
+  fleet.RunFor(7s);
   EXPECT_EQ(other.connections.size(), asked + 4) << "the visit may have asked too early";
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(1ms);
+  fleet.watcher.AskSoon("b");
+  fleet.watcher.SetAsking(true);
+  fleet.watcher.SetInterval(1min);
+  const VisitQueue::Address place{"b", 4352};
+  fleet.watcher.Hold(place);
+  fleet.watcher.Release(place);
+  fleet.RunFor(10s);
+  EXPECT_EQ(other.connections.size(), asked + 6) << "also if it was abandoned";
+  fleet.watcher.AskSoon("b");
+  fleet.RunFor(1ms);
+  fleet.watcher.Remove("b");
   fleet.watcher.Remove("b");
   EXPECT_FALSE(fleet.states.State("b"));
   fleet.RunFor(100s);
-  EXPECT_EQ(other.connections.size(), asked + 4);
+  EXPECT_EQ(other.connections.size(), asked + 7);
+  EXPECT_EQ(other.open, 0);
+  fleet.Add("b");
   fleet.Add("c");
-  fleet.Add("d");
-  fleet.RunFor(10s);
-  for (const char* const id : {"a", "c", "d"}) {
+  const auto before = it.connections.size();
+  fleet.RunFor(100s);
+  for (const char* const id : {"a", "b", "c"}) {
     EXPECT_EQ(fleet.State(id).reachability, Reachability::Answers) << id;
   }
+  EXPECT_GT(it.connections.size(), before);
+  EXPECT_EQ(fleet.State("a").answerTime, 500ms);
 }
 
 TEST(FleetTurns, TakesTurnsAtAnAddress) {
@@ -98,22 +117,29 @@ TEST(FleetTurns, TakesTurnsAtAnAddress) {
   EXPECT_EQ(it.open, 0);
   const auto asked = it.connections.size();
   fleet.RunFor(60s);
-  EXPECT_EQ(it.connections.size(), asked);
+  fleet.watcher.Pause("same");
   const Projector& elsewhere = fleet.Add("one", "elsewhere");
+  fleet.Add("one", "elsewhere");
+  fleet.RunFor(10s);
+  fleet.watcher.Pause("again");
+  fleet.watcher.Remove("same");
+  fleet.RunFor(10s);
+  EXPECT_EQ(it.connections.size(), asked);
+  fleet.watcher.Resume("again");
   fleet.RunFor(1s);
   EXPECT_EQ(it.connections.size(), asked + 1) << "the pause has moved along";
   EXPECT_EQ(elsewhere.connections.size(), 0);
   fleet.watcher.Resume("one");
-  fleet.watcher.Pause("same");
-  fleet.watcher.Remove("same");
   fleet.RunFor(30s);
   EXPECT_GT(it.connections.size(), asked + 2);
   EXPECT_GT(elsewhere.connections.size(), 1);
 }
 
 TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
-  SteppedFleet fleet({.visitsAtOnce = 2000});
+  SteppedFleet fleet({.visitsAtOnce = 1050});
   for (int i = 0; i < 1100; ++i) fleet.Add(std::to_string(i)).isThere = false;
+  fleet.RunFor(1s);
+  EXPECT_EQ(fleet.watcher.Tally().begun, 1050);
   fleet.RunFor(30s);
   for (const auto& [id, state] : fleet.states.States()) {
     EXPECT_EQ(state.reachability, Reachability::Silent) << id;
@@ -132,14 +158,18 @@ TEST(FleetTurns, KnowsAnAddressHoweverItIsWritten) {
 
 TEST(FleetTurns, ANewIntervalCountsAtOnce) {
   SteppedFleet fleet({.interval = 1h, .jitter = 0});
-  const Projector& it = fleet.Add("a");
+  Projector& it = fleet.Add("a");
   fleet.RunFor(30min);
   ASSERT_EQ(it.connections.size(), 1U);
   fleet.watcher.SetInterval(10min);
   fleet.RunFor(1s);
   EXPECT_EQ(it.connections.size(), 2U) << "the pause was over";
+  it.device.answers = 1s;
   fleet.RunFor(10min);
   EXPECT_EQ(it.connections.size(), 3U);
+  fleet.watcher.SetInterval(1min);
+  fleet.RunFor(1min);
+  EXPECT_EQ(it.connections.size(), 4U) << "also during a visit";
 }
 
 TEST(FleetTurns, AsksASilentOneLessAndLess) {
@@ -148,10 +178,17 @@ TEST(FleetTurns, AsksASilentOneLessAndLess) {
   it.isThere = false;
   fleet.RunFor(2h);
   ASSERT_GE(it.connections.size(), 11);
+  const auto firstEnd = it.connections[0] + FleetPolicy().connect;
+  EXPECT_EQ(fleet.State("a").since, WallTime(firstEnd.time_since_epoch()));
+  for (const bool answered : {false, true}) {
+    fleet.states.Learn("a", {PjtOperation::SetPowerOn}, {.answered = answered}, {});
+    EXPECT_EQ(fleet.State("a").reachability == Reachability::Answers, answered);
+    EXPECT_EQ(fleet.State("a").connection == ConnectionState::Connected, answered);
+  }
   constexpr std::chrono::minutes kLeast[] = {1min, 2min, 4min, 8min, 10min, 10min};
   for (std::size_t i = 0; i < std::size(kLeast); ++i) {
     const auto pause = it.connections[i + 1] - it.connections[i];
-    EXPECT_GE(pause, kLeast[i]) << i;
+    EXPECT_GT(pause, kLeast[i]) << i;
     EXPECT_LE(pause, kLeast[i] * (1 + FleetPolicy().jitter)) << i;
   }
   it.isThere = true;

@@ -85,6 +85,7 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
     fleet.RunFor(20s);
     EXPECT_EQ(Words(fleet.State("a")), told);
     EXPECT_EQ(fleet.watcher.Tally().begun, 1);
+    EXPECT_EQ(fleet.watcher.Tally().unanswered, *told == 'a' ? 0 : 1);
     EXPECT_EQ(fleet.projectors["a"].open, 0) << "nobody keeps a connection";
   }
 }
@@ -148,7 +149,9 @@ TEST(FleetWatcher, LeavesASerialPortToOthers) {
   fleet.RunFor(200s);
   EXPECT_EQ(Words(fleet.State("a")), Words(before)) << "a port in use tells nothing about it";
   EXPECT_GE(it.connections.size(), asked + 4) << "as often as usual";
+  EXPECT_LE(it.connections.size(), asked + 8);
   EXPECT_EQ(fleet.watcher.Tally().unanswered, 0);
+  EXPECT_EQ(fleet.watcher.Tally().abandoned, it.connections.size() - asked);
 }
 
 TEST(FleetWatcher, AsksNothingTwiceThatStaysAsItIs) {
@@ -204,6 +207,19 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   EXPECT_EQ(fleet.State("a").drift, 3);
   fleet.states.Learn("a", {PjtOperation::SetPowerOn}, {.result = 1}, {});
   EXPECT_EQ(fleet.State("a").answered, fleet.Wall());
+  fleet.states.Change("b", [](LiveState&) { FAIL(); });
+  fleet.states.Learn("b", {PjtOperation::SetPowerOn}, {.result = 1}, {});
+  EXPECT_TRUE(fleet.states.History("b").empty());
+  fleet.states.TakeChanges();
+  int drift = 3;
+  for (const int more : {100'000, 1001}) {
+    for (int i = 0; i < more; ++i) {
+      fleet.states.Change("a", [&](LiveState& state) { state.drift = ++drift; });
+    }
+    const FleetChanges kept = fleet.states.TakeChanges();
+    EXPECT_EQ(kept.areMissing, more == 1001);
+    EXPECT_EQ(kept.changes[0].change.now, FieldValue{more == 1001 ? 1005 : 4});
+  }
 
   std::string fields;
   LiveState all;
@@ -226,10 +242,22 @@ TEST(FleetWatcher, MovesAlongWithAProjector) {
   EXPECT_EQ(elsewhere.connections.size(), 1) << "at once";
   EXPECT_EQ(fleet.State("a").power, PowerState::Standby);
   EXPECT_EQ(fleet.projectors["a"].connections.size(), 1);
-  fleet.watcher.Set({"nowhere", AddressError{"no address"}});
+  fleet.watcher.Events().Noticed({"elsewhere", "POWR", "2"});
+  fleet.watcher.Events().Noticed({"a", "POWR", "3"});
+  EXPECT_EQ(fleet.State("a").power, PowerState::CoolingDown) << "what was there is another";
+  elsewhere.device.states["POWR"] = "1";
+  elsewhere.device.TakeRequests();
+  fleet.RunFor(70s);
+  EXPECT_EQ(elsewhere.device.TakeRequests().substr(0, 10), "POWR, CLSS") << "as this is";
+  fleet.watcher.Remove("a");
+  fleet.watcher.Events().Noticed({"elsewhere", "POWR", "2"});
+  const auto nowhere = {"nowhere", "nor here"};
+  for (const char* const id : nowhere) fleet.watcher.Set({id, AddressError{"no address"}});
   fleet.RunFor(100s);
-  EXPECT_EQ(fleet.State("nowhere").reachability, Reachability::NeverAsked);
-  EXPECT_EQ(fleet.State("nowhere").connection, ConnectionState::WrongParameters);
+  for (const char* const id : nowhere) {
+    EXPECT_EQ(fleet.State(id).reachability, Reachability::NeverAsked);
+    EXPECT_EQ(fleet.State(id).connection, ConnectionState::WrongParameters);
+  }
 }
 
 TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
@@ -264,6 +292,7 @@ TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
   fleet.RunFor(10s);
   it.device.states["POWR"] = "1";
   fleet.watcher.Events().Noticed({"a", "POWR", "3"});
+  fleet.RunFor(10s);
   EXPECT_EQ(Words(fleet.State("a")), "answers, warming up");
   fleet.watcher.Events().Noticed({"a", "POWR", "1"});
   fleet.RunFor(10s);
@@ -279,7 +308,7 @@ TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
   fleet.RunFor(90s);
   EXPECT_EQ(Words(fleet.State("a")).substr(0, 6), "silent");
   it.isThere = true;
-  fleet.watcher.Events().Noticed({"a", "POWR", "1"});
+  fleet.watcher.Events().Noticed({"a", "ERST", "002000"});
   fleet.RunFor(10s);
   EXPECT_EQ(Words(fleet.State("a")), kUsual) << "it is there again";
 }

@@ -1,5 +1,8 @@
 // A projector has one connection at a time, whoever wants to connect.
 
+#include <future>
+#include <thread>
+
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/TcpChannel.h"
 #include "fleet/Fleet.h"
@@ -82,7 +85,54 @@ TEST(AddressHoldTest, ServesTheLineInItsOrder) {
   next.reset();
   EXPECT_TRUE(second->IsHeld() && !second->IsWanted());
   second.reset();
+  const AddressHold::Observer late([&](auto& held, bool) { told += held == place ? "late" : ""; });
   EXPECT_EQ(told, "+nextsecond-");
+  for (int i = 0; i < 20; ++i) {
+    first.emplace(place);
+    auto waits = std::async(std::launch::async, [&] { return AddressHold(place).WaitFor(1h); });
+    while (AddressHold::LengthOfLine(place) < 2) std::this_thread::yield();
+    first.reset();
+    EXPECT_TRUE(waits.get());
+  }
+}
+
+TEST(HoldingChannelTest, KeepsTheAddressUntilOthersWantIt) {
+  struct Silent final : ProjectorChannel {
+    PjtReply Execute(const PjtCommand&) override { return {.result = 1, .answered = answers}; }
+    ConnectionState Connection() const override { return ConnectionState::NoAnswer; }
+    void GiveUpAfter(std::chrono::milliseconds time) override { told = time; }
+    bool UseIdleTime() override { return true; }
+    bool TendConnection(std::chrono::milliseconds unused) override { return (told = unused) < 1h; }
+    bool answers = true;
+    std::chrono::milliseconds told{};
+  };
+  const FleetTarget target{"a", TcpAddress{"192.0.2.2"}};
+  const auto length = [&] { return AddressHold::LengthOfLine(PlaceOf(target)); };
+  const auto inner = std::make_shared<Silent>();
+  std::optional<HoldingChannel> channel(std::in_place, inner, target, 1h);
+  EXPECT_FALSE(channel->UseIdleTime() || channel->TendConnection(0ms));
+  channel->GiveUpAfter(20ms);
+  EXPECT_EQ(inner->told, 20ms);
+  EXPECT_TRUE(channel->Execute({}).answered && channel->UseIdleTime());
+  EXPECT_TRUE(channel->TendConnection(7ms) && inner->told == 7ms);
+  {
+    const AddressHold other(PlaceOf(target));
+    EXPECT_FALSE(channel->UseIdleTime());
+    EXPECT_FALSE(channel->TendConnection(7ms));
+    EXPECT_TRUE(other.IsHeld() && inner->told > 1h) << "closed, then released";
+    EXPECT_TRUE(channel->Execute({}).unsent);
+    EXPECT_TRUE(channel->TendConnection(9s) && length() == 2 && !channel->UseIdleTime());
+    EXPECT_FALSE(channel->TendConnection(10s) || length() == 2);
+  }
+  inner->answers = false;
+  EXPECT_FALSE(channel->Execute({}).answered);
+  inner->told = 0ms;
+  EXPECT_FALSE(channel->TendConnection(7ms));
+  EXPECT_TRUE(inner->told > 1h && length() == 0);
+  EXPECT_EQ(channel->Connection(), ConnectionState::NoAnswer);
+  inner->told = 0ms;
+  channel.reset();
+  EXPECT_GT(inner->told, 1h);
 }
 
 TEST_F(HoldTest, ADialogsCommandComesAfterTheJobThatWorks) {

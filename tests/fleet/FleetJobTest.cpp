@@ -221,9 +221,8 @@ TEST(JobLoopTest, WakesOnlyWorkThatPauses) {
 
 TEST(JobLoopTest, LeavesNoFilesAndNoMemory) {
   const auto pages = [] {
-    std::size_t all = 0;
-    std::ifstream("/proc/self/statm") >> all;
-    return all;
+    std::ifstream file("/proc/self/statm");
+    return *std::istream_iterator<int>(file);
   };
   constexpr int kLoops = 4000;
   const auto files = EntriesOf("/proc/self/fd");

@@ -6,8 +6,10 @@
 #include <deque>
 #include <map>
 #include <string>
+#include <sys/resource.h>
 
 #include <QNetworkProxy>
+#include <QTcpServer>
 #include <QUdpSocket>
 #include <gtest/gtest.h>
 
@@ -174,6 +176,27 @@ TEST_F(FleetTest, HandsOutManyChangesInParts) {
               PowerState::WarmingUp);
   EXPECT_TRUE(Soon([&] { return wakes == 5; }));
   EXPECT_EQ(fleet.State("a")->power, PowerState::WarmingUp) << "and not only on";
+}
+
+TEST_F(FleetTest, LeavesFilesToTheRestOfTheProgram) {
+  rlimit all{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &all), 0);
+  const rlimit few{.rlim_cur = 40, .rlim_max = all.rlim_max};
+  setrlimit(RLIMIT_NOFILE, &few);
+  Fleet careful({.connect = 1h, .answer = 1h});
+  setrlimit(RLIMIT_NOFILE, &all);
+  careful.SetAsking(false);
+  QTcpServer silent;
+  silent.setProxy(QNetworkProxy::NoProxy);
+  ASSERT_TRUE(silent.listen(QHostAddress::AnyIPv4));
+  for (int i = 0; i < 30; ++i) {
+    const std::string host = "127.0.1." + std::to_string(i);
+    careful.Set({host, TcpAddress{.host = host, .port = silent.serverPort()}});
+  }
+  EXPECT_EQ(careful.Tally().begun, 0);
+  careful.SetAsking(true);
+  EXPECT_TRUE(Soon([&] { return careful.Tally().begun > 0; }));
+  EXPECT_EQ(careful.Tally().begun, 20);
 }
 
 TEST(FileEvents, AreWokenOnce) {

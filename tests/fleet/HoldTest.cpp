@@ -3,8 +3,6 @@
 #include <future>
 #include <thread>
 
-#include "device/channels/BoundedChannel.h"
-#include "device/channels/TcpChannel.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/HoldingChannel.h"
@@ -99,11 +97,12 @@ TEST(AddressHoldTest, ServesTheLineInItsOrder) {
 TEST(HoldingChannelTest, KeepsTheAddressUntilOthersWantIt) {
   struct Silent final : ProjectorChannel {
     PjtReply Execute(const PjtCommand&) override { return {.result = 1, .answered = answers}; }
-    ConnectionState Connection() const override { return ConnectionState::NoAnswer; }
+    ConnectionState Connection() const override { return state; }
     void GiveUpAfter(std::chrono::milliseconds time) override { told = time; }
     bool UseIdleTime() override { return true; }
     bool TendConnection(std::chrono::milliseconds unused) override { return (told = unused) < 1h; }
     bool answers = true;
+    ConnectionState state = ConnectionState::NoAnswer;
     std::chrono::milliseconds told{};
   };
   const FleetTarget target{"a", TcpAddress{"192.0.2.2"}};
@@ -115,49 +114,28 @@ TEST(HoldingChannelTest, KeepsTheAddressUntilOthersWantIt) {
   EXPECT_EQ(inner->told, 20ms);
   EXPECT_TRUE(channel->Execute({}).answered && channel->UseIdleTime());
   EXPECT_TRUE(channel->TendConnection(7ms) && inner->told == 7ms);
-  {
-    const AddressHold other(PlaceOf(target));
-    EXPECT_FALSE(channel->UseIdleTime());
-    EXPECT_FALSE(channel->TendConnection(7ms));
-    EXPECT_TRUE(other.IsHeld() && inner->told > 1h) << "closed, then released";
-    EXPECT_TRUE(channel->Execute({}).unsent);
-    EXPECT_TRUE(channel->TendConnection(9s) && length() == 2 && !channel->UseIdleTime());
-    EXPECT_FALSE(channel->TendConnection(10s) || length() == 2);
-  }
+  std::optional<AddressHold> other(PlaceOf(target)), last(PlaceOf(target));
+  EXPECT_FALSE(channel->UseIdleTime());
+  EXPECT_FALSE(channel->TendConnection(7ms));
+  EXPECT_TRUE(other->IsHeld() && inner->told > 1h) << "closed, then released";
+  EXPECT_TRUE(channel->Execute({}).unsent);
+  EXPECT_EQ(channel->Connection(), ConnectionState::Connecting);
+  EXPECT_TRUE(channel->TendConnection(9s) && length() == 3 && !channel->UseIdleTime());
+  EXPECT_FALSE(channel->TendConnection(10s) || length() == 3);
+  EXPECT_TRUE(channel->Execute({}).unsent);
+  other.reset();
+  EXPECT_TRUE(channel->Execute({}).answered) << "before the last";
+  last.reset();
   inner->answers = false;
   EXPECT_FALSE(channel->Execute({}).answered);
   inner->told = 0ms;
   EXPECT_FALSE(channel->TendConnection(7ms));
   EXPECT_TRUE(inner->told > 1h && length() == 0);
-  EXPECT_EQ(channel->Connection(), ConnectionState::NoAnswer);
+  inner->state = ConnectionState::Unused;
+  EXPECT_EQ(channel->Connection(), ConnectionState::NoAnswer) << "why it was silent";
   inner->told = 0ms;
   channel.reset();
   EXPECT_GT(inner->told, 1h);
-}
-
-TEST_F(HoldTest, ADialogsCommandComesAfterTheJobThatWorks) {
-  SilentServer silent;
-  const auto job = Job(silent.Address());
-  ASSERT_TRUE(Soon([&] { return silent.Open() == 1; }));
-  const auto later = Job(silent.Address());
-  const TcpAddress at = silent.Address();
-  BoundedChannel dialog(
-      std::make_shared<HoldingChannel>(std::make_shared<TcpChannel>(at.host, at.port),
-                                       FleetTarget{.id = {}, .address = at}, 200ms),
-      {.timeOut = 200ms, .retryAfter = 0ms, .tend = 20ms});
-  const PjtReply reply = dialog.Execute({PjtOperation::SetMirror, 0, 1});
-  EXPECT_TRUE(!reply.answered && reply.unsent);
-  EXPECT_EQ(dialog.Connection(), ConnectionState::Connecting);
-  EXPECT_EQ(silent.Accept(), 1U);
-
-  silent.connections.front()->close();
-  ASSERT_TRUE(Soon([&] { return IsOver(*job); }));
-  EXPECT_FALSE(dialog.Execute({PjtOperation::GetMirror}).unsent) << "before the other job";
-  EXPECT_TRUE(Soon([&] { return silent.Accept() == 3; })) << "it has not answered";
-  EXPECT_EQ(dialog.Connection(), ConnectionState::NoAnswer);
-  EXPECT_EQ(silent.Open(), 1);
-  silent.connections.back()->close();
-  EXPECT_TRUE(Soon([&] { return IsOver(*later); }));
 }
 
 }  // namespace

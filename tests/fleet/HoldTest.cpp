@@ -61,6 +61,7 @@ TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
     silent.connections.back()->disconnectFromHost();
     EXPECT_TRUE(Soon(ends[i])) << i;
   }
+  EXPECT_TRUE(Soon([&] { return fleet.Tally().begun > 1; })) << "nobody else is there";
 }
 
 TEST(AddressHoldTest, ServesTheLineInItsOrder) {

@@ -55,7 +55,7 @@ TEST(FleetTurns, TakesTurnsAtAnAddress) {
 }
 
 TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
-  SteppedFleet fleet({.visitsAtOnce = 1050});
+  SteppedFleet fleet({.visitsAtOnce = 1050, .history = 0});
   for (int i = 0; i < 1100; ++i) fleet.Add(std::to_string(i)).isThere = false;
   fleet.RunFor(1s);
   EXPECT_EQ(fleet.watcher.Tally().begun, 1050);

@@ -5,6 +5,7 @@
 #include <deque>
 #include <fstream>
 #include <numeric>
+#include <thread>
 
 #include "app/simulator/PseudoTerminal.h"
 #include "fleet/Fleet.h"
@@ -68,6 +69,15 @@ TEST_F(FleetJobTest, SetsOnAllAndUndoesTheRun) {
   EXPECT_FALSE(results[4].reason.empty());
   EXPECT_EQ(Mirrors(), (std::vector{2, 2, before[2], 2}));
   EXPECT_EQ(undo.count("1") + undo.count("gone"), 0) << "nothing was changed there";
+
+  served[0].device->SetFault(PjtOperation::SetMirror, {.kind = Fault::Kind::Late, .delay = 1h});
+  FleetJob job(nullptr, {targets[0]}, SetSetting{"setup.mirror", "1"}, Texts(), {.timeOut = 1h});
+  std::thread other([&] {
+    while (job.Undo().empty()) std::this_thread::yield();
+    served[0].device->Clear();
+  });
+  EXPECT_TRUE(Soon([&] { return job.HowFar().finished == 1; })) << "it can be undone meanwhile";
+  other.join();
 
   const FleetUndoContents read = ReadFleetUndo(WriteFleetUndo(undo));
   EXPECT_EQ(read.error, QString());

@@ -33,27 +33,6 @@ TEST(FleetTurns, LearnsFromWhatOthersAreAnswered) {
   EXPECT_EQ(learn(31), std::nullopt);
 }
 
-TEST(FleetTurns, TakesTurnsAtAnAddress) {
-  SteppedFleet fleet({.interval = 1s});
-  std::map<std::string, int> visits{{"one", 0}, {"same", 0}, {"again", 0}};
-  for (const auto& [id, none] : visits) fleet.Add(id, "shared");
-  Projector& it = fleet.projectors["shared"];
-  it.device.answers = 500ms;  // so that a visit takes longer than the interval
-  std::map<std::string, std::optional<WallTime>> answered;
-  for (int second = 0; second < 120; ++second) {
-    fleet.RunFor(1s);
-    for (auto& [id, count] : visits) {
-      const auto now = fleet.State(id).answered;
-      if (std::exchange(answered[id], now) != now) ++count;
-    }
-  }
-  EXPECT_EQ(it.mostConnections, 1);
-  const auto [least, most] =
-      std::ranges::minmax_element(visits, {}, &std::pair<const std::string, int>::second);
-  EXPECT_GE(least->second, 5);
-  EXPECT_LE(most->second, least->second + 1);
-}
-
 TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
   SteppedFleet fleet({.visitsAtOnce = 1050, .history = 0});
   for (int i = 0; i < 1100; ++i) fleet.Add(std::to_string(i)).isThere = false;

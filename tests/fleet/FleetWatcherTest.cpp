@@ -94,17 +94,9 @@ class Played {
     }
   }
 
-  void Begin() {
-    fleet_.emplace(FleetPolicy{.jitter = 0});
-    told_.clear(), connections_.clear();
-  }
   void Says() {
     auto& device = At().device;
     (device.states.contains(key_) ? device.states : device.facts)[key_] = value_;
-  }
-  void Line() {
-    fleet_->watcher.Set({id_, SerialAddress{.device = key_}});
-    fleet_->projectors[key_].wire = std::make_shared<WireDevice>();
   }
   void Wire() {
     const auto model = std::make_shared<ModelData>();
@@ -112,9 +104,6 @@ class Played {
     model->MySourceList.names[0] = MakeNameSlot("Video");
     model->MySourceList.firstValues[0] = 3;
     fleet_->AddWire(id_, id_, model);
-  }
-  void Visit() {
-    while (At().open == 0) fleet_->RunFor(std::chrono::milliseconds(1));
   }
   void TellTally() {
     const FleetTally& all = fleet_->watcher.Tally();
@@ -124,9 +113,14 @@ class Played {
   }
 
   const std::map<std::string_view, std::function<void()>> verbs_{
-      {"==", [&] { Begin(); }},
+      {"==",
+       [&] { fleet_.emplace(FleetPolicy{.jitter = 0}), told_.clear(), connections_.clear(); }},
       {"add", [&] { fleet_->Add(id_, key_.empty() ? id_ : key_); }},
-      {"line", [&] { Line(); }},
+      {"line",
+       [&] {
+         fleet_->watcher.Set({id_, SerialAddress{.device = key_}});
+       }},
+      {"wired", [&] { At().wire = std::make_shared<WireDevice>(); }},
       {"wire", [&] { Wire(); }},
       {"value", [&] { At().wire->values[Code()] = std::stoi(value_); }},
       {"lacks", [&] { At().wire->values.erase(Code()); }},
@@ -156,7 +150,10 @@ class Played {
       {"asking", [&] { fleet_->watcher.SetAsking(id_ == "on"); }},
       {"interval", [&] { fleet_->watcher.SetInterval(Seconds(id_)); }},
       {"run", [&] { fleet_->RunFor(Seconds(id_)); }},
-      {"visit", [&] { Visit(); }},
+      {"visit",
+       [&] {
+         while (At().open == 0) fleet_->RunFor(1ms);
+       }},
       {"tally", [&] { TellTally(); }},
   };
   std::string text_;

@@ -5,8 +5,8 @@
 #include <chrono>
 #include <deque>
 #include <map>
+#include <optional>
 #include <string>
-#include <sys/resource.h>
 
 #include <QNetworkProxy>
 #include <QTcpServer>
@@ -20,6 +20,7 @@
 #include "fleet/NameResolver.h"
 #include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
+#include "tests/support/Limited.h"
 
 namespace {
 
@@ -179,12 +180,9 @@ TEST_F(FleetTest, HandsOutManyChangesInParts) {
 }
 
 TEST_F(FleetTest, LeavesFilesToTheRestOfTheProgram) {
-  rlimit all{};
-  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &all), 0);
-  const rlimit few{.rlim_cur = 40, .rlim_max = all.rlim_max};
-  setrlimit(RLIMIT_NOFILE, &few);
+  auto limited = std::make_optional<Limited>(RLIMIT_NOFILE, 40);
   Fleet careful({.connect = 1h, .answer = 1h});
-  setrlimit(RLIMIT_NOFILE, &all);
+  limited.reset();
   careful.SetAsking(false);
   QTcpServer silent;
   silent.setProxy(QNetworkProxy::NoProxy);

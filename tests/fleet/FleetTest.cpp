@@ -191,10 +191,11 @@ TEST_F(FleetTest, LeavesFilesToTheRestOfTheProgram) {
     const std::string host = "127.0.1." + std::to_string(i);
     careful.Set({host, TcpAddress{.host = host, .port = silent.serverPort()}});
   }
-  EXPECT_EQ(careful.Tally().begun, 0);
   careful.SetAsking(true);
   EXPECT_TRUE(Soon([&] { return careful.Tally().begun > 0; }));
   EXPECT_EQ(careful.Tally().begun, 20);
+  careful.SetAsking(false);
+  EXPECT_EQ(careful.Tally().abandoned, 20);
 }
 
 TEST(FileEvents, AreWokenOnce) {

@@ -43,7 +43,7 @@ TEST(Csv, ReadsWhatSpreadsheetsExport) {
       {"name\taddress\rA; x\tB\r", "name/address | 2: A; x/B"},
       {"sep=|\nname|x\nA;,|B", "name/x | 3: A;,/B"},
       {"\n\nname , \"x;y;z\"\n \"A \"\"b\"\"\" , B \n", "name/x;y;z | 4: A \"b\"/B"},
-      {"name,x\n\"two\r\nlines\",B\nC;;,D", "name/x | 2: two~lines/B | 4: C;;/D"},
+      {"name,x\n\"two\r\nlines\",B\nC;;;;,D", "name/x | 2: two~lines/B | 4: C;;;;/D"},
       {"name,x\nA\nB,C,\nD,E,F\nG,'=1\n",
        "name/x | 2: A/ | 3: B/C | 5: G/=1 ! 4: 3 cells, but the header has 2"},
       {"name,x\n\"A\" b,C\nD,E\nF,\"G\nH,I",

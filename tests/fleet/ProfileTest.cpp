@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include "fleet/JsonLines.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
 
@@ -52,6 +53,9 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   for (const char* wrong : {R"(["\n0041"])", R"(["\udc00\udc00"])", R"(["\ud83dxude00"])"}) {
     EXPECT_TRUE(ParseProfileList(wrong, "p.json").error.startsWith("p.json:1:3: ")) << wrong;
   }
+  EXPECT_FALSE(JsonLines::FaultOf(R"([[],{"a":1},[1,2]])", {.bytes = 18, .values = 8}));
+  EXPECT_EQ(JsonLines::FaultOf(R"([[],{"a":1},[1,2]])", {.values = 7})->offset, 14);
+  EXPECT_EQ(JsonLines::FaultOf("{},[]" + QByteArray("{[").repeated(9), {})->offset, 21);
   EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}), "name: must be a text that is not empty");
 }
 

@@ -82,7 +82,6 @@ void Reader::SkipLineEnd() {
 
 void Reader::SkipLine() {
   while (!AtLineEnd()) ++at_;
-  SkipLineEnd();
 }
 
 void Reader::FindSeparator() {
@@ -119,7 +118,7 @@ bool Reader::ReadQuoted(QString& cell) {
   return false;
 }
 
-// At the end of the row's last line afterwards; what is wrong leaves the reader behind its first.
+// Behind the row's last line afterwards; what is wrong leaves the reader at the end of its first.
 bool Reader::ReadRow(CsvRow& row, QString& reason) {
   const qsizetype begin = at_;
   const auto give = [&](const QString& why) {

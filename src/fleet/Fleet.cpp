@@ -41,7 +41,6 @@ Fleet::Fleet(const FleetPolicy& policy, std::function<void()> onChanges)
 }
 
 Fleet::~Fleet() {
-  held_.reset();
   Change([this] { ends_ = true; });
   thread_.join();
 }

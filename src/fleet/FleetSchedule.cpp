@@ -5,7 +5,6 @@ namespace AdvancedControl {
 void FleetSchedule::Reset(Peer peer) {
   if (peer >= plans_.size()) plans_.resize(peer + 1);
   plans_[peer] = {};
-  Stop(peer);
 }
 
 }  // namespace AdvancedControl

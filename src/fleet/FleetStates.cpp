@@ -92,8 +92,8 @@ void FleetStates::Apply(const std::string& id, Known& known, LiveState state) {
   if (state.reachability != known.state.reachability) state.since = wall;
   for (StateChange& change : ChangesBetween(known.state, state, wall)) {
     if (IsNews(change)) {
-      if (known.history.size() >= history_) known.history.erase(known.history.begin());
       known.history.push_back(change);
+      if (known.history.size() > history_) known.history.erase(known.history.begin());
     }
     changes_.push_back({id, std::move(change)});
   }

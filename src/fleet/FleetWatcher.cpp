@@ -151,7 +151,6 @@ void FleetWatcher::Finished(Peer peer, const Visit& visit) {
     state.answered = clock_.Wall();
     state.answerTime = std::chrono::duration_cast<std::chrono::microseconds>(visit.AnswerTime());
   });
-  if (std::exchange(watched.asksAgain, false)) schedule_.Hasten(peer);
   StartTimer(peer);
 }
 
@@ -193,7 +192,6 @@ void FleetWatcher::Begin(Peer peer) {
     });
   }
   ++tally_.begun;
-  watched.asksAgain = false;
   schedule_.Begin(peer);
   visits_.Begin(peer, std::move(visit), watched.target);
 }
@@ -220,7 +218,9 @@ void FleetWatcher::AskPeerSoon(Peer peer) {
   }
 }
 
+// Not during a visit: what is wanted soon is not lost when the visit is abandoned.
 void FleetWatcher::StartTimer(Peer peer) {
+  if (std::exchange(roster_.At(peer).asksAgain, false)) schedule_.Hasten(peer);
   if (asks_) schedule_.Start(peer);
 }
 

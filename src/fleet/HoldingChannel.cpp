@@ -54,7 +54,7 @@ bool HoldingChannel::TendConnection(Time unused) {
   if (!hold_) return false;
   const bool waitedInVain = state_.load() == ConnectionState::Connecting;
   if (waitedInVain && unused < kPatience) return true;
-  if (hold_->IsHeld() && !waitedInVain) {
+  if (!waitedInVain) {  // then it is held
     // `Connection` gives the reason for the silence until the next command.
     if (isSilent_) state_ = Inner().Connection();
     if (Inner().TendConnection(isSilent_ || hold_->IsWanted() ? Time::max() : unused)) return true;

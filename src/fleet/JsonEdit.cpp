@@ -43,12 +43,11 @@ qsizetype EndOfValue(const QByteArray& text, qsizetype at) {
     const char c = text[at];
     if (c == '"') {
       at = EndOfString(text, at) - 1;
-      if (depth == 0) return at + 1;
     } else if (c == '{' || c == '[') {
       ++depth;
     } else if (c == '}' || c == ']') {
       if (depth == 0) return at;
-      if (--depth == 0) return at + 1;
+      --depth;
     } else if (depth == 0 && (c == ',' || IsSpace(c))) {
       return at;
     }

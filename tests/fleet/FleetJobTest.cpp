@@ -1,13 +1,17 @@
 // Jobs on simulated projectors, which the thread of the test serves.
 
 #include <algorithm>
+#include <atomic>
 #include <deque>
+#include <fstream>
 #include <numeric>
+#include <thread>
 
 #include "app/simulator/PseudoTerminal.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
+#include "fleet/MakeVisit.h"
 #include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
@@ -29,7 +33,7 @@ struct FleetJobTest : ServingTest {
   }
 
   std::vector<WorkResult> Do(FleetWork work, Fleet* fleet = nullptr) {
-    FleetJob job(fleet, targets, std::move(work), Texts());
+    FleetJob job(fleet, targets, std::move(work), Texts(), {.timeOut = 1h});
     EXPECT_TRUE(Soon([&] { return job.HowFar().finished == targets.size(); }));
     undo = job.Undo();
     return job.Results();
@@ -63,6 +67,15 @@ TEST_F(FleetJobTest, SetsOnAllAndUndoesTheRun) {
   EXPECT_FALSE(results[4].reason.empty());
   EXPECT_EQ(Mirrors(), (std::vector{2, 2, before[2], 2}));
   EXPECT_EQ(undo.count("1") + undo.count("gone"), 0) << "nothing was changed there";
+
+  served[0].device->SetFault(PjtOperation::SetMirror, {.kind = Fault::Kind::Late, .delay = 1h});
+  FleetJob job(nullptr, {targets[0]}, SetSetting{"setup.mirror", "1"}, Texts(), {.timeOut = 1h});
+  std::thread other([&] {
+    while (job.Undo().empty()) std::this_thread::yield();
+    served[0].device->Clear();
+  });
+  EXPECT_TRUE(Soon([&] { return job.HowFar().finished == 1; })) << "it can be undone meanwhile";
+  other.join();
 
   const FleetUndoContents read = ReadFleetUndo(WriteFleetUndo(undo));
   EXPECT_EQ(read.error, QString());
@@ -99,7 +112,9 @@ TEST_F(FleetJobTest, TakesAndComparesSnapshotsAndSwitchesPower) {
   Do(CompareSnapshots{{{"0", wanted}}, false}, &fleet);
   EXPECT_EQ(fleet.State("0")->drift, 0) << "this is not how it should be";
   served[0].device->SetFault(Fault{.kind = Fault::Kind::FailRead});
-  EXPECT_EQ(Do(CompareSnapshots{{{"0", wanted}}})[0].differing, std::nullopt) << "nobody knows";
+  EXPECT_EQ(Do(CompareSnapshots{{{"0", wanted}}}, &fleet)[0].differing, std::nullopt)
+      << "nobody knows";
+  EXPECT_EQ(fleet.State("3")->drift, 1) << "as it was";
   served[0].device->SetFault(Fault{});
 
   fleet.SetAsking(false);
@@ -120,6 +135,7 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
              {"nowhere", AddressError{"no address"}, model}};
   const auto taken = Do(TakeSnapshots());
   EXPECT_EQ(Outcomes(taken), (std::vector{Done, Done, NoAnswer}));
+  EXPECT_EQ(taken[2].reason, "wrong connection parameters");
   const auto& told = taken[0].snapshot->settings;
   EXPECT_EQ(std::ranges::count(told, "HDMI (31)", &SavedSetting::text), 1);
   EXPECT_GT(taken[1].snapshot->settings.size(), 20);
@@ -146,6 +162,7 @@ TEST_F(FleetJobTest, WaitsForSixtyFourAtOnceOnOneThreadUntilItIsCancelled) {
                            [](std::size_t sum, auto& one) { return sum + one.Accept(); }) == 64;
   }));
   EXPECT_EQ(Threads(), before + 1);
+  EXPECT_EQ(std::ranges::count(Outcomes(job.Results()), Working), 64);
   job.Cancel();
   silent.clear();
   EXPECT_TRUE(Soon([&] { return job.HowFar().finished == targets.size(); }));
@@ -160,14 +177,24 @@ TEST_F(FleetJobTest, WorksOnOneAtATimeAtAnAddress) {
   SilentServer silent;
   targets.clear();
   for (const char* const id : {"one", "same", "again"}) targets.push_back({id, silent.Address()});
-  FleetJob job(nullptr, targets, SwitchPower{true}, Texts(), {.timeOut = 60s});
+  std::atomic<std::size_t> released = 0;
+  const auto onProgress = [&, place = PlaceOf(targets.front())] {
+    released += AddressHold::LengthOfLine(place) == 0 ? 1 : 0;
+  };
+  FleetJob job(nullptr, targets, SwitchPower{true}, Texts(),
+               {.timeOut = 60s, .onProgress = onProgress});
   for (std::size_t i = 0; i < targets.size(); ++i) {
     EXPECT_TRUE(Soon([&] { return silent.Accept() > i; }));
     EXPECT_EQ(silent.connections.size(), i + 1);
     EXPECT_EQ(job.HowFar().finished, i);
     silent.connections.back()->close();
   }
-  EXPECT_TRUE(Soon([&] { return job.HowFar().finished == targets.size(); }));
+  job.Wait();
+  EXPECT_EQ(job.HowFar().finished, targets.size());
+  EXPECT_TRUE(Soon([&] { return released == targets.size(); }));
+  targets.assign(WireServer::kMaximumConnections + 1,
+                 {"again", served[0].Wire(), std::make_shared<ModelData>(SimulatedModelData())});
+  EXPECT_EQ(Outcomes(Do(TakeSnapshots())), std::vector(targets.size(), Done)) << "one by one";
 }
 
 // Somebody else's turn must not shorten the wait for a connection.
@@ -180,13 +207,37 @@ TEST(JobLoopTest, WakesOnlyWorkThatPauses) {
   } nothing;
   JobLoop loop;
   const JobLoop::Peer peer = loop.Add(nothing);
-  loop.Run(3, [&](std::size_t number) {
-    const auto end = std::chrono::steady_clock::now() + 50ms;
-    if (number == 0) return JobLoop::Pause(SessionTime::max());
-    if (number == 1) return loop.WakeAll();
-    loop.Wait(peer, end);
-    EXPECT_GE(std::chrono::steady_clock::now(), end);
-  });
+  for (int run = 0; run < 2; ++run) {
+    bool hasWoken = false;
+    loop.Run(3, [&](std::size_t number) {
+      JobLoop::Pause({});
+      const auto end = std::chrono::steady_clock::now() + 50ms;
+      if (number == 0) {
+        JobLoop::Pause(SessionTime::max());
+        EXPECT_TRUE(hasWoken);
+      } else if (number == 1) {
+        hasWoken = true;
+        loop.WakeAll();
+      } else {
+        loop.Wait(peer, end);
+        EXPECT_GE(std::chrono::steady_clock::now(), end);
+      }
+    });
+  }
+  JobLoop::Pause({});  // the thread sleeps
+}
+
+TEST(JobLoopTest, LeavesNoFilesAndNoMemory) {
+  const auto pages = [] {
+    std::ifstream file("/proc/self/statm");
+    return *std::istream_iterator<int>(file);
+  };
+  constexpr int kLoops = 4000;
+  const auto files = EntriesOf("/proc/self/fd");
+  const auto before = pages();
+  for (int i = 0; i < kLoops; ++i) JobLoop().Run(1, [](std::size_t) {});
+  EXPECT_EQ(EntriesOf("/proc/self/fd"), files);
+  EXPECT_LT(pages(), before + 64 * kLoops) << "a stack has 256";
 }
 
 }  // namespace

@@ -5,9 +5,11 @@
 #include <chrono>
 #include <deque>
 #include <map>
+#include <optional>
 #include <string>
 
 #include <QNetworkProxy>
+#include <QTcpServer>
 #include <QUdpSocket>
 #include <gtest/gtest.h>
 
@@ -18,6 +20,7 @@
 #include "fleet/NameResolver.h"
 #include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
+#include "tests/support/Limited.h"
 
 namespace {
 
@@ -147,6 +150,10 @@ TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {
   send("%2lkup=00:00:00:00:00:00");
   EXPECT_TRUE(Soon([&] { return slow.Tally().answered == 2; }));
   EXPECT_EQ(slow.State("a")->problems, PartProblems()) << "as it says itself";
+  slow.AskSoon("a");
+  EXPECT_TRUE(Soon([&] { return slow.Tally().answered == 3; }));
+  slow.SetInterval(1ms);
+  EXPECT_TRUE(Soon([&] { return slow.Tally().answered > 3; }));
 }
 
 TEST_F(FleetTest, HandsOutManyChangesInParts) {
@@ -163,9 +170,41 @@ TEST_F(FleetTest, HandsOutManyChangesInParts) {
   }));
   EXPECT_EQ(parts, (std::vector<std::size_t>{1000, 1000, 500}));
   EXPECT_EQ(wakes, 3);
-  fleet.Learn("a", {PjtOperation::Get, CommandCode::RunningState}, {.result = 1},
-              PowerState::Standby);
+  fleet.LearnDrift("a", {});
   EXPECT_TRUE(Soon([&] { return wakes == 4; }));
+  fleet.TakeChanges();
+  fleet.Learn("a", {PjtOperation::Get, CommandCode::RunningState}, {.result = 1},
+              PowerState::WarmingUp);
+  EXPECT_TRUE(Soon([&] { return wakes == 5; }));
+  EXPECT_EQ(fleet.State("a")->power, PowerState::WarmingUp) << "and not only on";
+}
+
+TEST_F(FleetTest, LeavesFilesToTheRestOfTheProgram) {
+  auto limited = std::make_optional<Limited>(RLIMIT_NOFILE, 40);
+  Fleet careful({.connect = 1h, .answer = 1h});
+  limited.reset();
+  careful.SetAsking(false);
+  QTcpServer silent;
+  silent.setProxy(QNetworkProxy::NoProxy);
+  ASSERT_TRUE(silent.listen(QHostAddress::AnyIPv4));
+  for (int i = 0; i < 30; ++i) {
+    const std::string host = "127.0.1." + std::to_string(i);
+    careful.Set({host, TcpAddress{.host = host, .port = silent.serverPort()}});
+  }
+  careful.SetAsking(true);
+  EXPECT_TRUE(Soon([&] { return careful.Tally().begun > 0; }));
+  EXPECT_EQ(careful.Tally().begun, 20);
+  careful.SetAsking(false);
+  EXPECT_EQ(careful.Tally().abandoned, 20);
+}
+
+TEST(FileEvents, AreWokenOnce) {
+  FileEvents events;
+  events.Wake();
+  events.Wait(SessionTime::max());
+  const auto end = std::chrono::steady_clock::now() + 50ms;
+  events.Wait(end);
+  EXPECT_GE(std::chrono::steady_clock::now(), end);
 }
 
 // Many visits are in the middle of something whenever it ends.

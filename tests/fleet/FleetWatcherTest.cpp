@@ -1,15 +1,23 @@
-// A fleet and its projectors in a time of their own.
+// A fleet and its projectors in a time of their own. Told.txt is a script of what happens to them,
+// and the record of what the fleet tells then: after an intended change, rewrite it with
+// UPDATE_LISTING=1 and review the differences.
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <fstream>
 #include <functional>
-#include <tuple>
+#include <map>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
-#include "device/CommandCode.h"
 #include "settings/PageTables.h"
 #include "tests/fleet/SteppedFleet.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -41,141 +49,137 @@ std::string Words(const LiveState& state) {
   return text;
 }
 
-constexpr char kUsual[] =
-    "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
-
-TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
-  const auto says = [](const std::map<std::string, std::string>& now,
-                       std::chrono::hours busy = {}) {
-    return [=](Projector& it) {
-      it.device.busyFor = busy;
-      for (const auto& [command, text] : now) {
-        (it.device.states.contains(command) ? it.device.states : it.device.facts)[command] = text;
-      }
-    };
-  };
-  const std::tuple<const char*, std::function<void(Projector&)>, const char*> cases[] = {
-      {"as usual", [](auto&) {}, kUsual},
-      {"in standby", says({{"POWR", "0"}}), "answers, standby"},
-      {"warming up, when it tells no more", says({{"POWR", "3"}}, 1h), "answers, warming up"},
-      {"problems and lamps",
-       says({{"POWR", "2"}, {"ERST", "020011"}, {"LAMP", "100 1 20000 0"}, {"AVMT", "31"}}),
-       "answers, cooling down, 31 HDMI (31), 020011, 100 h lit, 20000 h out, filter 80 h, blank, "
-       "mute, live"},
-      {"class 1", says({{"CLSS", "1"}}),
-       "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, seen, heard"},
-      {"nonsense", says({{"POWR", "9"}, {"INPT", "9"}, {"ERST", "9x"}, {"LAMP", "9x"}}),
-       "answers, filter 80 h, seen, heard, live"},
-      {"closes after each reply", [](auto& it) { it.device.CloseEachTime(300ms); }, kUsual},
-      {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
-       "answers, on, 31 HDMI (31)"},
-      {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
-      {"has its port closed", [](auto& it) { it.isRefusing = true; }, "silent"},
-      {"says nothing", [](auto& it) { it.device.greeting.clear(); }, "silent"},
-      {"wants a password", [](auto& it) { it.device.greeting = "PJLINK ERRA\r"; },
-       "wrong password"},
-      {"is something else", [](auto& it) { it.device.greeting = "220 ready\r\n"; },
-       "not understood"},
-  };
-  for (const auto& [name, make, told] : cases) {
-    SCOPED_TRACE(name);
-    SteppedFleet fleet;
-    make(fleet.Add("a"));
-    EXPECT_EQ(Words(fleet.State("a")), "never asked");
-    fleet.RunFor(20s);
-    EXPECT_EQ(Words(fleet.State("a")), told);
-    EXPECT_EQ(fleet.watcher.Tally().begun, 1);
-    EXPECT_EQ(fleet.projectors["a"].open, 0) << "nobody keeps a connection";
+/// The lines of a script with what each has changed.
+class Played {
+ public:
+  explicit Played(std::istream& script) {
+    for (std::string line; std::getline(script, line);) {
+      if (line.starts_with("  ")) continue;  // what was changed before
+      text_ += line + '\n';
+      if (line.empty() || line.front() == '#') continue;
+      std::istringstream words(line);
+      std::string verb;
+      id_ = key_ = value_ = {};
+      words >> verb >> id_ >> key_;
+      std::getline(words >> std::ws, value_);
+      verbs_.at(verb)();
+      Tell();
+    }
   }
+  const std::string& Text() const { return text_; }
+
+ private:
+  static std::chrono::milliseconds Seconds(const std::string& text) {
+    return std::chrono::milliseconds(std::lround(std::stod(text) * 1000));
+  }
+  SteppedFleet::Projector& At() { return fleet_->projectors[id_]; }
+  std::uint16_t Code() const { return static_cast<std::uint16_t>(std::stoi(key_, nullptr, 16)); }
+  VisitQueue::Address Place() const { return {id_, PjLinkAddress().port}; }
+
+  void Tell() {
+    const auto states = fleet_->states.States();
+    for (const auto& [id, state] : std::map(states.begin(), states.end())) {
+      const auto connection = static_cast<int>(state.connection);
+      const std::string words = Words(state) + " (" + std::to_string(connection) + ")";
+      if (std::exchange(told_[id], words) != words) text_ += "  " + id + ": " + words + '\n';
+    }
+    for (auto& [host, it] : fleet_->projectors) {
+      const std::pair now{it.connections.size(), it.open};
+      const auto before = std::exchange(connections_[host], now);
+      if (before == now) continue;
+      const std::string asked = it.wire ? std::to_string(it.bursts) : it.device.TakeRequests();
+      text_ += "  " + host + " +" + std::to_string(now.first - before.first) +
+               (it.open > 0 ? " open" : "") + (asked.empty() ? "" : ": " + asked) + '\n';
+      EXPECT_LE(it.mostConnections, 1) << host;
+    }
+  }
+
+  void Says() {
+    auto& device = At().device;
+    (device.states.contains(key_) ? device.states : device.facts)[key_] = value_;
+  }
+  void Wire() {
+    const auto model = std::make_shared<ModelData>();
+    model->MySourceList.count = 1;
+    model->MySourceList.names[0] = MakeNameSlot("Video");
+    model->MySourceList.firstValues[0] = 3;
+    fleet_->AddWire(id_, id_, model);
+  }
+  void TellTally() {
+    const FleetTally& all = fleet_->watcher.Tally();
+    text_ += "  " + std::to_string(all.begun) + " begun, " + std::to_string(all.answered) +
+             " answered, " + std::to_string(all.unanswered) + " unanswered, " +
+             std::to_string(all.abandoned) + " abandoned\n";
+  }
+
+  const std::map<std::string_view, std::function<void()>> verbs_{
+      {"==",
+       [&] { fleet_.emplace(FleetPolicy{.jitter = 0}), told_.clear(), connections_.clear(); }},
+      {"add", [&] { fleet_->Add(id_, key_.empty() ? id_ : key_); }},
+      {"line",
+       [&] {
+         fleet_->watcher.Set({id_, SerialAddress{.device = key_}});
+       }},
+      {"wired", [&] { At().wire = std::make_shared<WireDevice>(); }},
+      {"wire", [&] { Wire(); }},
+      {"value", [&] { At().wire->values[Code()] = std::stoi(value_); }},
+      {"lacks", [&] { At().wire->values.erase(Code()); }},
+      {"wrong",
+       [&] {
+         fleet_->watcher.Set({id_, AddressError{}});
+       }},
+      {"remove", [&] { fleet_->watcher.Remove(id_); }},
+      {"says", [&] { Says(); }},
+      {"busy", [&] { At().device.busyFor = Seconds(key_); }},
+      {"answers", [&] { At().device.answers = Seconds(key_); }},
+      {"hasty", [&] { At().device.CloseEachTime(Seconds(key_)); }},
+      {"loses", [&] { At().device.loses[key_] = std::stoi(value_); }},
+      {"greets", [&] { At().device.greeting = key_.empty() ? "" : key_ + ' ' + value_ + '\r'; }},
+      {"gone", [&] { At().isThere = key_ == "no"; }},
+      {"refuses", [&] { At().isRefusing = key_ != "no"; }},
+      {"taken", [&] { At().isTaken = true; }},
+      {"notice",
+       [&] {
+         fleet_->watcher.Events().Noticed({id_, key_, value_});
+       }},
+      {"ask", [&] { fleet_->watcher.AskSoon(id_); }},
+      {"pause", [&] { fleet_->watcher.Pause(id_); }},
+      {"resume", [&] { fleet_->watcher.Resume(id_); }},
+      {"hold", [&] { fleet_->watcher.Hold(Place()); }},
+      {"release", [&] { fleet_->watcher.Release(Place()); }},
+      {"asking", [&] { fleet_->watcher.SetAsking(id_ == "on"); }},
+      {"interval", [&] { fleet_->watcher.SetInterval(Seconds(id_)); }},
+      {"run", [&] { fleet_->RunFor(Seconds(id_)); }},
+      {"visit",
+       [&] {
+         while (At().open == 0) fleet_->RunFor(1ms);
+       }},
+      {"tally", [&] { TellTally(); }},
+  };
+  std::string text_;
+  std::optional<SteppedFleet> fleet_;
+  std::map<std::string, std::string> told_;
+  std::map<std::string, std::pair<std::size_t, int>> connections_;
+  std::string id_, key_, value_;  ///< Of the present line.
+};
+
+TEST(FleetWatcher, TellsAndAsksAsRecorded) {
+  const char* const file = TEST_SOURCE_DIR "/fleet/Told.txt";
+  std::ifstream script(file);
+  ExpectRecord(file, Played(script).Text());
 }
 
-TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
-  namespace Code = CommandCode;
-  const std::tuple<const char*, std::map<std::uint16_t, int>, const char*> cases[] = {
-      {"as usual", {}, "answers, on, 3 Video, 000000, 1200 h, filter 80 h, seen, heard, live"},
-      {"in standby", {{Code::RunningState, 0}}, "answers, standby"},
-      {"cooling down, lamp",
-       {{Code::RunningState, 2}, {Code::ErrorStatus, 3}},
-       "answers, cooling down, 3 Video, 020000, 1200 h, filter 80 h, seen, heard, live"},
-      {"air flow, switches",
-       {{Code::ErrorStatus, 5}, {Code::BlankState, 1}, {Code::Freeze, 1}, {Code::LampTime, 40000}},
-       "answers, on, 3 Video, 000020, 40000 h, filter 80 h, blank, heard, frozen"},
-      {"an error without a name, a source without one",
-       {{Code::ErrorStatus, 77}, {Code::InputSource, 9}},
-       "answers, on, 9 , 000002, 1200 h, filter 80 h, seen, heard, live"},
-  };
+TEST(FleetWatcher, ReadsWhatTheStatusPageShowsOnTheWireOnly) {
   const auto isState = [](const PageRow& row) { return std::holds_alternative<StateRow>(row); };
-  EXPECT_EQ(std::ranges::count_if(kStatusRows.rows, isState), kStatusItems) << "all are read";
-  const auto model = std::make_shared<ModelData>();
-  model->MySourceList.count = 1;
-  model->MySourceList.names[0] = MakeNameSlot("Video");
-  model->MySourceList.firstValues[0] = 3;
-  for (const auto& [name, values, told] : cases) {
-    SCOPED_TRACE(name);
-    SteppedFleet fleet;
-    Projector& it = fleet.AddWire("a", "a", model);
-    for (const auto& [code, value] : values) it.wire->values[code] = value;
-    fleet.RunFor(20s);
-    EXPECT_EQ(Words(fleet.State("a")), told);
-    EXPECT_EQ(it.bursts, fleet.State("a").power == PowerState::Standby ? 1 : 2);
-  }
+  EXPECT_EQ(std::ranges::count_if(kStatusRows.rows, isState), kStatusItems);
   SteppedFleet fleet;
-  fleet.AddWire("refuses").wire->values.erase(Code::Freeze);
-  fleet.AddWire("gone").isThere = false;
-  fleet.AddWire("greets").wire.reset();  // as PJLink does
+  fleet.AddWire("a").wire.reset();  // it speaks PJLink
   fleet.RunFor(20s);
-  EXPECT_EQ(Words(fleet.State("refuses")),
-            "answers, on, 3 , 000000, 1200 h, filter 80 h, seen, heard");
-  EXPECT_EQ(Words(fleet.State("gone")), "silent");
-  EXPECT_EQ(Words(fleet.State("greets")), "not understood");
-}
-
-TEST(FleetWatcher, LeavesASerialPortToOthers) {
-  SteppedFleet fleet;
-  for (const char* const id : {"a", "same line"}) {
-    fleet.watcher.Set({id, SerialAddress{.device = "line"}});
-  }
-  Projector& it = fleet.projectors["line"];
-  it.wire = std::make_shared<WireDevice>();
-  fleet.RunFor(20s);
-  EXPECT_EQ(Words(fleet.State("a")),
-            "answers, on, 3 , 000000, 1200 h, filter 80 h, seen, heard, live");
-  EXPECT_EQ(it.mostConnections, 1);
-  EXPECT_EQ(it.open, 0);
-  it.isTaken = true;
-  const LiveState before = fleet.State("a");
-  const auto asked = it.connections.size();
-  fleet.RunFor(200s);
-  EXPECT_EQ(Words(fleet.State("a")), Words(before)) << "a port in use tells nothing about it";
-  EXPECT_GE(it.connections.size(), asked + 4) << "as often as usual";
-  EXPECT_EQ(fleet.watcher.Tally().unanswered, 0);
-}
-
-TEST(FleetWatcher, AsksNothingTwiceThatStaysAsItIs) {
-  SteppedFleet fleet;
-  Projector& it = fleet.Add("a");
-  it.device.facts.erase("FILT");
-  fleet.RunFor(30s);
-  EXPECT_EQ(it.device.TakeRequests(), "POWR, CLSS, INPT, INNM ?31, ERST, AVMT, FREZ, LAMP, FILT");
-  fleet.RunFor(60s);
-  EXPECT_EQ(it.device.TakeRequests(), "POWR, INPT, ERST, AVMT, FREZ, LAMP") << "what is known";
-  it.device.states["POWR"] = "0";
-  fleet.RunFor(300s);
-  const std::string asleep = it.device.TakeRequests();
-  EXPECT_EQ(asleep.find_first_not_of("POWR, "), std::string::npos) << asleep;
-  it.isRefusing = true;
-  fleet.RunFor(70s);
-  it.isRefusing = false;
-  it.device.states["POWR"] = "1";
-  it.device.facts["FILT"] = "7";
-  fleet.RunFor(70s);
-  EXPECT_EQ(fleet.State("a").filterHours, 7) << "it may be another one when it is back";
+  EXPECT_EQ(fleet.State("a").reachability, Reachability::NotUnderstood);
 }
 
 TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
-  FleetPolicy policy;
-  policy.history = 4;
-  SteppedFleet fleet(policy);
+  SteppedFleet fleet({.history = 4});
   Projector& it = fleet.Add("a");
   fleet.RunFor(30s);
   fleet.states.TakeChanges();
@@ -204,6 +208,19 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   EXPECT_EQ(fleet.State("a").drift, 3);
   fleet.states.Learn("a", {PjtOperation::SetPowerOn}, {.result = 1}, {});
   EXPECT_EQ(fleet.State("a").answered, fleet.Wall());
+  fleet.states.Change("b", [](LiveState&) { FAIL(); });
+  fleet.states.Learn("b", {PjtOperation::SetPowerOn}, {.result = 1}, {});
+  EXPECT_TRUE(fleet.states.History("b").empty());
+  fleet.states.TakeChanges();
+  int drift = 3;
+  for (const int more : {100'000, 1001}) {
+    for (int i = 0; i < more; ++i) {
+      fleet.states.Change("a", [&](LiveState& state) { state.drift = ++drift; });
+    }
+    const FleetChanges kept = fleet.states.TakeChanges();
+    EXPECT_EQ(kept.areMissing, more == 1001);
+    EXPECT_EQ(kept.changes[0].change.now, FieldValue{more == 1001 ? 1005 : 4});
+  }
 
   std::string fields;
   LiveState all;
@@ -214,74 +231,6 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
     fields += std::to_string(static_cast<int>(one.field)) + std::to_string(one.index) + ' ';
   }
   EXPECT_EQ(fields, "00 10 20 30 31 32 33 34 35 40 50 60 70 80 90 ");
-}
-
-TEST(FleetWatcher, MovesAlongWithAProjector) {
-  SteppedFleet fleet;
-  fleet.Add("a");
-  fleet.RunFor(10s);
-  Projector& elsewhere = fleet.Add("a", "elsewhere");
-  elsewhere.device.states["POWR"] = "0";
-  fleet.RunFor(10s);
-  EXPECT_EQ(elsewhere.connections.size(), 1) << "at once";
-  EXPECT_EQ(fleet.State("a").power, PowerState::Standby);
-  EXPECT_EQ(fleet.projectors["a"].connections.size(), 1);
-  fleet.watcher.Set({"nowhere", AddressError{"no address"}});
-  fleet.RunFor(100s);
-  EXPECT_EQ(fleet.State("nowhere").reachability, Reachability::NeverAsked);
-  EXPECT_EQ(fleet.State("nowhere").connection, ConnectionState::WrongParameters);
-}
-
-TEST(FleetWatcher, AsksOnlyForWhatANoticeDoesNotTell) {
-  // What is noticed, how many visits follow, and what is told before them.
-  const std::tuple<FleetNetwork::Notice, int, const char*> cases[] = {
-      {{"a", "POWR", "2"},
-       0,
-       "answers, cooling down, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live"},
-      {{"a", "powr", "0"}, 0, "answers, standby, 000000, 1200 h lit, filter 80 h"},
-      {{"a", "ERST", "002000"},
-       0,
-       "answers, on, 31 HDMI (31), 002000, 1200 h lit, filter 80 h, seen, heard, live"},
-      {{"a", "INPT", "32"},
-       0,
-       "answers, on, 32 , 000000, 1200 h lit, filter 80 h, seen, heard, live"},
-      {{"a", "LKUP", "00:00:5e:00:53:01"}, 1, kUsual},  // a network again
-      {{"a", "POWR", "9"}, 1, kUsual},
-      {{"b", "POWR", "0"}, 0, kUsual},
-  };
-  for (const auto& [notice, visits, told] : cases) {
-    SteppedFleet fleet;
-    Projector& it = fleet.Add("a");
-    fleet.RunFor(10s);
-    fleet.watcher.Events().Noticed(notice);
-    EXPECT_EQ(Words(fleet.State("a")), told) << notice.value;
-    fleet.RunFor(20s);
-    EXPECT_EQ(it.connections.size(), 1 + visits) << notice.value;
-  }
-  SteppedFleet fleet;
-  Projector& it = fleet.Add("a");
-  it.device.states["POWR"] = "0";
-  fleet.RunFor(10s);
-  it.device.states["POWR"] = "1";
-  fleet.watcher.Events().Noticed({"a", "POWR", "3"});
-  EXPECT_EQ(Words(fleet.State("a")), "answers, warming up");
-  fleet.watcher.Events().Noticed({"a", "POWR", "1"});
-  fleet.RunFor(10s);
-  EXPECT_EQ(Words(fleet.State("a")), kUsual) << "one that is on has more to tell";
-  it.device.answers = 100ms;
-  fleet.RunFor(50s);
-  while (it.open == 0) fleet.RunFor(1ms);
-  fleet.watcher.Events().Noticed({"a", "POWR", "0"});
-  const auto asked = it.connections.size();
-  fleet.RunFor(10s);
-  EXPECT_EQ(it.connections.size(), asked + 1) << "the visit may have asked too early";
-  it.isThere = false;
-  fleet.RunFor(90s);
-  EXPECT_EQ(Words(fleet.State("a")).substr(0, 6), "silent");
-  it.isThere = true;
-  fleet.watcher.Events().Noticed({"a", "POWR", "1"});
-  fleet.RunFor(10s);
-  EXPECT_EQ(Words(fleet.State("a")), kUsual) << "it is there again";
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 // A projector has one connection at a time, whoever wants to connect.
 
-#include "device/channels/BoundedChannel.h"
-#include "device/channels/TcpChannel.h"
+#include <future>
+#include <thread>
+
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/HoldingChannel.h"
@@ -44,11 +45,13 @@ TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
   const auto last = Job(silent.Address());
   const auto next = Job(silent.Address(), AddressHold::Turn::Next);
   const auto cancelled = Job(silent.Address());
+  const auto address = PlaceOf({.id = {}, .address = silent.Address()});
+  ASSERT_TRUE(Soon([&] { return AddressHold::LengthOfLine(address) == 4; }));
   cancelled->Cancel();
   EXPECT_TRUE(Soon([&] { return IsOver(*cancelled); }));
   EXPECT_EQ(cancelled->Results().front().outcome, WorkOutcome::Stopped);
-  const auto address = PlaceOf({.id = {}, .address = silent.Address()});
-  ASSERT_TRUE(Soon([&] { return AddressHold::LengthOfLine(address) == 3; }));
+  Job(silent.Address());  // cancelled when it is destroyed
+  EXPECT_EQ(AddressHold::LengthOfLine(address), 3);
 
   const std::function<bool()> ends[] = {[&] { return hasSearched; }, [&] { return IsOver(*next); },
                                         [&] { return IsOver(*last); }};
@@ -60,6 +63,7 @@ TEST_F(HoldTest, JobsAndVisitsAndASearchTakeTurns) {
     silent.connections.back()->disconnectFromHost();
     EXPECT_TRUE(Soon(ends[i])) << i;
   }
+  EXPECT_TRUE(Soon([&] { return fleet.Tally().begun > 1; })) << "nobody else is there";
 }
 
 TEST(AddressHoldTest, ServesTheLineInItsOrder) {
@@ -82,32 +86,59 @@ TEST(AddressHoldTest, ServesTheLineInItsOrder) {
   next.reset();
   EXPECT_TRUE(second->IsHeld() && !second->IsWanted());
   second.reset();
+  const AddressHold::Observer late([&](auto& held, bool) { told += held == place ? "late" : ""; });
   EXPECT_EQ(told, "+nextsecond-");
+  for (int i = 0; i < 20; ++i) {
+    first.emplace(place);
+    auto waits = std::async(std::launch::async, [&] { return AddressHold(place).WaitFor(1h); });
+    while (AddressHold::LengthOfLine(place) < 2) std::this_thread::yield();
+    first.reset();
+    EXPECT_TRUE(waits.get());
+  }
 }
 
-TEST_F(HoldTest, ADialogsCommandComesAfterTheJobThatWorks) {
-  SilentServer silent;
-  const auto job = Job(silent.Address());
-  ASSERT_TRUE(Soon([&] { return silent.Open() == 1; }));
-  const auto later = Job(silent.Address());
-  const TcpAddress at = silent.Address();
-  BoundedChannel dialog(
-      std::make_shared<HoldingChannel>(std::make_shared<TcpChannel>(at.host, at.port),
-                                       FleetTarget{.id = {}, .address = at}, 200ms),
-      {.timeOut = 200ms, .retryAfter = 0ms, .tend = 20ms});
-  const PjtReply reply = dialog.Execute({PjtOperation::SetMirror, 0, 1});
-  EXPECT_TRUE(!reply.answered && reply.unsent);
-  EXPECT_EQ(dialog.Connection(), ConnectionState::Connecting);
-  EXPECT_EQ(silent.Accept(), 1U);
-
-  silent.connections.front()->close();
-  ASSERT_TRUE(Soon([&] { return IsOver(*job); }));
-  EXPECT_FALSE(dialog.Execute({PjtOperation::GetMirror}).unsent) << "before the other job";
-  EXPECT_TRUE(Soon([&] { return silent.Accept() == 3; })) << "it has not answered";
-  EXPECT_EQ(dialog.Connection(), ConnectionState::NoAnswer);
-  EXPECT_EQ(silent.Open(), 1);
-  silent.connections.back()->close();
-  EXPECT_TRUE(Soon([&] { return IsOver(*later); }));
+TEST(HoldingChannelTest, KeepsTheAddressUntilOthersWantIt) {
+  struct Silent final : ProjectorChannel {
+    PjtReply Execute(const PjtCommand&) override { return {.result = 1, .answered = answers}; }
+    ConnectionState Connection() const override { return state; }
+    void GiveUpAfter(std::chrono::milliseconds time) override { told = time; }
+    bool UseIdleTime() override { return true; }
+    bool TendConnection(std::chrono::milliseconds unused) override { return (told = unused) < 1h; }
+    bool answers = true;
+    ConnectionState state = ConnectionState::NoAnswer;
+    std::chrono::milliseconds told{};
+  };
+  const FleetTarget target{"a", TcpAddress{"192.0.2.2"}};
+  const auto length = [&] { return AddressHold::LengthOfLine(PlaceOf(target)); };
+  const auto inner = std::make_shared<Silent>();
+  std::optional<HoldingChannel> channel(std::in_place, inner, target, 1h);
+  EXPECT_FALSE(channel->UseIdleTime() || channel->TendConnection(0ms));
+  channel->GiveUpAfter(20ms);
+  EXPECT_EQ(inner->told, 20ms);
+  EXPECT_TRUE(channel->Execute({}).answered && channel->UseIdleTime());
+  EXPECT_TRUE(channel->TendConnection(7ms) && inner->told == 7ms);
+  std::optional<AddressHold> other(PlaceOf(target)), last(PlaceOf(target));
+  EXPECT_FALSE(channel->UseIdleTime());
+  EXPECT_FALSE(channel->TendConnection(7ms));
+  EXPECT_TRUE(other->IsHeld() && inner->told > 1h) << "closed, then released";
+  EXPECT_TRUE(channel->Execute({}).unsent);
+  EXPECT_EQ(channel->Connection(), ConnectionState::Connecting);
+  EXPECT_TRUE(channel->TendConnection(9s) && length() == 3 && !channel->UseIdleTime());
+  EXPECT_FALSE(channel->TendConnection(10s) || length() == 3);
+  EXPECT_TRUE(channel->Execute({}).unsent);
+  other.reset();
+  EXPECT_TRUE(channel->Execute({}).answered) << "before the last";
+  last.reset();
+  inner->answers = false;
+  EXPECT_FALSE(channel->Execute({}).answered);
+  inner->told = 0ms;
+  EXPECT_FALSE(channel->TendConnection(7ms));
+  EXPECT_TRUE(inner->told > 1h && length() == 0);
+  inner->state = ConnectionState::Unused;
+  EXPECT_EQ(channel->Connection(), ConnectionState::NoAnswer) << "why it was silent";
+  inner->told = 0ms;
+  channel.reset();
+  EXPECT_GT(inner->told, 1h);
 }
 
 }  // namespace

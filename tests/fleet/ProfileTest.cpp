@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include "fleet/JsonLines.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
 
@@ -12,12 +13,14 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr char kFile[] = R"({ "x-made by": "a person", "tags": {"halls": {}},
+constexpr char kFile[] = R"({ "x-\"made\" by": "a person", "tags": {"halls": {}},
   "families": {"hall": {"model": "M", "dialogType": 5, "modelCode": 30, "ratedLampHours": 3000,
                         "tags": ["halls"]}},
   "projectors": [
-    {"name": "A", "like": "hall", "identity": "serial:1", "snapshot": "day", "notes": "door left",
-     "connection": {"network": {"address": "192.0.2.1", "port": 4352}}, "link": "pjlink"},
+    {"name": "A", "like": "hall", "identity": "serial:1", "snapshot": "day",
+     "notes": "\"[[[[[[[[[[[[[[[[[[ \ud800\udc00\udbff\udfff\ud7ff\ue000\u0020\\",
+     "connection": {"network": {"address": "192.0.2.1", "port": 4352, "secret": "open"}},
+     "link": "pjlink"},
 
     {"tags": ["Building 3", "lab"], "name": "B", "like": "hall", "x-mine": [1, {"z": 2, "a": 1}],
      "connection": {"serial": {"port": 2}}, "ratedLampHours": 2000 },
@@ -31,19 +34,28 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   ASSERT_EQ(list.profiles.size(), 3U);
   const FleetProfile& a = list.profiles[0];
   const FleetProfile& b = list.profiles[1];
-  EXPECT_EQ(FleetIdOf(a), "serial:1");
-  EXPECT_EQ(a.snapshot, "day");
-  EXPECT_EQ(a.notes, "door left");
+  EXPECT_EQ(FleetIdOf(a) + ' ' + FleetIdOf(b), "serial:1 name:B");
+  EXPECT_EQ(a.snapshot + a.notes,
+            "day\"[[[[[[[[[[[[[[[[[[ \U00010000\U0010FFFF\xED\x9F\xBF\uE000 \\");
   EXPECT_THAT(a.tags, ElementsAre("halls"));
-  EXPECT_EQ(a.ratedLampHours, 3000);
-  EXPECT_EQ(AddressOf(a), ProjectorAddress(PjLinkAddress{"192.0.2.1", 4352, ""}));
-  EXPECT_EQ(FleetIdOf(b), "name:B");
+  EXPECT_TRUE(a.ratedLampHours == 3000 && b.ratedLampHours == 2000);
+  EXPECT_EQ(AddressOf(a), ProjectorAddress(PjLinkAddress{"192.0.2.1", 4352, "open"}));
   EXPECT_THAT(b.tags, ElementsAre("Building 3", "lab"));
-  EXPECT_EQ(b.ratedLampHours, 2000);
   EXPECT_EQ(a.model, b.model) << "shared by those that are described alike";
   EXPECT_EQ(list.profiles[2].model->info.ModelCode, 31);
   EXPECT_EQ(AddressOf(ProjectorLink::Serial, b.connection),
             ProjectorAddress(SerialAddress{SerialDevice(1), SerialAddress::kDefaultBaud}));
+  const CModelInfo2 net = ModelInfoOf(a), line = ModelInfoOf(b);
+  EXPECT_TRUE(net.ConnectionKinds[0] == 1 && line.ConnectionKinds[0] == 0);
+  EXPECT_TRUE(net.ConnectionNumbers[0] == 0 && line.ConnectionNumbers[0] == 1);
+  EXPECT_EQ(std::string(net.ConnectionTexts1[0].data()) + net.ConnectionTexts2[0].data(),
+            "192.0.2.1open");
+  for (const char* wrong : {R"(["\n0041"])", R"(["\udc00\udc00"])", R"(["\ud83dxude00"])"}) {
+    EXPECT_TRUE(ParseProfileList(wrong, "p.json").error.startsWith("p.json:1:3: ")) << wrong;
+  }
+  EXPECT_FALSE(JsonLines::FaultOf(R"([[],{"a":1},[1,2]])", {.bytes = 18, .values = 8}));
+  EXPECT_EQ(JsonLines::FaultOf(R"([[],{"a":1},[1,2]])", {.values = 7})->offset, 14);
+  EXPECT_EQ(JsonLines::FaultOf("{},[]" + QByteArray("{[").repeated(9), {})->offset, 21);
   EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}), "name: must be a text that is not empty");
 }
 
@@ -85,8 +97,9 @@ TEST(ProfileEdits, LeaveWhatAPersonWrote) {
   expected.replace(R"("port": 3}}})", R"("port": 3}}},
     {"name": "D", "like": "hall", "connection": {"serial": {"port": 1}}})");
   ProfileEdits edits(kFile);
-  edits.Change(0, {{"connection", ConnectionValue({.address = "192.0.2.9", .port = 4352})},
-                   {"snapshot", QJsonValue::Undefined}});
+  edits.Change(
+      0, {{"connection", ConnectionValue({.address = "192.0.2.9", .port = 4352, .secret = "open"})},
+          {"snapshot", QJsonValue::Undefined}});
   edits.Add(
       {{"name", "D"}, {"like", "hall"}, {"connection", ConnectionValue({.isNetwork = false})}});
   EXPECT_EQ(edits.Text().toStdString(), expected.toStdString());

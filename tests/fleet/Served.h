@@ -52,7 +52,8 @@ struct ServingTest : testing::Test {
   QCoreApplication application{argumentCount, &program};
 };
 
-/// How many threads the program has.
-inline auto Threads() {
-  return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+inline auto EntriesOf(const char* folder) {
+  return std::distance(std::filesystem::directory_iterator(folder), {});
 }
+/// How many threads the program has.
+inline auto Threads() { return EntriesOf("/proc/self/task"); }

@@ -47,6 +47,38 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}), "name: must be a text that is not empty");
 }
 
+// With a mark where an unknown key would be.
+constexpr char kMost[] = R"({% "tags": {"a": {% "snapshot": "b"}}, "families": {%1
+    "0": {% "gamma": [%2 {% "value": 65535, "name": "c"}], "ranges": {"tint": [65535, 65535]}}},
+  "projectors": [
+    {% "name": "%3", "model": "%3", "like": "15", "modelCode": 2147483647, "dialogType": -2147483648,
+     "mySources": [{% "name": "DVI", "value": 0}], "tags": [%4 "a"],
+     "connection": {% "network": {% "address": "d", "port": 65535}}},
+    {"name": "e", "model": "f", "dialogType": 0, "modelCode": 0,
+     "connection": {"serial": {% "port": 256, "baud": 4000000}}}]})";
+
+TEST(Profile, HasAsMuchAsItMayAndNothingUnknown) {
+  QString text = kMost, families;
+  for (int i = 1; i < 1000; ++i) {
+    families += QString(R"("%1": {"like": "%2"}, )").arg(i).arg(i > 15 ? 0 : i - 1);
+  }
+  text.replace("%1", families).replace("%2", QString("1,").repeated(31));
+  text.replace("%3", QString(256, 'n')).replace("%4", QString("\"t\",").repeated(31));
+  QStringList parts = text.split('%');
+  ASSERT_EQ(parts.size(), 10);
+  const ProfileList list = ParseProfileList(parts.join("\"x-mine\": 0,").toUtf8(), "p.json");
+  ASSERT_EQ(list.error, "");
+  EXPECT_EQ(list.profiles[0].snapshot, "b");
+  EXPECT_EQ(NameText(list.profiles[0].model->info.MySourceList.names[0]), "DVI");
+  for (qsizetype i = 1; i < parts.size(); ++i) {
+    QStringList wrong = parts;
+    wrong[i].prepend("\"mine\": 0,");
+    EXPECT_THAT(ParseProfileList(wrong.join("").toUtf8(), "p.json").error.toStdString(),
+                testing::HasSubstr("mine: unknown key"))
+        << i;
+  }
+}
+
 TEST(JsonEdit, KeepsTheFormattingOfEverythingElse) {
   using JsonEdit::InsertElement, JsonEdit::RemoveElement, JsonEdit::SetMember;
   const QJsonValue kNone(QJsonValue::Undefined);

@@ -9,7 +9,8 @@
 #include <utility>
 
 #include <QCoreApplication>
-#include <QEventLoop>
+#include <QNetworkDatagram>
+#include <QUdpSocket>
 
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
@@ -18,10 +19,13 @@
 #include "fleet/SearchRange.h"
 #include "simulator/PjLinkProjectorSession.h"
 #include "simulator/SimulatedProjector.h"
+#include "tests/fleet/SilentServer.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
@@ -235,48 +239,116 @@ TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
   EXPECT_EQ(again.text, taken.text);
 }
 
-// The simulator program answers, at loopback addresses alone.
-TEST(SearchDriver, FindsAFleetByRangeAndByBroadcast) {
-  constexpr std::size_t kCount = 20;
+/// A search, with what it has found by address.
+struct Searching {
+  explicit Searching(const SearchOptions& options)
+      : driver(
+            options, [this](const FoundProjector& one) { found[one.address] = one; },
+            [this] { isOver = true; }) {
+    driver.Start();
+  }
+  std::map<std::string, FoundProjector> found;
+  bool isOver = false;
+  SearchDriver driver;
+};
+
+struct SearchDriverTest : testing::Test {
   int count = 0;
-  QCoreApplication application(count, nullptr);
+  QCoreApplication application{count, nullptr};
+};
+
+TEST_F(SearchDriverTest, WaitsForNobodyForEver) {
+  std::optional<SilentServer> silent(std::in_place);
+  SearchOptions options{.addresses = {QHostAddress(QHostAddress::LocalHost)},
+                        .port = silent->server.serverPort(),
+                        .answers = 1ms,
+                        .limits = {.connect = 1h}};
+  std::optional<Searching> search(options);
+  EXPECT_TRUE(Soon([&] { return silent->Open() == 1; }));
+  search.reset();
+  EXPECT_TRUE(Soon([&] { return silent->Open() == 0; })) << "abandoned";
+  options.broadcasts = options.addresses;
+  options.limits.connect = 50ms;
+  search.emplace(options);
+  EXPECT_TRUE(Soon([&] { return search->isOver; })) << "says nothing";
+  options.limits = {.connect = 1h, .pause = 1ms};
+  search.emplace(options);
+  const std::size_t before = silent->Accept();
+  EXPECT_TRUE(Soon([&] { return silent->Accept() == before + 1; }));
+  silent->connections.back()->close();
+  EXPECT_TRUE(Soon([&] { return silent->Accept() == before + 2; })) << "was not ready";
+  silent->connections.back()->write("PJLINK ERRA\r");
+  EXPECT_TRUE(Soon([&] { return search->isOver; }));
+  EXPECT_THAT(search->found, SizeIs(1));
+  silent.reset();
+  options.limits.pause = 1h;
+  options.addresses.push_back(QHostAddress("255.255.255.255"));  // fails at once
+  search.emplace(options);
+  EXPECT_TRUE(Soon([&] { return search->isOver; })) << "is not there";
+  EXPECT_THAT(search->found, SizeIs(0));
+  EXPECT_EQ(search->driver.Done(), 2U);
+}
+
+TEST_F(SearchDriverTest, LearnsMacNumbersFromAnswers) {
+  SilentServer silent(QHostAddress::AnyIPv4);
+  const std::uint16_t port = silent.server.serverPort();
+  const QHostAddress first("127.0.0.1"), second("127.0.0.2");
+  QUdpSocket projector, other;
+  ASSERT_TRUE(projector.bind(first, port) && other.bind(second));
+  Searching search({.addresses = {first, second},
+                    .broadcasts = {first},
+                    .port = port,
+                    .answerPort = port,
+                    .atOnce = 1,
+                    .answers = 1h,
+                    .limits = {.connect = 1h}});
+  ASSERT_TRUE(Soon([&] { return silent.Accept() == 1 && projector.hasPendingDatagrams(); }));
+  const QNetworkDatagram question = projector.receiveDatagram();
+  EXPECT_EQ(question.data(), QByteArray("%2SRCH\r"));
+  for (QUdpSocket* const one : {&projector, &other}) {
+    for (const char* const text :
+         {"", "what?", "%2ACKN=00:00:5e:00:53:02\r", "%2ACKN=00:00:5e:00:53:03\r"}) {
+      one->writeDatagram(text, first, static_cast<quint16>(question.senderPort()));
+    }
+  }
+  EXPECT_TRUE(Soon([&] { return projector.hasPendingDatagrams(); })) << "asks again";
+  for (std::size_t i = 0; i < 2; ++i) {
+    ASSERT_TRUE(Soon([&] { return silent.Accept() == i + 1; }));
+    silent.connections.back()->write("PJLINK ERRA\r");
+  }
+  EXPECT_TRUE(Soon([&] { return search.driver.Done() == 2; }));
+  EXPECT_EQ(search.found["127.0.0.1"].mac, "");
+  EXPECT_EQ(search.found["127.0.0.2"].mac, "00:00:5e:00:53:02");
+  EXPECT_EQ(search.driver.Count(), 2U);
+  EXPECT_EQ(search.driver.Problem(), "") << "another port does too";
+}
+
+// The simulator program answers, at loopback addresses alone.
+TEST_F(SearchDriverTest, FindsAFleetByRangeAndByBroadcast) {
+  constexpr std::size_t kCount = 20;
   const SimulatorProcess simulator({"--fleet", QString::number(kCount), "--control", "0"});
   SearchOptions options;
   options.port = simulator.Address("pjlink").section(':', -1).toUShort();
   options.answerPort = 0;
   options.answers = std::chrono::seconds(60);
   options.limits = {.connect = std::chrono::seconds(30), .answer = std::chrono::seconds(30)};
-  // Ends with so many, or with the search.
-  const auto search = [&](std::size_t wanted) {
-    std::map<std::string, FoundProjector> found;
-    QEventLoop loop;
-    SearchDriver driver(
-        options,
-        [&](const FoundProjector& projector) {
-          found[projector.address] = projector;
-          if (found.size() == wanted) loop.quit();
-        },
-        [&] { loop.quit(); });
-    driver.Start();
-    loop.exec();
-    EXPECT_EQ(driver.Problem(), "");
-    return found;
-  };
   options.addresses = ParseSearchRange("127.64.0.1-127.64.0.20").addresses;
-  options.perSecond = 50;
+  options.perSecond = 25;
   const auto start = std::chrono::steady_clock::now();
-  const auto byRange = search(kCount + 1);
-  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(350));
-  ASSERT_THAT(byRange, SizeIs(kCount));
+  const Searching byRange(options);
+  EXPECT_TRUE(Soon([&] { return byRange.isOver; }));
+  EXPECT_GE(std::chrono::steady_clock::now() - start, 700ms);
+  ASSERT_THAT(byRange.found, SizeIs(kCount));
   const auto isSecond = [](const auto& found) { return found.second.protocolClass == '2'; };
-  const auto ofSecondClass = std::ranges::count_if(byRange, isSecond);
+  const auto ofSecondClass = std::ranges::count_if(byRange.found, isSecond);
   options.addresses.clear();
   options.broadcasts = {QHostAddress("127.255.255.255")};
-  const auto byBroadcast = search(static_cast<std::size_t>(ofSecondClass));
-  for (const auto& [address, found] : byRange) {
-    const auto same = byBroadcast.find(address);
-    EXPECT_EQ(same != byBroadcast.end(), found.protocolClass == '2') << address;
-    if (same == byBroadcast.end()) continue;
+  const Searching byBroadcast(options);
+  EXPECT_TRUE(Soon([&] { return std::ssize(byBroadcast.found) == ofSecondClass; }));
+  for (const auto& [address, found] : byRange.found) {
+    const auto same = byBroadcast.found.find(address);
+    EXPECT_EQ(same != byBroadcast.found.end(), found.protocolClass == '2') << address;
+    if (same == byBroadcast.found.end()) continue;
     EXPECT_EQ(same->second.serial, found.serial);
     EXPECT_EQ(same->second.inputs, found.inputs);
     EXPECT_THAT(same->second.mac, HasSubstr("02:00:00:00:00:"));

@@ -6,10 +6,12 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QNetworkDatagram>
+#include <QRegularExpression>
 #include <QUdpSocket>
 
 #include "fleet/ProfileEdits.h"
@@ -21,6 +23,7 @@
 #include "simulator/SimulatedProjector.h"
 #include "tests/fleet/SilentServer.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 
 namespace {
@@ -30,47 +33,30 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-TEST(SearchRange, IsReadAsPeopleWriteIt) {
-  // The number, the first and the last address, or what is wrong.
-  const std::pair<const char*, const char*> cases[] = {
-      {"192.0.2.7", "1 192.0.2.7 192.0.2.7"},
-      {"192.0.2.77/24", "254 192.0.2.1 192.0.2.254"},
-      {"192.0.2.8/30", "2 192.0.2.9 192.0.2.10"},
-      {"192.0.2.8/31", "2 192.0.2.8 192.0.2.9"},
-      {"192.0.2.8/32", "1 192.0.2.8 192.0.2.8"},
-      {"10.0.0.0/16", "65534 10.0.0.1 10.0.255.254"},
-      {"192.0.2.10 - 192.0.3.9", "256 192.0.2.10 192.0.3.9"},
-      {"192.0.2.10-12, 192.0.2.11;192.0.2.1\n", "4 192.0.2.1 192.0.2.12"},
-      {"0.0.0.0-255.255.255.255", "more than 65536 addresses"},
-      {"10.0.0.0/15", "more than 65536 addresses"},
-      {"2001:db8::7", "1 2001:db8::7 2001:db8::7"},
-      {"2001:db8::7/126, 192.0.2.7", "4 192.0.2.7 2001:db8::7"},
-      {"fe80::1%7/127", "2 fe80::%7 fe80::1%7"},
-      {"2001:db8::fffe-2001:db8::1:1", "4 2001:db8::fffe 2001:db8::1:1"},
-      {"2001:db8::10-1f", "16 2001:db8::10 2001:db8::1f"},
-      {"::ffff:ffff:ffff:ffff/112", "65535 ::ffff:ffff:ffff:1 ::ffff:ffff:ffff:ffff"},
-      {"2001:db8::/111", "more than 65536 addresses"},
-  };
-  for (const auto& [text, expected] : cases) {
-    const SearchRange range = ParseSearchRange(text);
-    std::string told = range.error.toStdString();
-    if (told.empty()) {
-      told = std::to_string(range.addresses.size());
-      for (const QHostAddress& end : {range.addresses.front(), range.addresses.back()}) {
-        told += ' ' + end.toString().toStdString();
-      }
-    }
-    EXPECT_THAT(told, HasSubstr(expected)) << text;
+/// What a text means that a person or a projector wrote.
+QString Meaning(const QString& kind, const QString& text) {
+  if (kind == "answer") {
+    return QString::fromStdString(ParseSearchAnswer(text.toStdString()).value_or("no answer"));
   }
-  const QString wrong =
-      "::1-2001:db8::1 2001:db8::2-1 ::1-192.0.2.1 2001:db8::/129 2001:db8::1:: "
-      "0.0.0.0/0 192.0.2.12-10 192.0.2.256 192.0.2 192.0.2.1/33 projector.example "
-      "192.0.2.0001 192.0.2.1/ 192.0.2.1/2: 192.0.2.1a x/24 x-7 192.0.2.9-192.0.2.7 "
-      "192.0.2.9-x 2001:db8::1-00001 2001:db8::1-2001:db9::1";
-  for (const QString& one : wrong.split(' ')) {
-    EXPECT_EQ(ParseSearchRange(one).error,
-              '"' + one + "\" is neither an IP address nor a range of them");
+  const auto [addresses, error] = ParseSearchRange(text);
+  if (!error.isEmpty()) return error;
+  return QString("%1: %2 to %3")
+      .arg(addresses.size())
+      .arg(addresses.front().toString(), addresses.back().toString());
+}
+
+// Each line of the record has a text, and what it means.
+TEST(SearchTexts, MeanWhatIsRecorded) {
+  const std::string file = TEST_SOURCE_DIR "/fleet/Searches.txt";
+  QString now;
+  for (const QString& line : QString(Contents(file.c_str())).split('\n', Qt::SkipEmptyParts)) {
+    const QString asked = line.section(" =>", 0, 0);
+    QString text = asked.section(' ', 1);
+    text.replace("\\r", "\r").replace("\\n", "\n").replace("\\0", QChar(0));
+    now += asked + " => " + Meaning(asked.section(' ', 0, 0), text) + '\n';
   }
+  EXPECT_GT(now.count('\n'), 70);
+  ExpectRecord(file, now.toStdString());
 }
 
 TEST(NetworkBroadcasts, AreThoseOfNetworksThatAreUp) {
@@ -95,19 +81,6 @@ TEST(NetworkBroadcasts, AreThoseOfNetworksThatAreUp) {
               ElementsAre(QHostAddress("192.0.2.255"), QHostAddress("198.51.103.255")));
   EXPECT_THAT(BroadcastsOf({}), SizeIs(0));
   for (const QHostAddress& own : NetworkBroadcasts()) EXPECT_FALSE(own.isNull());
-}
-
-TEST(SearchAnswer, IsAMacNumber) {
-  EXPECT_EQ(ParseSearchAnswer("%2ACKN=0A:F0:5E:00:53:01\r"), "0a:f0:5e:00:53:01");
-  EXPECT_EQ(ParseSearchAnswer("%2ackn=00-00-5e-00-53-01\r\n"), "00:00:5e:00:53:01");
-  EXPECT_EQ(ParseSearchAnswer({"%2ACKN=00:af:5e:00:53:09 \0", 26}), "00:af:5e:00:53:09");
-  for (const char* other :
-       {"", "%2ACKN=00:00:5e:00:53:0:\r", "%2ACKN=\r", "%2ACKN=00:00:5e:00:53\r",
-        "%2ACKN=00:00:5e:00:53:0g\r", "%2ACKN=00:00:5e:00:53:0/\r", "%2ACKN=00:00:5e:00:53:0G\r",
-        "%2ACKN=00:00:5e.00:53:01\r", "%2ACKN 00:00:5e:00:53:01\r", "%2ACKN=00:00:5e:00:53:0`\r",
-        "%2LKUP=00:00:5e:00:53:01\r"}) {
-    EXPECT_EQ(ParseSearchAnswer(other), std::nullopt) << other;
-  }
 }
 
 // The whole of a conversation in memory.
@@ -188,55 +161,67 @@ FoundProjector At(const char* address, const char* name, const char* serial, con
           .serial = serial};
 }
 
-TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
-  const TakenProjectors taken = TakeFound(
-      kFile,
-      {At("192.0.2.2", "A", "1"),                             // moved to where another one was
-       At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),        // moved, known by its second identity
-       At("2001:db8::3", "C", "3"),                           // gets its identity
-       At("192.0.2.4", "Hall", "4"),                          // new, with a name that is taken
-       At("192.0.2.5", "", "0000"),                           // new, without a name
-       At("192.0.2.6", "Hall", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing
-       At("192.0.2.7", "Hall", "same", "00:00:5e:00:53:07")},
-      "secret");
-  EXPECT_THAT(taken.moved, ElementsAre("By serial", "By MAC"));
-  EXPECT_EQ(taken.known, 1U);
-  EXPECT_THAT(taken.added, ElementsAre("Hall (2)", "M 30 192.0.2.5", "Hall (3)", "Hall (4)"));
-  const ProfileList list = ParseProfileList(taken.text, "p.json");
-  ASSERT_EQ(list.error, "");
-  ASSERT_THAT(list.profiles, SizeIs(8));
-  EXPECT_EQ(list.profiles[0].connection.address, "192.0.2.2");
-  EXPECT_EQ(list.profiles[0].connection.secret, "open");
-  EXPECT_EQ(list.profiles[1].connection.address, "192.0.2.9");
-  EXPECT_EQ(list.profiles[2].identity, "serial:Maker/3");
-  const FleetProfile& added = list.profiles[4];
-  EXPECT_EQ(AddressOf(added), ProjectorAddress(PjLinkAddress{"192.0.2.4", 4352, "secret"}));
-  EXPECT_EQ(added.identity, "serial:Maker/4");
-  EXPECT_EQ(added.model->info.ModelCode, 30);
-  EXPECT_THAT(list.profiles[5].identity, testing::StartsWith("id:"));
-  EXPECT_EQ(list.profiles[7].identity, "mac:00:00:5e:00:53:07");
-  EXPECT_TRUE(taken.text.contains("\"x-mine\": true"));
-
-  EXPECT_EQ(TakeFound(kFile, {At("192.0.2.1", "A", "1")}, "").text, kFile) << "nothing new";
-  EXPECT_NE(TakeFound(kFile, {At("192.0.2.2", "A", "1")}, "").text, kFile) << "moved";
-  FoundProjector unknown = At("192.0.2.1", "Z", "9"), locked{.address = "192.0.2.20", .port = 4352};
+// The record has the lines of the file that are new or changed.
+TEST(SearchProfiles, TakeWhatIsFoundAsRecorded) {
+  FoundProjector unknown = At("192.0.2.1", "Z", "9"), locked{.address = "192.0.2.20", .port = 4352},
+                 port = At("192.0.2.1", "A", "1"), inputs = At("192.0.2.31", " I ", "31");
   unknown.model = "Other";
   locked.needsPassword = true;
-  const TakenProjectors others =
-      TakeFound(kFile, {unknown, unknown, locked, At("192.0.2.2", "Y", "")}, "secret");
-  EXPECT_EQ(others.known, 2U);
-  EXPECT_THAT(others.added, ElementsAre("Z", "192.0.2.20")) << "another one at the same address";
-  const auto profiles = ParseProfileList(others.text, "p.json").profiles;
-  ASSERT_THAT(profiles, SizeIs(6));
-  EXPECT_EQ(profiles[4].model->info.ModelName + '/' + profiles[5].model->info.ModelName,
-            "Other/PJLink");
-  EXPECT_EQ(profiles[4].connection.secret + '/' + profiles[5].connection.secret, "secret/");
-  EXPECT_EQ(TakeFound(kFile, {At("192.0.2.9", "", "8")}, "").known, 1U) << "at a serial port";
-  // At an address whose identity was made up, and at one with another kind of identity.
-  const TakenProjectors again = TakeFound(
-      taken.text, {At("192.0.2.5", "", "5"), At("192.0.2.2", "A", "", "00:00:5e:00:53:01")}, "");
-  EXPECT_EQ(again.known, 2U);
-  EXPECT_EQ(again.text, taken.text);
+  port.port = 4400;
+  inputs.inputs = {{31, "HDMI"}, {32, "HDMI"}};
+  FoundProjector longest = At("192.0.2.40", ("x" + QByteArray("\u00C4").repeated(150)).data(), "");
+  longest.model = longest.serial = std::string(4000, 'x');
+  FoundProjector nameless = longest;
+  nameless.name.clear();
+  nameless.address = "192.0.2.41";
+  const std::tuple<const char*, std::vector<FoundProjector>, const char*> cases[] = {
+      {"moved to where another one was; moved, known by the second identity; gets its identity; "
+       "new, with a name that is taken; new, without a name; of a maker that numbers nothing",
+       {At("192.0.2.2", "A", "1"), At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),
+        At("2001:db8::3", "C", "3"), At("192.0.2.4", "Hall", "4"), At("192.0.2.5", "", "0000"),
+        At("192.0.2.6", "Hall", "same", "00:00:5e:00:53:06"),
+        At("192.0.2.7", "Hall", "same", "00:00:5e:00:53:07")},
+       "secret"},
+      {"nothing new", {At("192.0.2.1", "A", "1")}, ""},
+      {"another port", {port}, ""},
+      {"others at known addresses, one twice; one that wants a password",
+       {unknown, unknown, locked, At("192.0.2.2", "Y", "")},
+       "secret"},
+      {"at a serial port", {At("192.0.2.9", "", "8")}, ""},
+      {"more than a profile may have",
+       {longest, nameless},
+       "a password that is so long that a profile cannot have it any more"},
+      {"a password of two lines", {At("192.0.2.42", "", "")}, "a\nb"},
+      {"one at two addresses, and one with inputs",
+       {At("2001:db8::3", "C", "", "00:00:5e:00:53:09"),
+        At("192.0.2.3", "C", "", "00:00:5e:00:53:09"), inputs},
+       ""},
+  };
+  std::string now;
+  QByteArray first;
+  const auto take = [&](const QByteArray& file, const auto& found, const char* password) {
+    const TakenProjectors taken = TakeFound(file, found, password);
+    EXPECT_EQ(ParseProfileList(taken.text, "p.json").error.toStdString(), "");
+    QString text = QString("moved: %1; known: %2; added: %3\n")
+                       .arg(taken.moved.join(", "))
+                       .arg(taken.known)
+                       .arg(taken.added.join(", "));
+    const QList<QByteArray> lines = file.split('\n');
+    for (const QByteArray& line : taken.text.split('\n')) {
+      if (!lines.contains(line)) text += line + '\n';
+    }
+    now += text.replace(QRegularExpression("\"id:[-0-9a-f]+"), "\"id:…").toStdString();
+    return taken.text;
+  };
+  for (const auto& [name, found, password] : cases) {
+    now += name + std::string(":\n");
+    const QByteArray text = take(kFile, found, password);
+    if (first.isEmpty()) first = text;
+  }
+  now += "at an address whose identity was made up, and at one with another kind of identity:\n";
+  take(first, std::vector{At("192.0.2.5", "", "5"), At("192.0.2.2", "A", "", "00:00:5e:00:53:01")},
+       "");
+  ExpectRecord(TEST_SOURCE_DIR "/fleet/Taken.txt", now);
 }
 
 /// A search, with what it has found by address.

@@ -8,8 +8,10 @@
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
+#include "fleet/StatusItems.h"
 #include "settings/PageTables.h"
 #include "tests/fleet/SteppedFleet.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -44,6 +46,22 @@ std::string Words(const LiveState& state) {
 constexpr char kUsual[] =
     "answers, on, 31 HDMI (31), 000000, 1200 h lit, filter 80 h, seen, heard, live";
 
+/// Says that of a new projector, and of one that was as usual before.
+std::string Told(const auto& add, const std::string& name,
+                 const std::function<void(Projector&)>& make) {
+  SteppedFleet fresh, known;
+  make(add(fresh));
+  EXPECT_EQ(Words(fresh.State("a")), "never asked");
+  fresh.RunFor(20s);
+  EXPECT_EQ(fresh.watcher.Tally().begun, 1) << name;
+  EXPECT_EQ(fresh.projectors["a"].open, 0) << "nobody keeps a connection: " << name;
+  Projector& changing = add(known);
+  known.RunFor(20s);
+  make(changing);
+  known.RunFor(70s);
+  return name + ": " + Words(fresh.State("a")) + "\n  then: " + Words(known.State("a")) + '\n';
+}
+
 TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
   const auto says = [](const std::map<std::string, std::string>& now,
                        std::chrono::hours busy = {}) {
@@ -54,80 +72,60 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
       }
     };
   };
-  const std::tuple<const char*, std::function<void(Projector&)>, const char*> cases[] = {
-      {"as usual", [](auto&) {}, kUsual},
-      {"in standby", says({{"POWR", "0"}}), "answers, standby"},
-      {"warming up, when it tells no more", says({{"POWR", "3"}}, 1h), "answers, warming up"},
+  const std::pair<const char*, std::function<void(Projector&)>> cases[] = {
+      {"as usual", [](auto&) {}},
+      {"in standby", says({{"POWR", "0"}})},
+      {"warming up, when it tells no more", says({{"POWR", "3"}}, 1h)},
       {"problems and lamps",
-       says({{"POWR", "2"}, {"ERST", "020011"}, {"LAMP", "100 1 20000 0"}, {"AVMT", "31"}}),
-       "answers, cooling down, 31 HDMI (31), 020011, 100 h lit, 20000 h out, filter 80 h, blank, "
-       "mute, live"},
-      {"class 1", says({{"CLSS", "1"}}),
-       "answers, on, 31 Digital 1 (31), 000000, 1200 h lit, seen, heard"},
-      {"nonsense", says({{"POWR", "9"}, {"INPT", "9"}, {"ERST", "9x"}, {"LAMP", "9x"}}),
-       "answers, filter 80 h, seen, heard, live"},
-      {"closes after each reply", [](auto& it) { it.device.CloseEachTime(300ms); }, kUsual},
-      {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; },
-       "answers, on, 31 HDMI (31)"},
-      {"is not there", [](auto& it) { it.isThere = false; }, "silent"},
-      {"has its port closed", [](auto& it) { it.isRefusing = true; }, "silent"},
-      {"says nothing", [](auto& it) { it.device.greeting.clear(); }, "silent"},
-      {"wants a password", [](auto& it) { it.device.greeting = "PJLINK ERRA\r"; },
-       "wrong password"},
-      {"is something else", [](auto& it) { it.device.greeting = "220 ready\r\n"; },
-       "not understood"},
+       says({{"POWR", "2"}, {"ERST", "020011"}, {"LAMP", "100 1 20000 0"}, {"AVMT", "31"}})},
+      {"class 1", says({{"CLSS", "1"}})},
+      {"nonsense",
+       says({{"POWR", "9"}, {"INPT", "9"}, {"ERST", "9x"}, {"LAMP", "9x"}, {"AVMT", "9"}})},
+      {"closes after each reply", [](auto& it) { it.device.CloseEachTime(300ms); }},
+      {"falls silent in the middle", [](auto& it) { it.device.loses["ERST"] = 2; }},
+      {"is not there", [](auto& it) { it.isThere = false; }},
+      {"has its port closed", [](auto& it) { it.isRefusing = true; }},
+      {"says nothing", [](auto& it) { it.device.greeting.clear(); }},
+      {"wants a password", [](auto& it) { it.device.greeting = "PJLINK ERRA\r"; }},
+      {"is something else", [](auto& it) { it.device.greeting = "220 ready\r\n"; }},
   };
-  for (const auto& [name, make, told] : cases) {
-    SCOPED_TRACE(name);
-    SteppedFleet fleet;
-    make(fleet.Add("a"));
-    EXPECT_EQ(Words(fleet.State("a")), "never asked");
-    fleet.RunFor(20s);
-    EXPECT_EQ(Words(fleet.State("a")), told);
-    EXPECT_EQ(fleet.watcher.Tally().begun, 1);
-    EXPECT_EQ(fleet.projectors["a"].open, 0) << "nobody keeps a connection";
-  }
-}
-
-TEST(FleetWatcher, TellsWhatTheStatusPageShowsOfAProjectorOnTheWire) {
-  namespace Code = CommandCode;
-  const std::tuple<const char*, std::map<std::uint16_t, int>, const char*> cases[] = {
-      {"as usual", {}, "answers, on, 3 Video, 000000, 1200 h, filter 80 h, seen, heard, live"},
-      {"in standby", {{Code::RunningState, 0}}, "answers, standby"},
-      {"cooling down, lamp",
-       {{Code::RunningState, 2}, {Code::ErrorStatus, 3}},
-       "answers, cooling down, 3 Video, 020000, 1200 h, filter 80 h, seen, heard, live"},
-      {"air flow, switches",
-       {{Code::ErrorStatus, 5}, {Code::BlankState, 1}, {Code::Freeze, 1}, {Code::LampTime, 40000}},
-       "answers, on, 3 Video, 000020, 40000 h, filter 80 h, blank, heard, frozen"},
-      {"an error without a name, a source without one",
-       {{Code::ErrorStatus, 77}, {Code::InputSource, 9}},
-       "answers, on, 9 , 000002, 1200 h, filter 80 h, seen, heard, live"},
-  };
-  const auto isState = [](const PageRow& row) { return std::holds_alternative<StateRow>(row); };
-  EXPECT_EQ(std::ranges::count_if(kStatusRows.rows, isState), kStatusItems) << "all are read";
   const auto model = std::make_shared<ModelData>();
   model->MySourceList.count = 1;
   model->MySourceList.names[0] = MakeNameSlot("Video");
   model->MySourceList.firstValues[0] = 3;
-  for (const auto& [name, values, told] : cases) {
-    SCOPED_TRACE(name);
-    SteppedFleet fleet;
-    Projector& it = fleet.AddWire("a", "a", model);
-    for (const auto& [code, value] : values) it.wire->values[code] = value;
-    fleet.RunFor(20s);
-    EXPECT_EQ(Words(fleet.State("a")), told);
-    EXPECT_EQ(it.bursts, fleet.State("a").power == PowerState::Standby ? 1 : 2);
+  namespace Code = CommandCode;
+  const std::pair<const char*, std::map<std::uint16_t, int>> wireCases[] = {
+      {"as usual", {}},
+      {"in standby", {{Code::RunningState, 0}}},
+      {"cooling down, lamp", {{Code::RunningState, 2}, {Code::ErrorStatus, 3}}},
+      {"air flow, switches",
+       {{Code::ErrorStatus, 5}, {Code::BlankState, 1}, {Code::Freeze, 1}, {Code::LampTime, 40000}}},
+      {"an error without a name, a source without one",
+       {{Code::ErrorStatus, 77}, {Code::InputSource, 9}}},
+  };
+  std::string told = "PJLink\n";
+  const auto onPjLink = [](auto& fleet) -> Projector& { return fleet.Add("a"); };
+  for (const auto& [name, make] : cases) told += Told(onPjLink, name, make);
+  told += "the wire\n";
+  const auto onWire = [&](auto& fleet) -> Projector& { return fleet.AddWire("a", "a", model); };
+  for (const auto& [name, values] : wireCases) {
+    told += Told(onWire, name, [&values](Projector& it) {
+      for (const auto& [code, value] : values) it.wire->values[code] = value;
+    });
   }
+  told += Told(onWire, "refuses", [](auto& it) { it.wire->values.erase(Code::Freeze); });
+  told += Told(onWire, "falls silent in the middle", [](auto& it) { it.answersBursts = 1; });
+  told += Told(onWire, "is not there", [](auto& it) { it.isThere = false; });
+  told += Told(onWire, "greets as PJLink does", [](auto& it) { it.wire.reset(); });
+  ExpectRecord(TEST_SOURCE_DIR "/fleet/States.txt", told);
+
+  const auto isState = [](const PageRow& row) { return std::holds_alternative<StateRow>(row); };
+  EXPECT_EQ(std::ranges::count_if(kStatusRows.rows, isState), kStatusItems) << "all are read";
   SteppedFleet fleet;
-  fleet.AddWire("refuses").wire->values.erase(Code::Freeze);
-  fleet.AddWire("gone").isThere = false;
-  fleet.AddWire("greets").wire.reset();  // as PJLink does
+  onWire(fleet);
   fleet.RunFor(20s);
-  EXPECT_EQ(Words(fleet.State("refuses")),
-            "answers, on, 3 , 000000, 1200 h, filter 80 h, seen, heard");
-  EXPECT_EQ(Words(fleet.State("gone")), "silent");
-  EXPECT_EQ(Words(fleet.State("greets")), "not understood");
+  EXPECT_EQ(fleet.projectors["a"].bursts, 2) << "the power, then all else";
+  EXPECT_EQ(fleet.State("a").answerTime, 10ms);
 }
 
 TEST(FleetWatcher, LeavesASerialPortToOthers) {
@@ -208,12 +206,23 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   std::string fields;
   LiveState all;
   all.reachability = Reachability::Answers, all.power = PowerState::On;
-  all.source = PlayingSource(), all.problems = PartProblems(), all.lamps = {{}};
+  all.source = PlayingSource(), all.problems = PartProblems(), all.lamps.resize(2);
   all.blank = all.mute = all.freeze = true, all.filterHours = all.drift = 1;
   for (const auto& one : ChangesBetween({}, all, {})) {
     fields += std::to_string(static_cast<int>(one.field)) + std::to_string(one.index) + ' ';
   }
-  EXPECT_EQ(fields, "00 10 20 30 31 32 33 34 35 40 50 60 70 80 90 ");
+  EXPECT_EQ(fields, "00 10 20 30 31 32 33 34 35 40 50 60 70 71 80 90 ");
+  // Each item that is read changes what it means, and nothing else.
+  fields.clear();
+  for (const StatusItem item : kAllStatusItems) {
+    LiveState one;
+    TakeStatus(one, item, 1, nullptr);
+    fields += '/';
+    for (const auto& each : ChangesBetween({}, one, {})) {
+      fields += std::to_string(static_cast<int>(each.field));
+    }
+  }
+  EXPECT_EQ(fields, "/1/2/333333/4/5/6/7/8");
 }
 
 TEST(FleetWatcher, MovesAlongWithAProjector) {

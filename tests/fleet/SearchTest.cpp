@@ -229,11 +229,11 @@ struct Searching {
   explicit Searching(const SearchOptions& options)
       : driver(
             options, [this](const FoundProjector& one) { found[one.address] = one; },
-            [this] { isOver = true; }) {
+            [this] { ++ends; }) {
     driver.Start();
   }
   std::map<std::string, FoundProjector> found;
-  bool isOver = false;
+  int ends = 0;
   SearchDriver driver;
 };
 
@@ -255,7 +255,7 @@ TEST_F(SearchDriverTest, WaitsForNobodyForEver) {
   options.broadcasts = options.addresses;
   options.limits.connect = 50ms;
   search.emplace(options);
-  EXPECT_TRUE(Soon([&] { return search->isOver; })) << "says nothing";
+  EXPECT_TRUE(Soon([&] { return search->ends == 1; })) << "says nothing";
   options.limits = {.connect = 1h, .pause = 1ms};
   search.emplace(options);
   const std::size_t before = silent->Accept();
@@ -263,13 +263,13 @@ TEST_F(SearchDriverTest, WaitsForNobodyForEver) {
   silent->connections.back()->close();
   EXPECT_TRUE(Soon([&] { return silent->Accept() == before + 2; })) << "was not ready";
   silent->connections.back()->write("PJLINK ERRA\r");
-  EXPECT_TRUE(Soon([&] { return search->isOver; }));
+  EXPECT_TRUE(Soon([&] { return search->ends == 1; }));
   EXPECT_THAT(search->found, SizeIs(1));
   silent.reset();
   options.limits.pause = 1h;
   options.addresses.push_back(QHostAddress("255.255.255.255"));  // fails at once
   search.emplace(options);
-  EXPECT_TRUE(Soon([&] { return search->isOver; })) << "is not there";
+  EXPECT_TRUE(Soon([&] { return search->ends == 1; })) << "is not there";
   EXPECT_THAT(search->found, SizeIs(0));
   EXPECT_EQ(search->driver.Done(), 2U);
 }
@@ -321,7 +321,7 @@ TEST_F(SearchDriverTest, FindsAFleetByRangeAndByBroadcast) {
   options.perSecond = 25;
   const auto start = std::chrono::steady_clock::now();
   const Searching byRange(options);
-  EXPECT_TRUE(Soon([&] { return byRange.isOver; }));
+  EXPECT_TRUE(Soon([&] { return byRange.ends == 1; }));
   EXPECT_GE(std::chrono::steady_clock::now() - start, 700ms);
   ASSERT_THAT(byRange.found, SizeIs(kCount));
   const auto isSecond = [](const auto& found) { return found.second.protocolClass == '2'; };
@@ -330,6 +330,7 @@ TEST_F(SearchDriverTest, FindsAFleetByRangeAndByBroadcast) {
   options.broadcasts = {QHostAddress("127.255.255.255")};
   const Searching byBroadcast(options);
   EXPECT_TRUE(Soon([&] { return std::ssize(byBroadcast.found) == ofSecondClass; }));
+  EXPECT_EQ(byRange.ends, 1);
   for (const auto& [address, found] : byRange.found) {
     const auto same = byBroadcast.found.find(address);
     EXPECT_EQ(same != byBroadcast.found.end(), found.protocolClass == '2') << address;

@@ -191,6 +191,9 @@ TEST(SearchProfiles, TakeWhatIsFoundAsRecorded) {
       {"more than a profile may have",
        {longest, nameless},
        "a password that is so long that a profile cannot have it any more"},
+      {"as much as a profile may have",
+       {At("192.0.2.43", "", std::string(194, '7').c_str())},
+       "a password that is just so long that a profile may have it as is"},
       {"a password of two lines", {At("192.0.2.42", "", "")}, "a\nb"},
       {"one at two addresses, and one with inputs",
        {At("2001:db8::3", "C", "", "00:00:5e:00:53:09"),
@@ -326,6 +329,7 @@ TEST_F(SearchDriverTest, FindsAFleetByRangeAndByBroadcast) {
   ASSERT_THAT(byRange.found, SizeIs(kCount));
   const auto isSecond = [](const auto& found) { return found.second.protocolClass == '2'; };
   const auto ofSecondClass = std::ranges::count_if(byRange.found, isSecond);
+  EXPECT_GT(ofSecondClass, 0);
   options.addresses.clear();
   options.broadcasts = {QHostAddress("127.255.255.255")};
   const Searching byBroadcast(options);
@@ -335,6 +339,7 @@ TEST_F(SearchDriverTest, FindsAFleetByRangeAndByBroadcast) {
     const auto same = byBroadcast.found.find(address);
     EXPECT_EQ(same != byBroadcast.found.end(), found.protocolClass == '2') << address;
     if (same == byBroadcast.found.end()) continue;
+    EXPECT_NE(found.serial, "") << "and all before it";
     EXPECT_EQ(same->second.serial, found.serial);
     EXPECT_EQ(same->second.inputs, found.inputs);
     EXPECT_THAT(same->second.mac, HasSubstr("02:00:00:00:00:"));

@@ -83,6 +83,8 @@ TEST(NetworkBroadcasts, AreThoseOfNetworksThatAreUp) {
   for (const QHostAddress& own : NetworkBroadcasts()) EXPECT_FALSE(own.isNull());
 }
 
+int connections = 0;  // in the last conversation
+
 // The whole of a conversation in memory.
 FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
                        const std::string& given, int answers = 100) {
@@ -91,11 +93,13 @@ FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
   std::optional<PjLinkProjectorSession> end;
   SearchInquiry inquiry({.address = "192.0.2.1", .port = 4352}, given, {});
   const PjLinkTime now{};
+  connections = 0;
   using enum PjLinkStep::Kind;
   for (int steps = 0; steps < 200; ++steps) {
     const PjLinkStep step = inquiry.Next(now);
     auto& connection = inquiry.Connection();
     if (step.kind == Connect) {
+      ++connections;
       end.emplace(responder, wanted);
       connection.Connected();
       connection.Received(end->Greeting(), now);
@@ -126,6 +130,7 @@ TEST(SearchInquiry, LearnsWhoAndWhatAProjectorIs) {
   found = Inquire(served, "open", "");
   EXPECT_TRUE(found.needsPassword);
   EXPECT_EQ(found.name, "");
+  EXPECT_EQ(connections, 1) << "asked no more";
 
   served.protocolClass = 1;
   served.inputs.clear();
@@ -135,6 +140,7 @@ TEST(SearchInquiry, LearnsWhoAndWhatAProjectorIs) {
   EXPECT_EQ(found.name + '/' + found.maker + '/' + found.model, "Hall/Advanced Control/")
       << "it has left then";
   EXPECT_THAT(found.inputs, SizeIs(0));
+  EXPECT_EQ(connections, 8);
 }
 
 constexpr char kFile[] = R"({

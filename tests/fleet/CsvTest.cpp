@@ -87,14 +87,7 @@ TEST(Csv, IsReadAsItWasWritten) {
   for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(table.rows[i].cells, cells[i]);
 }
 
-constexpr char kFile[] = R"({
-  "families": {"hall": {"model": "M 30", "dialogType": 5, "modelCode": 30}},
-  "projectors": [
-    {"name": "A", "like": "hall", "identity": "mac:00:00:5e:00:53:01", "x-mine": 1, "link": "pjlink",
-     "connection": {"network": {"address": "192.0.2.1", "port": 4352, "secret": "open"}}},
-    {"name": "B", "like": "hall", "connection": {"serial": {"port": 2}}}
-  ]
-})";
+const QByteArray kFile = Contents(TEST_SOURCE_DIR "/fleet/Imported.json");
 
 /// What becomes of the file of profiles: what is told, and its lines that are new.
 QString Imported(const QByteArray& csv) {

@@ -7,23 +7,13 @@
 
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
 using testing::ElementsAre;
 
-constexpr char kFile[] = R"({ "x-made by": "a person", "tags": {"halls": {}},
-  "families": {"hall": {"model": "M", "dialogType": 5, "modelCode": 30, "ratedLampHours": 3000,
-                        "tags": ["halls"]}},
-  "projectors": [
-    {"name": "A", "like": "hall", "identity": "serial:1", "snapshot": "day", "notes": "door left",
-     "connection": {"network": {"address": "192.0.2.1", "port": 4352}}, "link": "pjlink"},
-
-    {"tags": ["Building 3", "lab"], "name": "B", "like": "hall", "x-mine": [1, {"z": 2, "a": 1}],
-     "connection": {"serial": {"port": 2}}, "ratedLampHours": 2000 },
-    {"name": "C", "like": "hall", "modelCode": 31, "connection": {"serial": {"port": 3}}}
-  ] }
-)";
+const QByteArray kFile = Contents(TEST_SOURCE_DIR "/fleet/Profiles.json");
 
 TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   const ProfileList list = ParseProfileList(kFile, "p.json");
@@ -48,14 +38,7 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
 }
 
 // With a mark where an unknown key would be.
-constexpr char kMost[] = R"({% "tags": {"a": {% "snapshot": "b"}}, "families": {%1
-    "0": {% "gamma": [%2 {% "value": 65535, "name": "c"}], "ranges": {"tint": [65535, 65535]}}},
-  "projectors": [
-    {% "name": "%3", "model": "%3", "like": "15", "modelCode": 2147483647, "dialogType": -2147483648,
-     "mySources": [{% "name": "DVI", "value": 0}], "tags": [%4 "a"],
-     "connection": {% "network": {% "address": "d", "port": 65535}}},
-    {"name": "e", "model": "f", "dialogType": 0, "modelCode": 0,
-     "connection": {"serial": {% "port": 256, "baud": 4000000}}}]})";
+const QByteArray kMost = Contents(TEST_SOURCE_DIR "/fleet/Most.json");
 
 TEST(Profile, HasAsMuchAsItMayAndNothingUnknown) {
   QString text = kMost, families;

@@ -143,94 +143,47 @@ TEST(SearchInquiry, LearnsWhoAndWhatAProjectorIs) {
   EXPECT_EQ(connections, 8);
 }
 
-constexpr char kFile[] = R"({
-  "families": {"hall": {"model": "M 30", "dialogType": 5, "modelCode": 30}},
-  "projectors": [
-    {"name": "By serial", "like": "hall", "identity": "serial:Maker/1", "x-mine": true,
-     "connection": {"network": {"address": "192.0.2.1", "port": 4352, "secret": "open"}}},
-    {"name": "By MAC", "like": "hall", "identity": "mac:00:00:5e:00:53:02",
-     "connection": {"network": {"address": "192.0.2.2", "port": 4352}}},
-    {"name": "By address", "like": "hall",
-     "connection": {"network": {"address": "2001:db8:0::3", "port": 4352}}},
-    {"name": "Hall", "like": "hall", "identity": "serial:Maker/8",
-     "connection": {"serial": {"port": 1}}}
-  ]
-})";
+const QByteArray kFile = Contents(TEST_SOURCE_DIR "/fleet/Searched.json");
 
-FoundProjector At(const char* address, const char* name, const char* serial, const char* mac = "") {
-  return {.address = address,
-          .port = 4352,
-          .mac = mac,
-          .name = name,
-          .maker = "Maker",
-          .model = "M 30",
-          .serial = serial};
-}
-
-// The record has the lines of the file that are new or changed.
+// Takes what the record has found into the file, and tells the lines that are new.
 TEST(SearchProfiles, TakeWhatIsFoundAsRecorded) {
-  FoundProjector unknown = At("192.0.2.1", "Z", "9"), locked{.address = "192.0.2.20", .port = 4352},
-                 port = At("192.0.2.1", "A", "1"), inputs = At("192.0.2.31", " I ", "31");
-  unknown.model = "Other";
-  locked.needsPassword = true;
-  port.port = 4400;
-  inputs.inputs = {{31, "HDMI"}, {32, "HDMI"}};
-  FoundProjector longest = At("192.0.2.40", ("x" + QByteArray("\u00C4").repeated(150)).data(), "");
-  longest.model = longest.serial = std::string(4000, 'x');
-  FoundProjector nameless = longest;
-  nameless.name.clear();
-  nameless.address = "192.0.2.41";
-  const std::tuple<const char*, std::vector<FoundProjector>, const char*> cases[] = {
-      {"moved to where another one was; moved, known by the second identity; gets its identity; "
-       "new, with a name that is taken; new, without a name; of a maker that numbers nothing",
-       {At("192.0.2.2", "A", "1"), At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),
-        At("2001:db8::3", "C", "3"), At("192.0.2.4", "Hall", "4"), At("192.0.2.5", "", "0000"),
-        At("192.0.2.6", "Hall", "same", "00:00:5e:00:53:06"),
-        At("192.0.2.7", "Hall", "same", "00:00:5e:00:53:07")},
-       "secret"},
-      {"nothing new", {At("192.0.2.1", "A", "1")}, ""},
-      {"another port", {port}, ""},
-      {"others at known addresses, one twice; one that wants a password",
-       {unknown, unknown, locked, At("192.0.2.2", "Y", "")},
-       "secret"},
-      {"at a serial port", {At("192.0.2.9", "", "8")}, ""},
-      {"more than a profile may have",
-       {longest, nameless},
-       "a password that is so long that a profile cannot have it any more"},
-      {"as much as a profile may have",
-       {At("192.0.2.43", "", std::string(194, '7').c_str())},
-       "a password that is just so long that a profile may have it as is"},
-      {"a password of two lines", {At("192.0.2.42", "", "")}, "a\nb"},
-      {"one at two addresses, and one with inputs",
-       {At("2001:db8::3", "C", "", "00:00:5e:00:53:09"),
-        At("192.0.2.3", "C", "", "00:00:5e:00:53:09"), inputs},
-       ""},
-  };
+  const std::string file = TEST_SOURCE_DIR "/fleet/Taken.txt";
   std::string now;
-  QByteArray first;
-  const auto take = [&](const QByteArray& file, const auto& found, const char* password) {
-    const TakenProjectors taken = TakeFound(file, found, password);
+  std::vector<FoundProjector> found;
+  QByteArray before = kFile;
+  for (const QByteArray& line : Contents(file.c_str()).split('\n')) {
+    if (line.isEmpty() || line.startsWith(' ')) continue;
+    now += line.toStdString() + '\n';
+    if (!line.startsWith("taken")) {
+      const QList<QByteArray> cells = line.split('|');
+      const QByteArray flag = cells.value(5);
+      found.push_back({.address = cells[0].toStdString(),
+                       .port = 4352,
+                       .mac = cells.value(3).toStdString(),
+                       .name = cells.value(1).toStdString(),
+                       .maker = "Maker",
+                       .model = cells.value(4, "M 30").toStdString(),
+                       .serial = cells.value(2).toStdString()});
+      if (flag == "moved port") found.back().port = 4400;
+      if (flag == "inputs") found.back().inputs = {{31, "HDMI"}, {32, "HDMI"}};
+      found.back().needsPassword = flag == "locked";
+      continue;
+    }
+    const QByteArray password = line.mid(6).replace("\\n", "\n");
+    const TakenProjectors taken =
+        TakeFound(before, std::exchange(found, {}), password.toStdString());
     EXPECT_EQ(ParseProfileList(taken.text, "p.json").error.toStdString(), "");
-    QString text = QString("moved: %1; known: %2; added: %3\n")
+    QString text = QString("  moved: %1; known: %2; added: %3\n")
                        .arg(taken.moved.join(", "))
                        .arg(taken.known)
                        .arg(taken.added.join(", "));
-    const QList<QByteArray> lines = file.split('\n');
-    for (const QByteArray& line : taken.text.split('\n')) {
-      if (!lines.contains(line)) text += line + '\n';
+    for (const QByteArray& one : taken.text.split('\n')) {
+      if (!before.split('\n').contains(one)) text += "  " + one.trimmed() + '\n';
     }
     now += text.replace(QRegularExpression("\"id:[-0-9a-f]+"), "\"id:…").toStdString();
-    return taken.text;
-  };
-  for (const auto& [name, found, password] : cases) {
-    now += name + std::string(":\n");
-    const QByteArray text = take(kFile, found, password);
-    if (first.isEmpty()) first = text;
+    before = line.startsWith("taken first") ? taken.text : kFile;
   }
-  now += "at an address whose identity was made up, and at one with another kind of identity:\n";
-  take(first, std::vector{At("192.0.2.5", "", "5"), At("192.0.2.2", "A", "", "00:00:5e:00:53:01")},
-       "");
-  ExpectRecord(TEST_SOURCE_DIR "/fleet/Taken.txt", now);
+  ExpectRecord(file, now);
 }
 
 /// A search, with what it has found by address.

@@ -52,12 +52,12 @@ void SocketNetwork::Send(Peer peer, std::string_view bytes) {
 }
 
 void SocketNetwork::Close(Peer peer) {
-  SocketConnection& connection = At(peer);
+  const SocketConnection& connection = At(peer);
   // Where nobody has answered in time, the next attempt is at another address of the name.
   if (connection.GetStage() == Stage::Connecting && !connection.Name().empty()) {
     names_.TakeFailure(connection.Name());
   }
-  connection.Close();
+  At(peer).Close();
 }
 
 std::uint16_t SocketNetwork::ListenForNotices(const std::string& address, std::uint16_t port) {

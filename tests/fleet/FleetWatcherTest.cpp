@@ -123,9 +123,10 @@ TEST(FleetWatcher, TellsWhatAProjectorIsDoing) {
   EXPECT_EQ(std::ranges::count_if(kStatusRows.rows, isState), kStatusItems) << "all are read";
   SteppedFleet fleet;
   onWire(fleet);
+  fleet.Add("b");
   fleet.RunFor(20s);
   EXPECT_EQ(fleet.projectors["a"].bursts, 2) << "the power, then all else";
-  EXPECT_EQ(fleet.State("a").answerTime, 10ms);
+  for (const char* const id : {"a", "b"}) EXPECT_EQ(fleet.State(id).answerTime, 10ms);
 }
 
 TEST(FleetWatcher, LeavesASerialPortToOthers) {

@@ -119,6 +119,9 @@ TEST_F(NetworkTest, TellsOnlyOfThePresentAttempt) {
   network.Wait(SessionTime::max());  // it has failed at once
   network.Connect(0, "127.0.0.1", port);
   EXPECT_TRUE(tells("0 connected; "));
+  const auto end = std::chrono::steady_clock::now() + 50ms;
+  network.Wait(end);
+  EXPECT_GE(std::chrono::steady_clock::now(), end) << "nothing happens";
   network.Connect(1, "127.0.0.1", port);
   network.Wait(SessionTime::max());
   network.Connect(1, "127.0.0.1", 1);

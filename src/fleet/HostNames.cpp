@@ -18,16 +18,19 @@ bool HostNames::IsKnown(const std::string& name) const {
   return known != known_.end() && Now() < known->second.time + kNameLasts;
 }
 
-std::optional<SocketAddress> HostNames::AddressOf(const std::string& name,
-                                                  std::uint16_t port) const {
+std::optional<SocketAddress> HostNames::AddressOf(const std::string& name, std::uint16_t port,
+                                                  std::size_t number) const {
   const Known& known = known_.at(name);
   if (known.addresses.empty()) return std::nullopt;
-  SocketAddress address = known.addresses[known.next % known.addresses.size()];
+  SocketAddress address = known.addresses[number % known.addresses.size()];
   address.SetPort(port);
   return address;
 }
 
-void HostNames::TakeFailure(const std::string& name) { ++known_.at(name).next; }
+void HostNames::TakeFailure(const std::string& name, std::size_t number) {
+  Known& known = known_.at(name);
+  if (known.first == number) ++known.first;
+}
 
 std::vector<HostNames::Answer> HostNames::Take() {
   std::vector<Answer> answers;

@@ -20,12 +20,17 @@ class HostNames {
   explicit HostNames(int wakes) : resolver_(wakes) {}
 
   bool IsKnown(const std::string& name) const;
-  /// The address to connect to, for a known name; nothing where no host has the name.
-  std::optional<SocketAddress> AddressOf(const std::string& name, std::uint16_t port) const;
+  /// The number of the address to connect to first, for a known name.
+  std::size_t First(const std::string& name) const { return known_.at(name).first; }
+  /// The address with a number, which goes on with the first one behind the last; nothing where no
+  /// host has the name.
+  std::optional<SocketAddress> AddressOf(const std::string& name, std::uint16_t port,
+                                         std::size_t number) const;
   /// How many addresses a known name has.
   std::size_t Count(const std::string& name) const { return known_.at(name).addresses.size(); }
-  /// Reports that the address could not be connected to. `AddressOf` then returns the next one.
-  void TakeFailure(const std::string& name);
+  /// Reports that the address could not be connected to. If it was the first one, the next one is
+  /// now; others may have reported it before.
+  void TakeFailure(const std::string& name, std::size_t number);
 
   /// Looks a name up for somebody.
   void LookUp(std::uint32_t asker, const std::string& name) { resolver_.LookUp(asker, name); }
@@ -38,7 +43,7 @@ class HostNames {
  private:
   struct Known {
     std::vector<SocketAddress> addresses;
-    std::size_t next = 0;
+    std::size_t first = 0;
     SessionTime time{};
   };
 

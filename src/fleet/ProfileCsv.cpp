@@ -218,7 +218,6 @@ bool Importer::Take(const Cells& cells) {
     const auto before = entry[key].toObject()["network"].toObject();
     entry[key] = value;
     // Tables seldom have passwords, so a table without one does not remove it.
-    if (key != QLatin1String("connection") || !before.contains("secret")) continue;
     QJsonObject network = value.toObject()["network"].toObject();
     if (network.isEmpty() || network.contains("secret")) continue;
     network["secret"] = before["secret"];

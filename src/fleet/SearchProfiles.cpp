@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <string_view>
 #include <utility>
 
 #include <QHostAddress>
@@ -11,18 +12,28 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "device/ModelData.h"
+#include "fleet/OneLine.h"
 #include "fleet/ProfileEdits.h"
 
 namespace AdvancedControl {
 
 namespace {
 
-QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
+/// Bytes of what a projector says that a profile takes. What is made of it may have a bit more.
+constexpr std::size_t kLongest = 200;
 
+QString Text(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString Shortened(const std::string& utf8) { return Text(CutText(utf8, kLongest)); }
+
+/// What is too long to be kept identifies nothing.
 QString SerialIdentity(const FoundProjector& found) {
   const bool isNumber = found.serial.find_first_not_of("0 -") != std::string::npos;
-  if (!isNumber) return {};
-  return Text("serial:" + found.maker + '/' + found.serial);
+  const std::string whole = found.maker + '/' + found.serial;
+  return isNumber && whole.size() <= kLongest ? Text("serial:" + whole) : QString();
 }
 
 /// Takes projectors into a profile file, one after the other.
@@ -61,9 +72,16 @@ QString AddressKey(const QString& address, int port) {
          QString::number(port);
 }
 
+/// A password that a profile may have; otherwise nothing.
+std::string KeptPassword(std::string password) {
+  const QString text = Text(password);
+  return password.size() <= NameSlot{}.size() && OneLine(text) == text ? std::move(password)
+                                                                       : std::string();
+}
+
 Taker::Taker(const QByteArray& profiles, const std::vector<FoundProjector>& found,
              std::string password)
-    : original_(profiles), password_(std::move(password)), edits_(profiles) {
+    : original_(profiles), password_(KeptPassword(std::move(password))), edits_(profiles) {
   const QJsonObject file = QJsonDocument::fromJson(profiles).object();
   families_ = file["families"].toObject();
   for (const auto& value : file["projectors"].toArray()) {
@@ -75,7 +93,6 @@ Taker::Taker(const QByteArray& profiles, const std::vector<FoundProjector>& foun
                        entries_.size());
     entries_.push_back(entry);
   }
-  byIdentity_.erase(QString());
   std::map<QString, std::string> serials;
   for (const FoundProjector& projector : found) {
     const QString serial = SerialIdentity(projector);
@@ -145,9 +162,9 @@ void Taker::Update(std::size_t profile, const FoundProjector& found,
 }
 
 QString Taker::FreeName(const FoundProjector& found) const {
-  QString name = Text(found.name).trimmed();
+  QString name = Shortened(found.name).trimmed();
   if (name.isEmpty()) {
-    name = (Text(found.model) + QLatin1Char(' ') + Text(found.address)).trimmed();
+    name = (Shortened(found.model) + QLatin1Char(' ') + Text(found.address)).trimmed();
   }
   QString free = name;
   for (int i = 2; names_.contains(free); ++i) free = QStringLiteral("%1 (%2)").arg(name).arg(i);
@@ -166,7 +183,7 @@ void Taker::Add(const FoundProjector& found, const QStringList& identities) {
     members.push_back({"like", family});
   } else {
     members.push_back(
-        {"model", found.model.empty() ? QStringLiteral("PJLink") : Text(found.model)});
+        {"model", found.model.empty() ? QStringLiteral("PJLink") : Shortened(found.model)});
     members.push_back({"dialogType", 0});
     members.push_back({"modelCode", 0});
   }
@@ -175,8 +192,8 @@ void Taker::Add(const FoundProjector& found, const QStringList& identities) {
   const SourceList sources = SourcesOf(found.inputs, InputCodes::SharedNames);
   QJsonArray inputs;
   for (std::size_t i = 0; i < static_cast<std::size_t>(sources.Size()); ++i) {
-    inputs.append(QJsonObject{{"name", Text(std::string(NameText(sources.names[i])))},
-                              {"value", sources.firstValues[i]}});
+    inputs.append(
+        QJsonObject{{"name", Text(NameText(sources.names[i]))}, {"value", sources.firstValues[i]}});
   }
   // If it reported none, it is asked later.
   members.push_back({"mySources", inputs});

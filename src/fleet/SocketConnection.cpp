@@ -20,6 +20,7 @@ void SocketConnection::BeginNext() {
   Close();
   ++attempt_;
   ++tried_;
+  ++addressNumber_;
 }
 
 bool SocketConnection::Connect(const SocketAddress& address) {

@@ -30,6 +30,9 @@ class SocketConnection {
   void BeginNext();
   /// How many addresses of the name were tried before the present one.
   std::size_t Tried() const { return tried_; }
+  /// The number of the address of the name; `BeginNext` counts on.
+  std::size_t AddressNumber() const { return addressNumber_; }
+  void SetAddressNumber(std::size_t number) { addressNumber_ = number; }
   /// False if there can be no connection.
   bool Connect(const SocketAddress& address);
   SerialLine::Problem OpenLine(const std::string& device, std::int32_t baud);
@@ -55,6 +58,7 @@ class SocketConnection {
   std::uint16_t port_ = 0;
   std::string name_{};
   std::size_t tried_ = 0;
+  std::size_t addressNumber_ = 0;
 };
 
 }  // namespace AdvancedControl

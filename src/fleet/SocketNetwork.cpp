@@ -51,7 +51,14 @@ void SocketNetwork::Send(Peer peer, std::string_view bytes) {
   }
 }
 
-void SocketNetwork::Close(Peer peer) { At(peer).Close(); }
+void SocketNetwork::Close(Peer peer) {
+  const SocketConnection& connection = At(peer);
+  // Where nobody has answered in time, the next attempt is at another address of the name.
+  if (connection.GetStage() == Stage::Connecting && !connection.Name().empty()) {
+    names_.TakeFailure(connection.Name(), connection.AddressNumber());
+  }
+  At(peer).Close();
+}
 
 std::uint16_t SocketNetwork::ListenForNotices(const std::string& address, std::uint16_t port) {
   const std::uint16_t taken = notices_.Open(address, port);
@@ -71,17 +78,19 @@ SocketConnection& SocketNetwork::At(Peer peer) {
 }
 
 void SocketNetwork::ConnectByName(Peer peer) {
-  const SocketConnection& connection = At(peer);
-  const auto address = names_.AddressOf(connection.Name(), connection.Port());
+  SocketConnection& connection = At(peer);
+  if (connection.Tried() == 0) connection.SetAddressNumber(names_.First(connection.Name()));
+  const auto address =
+      names_.AddressOf(connection.Name(), connection.Port(), connection.AddressNumber());
   if (!address) return Fail(peer, Failure::Kind::NotConnected, ConnectionState::NameUnknown);
-  if (At(peer).Connect(*address)) return Watch(peer);
+  if (connection.Connect(*address)) return Watch(peer);
   if (!ConnectToNext(peer)) Fail(peer, Failure::Kind::NotConnected);
 }
 
 bool SocketNetwork::ConnectToNext(Peer peer) {
   SocketConnection& connection = At(peer);
   if (connection.GetStage() != Stage::Connecting || connection.Name().empty()) return false;
-  names_.TakeFailure(connection.Name());
+  names_.TakeFailure(connection.Name(), connection.AddressNumber());
   if (connection.Tried() + 1 >= names_.Count(connection.Name())) return false;
   connection.BeginNext();
   ConnectByName(peer);

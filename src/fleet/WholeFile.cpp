@@ -66,7 +66,7 @@ bool Sync(int file) {
 }
 
 bool SyncFolderOf(const QString& path) {
-  const Descriptor folder(Open(QFileInfo(path).path(), O_RDONLY | O_DIRECTORY));
+  const Descriptor folder(Open(QFileInfo(path).path(), O_RDONLY));
   // A folder that may be written to and not be read.
   if (!folder.IsOpen()) return errno == EACCES;
   return Sync(folder.Number());

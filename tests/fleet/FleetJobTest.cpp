@@ -48,7 +48,8 @@ struct FleetJobTest : ServingTest {
 
   std::vector<int> Mirrors() {
     std::vector<int> mirrors;
-    for (const Served& one : served) mirrors.push_back(one.device->Execute({PjtOperation::GetMirror}).value);
+    for (const Served& one : served)
+      mirrors.push_back(one.device->Execute({PjtOperation::GetMirror}).value);
     return mirrors;
   }
 

@@ -55,8 +55,11 @@ TEST_F(FleetTest, WatchesRealProjectors) {
   EXPECT_EQ(Reached("other"), Reachability::NotUnderstood);
   for (const char* const id : {"closed", "closed by name", "nowhere", "unnamed"}) {
     EXPECT_TRUE(Soon([&] { return Reached(id) == Reachability::Silent; })) << id;
+    EXPECT_EQ(fleet.State(id)->connection, id == std::string("unnamed")
+                                               ? ConnectionState::NameUnknown
+                                               : ConnectionState::NotReachable)
+        << id;
   }
-  EXPECT_EQ(fleet.State("unnamed")->connection, ConnectionState::NameUnknown);
 
   fleet.TakeChanges();
   const int before = wakes;

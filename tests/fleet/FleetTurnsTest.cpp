@@ -44,6 +44,22 @@ TEST(FleetTurns, LeavesNobodyOutOfManyThatAreSilent) {
   }
 }
 
+TEST(FleetTurns, OneThatWaitsMayLeave) {
+  SteppedFleet fleet({.visitsAtOnce = 1});
+  Projector& it = fleet.Add("a");
+  it.device.answers = 1s;
+  while (it.open == 0) fleet.RunFor(1ms);
+  const Projector &removed = fleet.Add("b"), &paused = fleet.Add("c");
+  fleet.RunFor(1s);
+  fleet.watcher.Remove("b");
+  fleet.watcher.Pause("c");
+  fleet.RunFor(100s);
+  EXPECT_EQ(removed.connections.size() + paused.connections.size(), 0);
+  fleet.watcher.Resume("c");
+  fleet.RunFor(100s);
+  EXPECT_GT(paused.connections.size(), 0);
+}
+
 TEST(FleetTurns, KnowsAnAddressHoweverItIsWritten) {
   const auto place = [](const char* host) {
     return PlaceOf({"a", PjLinkAddress{.host = host, .password = {}}}).first;

@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fleet/StatusItems.h"
 #include "settings/PageTables.h"
 #include "tests/fleet/SteppedFleet.h"
 #include "tests/support/Record.h"
@@ -225,12 +226,23 @@ TEST(FleetWatcher, TellsChangesAndKeepsTheLast) {
   std::string fields;
   LiveState all;
   all.reachability = Reachability::Answers, all.power = PowerState::On;
-  all.source = PlayingSource(), all.problems = PartProblems(), all.lamps = {{}};
+  all.source = PlayingSource(), all.problems = PartProblems(), all.lamps.resize(2);
   all.blank = all.mute = all.freeze = true, all.filterHours = all.drift = 1;
   for (const auto& one : ChangesBetween({}, all, {})) {
     fields += std::to_string(static_cast<int>(one.field)) + std::to_string(one.index) + ' ';
   }
-  EXPECT_EQ(fields, "00 10 20 30 31 32 33 34 35 40 50 60 70 80 90 ");
+  EXPECT_EQ(fields, "00 10 20 30 31 32 33 34 35 40 50 60 70 71 80 90 ");
+  // Each item that is read changes what it means, and nothing else.
+  fields.clear();
+  for (const StatusItem item : kAllStatusItems) {
+    LiveState one;
+    TakeStatus(one, item, 1, nullptr);
+    fields += '/';
+    for (const auto& each : ChangesBetween({}, one, {})) {
+      fields += std::to_string(static_cast<int>(each.field));
+    }
+  }
+  EXPECT_EQ(fields, "/1/2/333333/4/5/6/7/8");
 }
 
 }  // namespace

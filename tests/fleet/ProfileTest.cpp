@@ -8,25 +8,13 @@
 #include "fleet/JsonLines.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
 using testing::ElementsAre;
 
-constexpr char kFile[] = R"({ "x-\"made\" by": "a person", "tags": {"halls": {}},
-  "families": {"hall": {"model": "M", "dialogType": 5, "modelCode": 30, "ratedLampHours": 3000,
-                        "tags": ["halls"]}},
-  "projectors": [
-    {"name": "A", "like": "hall", "identity": "serial:1", "snapshot": "day",
-     "notes": "\"[[[[[[[[[[[[[[[[[[ \ud800\udc00\udbff\udfff\ud7ff\ue000\u0020\\",
-     "connection": {"network": {"address": "192.0.2.1", "port": 4352, "secret": "open"}},
-     "link": "pjlink"},
-
-    {"tags": ["Building 3", "lab"], "name": "B", "like": "hall", "x-mine": [1, {"z": 2, "a": 1}],
-     "connection": {"serial": {"port": 2}}, "ratedLampHours": 2000 },
-    {"name": "C", "like": "hall", "modelCode": 31, "connection": {"serial": {"port": 3}}}
-  ] }
-)";
+const QByteArray kFile = Contents(TEST_SOURCE_DIR "/fleet/Profiles.json");
 
 TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   const ProfileList list = ParseProfileList(kFile, "p.json");
@@ -57,6 +45,31 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   EXPECT_EQ(JsonLines::FaultOf(R"([[],{"a":1},[1,2]])", {.values = 7})->offset, 14);
   EXPECT_EQ(JsonLines::FaultOf("{},[]" + QByteArray("{[").repeated(9), {})->offset, 21);
   EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}), "name: must be a text that is not empty");
+}
+
+// With a mark where an unknown key would be.
+const QByteArray kMost = Contents(TEST_SOURCE_DIR "/fleet/Most.json");
+
+TEST(Profile, HasAsMuchAsItMayAndNothingUnknown) {
+  QString text = kMost, families;
+  for (int i = 1; i < 1000; ++i) {
+    families += QString(R"("%1": {"like": "%2"}, )").arg(i).arg(i > 15 ? 0 : i - 1);
+  }
+  text.replace("%1", families).replace("%2", QString("1,").repeated(31));
+  text.replace("%3", QString(256, 'n')).replace("%4", QString("\"t\",").repeated(31));
+  QStringList parts = text.split('%');
+  ASSERT_EQ(parts.size(), 10);
+  const ProfileList list = ParseProfileList(parts.join("\"x-mine\": 0,").toUtf8(), "p.json");
+  ASSERT_EQ(list.error, "");
+  EXPECT_EQ(list.profiles[0].snapshot, "b");
+  EXPECT_EQ(NameText(list.profiles[0].model->info.MySourceList.names[0]), "DVI");
+  for (qsizetype i = 1; i < parts.size(); ++i) {
+    QStringList wrong = parts;
+    wrong[i].prepend("\"mine\": 0,");
+    EXPECT_THAT(ParseProfileList(wrong.join("").toUtf8(), "p.json").error.toStdString(),
+                testing::HasSubstr("mine: unknown key"))
+        << i;
+  }
 }
 
 TEST(JsonEdit, KeepsTheFormattingOfEverythingElse) {

@@ -6,10 +6,13 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include <QCoreApplication>
-#include <QEventLoop>
+#include <QNetworkDatagram>
+#include <QRegularExpression>
+#include <QUdpSocket>
 
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
@@ -18,55 +21,42 @@
 #include "fleet/SearchRange.h"
 #include "simulator/PjLinkProjectorSession.h"
 #include "simulator/SimulatedProjector.h"
+#include "tests/fleet/SilentServer.h"
 #include "tests/support/Programs.h"
+#include "tests/support/Record.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-TEST(SearchRange, IsReadAsPeopleWriteIt) {
-  // The number, the first and the last address, or what is wrong.
-  const std::pair<const char*, const char*> cases[] = {
-      {"192.0.2.7", "1 192.0.2.7 192.0.2.7"},
-      {"192.0.2.77/24", "254 192.0.2.1 192.0.2.254"},
-      {"192.0.2.8/30", "2 192.0.2.9 192.0.2.10"},
-      {"192.0.2.8/31", "2 192.0.2.8 192.0.2.9"},
-      {"192.0.2.8/32", "1 192.0.2.8 192.0.2.8"},
-      {"10.0.0.0/16", "65534 10.0.0.1 10.0.255.254"},
-      {"192.0.2.10 - 192.0.3.9", "256 192.0.2.10 192.0.3.9"},
-      {"192.0.2.10-12, 192.0.2.11;192.0.2.1\n", "4 192.0.2.1 192.0.2.12"},
-      {"0.0.0.0-255.255.255.255", "more than 65536 addresses"},
-      {"10.0.0.0/15", "more than 65536 addresses"},
-      {"2001:db8::7", "1 2001:db8::7 2001:db8::7"},
-      {"2001:db8::7/126, 192.0.2.7", "4 192.0.2.7 2001:db8::7"},
-      {"fe80::1%7/127", "2 fe80::%7 fe80::1%7"},
-      {"2001:db8::fffe-2001:db8::1:1", "4 2001:db8::fffe 2001:db8::1:1"},
-      {"2001:db8::10-1f", "16 2001:db8::10 2001:db8::1f"},
-      {"::ffff:ffff:ffff:ffff/112", "65535 ::ffff:ffff:ffff:1 ::ffff:ffff:ffff:ffff"},
-      {"2001:db8::/111", "more than 65536 addresses"},
-  };
-  for (const auto& [text, expected] : cases) {
-    const SearchRange range = ParseSearchRange(text);
-    std::string told = range.error.toStdString();
-    if (told.empty()) {
-      told = std::to_string(range.addresses.size());
-      for (const QHostAddress& end : {range.addresses.front(), range.addresses.back()}) {
-        told += ' ' + end.toString().toStdString();
-      }
-    }
-    EXPECT_THAT(told, HasSubstr(expected)) << text;
+/// What a text means that a person or a projector wrote.
+QString Meaning(const QString& kind, const QString& text) {
+  if (kind == "answer") {
+    return QString::fromStdString(ParseSearchAnswer(text.toStdString()).value_or("no answer"));
   }
-  const QString wrong =
-      "::1-2001:db8::1 2001:db8::2-1 ::1-192.0.2.1 2001:db8::/129 2001:db8::1:: "
-      "0.0.0.0/0 192.0.2.12-10 192.0.2.256 192.0.2 192.0.2.1/33 projector.example "
-      "192.0.2.0001 192.0.2.1/ 192.0.2.1/2: 192.0.2.1a x/24 x-7 192.0.2.9-192.0.2.7 "
-      "192.0.2.9-x 2001:db8::1-00001 2001:db8::1-2001:db9::1";
-  for (const QString& one : wrong.split(' ')) {
-    EXPECT_EQ(ParseSearchRange(one).error,
-              '"' + one + "\" is neither an IP address nor a range of them");
+  const auto [addresses, error] = ParseSearchRange(text);
+  if (!error.isEmpty()) return error;
+  return QString("%1: %2 to %3")
+      .arg(addresses.size())
+      .arg(addresses.front().toString(), addresses.back().toString());
+}
+
+// Each line of the record has a text, and what it means.
+TEST(SearchTexts, MeanWhatIsRecorded) {
+  const std::string file = TEST_SOURCE_DIR "/fleet/Searches.txt";
+  QString now;
+  for (const QString& line : QString(Contents(file.c_str())).split('\n', Qt::SkipEmptyParts)) {
+    const QString asked = line.section(" =>", 0, 0);
+    QString text = asked.section(' ', 1);
+    text.replace("\\r", "\r").replace("\\n", "\n").replace("\\0", QChar(0));
+    now += asked + " => " + Meaning(asked.section(' ', 0, 0), text) + '\n';
   }
+  EXPECT_GT(now.count('\n'), 70);
+  ExpectRecord(file, now.toStdString());
 }
 
 TEST(NetworkBroadcasts, AreThoseOfNetworksThatAreUp) {
@@ -93,18 +83,7 @@ TEST(NetworkBroadcasts, AreThoseOfNetworksThatAreUp) {
   for (const QHostAddress& own : NetworkBroadcasts()) EXPECT_FALSE(own.isNull());
 }
 
-TEST(SearchAnswer, IsAMacNumber) {
-  EXPECT_EQ(ParseSearchAnswer("%2ACKN=0A:F0:5E:00:53:01\r"), "0a:f0:5e:00:53:01");
-  EXPECT_EQ(ParseSearchAnswer("%2ackn=00-00-5e-00-53-01\r\n"), "00:00:5e:00:53:01");
-  EXPECT_EQ(ParseSearchAnswer({"%2ACKN=00:af:5e:00:53:09 \0", 26}), "00:af:5e:00:53:09");
-  for (const char* other :
-       {"", "%2ACKN=00:00:5e:00:53:0:\r", "%2ACKN=\r", "%2ACKN=00:00:5e:00:53\r",
-        "%2ACKN=00:00:5e:00:53:0g\r", "%2ACKN=00:00:5e:00:53:0/\r", "%2ACKN=00:00:5e:00:53:0G\r",
-        "%2ACKN=00:00:5e.00:53:01\r", "%2ACKN 00:00:5e:00:53:01\r", "%2ACKN=00:00:5e:00:53:0`\r",
-        "%2LKUP=00:00:5e:00:53:01\r"}) {
-    EXPECT_EQ(ParseSearchAnswer(other), std::nullopt) << other;
-  }
-}
+int connections = 0;  // in the last conversation
 
 // The whole of a conversation in memory.
 FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
@@ -114,11 +93,13 @@ FoundProjector Inquire(const ServedProjector& served, const std::string& wanted,
   std::optional<PjLinkProjectorSession> end;
   SearchInquiry inquiry({.address = "192.0.2.1", .port = 4352}, given, {});
   const PjLinkTime now{};
+  connections = 0;
   using enum PjLinkStep::Kind;
   for (int steps = 0; steps < 200; ++steps) {
     const PjLinkStep step = inquiry.Next(now);
     auto& connection = inquiry.Connection();
     if (step.kind == Connect) {
+      ++connections;
       end.emplace(responder, wanted);
       connection.Connected();
       connection.Received(end->Greeting(), now);
@@ -149,6 +130,7 @@ TEST(SearchInquiry, LearnsWhoAndWhatAProjectorIs) {
   found = Inquire(served, "open", "");
   EXPECT_TRUE(found.needsPassword);
   EXPECT_EQ(found.name, "");
+  EXPECT_EQ(connections, 1) << "asked no more";
 
   served.protocolClass = 1;
   served.inputs.clear();
@@ -158,125 +140,165 @@ TEST(SearchInquiry, LearnsWhoAndWhatAProjectorIs) {
   EXPECT_EQ(found.name + '/' + found.maker + '/' + found.model, "Hall/Advanced Control/")
       << "it has left then";
   EXPECT_THAT(found.inputs, SizeIs(0));
+  EXPECT_EQ(connections, 8);
 }
 
-constexpr char kFile[] = R"({
-  "families": {"hall": {"model": "M 30", "dialogType": 5, "modelCode": 30}},
-  "projectors": [
-    {"name": "By serial", "like": "hall", "identity": "serial:Maker/1", "x-mine": true,
-     "connection": {"network": {"address": "192.0.2.1", "port": 4352, "secret": "open"}}},
-    {"name": "By MAC", "like": "hall", "identity": "mac:00:00:5e:00:53:02",
-     "connection": {"network": {"address": "192.0.2.2", "port": 4352}}},
-    {"name": "By address", "like": "hall",
-     "connection": {"network": {"address": "2001:db8:0::3", "port": 4352}}},
-    {"name": "Hall", "like": "hall", "identity": "serial:Maker/8",
-     "connection": {"serial": {"port": 1}}}
-  ]
-})";
+const QByteArray kFile = Contents(TEST_SOURCE_DIR "/fleet/Searched.json");
 
-FoundProjector At(const char* address, const char* name, const char* serial, const char* mac = "") {
-  return {.address = address,
-          .port = 4352,
-          .mac = mac,
-          .name = name,
-          .maker = "Maker",
-          .model = "M 30",
-          .serial = serial};
+// Takes what the record has found into the file, and tells the lines that are new.
+TEST(SearchProfiles, TakeWhatIsFoundAsRecorded) {
+  const std::string file = TEST_SOURCE_DIR "/fleet/Taken.txt";
+  std::string now;
+  std::vector<FoundProjector> found;
+  QByteArray before = kFile;
+  for (const QByteArray& line : Contents(file.c_str()).split('\n')) {
+    if (line.isEmpty() || line.startsWith(' ')) continue;
+    now += line.toStdString() + '\n';
+    if (!line.startsWith("taken")) {
+      const QList<QByteArray> cells = line.split('|');
+      const QByteArray flag = cells.value(5);
+      found.push_back({.address = cells[0].toStdString(),
+                       .port = 4352,
+                       .mac = cells.value(3).toStdString(),
+                       .name = cells.value(1).toStdString(),
+                       .maker = "Maker",
+                       .model = cells.value(4, "M 30").toStdString(),
+                       .serial = cells.value(2).toStdString()});
+      if (flag == "moved port") found.back().port = 4400;
+      if (flag == "inputs") found.back().inputs = {{31, "HDMI"}, {32, "HDMI"}};
+      found.back().needsPassword = flag == "locked";
+      continue;
+    }
+    const QByteArray password = line.mid(6).replace("\\n", "\n");
+    const TakenProjectors taken =
+        TakeFound(before, std::exchange(found, {}), password.toStdString());
+    EXPECT_EQ(ParseProfileList(taken.text, "p.json").error.toStdString(), "");
+    QString text = QString("  moved: %1; known: %2; added: %3\n")
+                       .arg(taken.moved.join(", "))
+                       .arg(taken.known)
+                       .arg(taken.added.join(", "));
+    for (const QByteArray& one : taken.text.split('\n')) {
+      if (!before.split('\n').contains(one)) text += "  " + one.trimmed() + '\n';
+    }
+    now += text.replace(QRegularExpression("\"id:[-0-9a-f]+"), "\"id:…").toStdString();
+    before = line.startsWith("taken first") ? taken.text : kFile;
+  }
+  ExpectRecord(file, now);
 }
 
-TEST(SearchProfiles, KnowProjectorsAgainByTheirIdentity) {
-  const TakenProjectors taken = TakeFound(
-      kFile,
-      {At("192.0.2.2", "A", "1"),                             // moved to where another one was
-       At("192.0.2.9", "B", "7", "00:00:5e:00:53:02"),        // moved, known by its second identity
-       At("2001:db8::3", "C", "3"),                           // gets its identity
-       At("192.0.2.4", "Hall", "4"),                          // new, with a name that is taken
-       At("192.0.2.5", "", "0000"),                           // new, without a name
-       At("192.0.2.6", "Hall", "same", "00:00:5e:00:53:06"),  // of a maker that numbers nothing
-       At("192.0.2.7", "Hall", "same", "00:00:5e:00:53:07")},
-      "secret");
-  EXPECT_THAT(taken.moved, ElementsAre("By serial", "By MAC"));
-  EXPECT_EQ(taken.known, 1U);
-  EXPECT_THAT(taken.added, ElementsAre("Hall (2)", "M 30 192.0.2.5", "Hall (3)", "Hall (4)"));
-  const ProfileList list = ParseProfileList(taken.text, "p.json");
-  ASSERT_EQ(list.error, "");
-  ASSERT_THAT(list.profiles, SizeIs(8));
-  EXPECT_EQ(list.profiles[0].connection.address, "192.0.2.2");
-  EXPECT_EQ(list.profiles[0].connection.secret, "open");
-  EXPECT_EQ(list.profiles[1].connection.address, "192.0.2.9");
-  EXPECT_EQ(list.profiles[2].identity, "serial:Maker/3");
-  const FleetProfile& added = list.profiles[4];
-  EXPECT_EQ(AddressOf(added), ProjectorAddress(PjLinkAddress{"192.0.2.4", 4352, "secret"}));
-  EXPECT_EQ(added.identity, "serial:Maker/4");
-  EXPECT_EQ(added.model->info.ModelCode, 30);
-  EXPECT_THAT(list.profiles[5].identity, testing::StartsWith("id:"));
-  EXPECT_EQ(list.profiles[7].identity, "mac:00:00:5e:00:53:07");
-  EXPECT_TRUE(taken.text.contains("\"x-mine\": true"));
+/// A search, with what it has found by address.
+struct Searching {
+  explicit Searching(const SearchOptions& options)
+      : driver(
+            options, [this](const FoundProjector& one) { found[one.address] = one; },
+            [this] { ++ends; }) {
+    driver.Start();
+  }
+  std::map<std::string, FoundProjector> found;
+  int ends = 0;
+  SearchDriver driver;
+};
 
-  EXPECT_EQ(TakeFound(kFile, {At("192.0.2.1", "A", "1")}, "").text, kFile) << "nothing new";
-  EXPECT_NE(TakeFound(kFile, {At("192.0.2.2", "A", "1")}, "").text, kFile) << "moved";
-  FoundProjector unknown = At("192.0.2.1", "Z", "9"), locked{.address = "192.0.2.20", .port = 4352};
-  unknown.model = "Other";
-  locked.needsPassword = true;
-  const TakenProjectors others =
-      TakeFound(kFile, {unknown, unknown, locked, At("192.0.2.2", "Y", "")}, "secret");
-  EXPECT_EQ(others.known, 2U);
-  EXPECT_THAT(others.added, ElementsAre("Z", "192.0.2.20")) << "another one at the same address";
-  const auto profiles = ParseProfileList(others.text, "p.json").profiles;
-  ASSERT_THAT(profiles, SizeIs(6));
-  EXPECT_EQ(profiles[4].model->info.ModelName + '/' + profiles[5].model->info.ModelName,
-            "Other/PJLink");
-  EXPECT_EQ(profiles[4].connection.secret + '/' + profiles[5].connection.secret, "secret/");
-  EXPECT_EQ(TakeFound(kFile, {At("192.0.2.9", "", "8")}, "").known, 1U) << "at a serial port";
-  // At an address whose identity was made up, and at one with another kind of identity.
-  const TakenProjectors again = TakeFound(
-      taken.text, {At("192.0.2.5", "", "5"), At("192.0.2.2", "A", "", "00:00:5e:00:53:01")}, "");
-  EXPECT_EQ(again.known, 2U);
-  EXPECT_EQ(again.text, taken.text);
+struct SearchDriverTest : testing::Test {
+  int count = 0;
+  QCoreApplication application{count, nullptr};
+};
+
+TEST_F(SearchDriverTest, WaitsForNobodyForEver) {
+  std::optional<SilentServer> silent(std::in_place);
+  SearchOptions options{.addresses = {QHostAddress(QHostAddress::LocalHost)},
+                        .port = silent->server.serverPort(),
+                        .answers = 1ms,
+                        .limits = {.connect = 1h}};
+  std::optional<Searching> search(options);
+  EXPECT_TRUE(Soon([&] { return silent->Open() == 1; }));
+  search.reset();
+  EXPECT_TRUE(Soon([&] { return silent->Open() == 0; })) << "abandoned";
+  options.broadcasts = options.addresses;
+  options.limits.connect = 50ms;
+  search.emplace(options);
+  EXPECT_TRUE(Soon([&] { return search->ends == 1; })) << "says nothing";
+  options.limits = {.connect = 1h, .pause = 1ms};
+  search.emplace(options);
+  const std::size_t before = silent->Accept();
+  EXPECT_TRUE(Soon([&] { return silent->Accept() == before + 1; }));
+  silent->connections.back()->close();
+  EXPECT_TRUE(Soon([&] { return silent->Accept() == before + 2; })) << "was not ready";
+  silent->connections.back()->write("PJLINK ERRA\r");
+  EXPECT_TRUE(Soon([&] { return search->ends == 1; }));
+  EXPECT_THAT(search->found, SizeIs(1));
+  silent.reset();
+  options.limits.pause = 1h;
+  options.addresses.push_back(QHostAddress("255.255.255.255"));  // fails at once
+  search.emplace(options);
+  EXPECT_TRUE(Soon([&] { return search->ends == 1; })) << "is not there";
+  EXPECT_THAT(search->found, SizeIs(0));
+  EXPECT_EQ(search->driver.Done(), 2U);
+}
+
+TEST_F(SearchDriverTest, LearnsMacNumbersFromAnswers) {
+  SilentServer silent(QHostAddress::AnyIPv4);
+  const std::uint16_t port = silent.server.serverPort();
+  const QHostAddress first("127.0.0.1"), second("127.0.0.2");
+  QUdpSocket projector, other;
+  ASSERT_TRUE(projector.bind(first, port) && other.bind(second));
+  Searching search({.addresses = {first, second},
+                    .broadcasts = {first},
+                    .port = port,
+                    .answerPort = port,
+                    .atOnce = 1,
+                    .answers = 1h,
+                    .limits = {.connect = 1h}});
+  ASSERT_TRUE(Soon([&] { return silent.Accept() == 1 && projector.hasPendingDatagrams(); }));
+  const QNetworkDatagram question = projector.receiveDatagram();
+  EXPECT_EQ(question.data(), QByteArray("%2SRCH\r"));
+  for (QUdpSocket* const one : {&projector, &other}) {
+    for (const char* const text :
+         {"", "what?", "%2ACKN=00:00:5e:00:53:02\r", "%2ACKN=00:00:5e:00:53:03\r"}) {
+      one->writeDatagram(text, first, static_cast<quint16>(question.senderPort()));
+    }
+  }
+  EXPECT_TRUE(Soon([&] { return projector.hasPendingDatagrams(); })) << "asks again";
+  for (std::size_t i = 0; i < 2; ++i) {
+    ASSERT_TRUE(Soon([&] { return silent.Accept() == i + 1; }));
+    silent.connections.back()->write("PJLINK ERRA\r");
+  }
+  EXPECT_TRUE(Soon([&] { return search.driver.Done() == 2; }));
+  EXPECT_EQ(search.found["127.0.0.1"].mac, "");
+  EXPECT_EQ(search.found["127.0.0.2"].mac, "00:00:5e:00:53:02");
+  EXPECT_EQ(search.driver.Count(), 2U);
+  EXPECT_EQ(search.driver.Problem(), "") << "another port does too";
 }
 
 // The simulator program answers, at loopback addresses alone.
-TEST(SearchDriver, FindsAFleetByRangeAndByBroadcast) {
+TEST_F(SearchDriverTest, FindsAFleetByRangeAndByBroadcast) {
   constexpr std::size_t kCount = 20;
-  int count = 0;
-  QCoreApplication application(count, nullptr);
   const SimulatorProcess simulator({"--fleet", QString::number(kCount), "--control", "0"});
   SearchOptions options;
   options.port = simulator.Address("pjlink").section(':', -1).toUShort();
   options.answerPort = 0;
   options.answers = std::chrono::seconds(60);
   options.limits = {.connect = std::chrono::seconds(30), .answer = std::chrono::seconds(30)};
-  // Ends with so many, or with the search.
-  const auto search = [&](std::size_t wanted) {
-    std::map<std::string, FoundProjector> found;
-    QEventLoop loop;
-    SearchDriver driver(
-        options,
-        [&](const FoundProjector& projector) {
-          found[projector.address] = projector;
-          if (found.size() == wanted) loop.quit();
-        },
-        [&] { loop.quit(); });
-    driver.Start();
-    loop.exec();
-    EXPECT_EQ(driver.Problem(), "");
-    return found;
-  };
   options.addresses = ParseSearchRange("127.64.0.1-127.64.0.20").addresses;
-  options.perSecond = 50;
+  options.perSecond = 25;
   const auto start = std::chrono::steady_clock::now();
-  const auto byRange = search(kCount + 1);
-  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(350));
-  ASSERT_THAT(byRange, SizeIs(kCount));
+  const Searching byRange(options);
+  EXPECT_TRUE(Soon([&] { return byRange.ends == 1; }));
+  EXPECT_GE(std::chrono::steady_clock::now() - start, 700ms);
+  ASSERT_THAT(byRange.found, SizeIs(kCount));
   const auto isSecond = [](const auto& found) { return found.second.protocolClass == '2'; };
-  const auto ofSecondClass = std::ranges::count_if(byRange, isSecond);
+  const auto ofSecondClass = std::ranges::count_if(byRange.found, isSecond);
+  EXPECT_GT(ofSecondClass, 0);
   options.addresses.clear();
   options.broadcasts = {QHostAddress("127.255.255.255")};
-  const auto byBroadcast = search(static_cast<std::size_t>(ofSecondClass));
-  for (const auto& [address, found] : byRange) {
-    const auto same = byBroadcast.find(address);
-    EXPECT_EQ(same != byBroadcast.end(), found.protocolClass == '2') << address;
-    if (same == byBroadcast.end()) continue;
+  const Searching byBroadcast(options);
+  EXPECT_TRUE(Soon([&] { return std::ssize(byBroadcast.found) == ofSecondClass; }));
+  EXPECT_EQ(byRange.ends, 1);
+  for (const auto& [address, found] : byRange.found) {
+    const auto same = byBroadcast.found.find(address);
+    EXPECT_EQ(same != byBroadcast.found.end(), found.protocolClass == '2') << address;
+    if (same == byBroadcast.found.end()) continue;
+    EXPECT_NE(found.serial, "") << "and all before it";
     EXPECT_EQ(same->second.serial, found.serial);
     EXPECT_EQ(same->second.inputs, found.inputs);
     EXPECT_THAT(same->second.mac, HasSubstr("02:00:00:00:00:"));

@@ -16,9 +16,9 @@ struct SilentServer {
   QTcpServer server;
   std::vector<std::unique_ptr<QTcpSocket>> connections{};
 
-  SilentServer() {
+  explicit SilentServer(QHostAddress::SpecialAddress at = QHostAddress::LocalHost) {
     server.setProxy(QNetworkProxy::NoProxy);  // looking for one takes a thread
-    EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
+    EXPECT_TRUE(server.listen(at));
   }
   TcpAddress Address() const { return {.host = "127.0.0.1", .port = server.serverPort()}; }
   std::size_t Accept() {

@@ -42,6 +42,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     int mostConnections = 0;                 ///< At the same time.
     int open = 0;
     int bursts = 0;                      ///< Of requests.
+    int answersBursts = 1000;            ///< So many more, and then none.
     std::shared_ptr<WireDevice> wire{};  ///< Speaks the wire then, and not PJLink.
     std::optional<WireResponder> responder{};
   };
@@ -116,6 +117,7 @@ class SteppedFleet final : public FleetNetwork, public FleetClock {
     Projector& projector = projectors[link.host];
     if (!projector.isThere) return;
     ++projector.bursts;
+    if (projector.answersBursts-- <= 0) return;
     const auto answer = projector.wire ? std::optional(projector.responder->Receive(bytes))
                                        : projector.device.Receive(bytes, now_);
     if (answer) Bytes(peer, link.attempt, *answer, projector.device.answers);

@@ -273,11 +273,13 @@ TEST(PjLinkTest, TheServerFollowsTheStandard) {
       {"%1POWR ?", "1"},      {"%1powr ?", "1"},     {"%1POWR 2", "ERR2"},   {"%2POWR ?", "ERR1"},
       {"%3POWR ?", "ERR1"},   {"%1NONE ?", "ERR1"},  {"%1INPT 31", "OK"},    {"%2INPT ?", "31"},
       {"%1INPT 32", "ERR2"},  {"%1INST ?", "31 5A"}, {"%2INNM ?5A", "Büro"}, {"%2INNM ?5B", "ERR2"},
-      {"%1AVMT 31", "OK"},    {"%1AVMT 20", "OK"},   {"%1AVMT ?", "11"},     {"%1AVMT 4", "ERR2"},
+      {"%1AVMT 31", "OK"},    {"%1AVMT 20", "OK"},   {"%1AVMT ?", "11"},     {"%1avmt 4", "ERR2"},
       {"%1AVMT 21", "OK"},    {"%1AVMT ?", "31"},    {"%1AVMT 10", "OK"},    {"%1AVMT ?", "21"},
       {"%1AVMT 11", "OK"},    {"%1AVMT ?", "31"},    {"%1AVMT 30", "OK"},    {"%1AVMT ?", "30"},
       {"%1LAMP ?", "1240 1"}, {"%1LAMP 0", "ERR2"},  {"%2SVOL ?", "ERR2"},   {"%2frez 1", "OK"},
-      {"%2SVER ?", "1.0"},    {"%1NAME x", "ERR2"},  {"%1POWR 0", "OK"},     {"%1AVMT ?", "ERR3"}};
+      {"%2SVER ?", "1.0"},    {"%1NAME x", "ERR2"},  {"%1POWR 0", "OK"},     {"%1AVMT ?", "ERR3"},
+      {"%1INPT ?", "ERR3"},   {"%2FREZ ?", "ERR3"},  {"%1LAMP ?", "1240 0"}, {"%2FILT ?", "310"},
+      {"%1ERST ?", "000000"}};
   QByteArray sent;
   QByteArray expected = "PJLINK 0\r";
   for (const auto& [request, answer] : cases) {

@@ -14,6 +14,7 @@
 #include "device/protocol/PjLinkLine.h"
 #include "device/protocol/WireSession.h"
 #include "simulator/FaultChannel.h"
+#include "simulator/PjLinkProjectorSession.h"
 #include "simulator/PjLinkResponder.h"
 #include "simulator/SimulatedProjector.h"
 #include "simulator/WireResponder.h"
@@ -178,8 +179,12 @@ TEST(Responders, SayWhatTheProjectorCannotDo) {
   sources.names[9] = MakeNameSlot("Last");
   const std::vector<ServedInput> inputs = InputsOf(sources);
   EXPECT_EQ(inputs.at(8).code + inputs.at(9).code, "3951");
-  EXPECT_EQ(inputs.at(9).source, 29);
-  EXPECT_EQ(inputs.at(9).name, "Last");
+  EXPECT_EQ(inputs.back().source, 29);
+  EXPECT_EQ(inputs.back().name, "Last");
+  PjLinkProjectorSession session(talkative, "secret");
+  session.Add("%1NAME ?\r%1NAME ?\r");
+  EXPECT_EQ(session.Next().value().reply, "PJLINK ERRA\r");
+  EXPECT_TRUE(session.IsOver() && !session.Next()) << "nobody may try a second password";
 
   using enum Wire::Status;
   Parrot silent(kSilence);

@@ -209,6 +209,12 @@ TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersStillRunsTheEventLoop) {
   QTimer::singleShot(0, &alive, [&] { ran = true; });
   for (int i = 0; i < 40; ++i) EXPECT_TRUE(patient.Execute(kCommand).answered);
   EXPECT_TRUE(ran);
+  gate_->takes = 0ms;
+  EXPECT_TRUE(Soon([&] {
+    QTimer::singleShot(0, &alive, [&] { ran = true; });
+    ran = false;
+    return patient.Execute(kCommand).answered && !ran;
+  })) << "a quick answer does not";
 }
 
 TEST_F(BoundedChannelTest, DestructionDoesNotWait) {

@@ -2,11 +2,15 @@
 #include <dlfcn.h>
 #include <future>
 #include <netdb.h>
+#include <optional>
 #include <string>
 #include <thread>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include <QEventLoop>
+#include <QNetworkProxy>
 #include <QTcpSocket>
 #include <gtest/gtest.h>
 
@@ -134,7 +138,10 @@ TEST(PjLinkTest, AsksOnlyForWhatTheProjectorMayHave) {
 
   const Served first({.served = {.protocolClass = 1}});
   PjLinkChannel channel = first.Channel();
-  channel.Remember({.protocolClass = '2', .inputs = {{31, "HDMI"}}});
+  const PjLinkFacts facts{.protocolClass = '2', .inputs = {{31, "HDMI"}}};
+  channel.Remember(facts);
+  EXPECT_EQ(channel.Facts(), facts);
+  EXPECT_TRUE(PjLinkChannel::Has(kGetPower) && !PjLinkChannel::Has(Do(Op::GetMirror)));
   EXPECT_EQ(Replies(channel, {Get(CommandCode::Freeze), Inc(CommandCode::Volume)}), "! !");
   EXPECT_TRUE(channel.Facts().inputs.empty()) << "another projector had them";
 }
@@ -162,7 +169,32 @@ TEST(PjLinkTest, ACommandIsGivenUpEarlierWhenAskedAndAQuestionIsNot) {
   PjLinkChannel channel(kHost, peer.port, "", {.connect = 1h, .answer = 1h});
   channel.GiveUpAfter(0ms);
   EXPECT_EQ(Replies(channel, {kGetPower}), "?");
+  QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, "127.0.0.1", 1});  // of the web
   EXPECT_EQ(channel.AskForInputs().first.at(0).name, "Digital 1");
+  QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+}
+
+TEST(PjLinkTest, ThePresentInputIsAskedForOnceAndItsNameUnlessItIsKnown) {
+  const std::string is31 = "%2INPT=31\r";
+  const PjLinkInput digital{31, "Digital 1"}, told{31, "HDMI"}, known{31, "PC"};
+  const std::tuple<std::vector<std::string>, std::optional<PjLinkInput>, bool> cases[] = {
+      {{kGreeting, is31, "%2INNM=HDMI\r"}, told, true},
+      {{kGreeting, is31, ""}, digital, false},
+      {{kGreeting, is31}, known, true},
+      {{kGreeting, "%2INPT=ERR4\r"}, std::nullopt, true},
+      {{"PJLINK ERRA\r"}, std::nullopt, false}};
+  for (const auto& [texts, input, isTold] : cases) {
+    const auto next = Peer::Says({kGreeting, "%2INPT=32\r"}, false);
+    const Peer peer(Transport::Tcp, {Peer::Says(texts, false), next});
+    PjLinkChannel channel(kHost, peer.port, "", kLimits);
+    channel.Remember({.protocolClass = '2'});
+    if (input == known) channel.Remember({.inputs = {known}});
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(channel.AskForPresentInput(), std::pair(input, isTold));
+    if (!input) continue;
+    const std::string again = Replies(channel, {Get(CommandCode::InputSource)});
+    EXPECT_TRUE(again == "31" || std::chrono::steady_clock::now() - start > 900ms) << again;
+  }
 }
 
 TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
@@ -177,6 +209,10 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
   };
   const auto replies = [](const std::string& text) { return Peer::Says({kGreeting, text}); };
   const auto breaks = Peer::Says({kGreeting, kOn, ""}, false);
+  const auto floods = [](Peer::End& end) {
+    end.Send(kGreeting);
+    while (end.Send("%1INPT=31\r%1AVMT=30\r")) continue;
+  };
   const auto standby = replies("%1POWR=0\r");
   const std::string often = QByteArray(kOn.c_str()).repeated(400).toStdString();
   const auto twice = Peer::Says({kGreeting, "%1INPT=31\r" + often, "%1POWR=0\r"});
@@ -194,6 +230,7 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
       {replies("\r"), "?", State::NoAnswer},
       {replies("%1POWR ?\r"), "?", State::NotUnderstood},
       {replies("%1INPT=31\r"), "?", State::NoAnswer},
+      {floods, "?", State::NoAnswer},
       {replies("%1POWR=" + std::string(5000, '1') + '\r'), "?", State::NotUnderstood},
       {replies(kOn), "1", State::Connected, true, {kGetPower}, "0", standby},
       {replies(kOn), "1", State::Connected, true, {Do(Op::SetPowerOn)}, "0", does},
@@ -239,6 +276,7 @@ TEST(PjLinkTest, AsksForInputsWhenIdleAndAgainAfterAPause) {
   EXPECT_FALSE(channel.Inputs() || channel.UseIdleTime()) << "no command was answered";
   EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource)}), "635");
   EXPECT_FALSE(channel.UseIdleTime() || channel.UseIdleTime());
+  EXPECT_EQ(channel.Connection(), State::Connected) << "no command has failed";
   EXPECT_EQ(Replies(channel, {Do(Op::SetPowerOn)}, 400ms), "0");
   while (channel.UseIdleTime()) continue;
   EXPECT_EQ(channel.Inputs(),

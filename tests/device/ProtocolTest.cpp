@@ -54,6 +54,14 @@ TEST(PjLinkLine, ParametersAreValuesOrNothing) {
   for (const char* none : {"", " 2", " 1 0123abc", " 1 0123abcg", " 1 0123abc@", " 1 0123abc/"}) {
     EXPECT_FALSE(PjLink::ParseGreeting(std::string("PJLINK") + none)) << none;
   }
+  for (const auto& [datagram, isNotice] : {std::pair("%2POWR=1\r", true),
+                                           {"%2inpt=31", true},
+                                           {"%1POWR=1", false},
+                                           {"%2POWR 1", false},
+                                           {"%2CLSS=2", false},
+                                           {"POWR=1", false}}) {
+    EXPECT_EQ(PjLink::IsNotice(datagram), isNotice) << datagram;
+  }
   const std::vector<PjLinkInput> many(SourceList::kCapacity + 1, {310, "HDMI"});
   EXPECT_EQ(SourcesOf(many, InputCodes::AllNames).count, SourceList::kCapacity);
 }
@@ -119,6 +127,8 @@ TEST(PjLinkInputInquiry, ForgetsWhatAnotherProjectorHadAndPausesAfterFailures) {
   for (const char* told : {"32", "TV"}) inquiry.Take({PjLinkResult::Kind::Text, told}, now);
   inquiry.CheckClass('1');
   EXPECT_EQ(inquiry.AllInputs(), std::vector(1, PjLinkInput{32, "TV"}));
+  inquiry.Inputs().SetPresent(33);
+  EXPECT_FALSE(inquiry.Take({}, now) || !inquiry.NextQuestion(now + 1s)) << "a short pause again";
 }
 
 TEST(PjLinkAttempts, ALookUpThatRanOutOfTimeIsNotTheProblem) {
@@ -232,6 +242,11 @@ TEST(Sessions, EventsAtTheWrongTimeChangeNothing) {
     EXPECT_EQ(wire.Next({}).kind, Kind::Finished);
     wire.Begin(Get(CommandCode::Mute), {});
     EXPECT_EQ(wire.Next({}).kind, Kind::Connect);
+    EXPECT_EQ(wire.Next(SessionTime(999ms)).kind, Kind::Wait);
+    wire.Next(SessionTime(1s));
+    EXPECT_EQ(wire.State(), ConnectionState::NotReachable);
+    wire.Begin(Get(CommandCode::Mute), {});
+    EXPECT_EQ(wire.Next({}).kind, Kind::Connect);
     wire.Connected();
     wire.NotConnected(ConnectionState::NotReachable);
     wire.Received("noise");
@@ -291,7 +306,7 @@ TEST(Sessions, OnlyTheFirstWelcomeAndRepliesCount) {
   connect();
   const SessionStep burst = wire.Next({});
   EXPECT_EQ(burst.until, SessionTime(2s));
-  EXPECT_EQ(receive({{9, five}}), Kind::Wait) << "for the welcome";
+  EXPECT_EQ(receive({{9, Wire::Request{}}, {9, five}}), Kind::Wait) << "for the welcome";
   EXPECT_EQ(
       receive(
           {{8, Wire::Welcome{}}, {8, Wire::Welcome{0}}, {9, Wire::Request{}}, {9, Wire::Reply{}}}),

@@ -1,6 +1,12 @@
+#include <chrono>
 #include <fstream>
+#include <poll.h>
+#include <pty.h>
 #include <regex>
 #include <string>
+#include <termios.h>
+#include <thread>
+#include <unistd.h>
 #include <vector>
 
 #include <QByteArray>
@@ -111,8 +117,27 @@ TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
       {ParseAddress("tcp://a:0", "pw"), AddressError{"wrong port in 'tcp://a:0'"}},
       {ParseAddress("http://a", "pw"), AddressError{"wrong port in 'http://a'"}},
   };
-  for (const auto& one : cases) EXPECT_EQ(one.first, one.second) << "case " << &one - cases;
+  for (const auto& one : cases) {
+    EXPECT_EQ(one.first, one.second) << "case " << &one - cases;
+    EXPECT_NE(dynamic_cast<BoundedChannel*>(MakeChannel(one.first).get()) != nullptr,
+              std::holds_alternative<AddressError>(one.second));
+  }
   EXPECT_GT(BoundsFor(PjLinkAddress{}).timeOut, BoundsFor(TcpAddress{}).timeOut);
+}
+
+TEST(WireTest, ASerialLineHasTheSpeedOfItsAddress) {
+  int line = -1, otherEnd = -1;
+  ASSERT_EQ(openpty(&line, &otherEnd, nullptr, nullptr, nullptr), 0);
+  const auto channel =
+      MakeUnboundedChannel(SerialAddress{ttyname(otherEnd), 38400}, std::chrono::hours(1));
+  const std::jthread asks([&] { channel->Execute({PjtOperation::GetMirror}); });
+  pollfd request{line, POLLIN, 0};
+  EXPECT_EQ(poll(&request, 1, 60'000), 1);
+  termios settings{};
+  EXPECT_EQ(tcgetattr(line, &settings), 0);
+  EXPECT_EQ(cfgetospeed(&settings), speed_t{B38400});
+  close(line);
+  close(otherEnd);
 }
 
 TEST(WireTest, AHostIsANameOrACompleteAddress) {

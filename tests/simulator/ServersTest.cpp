@@ -85,13 +85,14 @@ TEST(Servers, EndAConnectionBehindTheLastReplyWhateverTheFault) {
   EXPECT_TRUE(slow.EndsSoon());
   EXPECT_EQ(slow.readAll().size(), 7) << "of one reply, and of no part of a request";
 
-  WireServer sound(projector);
+  WireServer onLine(projector);
+  onLine.SetFault({.kind = Trickle});
   auto line = std::make_unique<QBuffer>();
   line->setData(kHello.data(), int(kHello.size()));
   line->open(QIODevice::ReadWrite);
   const QPointer served(line.get());
-  sound.Serve(std::move(line));
-  EXPECT_EQ(served->size(), 10 + 9);
+  onLine.Serve(std::move(line));
+  EXPECT_TRUE(Soon([&] { return served->size() == 10 + 9; }));
   served->close();
   EXPECT_TRUE(Soon([&] { return !served; }));
 }

@@ -10,52 +10,19 @@
 #include <gtest/gtest.h>
 
 #include "tests/acctl/AcctlProgram.h"
+#include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 
 namespace {
 
 TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
-  const std::pair<QStringList, const char*> kCases[] = {
-      {{}, "a command is missing"},
-      {{"fly"}, "there is no command 'fly'"},
-      {{"--fast", "list"}, "there is no option --fast"},
-      {{"list", "--jobs"}, "--jobs needs N"},
-      {{"list", "--jobs", "0"}, "--jobs: '0' is not possible"},
-      {{"list", "--json=1"}, "--json takes no value"},
-      {{"list", "--timeout=0.001"}, "--timeout: '0.001'"},
-      {{"list", "--language", "1066"}, "--language: '1066'"},
-      {{"version", "x"}, "use: acctl version"},
-      {{"set", kRoom, "picture.tint"}, "use: acctl set P KEY=VALUE"},
-      {{"get", "Nobody"}, "there is no projector 'Nobody'"},
-      {{"get", kRoom, "picture.smell"}, "picture.smell: this model has no such setting"},
-      {{"get", kRoom, "picture.my-memory"}, "picture.my-memory: this cannot be read"},
-      {{"set", kRoom, "picture.tint", "99"}, "picture.tint: '99' is not one of: -31 to 31"},
-      {{"set", kRoom, "status.error", "1"}, "status.error: this cannot be set"},
-      {{"reset", kRoom, "picture.gamma"}, "picture.gamma: this cannot be reset"},
-      {{"reset", kRoom, "status.*"}, "status.*: this cannot be reset"},
-      {{"--dry-run", "get", kRoom}, "get takes no --dry-run"},
-      {{"watch", kRoom, "picture.tint", "--jobs", "3"}, "watch takes no --jobs"},
-      {{"watch", kRoom, "picture.tint", "--retries", "3"}, "watch takes no --retries"},
-      {{"watch", kRoom, "picture.tint", "--fail-fast"}, "watch takes no --fail-fast"},
-      {{"models", "--timeout", "3"}, "models takes no --timeout"},
-      {{"list", "--timeout", "3"}, "--timeout needs --where"},
-      {{"set", kRoom, "picture.tint=1", "--interval", "3"}, "--interval needs --wait"},
-      {{"undo", "--list", "--where", "power=on"}, "undo --list takes no --where"},
-      {{"list", "-o", "tsv"}, "list has no such --format"},
-      {{"save", kRoom, "x", "--only", "zzz"}, "zzz: this model has no such setting"},
-      {{"save", "Projector 5-*", "x"}, "one file is for one projector, not"},
-      {{"diff", kRoom, "/nowhere"}, "cannot read /nowhere: "},
-      {{"apply", "/etc/passwd", kRoom}, "/etc/passwd:1: "},
-      {{"--profiles", "/nowhere", "list"}, "cannot read profiles /nowhere"},
-      {{"--connect", "tcp://a:b", "status", kRoom}, "--connect: "},
-  };
-  for (const auto& [arguments, error] : kCases) {
-    SCOPED_TRACE(arguments.join(' ').toStdString());
-    const Outcome run = Acctl(arguments);
-    EXPECT_EQ(run.output, "");
-    EXPECT_THAT(run, Ends(2, AllOf(StartsWith("acctl: "), HasSubstr(error))));
-    EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1);
-  }
+  ExpectAnswers(TEST_SOURCE_DIR "/acctl/WrongUses.txt", [](const std::string& words) {
+    const Outcome run = Acctl(QProcess::splitCommand(QString::fromStdString(words)));
+    EXPECT_EQ(run.output, "") << words;
+    EXPECT_EQ(run.exitCode, 2) << words;
+    EXPECT_EQ(run.errors.find('\n') + 1, run.errors.size()) << words;
+    return run.errors.substr(0, run.errors.find('\n'));
+  });
 }
 
 TEST(Acctl, PrintsAlignedTextInBothLanguages) {

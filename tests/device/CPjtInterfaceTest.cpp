@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <tuple>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -28,7 +27,6 @@ struct OneReply final : ProjectorChannel {
     last = command;
     MayBreak();
     if (meanwhile) meanwhile();
-    if (said) return *said;
     return {
         .result = accepted ? AcceptedResult(command.operation) : RefusedResult(command.operation),
         .value = -2};
@@ -50,7 +48,6 @@ struct OneReply final : ProjectorChannel {
   bool accepted = true;
   bool breaks = false;
   int abandoned = 0;
-  std::optional<PjtReply> said{};
   std::function<void()> meanwhile{};
   PjtCommand last{};
 };
@@ -133,37 +130,16 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
   std::set_new_handler(nullptr);
 }
 
-TEST(CPjtInterfaceTest, CountsWhatBecameOfCommandsAndSendsNoneWhileAbandoned) {
+TEST(CPjtInterfaceTest, AbandonsOnlyWhatWaits) {
   CPjtInterface p;
   const auto channel = std::make_shared<OneReply>();
   p.SetChannel(channel);
-  short got = 0;
-  for (const PjtReply& reply : {PjtReply{.answered = false},
-                                {.answered = false, .unsent = true},
-                                {.busy = true},
-                                {.result = 1, .pending = true},
-                                {.offered = false}}) {
-    channel->said = reply;
-    p.SetColor(1);
-    p.GetKeystoneV(&got);
-  }
-  const auto sent = p.Sent();
-  EXPECT_EQ(std::vector({sent.commands, sent.refused, sent.unanswered, sent.notOffered, sent.busy,
-                         sent.pending, sent.uncertain}),
-            std::vector({10, 4, 4, 2, 2, 2, 1}));
-  channel->said.reset();
-  {
-    const auto left = p.Abandon();
-    EXPECT_EQ(p.SetColor(1), 0);
-    EXPECT_TRUE(p.IsAbandoned() && !p.IsWaiting() && channel->abandoned == 0);
-  }
+  EXPECT_TRUE(p.Abandon() && channel->abandoned == 0);
   channel->meanwhile = [&] {
-    EXPECT_TRUE(p.IsWaiting() && p.Abandon());
     p.SetChannel(nullptr);
     EXPECT_TRUE(p.Abandon());
   };
   EXPECT_EQ(p.SetColor(1), 1);
-  EXPECT_EQ(channel->abandoned, 1);
 }
 
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {

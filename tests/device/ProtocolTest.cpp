@@ -208,11 +208,6 @@ TEST(Sessions, EventsAtTheWrongTimeChangeNothing) {
     EXPECT_EQ(wire.Next({}).kind, Kind::Finished);
     wire.Begin(Get(CommandCode::Mute), {});
     EXPECT_EQ(wire.Next({}).kind, Kind::Connect);
-    EXPECT_EQ(wire.Next(SessionTime(999ms)).kind, Kind::Wait);
-    wire.Next(SessionTime(1s));
-    EXPECT_EQ(wire.State(), ConnectionState::NotReachable);
-    wire.Begin(Get(CommandCode::Mute), {});
-    EXPECT_EQ(wire.Next({}).kind, Kind::Connect);
     wire.Connected();
     wire.NotConnected(ConnectionState::NotReachable);
     wire.Received("noise");

@@ -1,7 +1,5 @@
 #include <limits>
 #include <string>
-#include <tuple>
-#include <utility>
 #include <vector>
 
 #include <QJsonArray>
@@ -13,30 +11,16 @@
 
 namespace {
 
-using Case = std::tuple<std::string, std::vector<CatalogInsert>, std::string>;
-
-std::vector<CatalogInsert> Numbers(int last) {
-  std::vector<CatalogInsert> numbers;
-  for (int i = 1; i <= last; ++i) numbers.emplace_back(i);
-  return numbers;
-}
-
 constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
 constexpr auto kHighest = std::numeric_limits<std::uint64_t>::max();
 
-const Case kCases[] = {
-    {"%99 %10 %1", Numbers(99), "99 10 1"},
-    {"%123", Numbers(99), "123"},
-    {"%1 %1!I64u!", {kHighest}, "18446744073709551615 18446744073709551615"},
-    {"%1 %1!I64i!", {kLowest}, "-9223372036854775808 -9223372036854775808"},
-    {"%1!c!%2!c!%3!c!", {0xD7FF, 0xE000, 0x10FFFF}, "\uD7FF\uE000\U0010FFFF"},
-    {"%1", {static_cast<const char*>(nullptr)}, ""},
-};
-
 TEST(MessageFormat, ExpandsMessages) {
-  for (const auto& [text, inserts, expected] : kCases) {
-    EXPECT_EQ(ExpandMessage(text, inserts), expected) << text;
-  }
+  using Inserts = std::vector<CatalogInsert>;
+  EXPECT_EQ(ExpandMessage("%1 %1!I64u!", Inserts{kHighest}),
+            "18446744073709551615 18446744073709551615");
+  EXPECT_EQ(ExpandMessage("%1!c!%2!c!%3!c!", Inserts{0xD7FF, 0xE000, 0x10FFFF}),
+            "\uD7FF\uE000\U0010FFFF");
+  EXPECT_EQ(ExpandMessage("%1", Inserts{static_cast<const char*>(nullptr)}), "");
   ExpectAnswers(TEST_SOURCE_DIR "/i18n/Messages.txt", [](const std::string& question) {
     const auto parts = QJsonDocument::fromJson(QByteArray::fromStdString(question)).array();
     std::vector<std::string> texts;

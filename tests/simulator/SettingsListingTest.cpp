@@ -19,7 +19,6 @@ namespace {
 
 constexpr const char* kListing = TEST_SOURCE_DIR "/simulator/Settings.txt";
 constexpr int kLowest = -130, kHighest = 1010;  // what is accepted at the end is followed further
-constexpr int kLast = 0xFFFF;
 
 /// What a command does to a setting of a new projector: the reply, the last value to which it
 /// steps, the values that it takes with what is kept of them (" 1..3 as 0"), or the value
@@ -53,7 +52,7 @@ std::string Does(int pageSet, SettingId id, PjtCommand command, Verb verb) {
     range(0);
     if (shift != 0) text << " as", range(shift);
   };
-  for (int value = kLowest; value < kHighest || (value == next && value <= kLast); ++value) {
+  for (int value = kLowest; value < kHighest || (value == next && value <= 0xFFFF); ++value) {
     (isSecond ? command.second : command.first) = static_cast<std::int16_t>(value);
     if (!isAccepted()) continue;
     if (value != next || kept() != value + shift) {

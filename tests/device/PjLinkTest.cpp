@@ -242,7 +242,7 @@ TEST(PjLinkTest, EveryFaultOfThePeerGivesAStateAndOldRepliesAreDropped) {
     tried.emplace_back([&one, number = &one - cases.data()] {
       SCOPED_TRACE(number);
       Peer peer(Transport::Tcp, {one.first, one.second});
-      const auto channel = MakeUnboundedChannel(PjLinkAddress{kHost, peer.port}, 3s);
+      const auto channel = MakeUnboundedChannel(PjLinkAddress{kHost, peer.port, ""}, 3s);
       const QDeadlineTimer timeOut(3s);
       EXPECT_EQ(Replies(*channel, {kGetPower}), one.answer);
       EXPECT_TRUE(one.state != State::NoAnswer || timeOut.hasExpired());

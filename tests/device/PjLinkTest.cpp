@@ -17,6 +17,7 @@
 
 #include "device/CommandCode.h"
 #include "device/Connect.h"
+#include "device/channels/ConnectSocket.h"
 #include "device/channels/PjLinkChannel.h"
 #include "device/protocol/PjLinkLine.h"
 #include "simulator/PjLinkServer.h"
@@ -164,9 +165,10 @@ TEST(PjLinkTest, ACommandIsGivenUpEarlierWhenAskedAndAQuestionIsNot) {
   PjLinkChannel channel(kHost, peer.port, "", {.connect = 1h, .answer = 1h});
   channel.GiveUpAfter(0ms);
   EXPECT_EQ(Replies(channel, {kGetPower}), "?");
-  QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, "127.0.0.1", 1});  // of the web
   EXPECT_EQ(channel.AskForInputs().first.at(0).name, "Digital 1");
-  QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+  auto problem = State::None;
+  const auto socket = ConnectSocket(kHost, peer.port, 512, QDeadlineTimer(1h), problem);
+  EXPECT_EQ(socket->proxy().type(), QNetworkProxy::NoProxy) << "whatever is set for the web";
 }
 
 TEST(PjLinkTest, ThePresentInputHasItsNameIfThatIsKnown) {
@@ -258,9 +260,9 @@ TEST(PjLinkTest, AsksForInputsWhenIdleAndAgainAfterAPause) {
   // Closes after each reply, as some projectors do.
   const auto says = [](const std::string& text) { return Peer::Says({kGreeting, text}, false); };
   Peer peer(Transport::Tcp,
-            {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says("%2INST=ERR3\r"), says("%1POWR=OK\r"),
-             says(kOn), says("%2INST=31 71  3a 5A\r"), says("%2INNM=Bü\x1Bro\r"),
-             says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
+            {says("%1CLSS=2\r"), says("%2INPT=6Z\r"), says(""), says(""), says(""), says(""),
+             says("%1POWR=OK\r"), says(kOn), says("%2INST=31 71  3a 5A\r"),
+             says("%2INNM=Bü\x1Bro\r"), says("%2INNM=ERR1\r"), says("%2INNM=Own\r")});
   PjLinkChannel channel(kHost, peer.port, "", {.firstPause = 400ms});
   EXPECT_FALSE(channel.Inputs() || channel.UseIdleTime()) << "no command was answered";
   EXPECT_EQ(Replies(channel, {Do(Op::GetInputSource)}), "635");

@@ -307,12 +307,12 @@ TEST(PjLinkTest, TheServerFollowsTheStandard) {
     return text;
   };
   EXPECT_EQ(line(), "PJLINK 0");
-  int asked = 0;
-  ExpectAnswers(TEST_SOURCE_DIR "/device/PjLinkAnswers.txt", [&](const std::string& request) {
-    constexpr const char* kEnds[] = {"\r\n", "\r\r", "\r"};
-    socket.write((request + kEnds[asked++ % 3]).c_str());
-    return line();
-  });
+  ExpectAnswers(TEST_SOURCE_DIR "/device/PjLinkAnswers.txt",
+                [&, asked = 0](const auto& request) mutable {
+                  constexpr const char* kEnds[] = {"\r\n", "\r\r", "\r"};
+                  socket.write((request + kEnds[asked++ % 3]).c_str());
+                  return line();
+                });
 }
 
 }  // namespace

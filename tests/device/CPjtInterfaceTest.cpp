@@ -127,7 +127,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
   BoundedChannel idle(std::make_shared<OneReply>(), {.timeOut = 1h, .idle = 1ms, .tend = 1ms});
   EXPECT_NE(Replies(idle, {forms[0].command}), "?");
   EXPECT_TRUE(Soon([] { return shortages == 2; })) << "in its idle time and for its connection";
-  std::set_new_handler(nullptr);
+  std::set_new_handler(nullptr), shortages = 0;
 }
 
 TEST(CPjtInterfaceTest, AbandonsOnlyWhatWaits) {

@@ -61,20 +61,12 @@ PjtReply FaultChannel::Execute(const PjtCommand& command) {
   const PjtReply refusal{.result = RefusedResult(command.operation)};
   std::unique_lock lock(mutex_);
   const Fault fault = FaultOf(command);
-  switch (fault.kind) {
-    case Fault::Kind::None:
-      break;
-    case Fault::Kind::Refuse:
-      return refusal;
-    case Fault::Kind::FailRead:
-      if (IsRead(command.operation)) return refusal;
-      break;
-    case Fault::Kind::Late:
-      Wait(lock, command, fault, fault.delay);
-      break;
-    case Fault::Kind::DropOut:
-      Wait(lock, command, fault, dropOut_);
-      return {.result = refusal.result, .answered = false};
+  if (fault.kind == Fault::Kind::Refuse) return refusal;
+  if (fault.kind == Fault::Kind::FailRead && IsRead(command.operation)) return refusal;
+  if (fault.kind == Fault::Kind::Late) Wait(lock, command, fault, fault.delay);
+  if (fault.kind == Fault::Kind::DropOut) {
+    Wait(lock, command, fault, dropOut_);
+    return {.result = refusal.result, .answered = false};
   }
   lock.unlock();
   return Inner().Execute(command);

@@ -9,10 +9,10 @@ namespace AdvancedControl {
 void FaultyLine::Send(std::string_view bytes) {
   if (bytes.empty() || closes_) return;
   switch (fault_.kind) {
+    case LineFault::Kind::Silent:
+      break;
     case LineFault::Kind::None:
       Write(bytes);
-      break;
-    case LineFault::Kind::Silent:
       break;
     case LineFault::Kind::Late:
       late_ += bytes.size();
@@ -24,8 +24,7 @@ void FaultyLine::Send(std::string_view bytes) {
       break;
     case LineFault::Kind::Cut:
       Write(bytes.substr(0, static_cast<std::size_t>(fault_.amount)));
-      // A serial line stays open: only the rest of the reply is lost.
-      if (qobject_cast<QTcpSocket*>(&line_)) Close();
+      Close();
       break;
     case LineFault::Kind::Garbage:
       Write(std::string(bytes.size(), '?'));
@@ -39,7 +38,7 @@ void FaultyLine::Send(std::string_view bytes) {
 }
 
 void FaultyLine::Close() {
-  closes_ = true;
+  closes_ = qobject_cast<QTcpSocket*>(&line_) != nullptr;
   CloseIfDone();
 }
 
@@ -60,11 +59,7 @@ void FaultyLine::SendNextByte() {
 
 void FaultyLine::CloseIfDone() {
   if (!closes_ || late_ > 0 || !trickling_.empty()) return;
-  if (auto* const socket = qobject_cast<QTcpSocket*>(&line_)) {
-    socket->disconnectFromHost();
-  } else {
-    line_.close();
-  }
+  static_cast<QTcpSocket&>(line_).disconnectFromHost();
 }
 
 }  // namespace AdvancedControl

@@ -37,7 +37,7 @@ class FaultyLine {
   FaultyLine& operator=(const FaultyLine&) = delete;
 
   void Send(std::string_view bytes);
-  /// Closes the line once everything sent has been written to it.
+  /// Closes a TCP connection once everything sent has been written to it; a serial line stays open.
   void Close();
   /// Number of bytes sent that the other end has not taken yet.
   std::size_t Backlog() const;

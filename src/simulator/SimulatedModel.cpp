@@ -1,5 +1,6 @@
 #include "simulator/SimulatedModel.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <string_view>
@@ -11,11 +12,10 @@ namespace AdvancedControl {
 namespace {
 
 std::optional<int> Number(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(' ');
-  if (start == std::string_view::npos) return std::nullopt;
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
   int number = 0;
   const char* const end = text.data() + text.size();
-  if (std::from_chars(text.data() + start, end, number).ec != std::errc{}) return std::nullopt;
+  if (std::from_chars(text.data(), end, number).ec != std::errc{}) return std::nullopt;
   return number;
 }
 

@@ -38,11 +38,13 @@ void TcpListener::incomingConnection(qintptr descriptor) {
 }
 
 void TcpListener::ServeWaiting() {
-  while (hasPendingConnections()) {
-    if (!HasRoom()) return serveLater_.start(ServedConnection::kIdle);
-    std::unique_ptr<QTcpSocket> socket(nextPendingConnection());
-    if (socket->state() != QAbstractSocket::ConnectedState)
-      continue;  // disconnected while it waited
+  while (waiting_ || hasPendingConnections()) {
+    if (!waiting_) waiting_ = nextPendingConnection();
+    // Nobody makes room for one that has disconnected while it waited.
+    const bool isThere = waiting_->state() == QAbstractSocket::ConnectedState;
+    if (isThere && !HasRoom()) return serveLater_.start(ServedConnection::kIdle);
+    std::unique_ptr<QTcpSocket> socket(std::exchange(waiting_, nullptr));
+    if (!isThere) continue;
     ServedConnection* const connection = serve_(std::move(socket));
     connection->setParent(&served_);
     connect(connection, &QObject::destroyed, &serveLater_,

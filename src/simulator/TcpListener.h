@@ -46,6 +46,7 @@ class PROJECTOR_COMMON_EXPORT TcpListener final : public QTcpServer {
   const Limits limits_;
   const Serve serve_;
   QTimer serveLater_;
+  QTcpSocket* waiting_ = nullptr;  ///< The next one, a child; null if none is known to wait.
   QObject served_;  ///< Parent of the connections made by `serve_`, and of nothing else.
 };
 

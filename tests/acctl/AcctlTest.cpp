@@ -10,13 +10,19 @@
 #include <gtest/gtest.h>
 
 #include "tests/acctl/AcctlProgram.h"
+#include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 
 namespace {
 
-TEST(Acctl, AnswersWrongUseAsRecorded) {
-  ExpectErrors(TEST_SOURCE_DIR "/acctl/WrongUse.txt",
-               [](const QStringList& arguments) { return Acctl(arguments); });
+TEST(Acctl, AnswersWrongUseWithOneLineAndExitCode2) {
+  ExpectAnswers(TEST_SOURCE_DIR "/acctl/WrongUses.txt", [](const std::string& words) {
+    const Outcome run = Acctl(QProcess::splitCommand(QString::fromStdString(words)));
+    EXPECT_EQ(run.output, "") << words;
+    EXPECT_EQ(run.exitCode, 2) << words;
+    EXPECT_EQ(run.errors.find('\n') + 1, run.errors.size()) << words;
+    return run.errors.substr(0, run.errors.find('\n'));
+  });
 }
 
 TEST(Acctl, PrintsAlignedTextInBothLanguages) {

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "tests/support/Programs.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -21,7 +22,12 @@ Outcome RunProgram(const QStringList& arguments) {
 }
 
 TEST(Program, AnswersWrongUseAsRecorded) {
-  ExpectErrors(TEST_SOURCE_DIR "/app/WrongUse.txt", RunProgram);
+  ExpectAnswers(TEST_SOURCE_DIR "/app/WrongUses.txt", [](const std::string& words) {
+    const Outcome run = RunProgram(QProcess::splitCommand(QString::fromStdString(words)));
+    EXPECT_EQ(run.output, "") << words;
+    EXPECT_EQ(run.errors.find('\n') + 1, run.errors.size()) << words;
+    return std::to_string(run.exitCode) + ' ' + run.errors.substr(0, run.errors.find('\n'));
+  });
 }
 
 TEST(Program, SavesPicturesOfTheRequestedTabAndLanguage) {

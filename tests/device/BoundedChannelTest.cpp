@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
+#include "device/Connect.h"
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/PjLinkChannel.h"
 #include "device/channels/TcpChannel.h"
@@ -182,6 +183,9 @@ TEST_F(BoundedChannelTest, TheStateFollowsAConnectionThatNobodyUses) {
     EXPECT_EQ(kept.Connection(), ConnectionState::Connected) << "it was used of late";
   };
   check("wire", answerOnWire, wire, kCommand);
+  const Peer prompt(Transport::Tcp, {answerOnWire});
+  const auto hasty = MakeUnboundedChannel(TcpAddress{"127.0.0.1", prompt.port}, 0ms);
+  EXPECT_EQ(Replies(*hasty, {kCommand}), "?") << "nobody answers in no time";
   check("PJLink", Peer::Says({"PJLINK 0\r", "%1POWR=1\r"}, false), pjLink,
         Get(CommandCode::RunningState));
 }
@@ -209,6 +213,12 @@ TEST_F(BoundedChannelTest, ALongSeriesOfQuickAnswersStillRunsTheEventLoop) {
   QTimer::singleShot(0, &alive, [&] { ran = true; });
   for (int i = 0; i < 40; ++i) EXPECT_TRUE(patient.Execute(kCommand).answered);
   EXPECT_TRUE(ran);
+  gate_->takes = 0ms;
+  EXPECT_TRUE(Soon([&] {
+    QTimer::singleShot(0, &alive, [&] { ran = true; });
+    ran = false;
+    return patient.Execute(kCommand).answered && !ran;
+  })) << "a quick answer does not";
 }
 
 TEST_F(BoundedChannelTest, DestructionDoesNotWait) {

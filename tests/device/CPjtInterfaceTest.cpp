@@ -5,6 +5,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -13,9 +14,11 @@
 #include "device/channels/BoundedChannel.h"
 #include "device/channels/LoggingChannel.h"
 #include "tests/device/Replies.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
+using namespace std::chrono_literals;
 using Op = PjtOperation;
 
 /// Gives every command the same reply, or throws, and stores the last command.
@@ -23,11 +26,14 @@ struct OneReply final : ProjectorChannel {
   PjtReply Execute(const PjtCommand& command) override {
     last = command;
     MayBreak();
+    if (meanwhile) meanwhile();
     return {
         .result = accepted ? AcceptedResult(command.operation) : RefusedResult(command.operation),
         .value = -2};
   }
-  void Abandon() override { MayBreak(); }
+  void Abandon() override { ++abandoned, MayBreak(); }
+  bool UseIdleTime() override { throw std::bad_alloc(); }
+  bool TendConnection(std::chrono::milliseconds) override { throw std::bad_alloc(); }
   void Announce(std::span<const PjtCommand>) override { MayBreak(); }
   ConnectionState Connection() const override {
     MayBreak();
@@ -41,6 +47,8 @@ struct OneReply final : ProjectorChannel {
 
   bool accepted = true;
   bool breaks = false;
+  int abandoned = 0;
+  std::function<void()> meanwhile{};
   PjtCommand last{};
 };
 
@@ -103,7 +111,7 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     expectCall(form.refused, 30);
     channel->breaks = true;
     expectCall(form.refused, 30);
-    BoundedChannel bounded(channel, {.timeOut = std::chrono::hours(1)});
+    BoundedChannel bounded(channel, {.timeOut = 1h, .tend = 1h});
     EXPECT_EQ(Replies(bounded, {form.command}), "?");
     p.Announce({});
     p.AllowRetry();
@@ -116,7 +124,22 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
     p.AllowRetry();
     EXPECT_FALSE(p.Inputs() || p.Power() || p.Connection() != ConnectionState::None);
   }
-  std::set_new_handler(nullptr);
+  BoundedChannel idle(std::make_shared<OneReply>(), {.timeOut = 1h, .idle = 1ms, .tend = 1ms});
+  EXPECT_NE(Replies(idle, {forms[0].command}), "?");
+  EXPECT_TRUE(Soon([] { return shortages == 2; })) << "in its idle time and for its connection";
+  std::set_new_handler(nullptr), shortages = 0;
+}
+
+TEST(CPjtInterfaceTest, AbandonsOnlyWhatWaits) {
+  CPjtInterface p;
+  const auto channel = std::make_shared<OneReply>();
+  p.SetChannel(channel);
+  EXPECT_TRUE(p.Abandon() && channel->abandoned == 0);
+  channel->meanwhile = [&] {
+    p.SetChannel(nullptr);
+    EXPECT_TRUE(p.Abandon());
+  };
+  EXPECT_EQ(p.SetColor(1), 1);
 }
 
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
@@ -125,7 +148,8 @@ TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {
   EXPECT_EQ(pjt.Serial().Port, 3);
   pjt.CopyData(1, 3, 1, "two words", "");
   EXPECT_EQ(pjt.Connection(), ConnectionState::WrongParameters);
-  EXPECT_EQ(pjt.ConnectionParameter(), 1);
+  EXPECT_EQ(std::tuple(pjt.ConnectionKind(), pjt.ConnectionNumber(), pjt.ConnectionParameter()),
+            std::tuple(1, 3, 1));
   EXPECT_EQ(pjt.Serial(), CComCtrl());
   pjt.SetChannel(std::make_shared<OneReply>());
   EXPECT_EQ(pjt.GetMirror(nullptr), 0);
@@ -206,7 +230,7 @@ TEST(ForwardingChannelTest, ForwardsEveryMember) {
   ProjectorChannel& outer = channel;
   EXPECT_EQ(outer.Execute({PjtOperation::GetMirror}).value, 7);
   outer.Announce(std::array{PjtCommand{PjtOperation::GetMirror}});
-  outer.GiveUpAfter(std::chrono::milliseconds(30));
+  outer.GiveUpAfter(30ms);
   outer.Abandon();
   EXPECT_EQ(outer.Connection(), ConnectionState::OtherVersion);
   EXPECT_TRUE(outer.Inputs());

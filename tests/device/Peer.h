@@ -38,12 +38,14 @@ class Peer {
       bytes.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
       return bytes;
     }
-    void Send(std::string_view bytes) {
+    /// False if the connection has ended.
+    bool Send(std::string_view bytes) {
       while (!bytes.empty() && IsReady(POLLOUT)) {
         const ssize_t size = write(file_, bytes.data(), bytes.size());
-        if (size < 0 && errno != EAGAIN) return;
+        if (size < 0 && errno != EAGAIN) return false;
         bytes.remove_prefix(size > 0 ? static_cast<std::size_t>(size) : 0);
       }
+      return bytes.empty();
     }
     /// Sends nothing more, and waits for the end of the connection.
     void Listen() {

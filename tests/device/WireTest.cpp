@@ -1,14 +1,25 @@
+#include <chrono>
 #include <fstream>
+#include <functional>
+#include <map>
+#include <poll.h>
+#include <pty.h>
 #include <regex>
 #include <string>
+#include <termios.h>
+#include <thread>
+#include <unistd.h>
 #include <vector>
 
 #include <QByteArray>
+#include <QStringList>
 #include <gtest/gtest.h>
 
 #include "device/Connect.h"
 #include "device/HostAddress.h"
+#include "device/protocol/PjLinkLine.h"
 #include "device/protocol/WireFrame.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -79,57 +90,76 @@ TEST(WireTest, FindsFramesAfterNoiseAndInPieces) {
   }
 }
 
-TEST(WireTest, ConnectionParametersGiveAnAddressOrAnError) {
-  constexpr int kMost = 4'000'000;
-  const std::pair<ProjectorAddress, ProjectorAddress> cases[] = {
-      {ParseConnection({1, 0, 65535, "192.0.2.1", ""}), TcpAddress{"192.0.2.1", 65535}},
-      {ParseConnection({1, 9, 4352, "beamer", "pw"}), PjLinkAddress{"beamer", 4352, "pw"}},
-      {ParseConnection({1, 0, 5000, "pjlink://beamer", "pw"}), PjLinkAddress{"beamer", 5000, "pw"}},
-      {ParseConnection({1, 0, 4352, "tcp://beamer", ""}), TcpAddress{"beamer", 4352}},
-      {ParseConnection({1, 0, 65536, "beamer", ""}), AddressError{"no network port '65536'"}},
-      {ParseConnection({1, 0, -1, "beamer", ""}), AddressError{"no network port '-1'"}},
-      {ParseConnection({1, 0, 7240, "two words", ""}), AddressError{"no address 'two words'"}},
-      {ParseConnection({1, 0, 7240, "beamer:80", ""}), AddressError{"wrong port in 'beamer:80'"}},
-      {ParseConnection({0, 0, 0, "0.0.0.0", ""}), SerialAddress{"/dev/ttyS0", 19200}},
-      {ParseConnection({7, 255, kMost, "", ""}), SerialAddress{"/dev/ttyS255", kMost}},
-      {ParseConnection({0, 3, 9600, "/dev/ttyUSB0", ""}), SerialAddress{"/dev/ttyUSB0", 9600}},
-      {ParseConnection({0, 256, 0, "", ""}), AddressError{"no serial port '257'"}},
-      {ParseConnection({0, -1, 0, "", ""}), AddressError{"no serial port '0'"}},
-      {ParseConnection({0, 0, kMost + 1, "", ""}), AddressError{"no line speed '4000001'"}},
-      {ParseConnection({1, 0, 80, "beamer:80", ""}), TcpAddress{"beamer", 80}},
-      {ParseAddress("tcp://[::1]9"), AddressError{"wrong port in 'tcp://[::1]9'"}},
-      {ParseAddress("/dev/pts/3?9x"), AddressError{"no line speed '9x'"}},
-      {ParseAddress("/dev/pts/3?0"), AddressError{"no line speed '0'"}},
-      {ParseAddress("tcp://[::1]:1", "pw"), TcpAddress{"::1", 1}},
-      {ParseAddress("tcp://::1", "pw"), TcpAddress{"::1", 7240}},
-      {ParseAddress(std::string_view("beamer:72419", 11), "pw"), TcpAddress{"beamer", 7241}},
-      {ParseAddress("beamer", "pw"), PjLinkAddress{"beamer", 4352, "pw"}},
-      {ParseAddress("serial:///dev/pts/3?1", "pw"), SerialAddress{"/dev/pts/3", 1}},
-      {ParseAddress("/dev/pts/3", "pw"), SerialAddress{"/dev/pts/3", 19200}},
-      {ParseAddress("serial://COM1", "pw"), AddressError{"no serial port 'serial://COM1'"}},
-      {ParseAddress("tcp://[::1", "pw"), AddressError{"no address 'tcp://[::1'"}},
-      {ParseAddress("tcp://a:0", "pw"), AddressError{"wrong port in 'tcp://a:0'"}},
-      {ParseAddress("http://a", "pw"), AddressError{"wrong port in 'http://a'"}},
+/// An address as text, "error: " before what is wrong with it.
+std::string Described(const ProjectorAddress& address) {
+  struct {
+    std::string operator()(const AddressError& none) { return "error: " + none.text; }
+    std::string operator()(const TcpAddress& to) { return "tcp " + At(to.host, to.port); }
+    std::string operator()(const PjLinkAddress& to) {
+      return "pjlink " + At(to.host, to.port) + ' ' + to.password;
+    }
+    std::string operator()(const SerialAddress& to) { return "serial " + At(to.device, to.baud); }
+    static std::string At(const std::string& place, int number) {
+      return place + ' ' + std::to_string(number);
+    }
+  } describe;
+  EXPECT_NE(dynamic_cast<BoundedChannel*>(MakeChannel(address).get()) != nullptr,
+            std::holds_alternative<AddressError>(address));
+  return std::visit(describe, address);
+}
+
+TEST(WireTest, TextsAreUnderstoodAsRecorded) {
+  using Text = const QString&;
+  const auto number = [](std::optional<int> (*read)(std::string_view)) {
+    return [read](Text text) {
+      const auto value = read(text.toStdString());
+      return value ? std::to_string(*value) : "nothing";
+    };
   };
-  for (const auto& one : cases) EXPECT_EQ(one.first, one.second) << "case " << &one - cases;
+  const auto isOne = [](auto read) {
+    return [read](Text text) { return std::string(read(text.toStdString()) ? "yes" : "no"); };
+  };
+  const std::map<QString, std::function<std::string(Text)>> readers{
+      {"hours", number(PjLink::Hours)},
+      {"blank", number(PjLink::Blank)},
+      {"mute", number(PjLink::Mute)},
+      {"switch", number(PjLink::Switch)},
+      {"power", number(PjLink::PowerStatus)},
+      {"errors", number(PjLink::ErrorStatus)},
+      {"input", number(PjLink::InputNumber)},
+      {"line", isOne(PjLink::Parse)},
+      {"greeting", isOne(PjLink::ParseGreeting)},
+      {"notice", isOne(PjLink::IsNotice)},
+      {"host", isOne(IsHostAddress)},
+      {"code", [](Text text) { return PjLink::InputCode(text.toInt()).value_or("nothing"); }},
+      {"address", [](Text text) { return Described(ParseAddress(text.toStdString(), "pw")); }},
+      {"connection", [](Text text) {
+         const QStringList parts = text.split('|');
+         return Described(ParseConnection({parts[0].toInt(), parts[1].toInt(), parts[2].toInt(),
+                                           parts[3].toStdString(), parts[4].toStdString()}));
+       }}};
+  ExpectAnswers(TEST_SOURCE_DIR "/device/Texts.txt", [&](const std::string& question) {
+    const auto text = QString::fromStdString(question);
+    return readers.at(text.section(' ', 0, 0))(text.section(' ', 1));
+  });
+  EXPECT_FALSE(IsHostAddress("a\nb") || IsHostAddress(std::string(64, 'a')));
+  EXPECT_EQ(Described(ParseAddress(std::string_view("beamer:72419", 11))), "tcp beamer 7241");
   EXPECT_GT(BoundsFor(PjLinkAddress{}).timeOut, BoundsFor(TcpAddress{}).timeOut);
 }
 
-TEST(WireTest, AHostIsANameOrACompleteAddress) {
-  std::string longest = "a";
-  while (longest.size() < 253) longest += ".a";
-  for (const std::string host :
-       {longest.c_str(), "192.0.2.1", "::1", "fe80::1%eth0", "beamer", "beamer.",
-        "hall_2.example.org", "3com", "4.hall", "b\u00FCro", "\u5927\u5385.example"}) {
-    EXPECT_TRUE(IsHostAddress(host)) << host;
-  }
-  for (const char* none :
-       {"", "192.0.2", "192.0.2.256", "192.0.2.1.1", "1", "1..2.3", "a..b", "a b", "a/b", "a@b",
-        "[::1]", "::1::2", "a:80", "tcp://a", "a,b", "a%b"}) {
-    EXPECT_FALSE(IsHostAddress(none)) << none;
-  }
-  EXPECT_FALSE(IsHostAddress("a\nb") || IsHostAddress('a' + longest));
-  EXPECT_FALSE(IsHostAddress(std::string(64, 'a')));
+TEST(WireTest, ASerialLineHasTheSpeedOfItsAddress) {
+  int line = -1, otherEnd = -1;
+  ASSERT_EQ(openpty(&line, &otherEnd, nullptr, nullptr, nullptr), 0);
+  const auto channel =
+      MakeUnboundedChannel(SerialAddress{ttyname(otherEnd), 38400}, std::chrono::hours(1));
+  const std::jthread asks([&] { channel->Execute({PjtOperation::GetMirror}); });
+  pollfd request{line, POLLIN, 0};
+  EXPECT_EQ(poll(&request, 1, 60'000), 1);
+  termios settings{};
+  EXPECT_EQ(tcgetattr(line, &settings), 0);
+  EXPECT_EQ(cfgetospeed(&settings), speed_t{B38400});
+  close(line);
+  close(otherEnd);
 }
 
 }  // namespace

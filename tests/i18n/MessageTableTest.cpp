@@ -13,6 +13,7 @@
 #include "i18n/MessageTable.h"
 #include "i18n/ModuleImage.h"
 #include "tests/i18n/ModuleBuilder.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -59,32 +60,13 @@ TEST(MessageTable, ReadsBothModuleKindsAndBothEncodings) {
 }
 
 TEST(MessageTable, ReadsAnsiTextsInTheCodePageOfTheirLanguage) {
-  const std::pair<const char*, std::vector<std::uint32_t>> kCases[] = {
-      {"陏", {0x0404, 0x0C04, 0x1404}},
-      {"忻", {0x0804, 0x1004}},
-      {"ﾐﾃ", {0x0411}},
-      {"勤", {0x0412}},
-      {"ะร", {0x041E}},
-      {"РГ",
-       {0x0C1A, 0x1C1A, 0x201A, 0x281A, 0x301A, 0x082C, 0x0843, 0x0402, 0x0419, 0x0422, 0x0423,
-        0x042F, 0x043F, 0x0440, 0x0444}},
-      {"ĐĂ", {0x0405, 0x040E, 0x0415, 0x0418, 0x041A, 0x041B, 0x041C, 0x0424, 0x042A}},
-      {"ΠΓ", {0x0408}},
-      {"ĞÃ", {0x041F, 0x042C, 0x0443}},
-      {"\u05C0\u05B3", {0x040D}},
-      {"ذأ", {0x0401, 0x0420, 0x0429}},
-      {"ŠĆ", {0x0425, 0x0426, 0x0427}},
-      {"ÐÃ", {0x0407, 0x0409}},
-  };
-  std::vector<TestTable> tables;
-  for (const auto& [text, languages] : kCases) {
-    for (const auto language : languages) tables.push_back({language, {{1, {Ansi("\xD0\xC3")}}}});
-  }
-  const auto table = MessageTable::Parse(TestModule(tables).bytes);
-  ASSERT_TRUE(table);
-  for (const auto& [text, languages] : kCases) {
-    for (const auto language : languages) EXPECT_EQ(TextIn(*table, language, 1), text) << language;
-  }
+  ExpectAnswers(TEST_SOURCE_DIR "/i18n/CodePages.txt", [](const std::string& number) {
+    const auto language = static_cast<std::uint32_t>(std::stoul(number, nullptr, 0));
+    const TestTable english{1033, {{1, {Ansi("\xD0\xC3")}}}}, own{language, english.blocks};
+    const TestModule module(language == 1033 ? std::vector{english} : std::vector{own, english});
+    const auto table = MessageTable::Parse(module.bytes);
+    return table ? TextIn(*table, language, 1) : "refused";
+  });
 }
 
 TEST(MessageTable, FindsNumbersFarApartInManyCategories) {

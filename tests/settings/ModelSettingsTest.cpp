@@ -17,6 +17,7 @@
 #include "simulator/FaultChannel.h"
 #include "simulator/SimulatedProjector.h"
 #include "tests/support/Models.h"
+#include "tests/support/Record.h"
 #include "tests/support/RecordingChannel.h"
 
 namespace {
@@ -216,24 +217,14 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
   }
 }
 
-TEST(Range, ParsesTwoDecimalsAroundTheFirstComma) {
-  const Range fallback{-32, 32};
-  EXPECT_EQ(ParseRange("100,156", 128, fallback), (Range{-28, 28}));
-  EXPECT_EQ(ParseRange("0,255", 128, fallback), (Range{-128, 127}));
-  EXPECT_EQ(ParseRange(" 96 , +160 ", 128, fallback), (Range{-32, 32}));
-  EXPECT_EQ(ParseRange("125,131", 124, fallback), (Range{1, 7}));
-  EXPECT_EQ(ParseRange("-5,5", 0, fallback), (Range{-5, 5}));
-  EXPECT_EQ(ParseRange("-32768,65535", 0, fallback), (Range{-32768, 65535}));
-  EXPECT_EQ(ParseRange("1,2,3", 0, fallback), (Range{1, 2})) << "what follows does not count";
-  EXPECT_EQ(ParseRange("7,7", 0, fallback), (Range{7, 7}));
-}
-
-TEST(Range, UsesTheFallbackForAnythingElse) {
-  const Range fallback{1, 7};
-  for (const char* text : {"", "a", "5", ",", ",,", "5,", ",5", "9,3", "1;2",
-                           "1,99999999999999999999", "-32769,3", "0,65536", "+-1,3"}) {
-    EXPECT_EQ(ParseRange(text, 128, fallback), fallback) << '"' << text << '"';
-  }
+TEST(Range, HasTwoDecimalsAroundTheFirstComma) {
+  ExpectAnswers(TEST_SOURCE_DIR "/settings/Ranges.txt", [](const std::string& question) {
+    const std::string text = question.substr(question.find(' ') + 1);
+    const Range range = ParseRange(text, std::stoi(question), {12345, 12346});
+    return range.minimum == 12345
+               ? "no"
+               : std::to_string(range.minimum) + " to " + std::to_string(range.maximum);
+  });
 }
 
 }  // namespace

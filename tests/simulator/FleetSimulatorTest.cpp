@@ -84,7 +84,6 @@ TEST_F(FleetSimulator, ProjectorsDifferAndAreTheSameForTheSameSeed) {
   for (const char* some : {"%1CLSS=1", "%1CLSS=2", "%1POWR=0", "%1POWR=1", "%1ERST=000000"}) {
     EXPECT_THAT(first, testing::Contains(some));
   }
-  EXPECT_THAT(first, testing::Contains(MatchesRegex("%1ERST=.*[12].*")));
   EXPECT_GT(std::set(first.begin(), first.end()).size(), 60U) << "lamps differ";
   // The end of the last connection may arrive after the command.
   std::string counts;

@@ -18,7 +18,7 @@
 namespace {
 
 constexpr const char* kListing = TEST_SOURCE_DIR "/simulator/Settings.txt";
-constexpr int kLowest = -130, kHighest = 1010;  // more than any range that is not a word
+constexpr int kLowest = -130, kHighest = 1010;  // what is accepted at the end is followed further
 
 /// What a command does to a setting of a new projector: the reply, the last value to which it
 /// steps, the values that it takes with what is kept of them (" 1..3 as 0"), or the value
@@ -30,9 +30,8 @@ std::string Does(int pageSet, SettingId id, PjtCommand command, Verb verb) {
     return projector.Execute(command).result == AcceptedResult(command.operation);
   };
   if (verb == Verb::StepUp || verb == Verb::StepDown) {
-    int steps = kLowest;
-    while (steps < kHighest && isAccepted()) ++steps;
-    return steps == kHighest ? " without end" : " to " + std::to_string(kept());
+    while (isAccepted()) continue;
+    return " to " + std::to_string(kept());
   }
   if (verb != Verb::Write) {
     const std::string before = verb == Verb::Read ? Replies(projector, {command}) + ' ' : "";
@@ -47,14 +46,13 @@ std::string Does(int pageSet, SettingId id, PjtCommand command, Verb verb) {
     if (next == kLowest) return;
     const auto range = [&](int by) {
       text << ' ' << first + by;
-      if (next == kHighest) text << " and more";
-      if (next > first + 1 && next < kHighest) text << ".." << next - 1 + by;
+      if (next > first + 1) text << ".." << next - 1 + by;
     };
     text << (text.str().empty() ? "" : ",");
     range(0);
     if (shift != 0) text << " as", range(shift);
   };
-  for (int value = kLowest; value < kHighest; ++value) {
+  for (int value = kLowest; value < kHighest || (value == next && value <= 0xFFFF); ++value) {
     (isSecond ? command.second : command.first) = static_cast<std::int16_t>(value);
     if (!isAccepted()) continue;
     if (value != next || kept() != value + shift) {

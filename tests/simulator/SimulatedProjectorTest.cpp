@@ -59,8 +59,9 @@ TEST(SimulatedProjector, SoundIsKeptForEachSourceAndForStandby) {
   EXPECT_EQ(Replies(projector, {Do(Op::SetVolumeEachSrc, kStandby, 5), Get(0x2001),
                                 Do(Op::SetVolumeEachSrc, 2, 30), Do(Op::SetVolumeEachSrc, -1, 30),
                                 Do(Op::SetVolumeEachSrc, 256, 30), Set(0x2000, 2), Inc(0x2001),
-                                Do(Op::GetInputSrcVolume, 2), Do(Op::GetInputSrcVolume, kStandby)}),
-            "5 16 30 - - 2 31 31 5");
+                                Do(Op::GetInputSrcVolume, 2), Do(Op::GetInputSrcVolume, kStandby),
+                                Do(Op::SetVolumeEachSrc, 255, 30)}),
+            "5 16 30 - - 2 31 31 5 30");
   EXPECT_EQ(projector.Value(Id::Volume, kStandby), 5);
   EXPECT_EQ(Replies(projector, {Do(Op::SetInputSrcTreble, 3, 130), Do(Op::GetInputSrcTreble, 2),
                                 Do(Op::SetInputSrcBass, 3, 126), Do(Op::GetInputSrcBass, 2),
@@ -70,11 +71,11 @@ TEST(SimulatedProjector, SoundIsKeptForEachSourceAndForStandby) {
 
 TEST(SimulatedProjector, MemoriesStoreOnlyThePicture) {
   SimulatedProjector projector;
-  EXPECT_EQ(
-      Replies(projector, {Set(0x2003, 140), Do(Op::SetMyMemory, 6), Set(0x2002, 1),
-                          Do(Op::SetMyMemory, 3), Get(0x2003), Do(Op::SetMyMemory, 2), Get(0x2003),
-                          Get(0x2002), Do(Op::SetMyMemory, 8), Do(Op::SetMyMemory, -1)}),
-      "140 0 1 0 128 0 140 1 - -");
+  EXPECT_EQ(Replies(projector,
+                    {Do(Op::SetMyMemory, 4), Set(0x2003, 140), Do(Op::SetMyMemory, 4),
+                     Set(0x2002, 1), Do(Op::SetMyMemory, 3), Get(0x2003), Do(Op::SetMyMemory, 0),
+                     Get(0x2003), Get(0x2002), Do(Op::SetMyMemory, 8), Do(Op::SetMyMemory, -1)}),
+            "0 140 0 1 0 128 0 140 1 - -");
 }
 
 TEST(SimulatedProjector, CodesWithoutMeaningStoreAnyValue) {
@@ -89,21 +90,27 @@ TEST(SimulatedModelTest, AHostsDescriptionDefinesTheProjector) {
   data.DialogType = 3;
   data.GammaList = {.count = 2, .values = {16, 20, 99}, .names = {}};
   data.ColorTempList = {.count = 2, .values = {1, 3}, .names = {}};
+  data.AspectList = {.count = 2, .values = {5, 7, 99}, .names = {}};
   data.MySourceList.count = 2;
   data.MySourceList.firstValues = {4, 1};
   data.RangeTexts[RangeIndex::Brightness] = "100, 156";
-  for (const char* const text : {"", ",3", "3, ", "a,3", "3,b", "9,3"}) {
+  for (const char* const text : {"", "3", ",3", " ,3", "3, ", "a,3", "3,b", "9,3"}) {
     data.RangeTexts[RangeIndex::Contrast] = text;
     EXPECT_FALSE(DescribeModel(data).ranges.contains(Id::Contrast)) << text;
   }
   data.RangeTexts[RangeIndex::Sharpness] = "8,8";
   SimulatedModel model = DescribeModel(data);
-  model.missing = {Id::Tint};
+  model.missing = {Id::Tint, Id::StartUp, Id::Power};
   SimulatedProjector projector(model);
   EXPECT_EQ(projector.RangeOf(Id::Brightness), (SettingRange{100, 156}));
   EXPECT_EQ(projector.RangeOf(Id::Contrast), (SettingRange{80, 176})) << "a text without sense";
   EXPECT_EQ(projector.RangeOf(Id::Sharpness), (SettingRange{8, 8}));
-  EXPECT_FALSE(projector.Has(Id::Tint));
+  EXPECT_EQ(projector.ValuesOf(Id::Aspect).size(), 2U);
+  projector.SetPowerTimes(1h, 1h);
+  projector.SetValue(Id::Tint, 5);
+  projector.SetCodeValue(0x2203, 5);
+  EXPECT_FALSE(projector.Has(Id::Tint) || projector.Power() || projector.CodeValue(0x3001));
+  EXPECT_TRUE(projector.ValuesOf(Id::Tint).empty() && projector.Value(Id::Tint) == 0);
   EXPECT_EQ(Replies(projector, {Do(Op::SetTint, 128), Get(0x2203), Do(Op::ExecTintReset),
                                 Get(0x2000), Get(0x30A1), Do(Op::SetGamma, 1), Get(0x30A1),
                                 Set(0x30A1, 99), Set(0x30A1, 3), Get(0x30A1), Get(0x30B0)}),
@@ -125,14 +132,17 @@ TEST(SimulatedProjector, WarmsUpAndCoolsDownInTime) {
     };
     const auto slow = make(1h, 0ms);
     slow->SetValue(Id::Brightness, 130);
+    slow->SetCodeValue(0x2003, 130);
     EXPECT_EQ(slow->Power(), kMeanwhile[on]);
     EXPECT_EQ(slow->Value(Id::Power), on ? 1 : 2);
     EXPECT_EQ(slow->Execute(kSwitch[!on]).result, RefusedResult(kSwitch[!on].operation));
     EXPECT_EQ(slow->Power(), kMeanwhile[on]) << "it refuses until it has switched";
 
     const auto quick = make(20ms, 1h), seen = make(20ms, 1h), switched = make(20ms, 1h);
+    const auto told = make(20ms, 1h);
     EXPECT_TRUE(Soon([&] { return quick->Power() == kThen[on]; }));
     EXPECT_TRUE(Soon([&] { return seen->Value(Id::Power) == on; }));
+    EXPECT_TRUE(Soon([&] { return told->CodeValue(0x6000) == on; }));
     EXPECT_TRUE(Soon([&] { return Replies(*switched, {kSwitch[!on]}) != "-"; }));
     EXPECT_NE(Replies(*quick, {kSwitch[on]}), "-");
     EXPECT_EQ(quick->Power(), kThen[on]) << "it was so already";
@@ -163,21 +173,25 @@ TEST_F(FaultChannelTest, TheMostSpecificFaultAppliesAndLateAnswersArrive) {
   EXPECT_EQ(Replies(channel, commands), "- 128 128 128 - -");
   channel.SetFault(Op::SetBrightness, {});
   EXPECT_EQ(Replies(channel, commands), "130 128 128 128 - -");
+  channel.SetFault(refuse);
   channel.Clear();
   EXPECT_EQ(Replies(channel, commands), "130 128 128 128 1 1");
 }
 
 TEST_F(FaultChannelTest, ADropOutEndsWhenTheFaultIsCleared) {
+  FaultChannel outer(std::shared_ptr<ProjectorChannel>(projector, &channel));
   channel.SetFault(Op::GetMirror, {.kind = Fault::Kind::DropOut});
   const auto start = Clock::now();
-  std::thread clearer([this] {
+  std::thread clearer([&] {
     std::this_thread::sleep_for(400ms);
-    // A fault of another command must not end the wait.
-    channel.SetFault(Op::GetSpeaker, {.kind = Fault::Kind::Refuse});
+    // A fault of another command must not end the wait, nor wait for its end.
+    for (auto* const at : {&outer, &channel}) {
+      at->SetFault(Op::GetSpeaker, {.kind = Fault::Kind::Refuse});
+    }
     std::this_thread::sleep_for(400ms);
     channel.Clear();
   });
-  EXPECT_FALSE(channel.Execute({Op::GetMirror}).answered);
+  EXPECT_FALSE(outer.Execute({Op::GetMirror}).answered);
   const auto waited = Clock::now() - start;
   clearer.join();
   EXPECT_GE(waited, 800ms);

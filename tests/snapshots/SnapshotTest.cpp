@@ -1,11 +1,11 @@
 // Snapshot files, typed values of settings, and repeated commands.
 
-#include <array>
 #include <gmock/gmock.h>
 
 #include "app/profiles/SettingsFile.h"
 #include "settings/CatalogNumbers.h"
 #include "tests/snapshots/DisturbedProjector.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -88,30 +88,13 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   snapshot.settings[1].value = 65535;
   const QByteArray text = WriteSnapshot(snapshot);
   EXPECT_EQ(ReadSnapshot(text).snapshot, snapshot);
-  for (const auto& [from, to, error] : std::vector<std::array<const char*, 3>>{
-           {"\"format\"", "\"formal\"", "not a file of saved settings"},
-           {"\"version\": 1", "\"version\": 2", "only version 1"},
-           {"\"value\": ", "\"value\": 0.5, \"x\": ", "from -32768 to 65535, and is 0.5"},
-           {"\"value\": ", "\"value\": \"1234567890123456789012345678901234567890\", \"x\": ",
-            "is \"123456789012345678901234567890123456789..."},
-           {"\"value\": ", "\"value\": 1e9, \"x\": ", "settings[0].value: must be a whole"},
-           {"\"value\": ", "\"other\": ", "k: settings[0].value: a whole number is missing"},
-           {"\"value\": ", "\"value\": -32769, \"x\": ", "settings[0].value: must be a whole"},
-           {"\"value\": ", "\"value\": 65536, \"x\": ", "settings[0].value: must be a whole"},
-           {"\"settings\": [", "\"settings\": [1,", "settings[0]: must be an object"},
-           {"\"settings\"", "\"settingz\"", "settings: must be an array"},
-           {"\"settings\"", "\"beforehand\": 1, \"settings\"", "beforehand: must be an array"},
-           {"\"key\": \"", "\"kez\": \"", "settings[0].key: must be a line"},
-           {"\"key\": \"", "\"key\": \"k", "settings[0].key: must be a line"},
-           {"\"key\": \"k", "\"key\": \"\\n", "settings[0].key: must be a line"},
-           {"\"settings\": [",
-            "\"settings\": [{\"key\": \"a\", \"value\": 1}, {\"key\": \"a\", \"value\": 1},",
-            "settings[1].key: \"a\" is here twice"},
-           {"\"model\": {", "\"model\": {]", "line 3: "}}) {
+  const auto key = QString::fromStdString(snapshot.settings[0].key);
+  ExpectAnswers(TEST_SOURCE_DIR "/snapshots/WrongFiles.txt", [&](const std::string& edit) {
+    const QStringList texts = QString::fromStdString(edit).split(" becomes ");
     QByteArray wrong = text;
-    wrong.replace(wrong.indexOf(from), static_cast<int>(strlen(from)), to);
-    EXPECT_THAT(ReadSnapshot(wrong).error.toStdString(), testing::HasSubstr(error));
-  }
+    wrong.replace(wrong.indexOf(texts[0].toUtf8()), texts[0].size(), texts[1].toUtf8());
+    return ReadSnapshot(wrong).error.replace(key, "KEY").toStdString();
+  });
   const auto withSettings = [&text](int count) {
     QByteArray many = text;
     return many.replace("\"settings\": [", "\"settings\": [" + QByteArray("1,").repeated(count));
@@ -149,35 +132,6 @@ TEST(Snapshot, StopsOnRequest) {
             3U);
 }
 
-TEST(SettingTexts, ParsesTypedValues) {
-  const ConnectedProjector target(Profile("Projector 5-30"));
-  struct Typed {
-    const char* text;
-    std::optional<int> value;  // from the present value `from`
-    int from = 0;
-  };
-  const std::pair<const char*, std::vector<Typed>> kCases[] = {
-      {"picture.brightness", {{"5", 133}, {"=-31", 97}, {"32", {}}, {"", {}}, {"5x", {}}}},
-      {"picture.brightness", {{"99999999999", {}}, {"2147483647", {}}, {"-2147483648", {}}}},
-      {"picture.brightness", {{"+3", 131, 128}, {"-3", 125, 128}, {"+1", {}, 159}}},
-      {"picture.sharpness", {{"4", 128}}},
-      {"picture.active-iris", {{"theater", 16}, {"影院", 16}, {"kino", 16}, {"シアター", 16}}},
-      {"picture.active-iris", {{"17", 17}, {"1", {}}, {"standby", {}}, {"+1", 16, 0}}},
-      {"picture.active-iris", {{"+1", {}, 17}, {"-1", {}, 0}, {"-1", 0, 16}, {"+1", {}, 99}}},
-      {"setup.mirror", {{"H&V Inverse", 3}}},
-  };
-  for (const auto& [key, cases] : kCases) {
-    const ModelSetting* const setting = target.settings.Find(key);
-    ASSERT_NE(setting, nullptr) << key;
-    for (const auto& [text, value, from] : cases) {
-      const auto typed = Texts().Parse(*setting, text);
-      EXPECT_EQ(typed ? Resolve(*setting, *typed, from) : std::nullopt, value) << key << text;
-    }
-  }
-  const ModelSetting& brightness = *target.settings.Find("picture.brightness");
-  EXPECT_EQ(Texts().Parse(brightness, std::string_view("51", 1))->amount, 133);
-}
-
 // Two entries of a name, one without a name, one of the catalog, and one that the catalog lacks.
 ModelSetting HostsList() {
   using Kind = ModelSetting::Kind;
@@ -187,72 +141,43 @@ ModelSetting HostsList() {
   return list;
 }
 
-TEST(SettingTexts, AreThoseOfTheDialog) {
+TEST(SettingTexts, AreThoseOfTheDialogAndRecognised) {
   const ConnectedProjector target(Profile("Projector 5-30"));
-  const ModelSetting hosts = HostsList();
-  const auto setting = [&](const char* key) -> const ModelSetting& {
-    const ModelSetting* const found = target.settings.Find(key);
-    return found != nullptr ? *found : hosts;
-  };
-  const std::pair<const char*, std::vector<std::pair<int, const char*>>> kTexts[] = {
-      {"other.power", {{0, "Standby"}, {1, "On"}, {2, "Cooling Down"}, {9, "Standby"}}},
-      {"status.blank", {{1, "On"}, {5, "Off"}}},
-      {"status.lamp-time", {{12, "12 h"}}},
-      {"picture.brightness", {{131, "3"}}},
-      {"hosts", {{31, "HDMI (31)"}, {1, "VGA (1)"}, {7, "5"}, {8, "6"}, {9, "7"}, {0, "Off"}}}};
-  for (const auto& [key, texts] : kTexts) {
-    for (const auto& [value, text] : texts) EXPECT_EQ(Texts().Value(setting(key), value), text);
-  }
-  const auto inPower = [&](const char* key, int value, PowerState power) {
-    return Texts().Value(setting(key), value, power);
-  };
-  EXPECT_EQ(inPower("other.power", 1, PowerState::WarmingUp), "Warming Up");
-  EXPECT_EQ(inPower("other.power", 0, PowerState::WarmingUp), "Standby");
-  EXPECT_EQ(inPower("other.power", 1, PowerState::On), "On");
-  EXPECT_EQ(inPower("other.blank", 1, PowerState::WarmingUp), "On");
-  EXPECT_EQ(Texts().Values(setting("other.power")), "Standby, On");
-  EXPECT_EQ(Texts().Values(setting("picture.brightness")), "-31 to 31");
-  EXPECT_EQ(Texts().Values(setting("image.h-size")), "a number");
-  EXPECT_EQ(Texts().Values(setting("picture.active-iris")), "Off, Theater, Presentation");
-  EXPECT_EQ(Texts().Caption(setting("picture.tint")) +
-                Texts().Caption({.key = "input.dvi", .entries = {}}),
-            "TintDVI");
-  const auto name = [&](const char* key, std::optional<int> source = {}) {
-    return Texts().Name(target.settings, setting(key), source);
-  };
-  EXPECT_EQ(name("picture.tint") + name("image.position-v") + name("image.position-h"),
-            "TintPosition VPosition H");
-  EXPECT_EQ(name("gamma.pattern") + name("audio.volume", 4),
-            "User Gamma Pattern (Gamma)Volume (RGB2)");
-  const ModelSettings withoutInputs(Profile("Projector 9-1").model->data);
-  EXPECT_EQ(Texts().Source(withoutInputs, 4), "4");
-  const std::vector<std::string> folders{TEST_CATALOG_DIR};
-  EXPECT_EQ(SettingTexts(folders, 0x3FF).Caption(setting("picture.tint")), "Tint") << "in English";
-  EXPECT_EQ(SettingTexts(folders, 1031).Caption(setting("picture.brightness")), "Helligkeit");
-}
-
-TEST(SettingTexts, AreRecognised) {
-  const ConnectedProjector target(Profile("Projector 5-30"));
-  const ModelSetting hosts = HostsList();
-  const std::pair<const char*, std::optional<int>> kTyped[] = {
-      {"hdmi (32)", 32}, {"hdmi", {}}, {"vga", 1}, {"vga (1)", 1}, {"off", 0}, {"5", 7}, {"", 7}};
-  for (const auto& [text, value] : kTyped) {
-    const auto typed = Texts().Parse(hosts, text);
-    EXPECT_EQ(typed ? std::optional(typed->amount) : std::nullopt, value) << text;
-  }
+  const ModelSetting hosts = HostsList(), unlisted{.key = "input.dvi", .entries = {}};
   const SettingTexts& texts = Texts();
-  const ModelSetting& power = *target.settings.Find("other.power");
-  EXPECT_EQ(texts.Parse(power, "standby")->amount, 0);
-  EXPECT_FALSE(Resolve(power, {.amount = 1, .relative = true}, {}));
-  const ModelSetting& iris = *target.settings.Find("picture.active-iris");
-  for (const char* text : {"theater", "シアター", "16"}) {
-    EXPECT_TRUE(texts.IsShownAs(iris, 16, text)) << text;
-  }
-  for (const char* text : {"off", "17", ""}) EXPECT_FALSE(texts.IsShownAs(iris, 16, text)) << text;
+  ExpectAnswers(
+      TEST_SOURCE_DIR "/snapshots/SettingTexts.txt",
+      [&](const std::string& question) -> std::string {
+        const QStringList words = QString::fromStdString(question).split('|');
+        const QString &kind = words[0], third = words.value(2), last = words.value(3);
+        const ModelSetting* const found = target.settings.Find(words[1].toStdString());
+        const ModelSetting& setting = found ? *found : words[1] == "hosts" ? hosts : unlisted;
+        if (kind == "values") return texts.Values(setting);
+        if (kind == "caption") return texts.Caption(setting);
+        if (kind == "name") {
+          return texts.Name(target.settings, setting,
+                            third.isEmpty() ? std::nullopt : std::optional(third.toInt()));
+        }
+        if (kind == "value" && last.isEmpty()) return texts.Value(setting, third.toInt());
+        if (kind == "value") {
+          return texts.Value(setting, third.toInt(), PowerState(last.toInt()));
+        }
+        const std::string text = third.toStdString();
+        if (kind == "shown") {
+          return texts.IsShownAs(setting, last.toInt(), text) ? "yes" : "no";
+        }
+        const auto typed = texts.Parse(setting, text);
+        const auto value = typed ? Resolve(setting, *typed, last.toInt()) : std::nullopt;
+        return value ? std::to_string(*value) : "none";
+      });
   const ModelSetting& brightness = *target.settings.Find("picture.brightness");
-  EXPECT_TRUE(texts.IsShownAs(brightness, 131, "3") && !texts.IsShownAs(brightness, 131, "131"));
-  EXPECT_TRUE(texts.IsShownAs(hosts, 31, "hdmi (31)") && !texts.IsShownAs(hosts, 31, "HDMI (32)"));
-  EXPECT_TRUE(texts.IsShownAs(power, 0, "Standby"));
+  EXPECT_EQ(texts.Parse(brightness, std::string_view("51", 1))->amount, 133);
+  EXPECT_FALSE(Resolve(*target.settings.Find("other.power"), {.amount = 1, .relative = true}, {}));
+  const ModelSettings withoutInputs(Profile("Projector 9-1").model->data);
+  EXPECT_EQ(texts.Source(withoutInputs, 4), "4");
+  const std::vector<std::string> folders{TEST_CATALOG_DIR};
+  EXPECT_EQ(SettingTexts(folders, 0x3FF).Caption(brightness), "Brightness") << "in English";
+  EXPECT_EQ(SettingTexts(folders, 1031).Caption(brightness), "Helligkeit");
 }
 
 }  // namespace

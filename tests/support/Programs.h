@@ -8,8 +8,6 @@
 #include <QTcpSocket>
 #include <gtest/gtest.h>
 
-#include "tests/support/Record.h"
-
 // Runs programs as separate processes, and reads the files that they write.
 
 struct Outcome {
@@ -44,20 +42,6 @@ inline QByteArray Contents(const QString& path) {
 inline void Write(const QString& path, const QByteArray& text) {
   QFile file(path);
   ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(text) == text.size());
-}
-
-/// Expects that each command line of a record, one that begins with $, ends with the exit code and
-/// the line of error behind it.
-inline void ExpectErrors(const char* record, auto run) {
-  std::string now;
-  for (const QString& line : QString::fromUtf8(Contents(record)).split('\n')) {
-    if (!line.startsWith('$')) continue;
-    const auto [exitCode, output, errors] = run(QProcess::splitCommand(line).mid(2));
-    EXPECT_EQ(output, "") << line.toStdString();
-    now += line.toStdString() + '\n' + std::to_string(exitCode) + ' ' + errors + '\n';
-  }
-  ASSERT_NE(now, "");
-  ExpectRecord(record, now);
 }
 
 #ifdef SIMULATOR_PROGRAM

@@ -131,6 +131,7 @@ void BoundedChannel::State::WakeUp() {
 }
 
 void BoundedChannel::State::Work() {
+  std::shared_ptr<ProjectorChannel> last;  // is let go after the lock
   std::unique_lock lock(mutex);
   const auto isCalled = [this] { return ended || command; };
   bool hasMoreToDo = false;
@@ -150,11 +151,7 @@ void BoundedChannel::State::Work() {
       usesIdleTime = false;
     }
     commandGiven.wait(lock, isCalled);
-    if (ended) {
-      const auto last = std::exchange(inner, nullptr);
-      lock.unlock();
-      return;
-    }
+    if (ended) return last.swap(inner);
     const PjtCommand taken = *std::exchange(command, std::nullopt);
     const auto reads = std::exchange(announced, std::nullopt);
     const auto time = longest;

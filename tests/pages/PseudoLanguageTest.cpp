@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
+#include "pages/common/NumberQuestion.h"
 #include "tests/pages/EachPage.h"
 
 namespace {
@@ -30,7 +31,7 @@ bool IsTranslated(QString text) {
          std::ranges::none_of(text, [](QChar character) { return character.isLetter(); });
 }
 
-void ExpectTranslated(const CDialog& window) {
+void ExpectTranslated(const QWidget& window) {
   EXPECT_TRUE(IsTranslated(window.windowTitle())) << window.windowTitle().toStdString();
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
     if (!widget->isVisible()) continue;
@@ -61,6 +62,9 @@ TEST_F(PseudoLanguageTest, EveryTextOfEveryPageAndPopUpIsFromTheCatalog) {
   Load("qps-ploc", TEST_PSEUDO_DIR);
   ForEachPage([](OpenDialog& open, CTabPage&) { ExpectTranslated(open.Dialog()); });
   ForEachPopup(ExpectTranslated);
+  NumberQuestion question({}, {.minimum = 0, .maximum = 9}, 3, nullptr);
+  question.show();
+  ExpectTranslated(question);
 }
 
 TEST_F(PseudoLanguageTest, TheMirroredLanguageTurnsTheDialogAround) {

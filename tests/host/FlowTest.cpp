@@ -64,9 +64,15 @@ TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
 }
 
 TEST_F(FlowTest, ClosingAPopUpClosesOnlyThePopUp) {
-  Open(kPictureTab);
-  InTheWait([] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-  Page().Click(kCustomGamma);
+  Open();
+  for (const auto& [tab, button] : {std::pair{kPictureTab, kCustomGamma}, {kOptionTab, 20373}}) {
+    ClickTab(tab);
+    InTheWait([this] {
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+      projector_->Pace(0ms);
+    });
+    Page().Click(button);
+  }
   EXPECT_TRUE(dialog_.isVisible());
   EXPECT_EQ(Status(), QString());
 }

@@ -106,8 +106,12 @@ TEST_F(PendingInputTest, IsShownUntilTheLastPressIsAnswered) {
 
 TEST_F(PendingInputTest, PositionsFollowTheOneThatIsSent) {
   Open(kPictureTab);
-  EXPECT_THAT(SentBy([this] { Page().Drag(kSlider, 7), Page().Drag(kSlider, 9); }, 5),
-              testing::ElementsAre("SetBrightness(133)", "SetBrightness(137)"));
+  const auto drag = [this] {
+    Page().Drag(kSlider, 7), Page().Drag(kSlider, 9);
+    QObject::connect(&Page().Item<CSliderCtrl>(kSlider), &CSliderCtrl::valueChanged, &dialog_,
+                     [] { ADD_FAILURE() << "a reply moves the handle"; });
+  };
+  EXPECT_THAT(SentBy(drag, 5), testing::ElementsAre("SetBrightness(133)", "SetBrightness(137)"));
 }
 
 TEST_F(PendingInputTest, AReplyDoesNotMoveTheHandleThatIsBeingDragged) {

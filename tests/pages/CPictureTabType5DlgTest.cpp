@@ -124,6 +124,7 @@ TEST_F(PictureTest, AnUnknownIrisModeDoesNotChangeTheRow) {
   EXPECT_FALSE(driver.IsEnabled(kIris)) << "as if it had not been read";
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisValueToIdx(0x11), 2);
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisValueToIdx(0x12), -1);
+  EXPECT_EQ(CPictureTabType5Dlg::ActIrisIdxToValue(0), 0);
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisIdxToValue(1), 0x10);
   EXPECT_EQ(CPictureTabType5Dlg::ActIrisIdxToValue(3), static_cast<short>(0xFFFF));
 }

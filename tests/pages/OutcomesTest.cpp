@@ -84,6 +84,8 @@ constexpr Case kCases[] = {
      "ExecBrightnessReset", "Not accepted: Reset Brightness.", 21070},
     {"reset", 5, 30, 0, [](const DialogDriver& page) { page.Click(20018); }, nullptr,
      "Lamp Time reset"},
+    {"refused without a result", 5, 30, 4, [](const DialogDriver& page) { page.Click(20305); },
+     "ExecAutoKeyStone", "Not accepted: Auto Keystone.", 20305},
     {"without a result", 5, 30, 4, [](const DialogDriver& page) { page.Click(20305); }, nullptr,
      "Sent: Auto Keystone"},
     {"with a unit", 5, 30, 7, [](const DialogDriver& page) { page.Drag(20369, 5); },
@@ -175,11 +177,21 @@ TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
   EXPECT_EQ(Said(*gamma), "User Gamma Point 1 reset");
   const auto service = MakePopUp(PopUp::Service, open.Dialog());
   Open(*service);
-  open.Projector().Refuse("SetIRFront");
-  DialogDriver(*service).Click(20375);
-  EXPECT_THAT(Said(*service), HasSubstr("On. The projector has Off."));
-  EXPECT_THAT(Marked(*service), testing::ElementsAre(20375));
+  const DialogDriver driver(*service);
+  for (const char* set : {"SetIRFront", "SetAutoAdjustEnable"}) open.Projector().Refuse(set);
+  for (const bool isOn : {false, true}) {
+    for (const char* get : {"GetIRRemoteFront", "GetAutoAdjustEnable"})
+      open.Projector().Answer(get, isOn);
+    driver.Choose(20374, 1);
+    EXPECT_THAT(Said(*service), HasSubstr(isOn ? "has Enable" : "has Disable")) << "as just read";
+    driver.Click(20375);
+    EXPECT_THAT(Said(*service),
+                HasSubstr(isOn ? "On. The projector has On" : "On. The projector has Off"));
+  }
+  EXPECT_THAT(Marked(*service), testing::ElementsAre(20374, 20375));
   EXPECT_EQ(Said(open.Page()), "");
+  driver.Click(20380);
+  EXPECT_FALSE(service->isVisible());
   Open(*service);
   EXPECT_THAT(Marked(*service), IsEmpty()) << "opened again, it has read every row";
 }

@@ -51,7 +51,8 @@ std::string Dimmed(const RowDialog& page) {
   for (const RowTemplate& row : page.Template()->rows) {
     const int id = row.controls.front().id;
     if (!page.GetDlgItem(id)->isVisibleTo(&page)) continue;
-    const int grey = qGray(drawn.pixel(page.RowRect(id).center() - veil->pos()));
+    const QPoint at = page.RowRect(id).center() - veil->pos();
+    const int grey = drawn.valid(at) ? qGray(drawn.pixel(at)) : 0;
     signs += grey == 0 ? '.' : grey < 200 ? '#' : 'X';
   }
   return signs;

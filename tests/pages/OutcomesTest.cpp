@@ -3,12 +3,10 @@
 #include <gmock/gmock.h>
 
 #include <QLabel>
-#include <QTabBar>
 
 #include "pages/common/StatusLine.h"
 #include "pages/rows/RowMarks.h"
 #include "tests/support/DialogDriver.h"
-#include "toolkit/CSliderCtrl.h"
 
 namespace {
 
@@ -114,58 +112,6 @@ TEST(Outcomes, OfAnEntryWhoseValueAnotherOneHasToo) {
   for (const int position : {2, 3}) {
     open.Driver().Choose(20108, position);
     EXPECT_EQ(Marked(open.Page()).size(), position == 3) << "it reads 1: " << Said(open.Page());
-  }
-}
-
-void Operate(const DialogDriver& driver, QWidget& control, int id) {
-  if (const auto* list = qobject_cast<CComboBox*>(&control)) {
-    driver.Choose(id, list->currentIndex() == 0 ? list->count() - 1 : 0);
-  } else if (const auto* slider = qobject_cast<CSliderCtrl*>(&control)) {
-    driver.Drag(id, slider->value() == slider->minimum() ? slider->maximum() : slider->minimum());
-  } else {
-    driver.Click(id);
-  }
-}
-
-// Operates a control twice; the second time the projector refuses what was sent the first time.
-void ExpectARefusalIsTold(OpenDialog& open, MessageBoxes& boxes, QWidget& control, int id) {
-  const auto nameOf = [](const std::string& change) { return change.substr(0, change.find(' ')); };
-  open.Projector().Take();
-  Operate(open.Driver(), control, id);
-  const auto changes = open.Projector().TakeChanges();
-  boxes.Take();
-  for (const std::string& change : changes) open.Projector().Refuse(nameOf(change));
-  open.Page().InitDisp();
-  const auto refused = [&open] { return open.Dialog().Projector().Sent().refused; };
-  const int before = refused();
-  Operate(open.Driver(), control, id);
-  if (refused() > before) {  // not known of operations without a result
-    EXPECT_TRUE(!boxes.Take().empty() || !Said(open.Page()).empty());
-    EXPECT_THAT(Marked(open.Page()), testing::Not(IsEmpty()));
-  }
-  for (const std::string& change : changes) open.Projector().Accept(nameOf(change));
-  open.Page().InitDisp();
-}
-
-TEST(Outcomes, OfEveryRefusedActAreToldAndMarked) {
-  using enum ControlKind;
-  for (const auto& [type, code] : {std::pair{1, 1}, {3, 10}, {4, 9}, {5, 53}}) {
-    OpenDialog open(FullModel(type, code));
-    open.Projector().Answer("Get 0x6000", 1);  // on, also after a refused "Turn Off"
-    MessageBoxes boxes(true);
-    for (int tab = 0; tab < open.Dialog().findChild<QTabBar*>()->count(); ++tab) {
-      open.SelectTab(tab);
-      for (const RowTemplate& row : open.Page().Template()->rows) {
-        for (const auto& [kind, id, caption, entries] : row.controls) {
-          QWidget* control = open.Page().GetDlgItem(id);
-          const bool opensPopUp = std::string_view(caption).ends_with("...");
-          if (kind <= Text || kind == Field || opensPopUp) continue;
-          if (!control->isVisible() || !control->isEnabled()) continue;
-          SCOPED_TRACE("type " + std::to_string(type) + ": " + NameOf(*control));
-          ExpectARefusalIsTold(open, boxes, *control, id);
-        }
-      }
-    }
   }
 }
 

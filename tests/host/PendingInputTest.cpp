@@ -92,6 +92,9 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
     EXPECT_FALSE(IsLight());
     Page().Drag(kSlider, start);
   }
+  InTheWait([this] { Press(2, kPlus), projector_->Pace(0ms); });
+  Page().Choose(kIris, 1);
+  EXPECT_EQ(Page().SliderAt(kSlider), start) << "not while another row waits";
 }
 
 TEST_F(PendingInputTest, IsShownUntilTheLastPressIsAnswered) {

@@ -213,7 +213,8 @@ class PageDescriber {
   // What the line beside Close says, and ! if the row is marked as refused.
   std::string Told() const {
     const QString said = page_.window()->findChild<StatusLine*>()->findChild<QLabel*>()->text();
-    std::string told = said.isEmpty() ? "" : " says " + said.mid(1).toStdString();
+    std::string told =
+        said.isEmpty() ? "" : " says " + QString(said).replace('#', '~').toStdString();
     for (const auto* marks : page_.window()->findChildren<RowMarks*>()) {
       for (const RowMarks::Mark& mark : marks->Shown()) {
         if (std::ranges::find(row_->controls, mark.control, &ControlTemplate::id) !=

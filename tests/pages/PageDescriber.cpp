@@ -184,7 +184,9 @@ class PageDescriber {
     std::vector<Outcomes> shown(rows.size());
     const auto add = [&](const std::string& name) {
       refresh_();
-      for (std::size_t i = 0; i < rows.size(); ++i) shown[i].Add(name, Shown(rows[i]));
+      for (std::size_t i = 0; i < rows.size(); ++i) {
+        shown[i].Add(name, Shown(rows[i]) + (name.ends_with("read") ? Note(rows[i]) : ""));
+      }
     };
     for (const std::int16_t value : kValues) {
       projector_.value = value;
@@ -223,6 +225,16 @@ class PageDescriber {
       }
     }
     return told;
+  }
+
+  // The note on a row.
+  std::string Note(const RowTemplate& row) const {
+    std::string note;
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind <= ControlKind::Colon || !note.empty()) continue;
+      note = page_.GetDlgItem(control.id)->toolTip().replace('#', '~').toStdString();
+    }
+    return note.empty() ? "" : " note " + note;
   }
 
   // What a row shows, and which of its controls are disabled.

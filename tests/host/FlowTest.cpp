@@ -154,8 +154,6 @@ TEST_F(FlowTest, InputDuringAWaitIsDropped) {
   const int iris = Page().Selected(kIris);
   const std::vector<PjtCommand> reads = projector_->Take();
   InTheWait([&] {
-    EXPECT_EQ(dialog_.ShownPage()->Reader().WaitingText(),
-              CatalogString(5, 4300, std::int64_t{1}, std::ssize(reads)));
     Page().Click(kBrightnessPlus);
     Page().Press(kIris, Qt::Key_Down);
     Page().Wheel(kIris, -1);

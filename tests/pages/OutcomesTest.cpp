@@ -38,28 +38,6 @@ struct Case {
   int boxes = 0;
 };
 
-void PrintTo(const Case& tried, std::ostream* out) { *out << tried.name; }
-
-class Outcomes : public testing::TestWithParam<Case> {};
-
-TEST_P(Outcomes, AreSaidBesideCloseAndMarkedUntilTheNextSuccess) {
-  const Case& tried = GetParam();
-  OpenDialog open(FullModel(5, 30), tried.tab, Answers({{"Get 0x2003", 128}, {"Get 0x2004", 128}}));
-  MessageBoxes boxes;
-  open.Projector().Refuse(tried.refused);
-  tried.act(open.Driver());
-  EXPECT_EQ(Said(open.Page()), tried.said);
-  EXPECT_EQ(boxes.Take().size(), static_cast<std::size_t>(tried.boxes));
-  EXPECT_THAT(Marked(open.Page()), testing::ElementsAre(tried.marked));
-  const QWidget& control = *open.Page().GetDlgItem(tried.marked);
-  EXPECT_THAT(control.toolTip().toStdString(), HasSubstr(tried.said));
-  EXPECT_THAT(control.accessibleDescription().toStdString(), HasSubstr(tried.said));
-  open.Projector().Accept(tried.refused);
-  tried.act(open.Driver());
-  EXPECT_THAT(Marked(open.Page()), IsEmpty());
-  EXPECT_EQ(control.toolTip().indexOf(QString::fromUtf8(tried.said)), -1);
-}
-
 constexpr Case kCases[] = {
     {"step", 1, [](const DialogDriver& page) { page.Click(20135); }, "Inc 0x2003",
      "Not accepted: Brightness +. The projector has 0.", 20136, 1},
@@ -71,7 +49,26 @@ constexpr Case kCases[] = {
      "ExecAutoKeyStone", "Not accepted: Auto Keystone.", 20305},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, Outcomes, testing::ValuesIn(kCases));
+TEST(Outcomes, AreSaidBesideCloseAndMarkedUntilTheNextSuccess) {
+  for (const Case& tried : kCases) {
+    SCOPED_TRACE(tried.name);
+    OpenDialog open(FullModel(5, 30), tried.tab,
+                    Answers({{"Get 0x2003", 128}, {"Get 0x2004", 128}}));
+    MessageBoxes boxes;
+    open.Projector().Refuse(tried.refused);
+    tried.act(open.Driver());
+    EXPECT_EQ(Said(open.Page()), tried.said);
+    EXPECT_EQ(boxes.Take().size(), static_cast<std::size_t>(tried.boxes));
+    EXPECT_THAT(Marked(open.Page()), testing::ElementsAre(tried.marked));
+    const QWidget& control = *open.Page().GetDlgItem(tried.marked);
+    EXPECT_THAT(control.toolTip().toStdString(), HasSubstr(tried.said));
+    EXPECT_THAT(control.accessibleDescription().toStdString(), HasSubstr(tried.said));
+    open.Projector().Accept(tried.refused);
+    tried.act(open.Driver());
+    EXPECT_THAT(Marked(open.Page()), IsEmpty());
+    EXPECT_EQ(control.toolTip().indexOf(QString::fromUtf8(tried.said)), -1);
+  }
+}
 
 TEST(Outcomes, OfAnEntryWhoseValueAnotherOneHasToo) {
   CModelInfo2 model = MakeModel(1, 1);

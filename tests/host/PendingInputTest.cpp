@@ -92,6 +92,9 @@ TEST_F(PendingInputTest, IsCarriedOutInOrder) {
     EXPECT_FALSE(IsLight());
     Page().Drag(kSlider, start);
   }
+  InTheWait([this] { Press(2, kPlus), projector_->Pace(0ms); });
+  Page().Choose(kIris, 1);
+  EXPECT_EQ(Page().SliderAt(kSlider), start) << "not while another row waits";
 }
 
 TEST_F(PendingInputTest, IsShownUntilTheLastPressIsAnswered) {
@@ -106,8 +109,12 @@ TEST_F(PendingInputTest, IsShownUntilTheLastPressIsAnswered) {
 
 TEST_F(PendingInputTest, PositionsFollowTheOneThatIsSent) {
   Open(kPictureTab);
-  EXPECT_THAT(SentBy([this] { Page().Drag(kSlider, 7), Page().Drag(kSlider, 9); }, 5),
-              testing::ElementsAre("SetBrightness(133)", "SetBrightness(137)"));
+  const auto drag = [this] {
+    Page().Drag(kSlider, 7), Page().Drag(kSlider, 9);
+    QObject::connect(&Page().Item<CSliderCtrl>(kSlider), &CSliderCtrl::valueChanged, &dialog_,
+                     [] { ADD_FAILURE() << "a reply moves the handle"; });
+  };
+  EXPECT_THAT(SentBy(drag, 5), testing::ElementsAre("SetBrightness(133)", "SetBrightness(137)"));
 }
 
 TEST_F(PendingInputTest, AReplyDoesNotMoveTheHandleThatIsBeingDragged) {

@@ -184,6 +184,14 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   open.Projector().Refuse("Get 0x2004");
   open.Dialog().DispTabScreen();
   EXPECT_THAT(Differing(), ElementsAre(kBrightness)) << "the other is not known";
+  WantedSettings first;  // of the positions
+  first.Add("picture.active-iris", {}, 0);
+  first.Add("service.ir-front", {}, 2);
+  open.Dialog().SetWanted(first);
+  EXPECT_THAT(Differing(), ElementsAre(kIris));
+  const auto service = MakePopUp(PopUp::Service, open.Dialog());
+  Open(*service);
+  EXPECT_THAT(Menu(*service, 20375), testing::HasSubstr("Set to wanted: On"));
   open.Dialog().SetWanted(WantedSettings());
   EXPECT_THAT(Differing(), IsEmpty());
   EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture"));

@@ -12,6 +12,7 @@
 #include "pages/setup/CAudioType5Dlg.h"
 #include "pages/setup/CSetupType5TabDlg.h"
 #include "tests/support/DialogDriver.h"
+#include "toolkit/CSliderCtrl.h"
 
 namespace {
 
@@ -26,7 +27,7 @@ void ExpectOwnControls(int tab, const Handlers<Page>& handlers) {
   for (const CModelInfo2& model : EveryModel()) {
     if (model.DialogType != 5 || tried.size() == handlers.size()) continue;
     SCOPED_TRACE(NameOf(model));
-    OpenDialog open(model, tab, Answers({{"Get", 128}, {"Get 0x3304", 0}}));
+    OpenDialog open(model, tab, Answers({{"Get", 128}, {"Get 0x3304", 0}, {"Get 0x300A", 95}}));
     MessageBoxes boxes(true);
     std::unique_ptr<RowDialog> popUp;
     if constexpr (std::is_same_v<Page, CServiceDlg>) {
@@ -37,6 +38,12 @@ void ExpectOwnControls(int tab, const Handlers<Page>& handlers) {
     if (dynamic_cast<Page*>(&page) == nullptr) continue;  // Not every model has the page.
     const DialogDriver driver(page);
     open.Projector().Take();
+    if constexpr (requires { &Page::OnHScroll; }) {
+      for (auto* slider : page.findChildren<CSliderCtrl*>()) {
+        if (slider->isVisible()) static_cast<Page&>(page).OnHScroll(*slider);
+        EXPECT_NE(open.Projector().TakeChanges().empty(), slider->isVisible());
+      }
+    }
     const std::vector<int> controls = OperatedControls(page);
     ASSERT_EQ(controls.size(), handlers.size());
     for (std::size_t i = 0; i < handlers.size(); ++i) {
@@ -90,7 +97,7 @@ TEST(NamedHandlers, Setup5) {
   ExpectOwnControls<Page>(
       4, {BUTTON(Stu5Btnatks), BUTTON(Stu5Btksvneg), BUTTON(Stu5Btksvpos), BUTTON(Stu5Btkshneg),
           BUTTON(Stu5Btkshpos), LIST(Stu5Wspcomb), LIST(Stu5Mircomb), BUTTON(Stu5Btvolneg),
-          BUTTON(Stu5Btvolpos), LIST(Stu5Speakercomb), BUTTON(DzoomDecBtn), nullptr,
+          BUTTON(Stu5Btvolpos), LIST(Stu5Speakercomb), BUTTON(DzoomDecBtn), BUTTON(DzoomIncBtn),
           BUTTON(DshiftUpBtn), BUTTON(DshiftDownBtn), BUTTON(DshiftLeftBtn), BUTTON(DshiftRightBtn),
           nullptr, BUTTON(Stu5Btreset),
           // The right column.

@@ -3,10 +3,13 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QHoverEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QToolButton>
 
 #include "device/channels/LoggingChannel.h"
+#include "pages/common/StatusLine.h"
+#include "pages/rows/RowMarks.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 
@@ -129,7 +132,7 @@ class PageDescriber {
       for (int i = -1; i < list.count(); ++i) {
         list.setCurrentIndex(i);
         log = Log(click);
-        text += "\n      " + list.currentText().toStdString() + ':' + log;
+        text += "\n      " + list.currentText().toStdString() + ':' + log + Told();
       }
     } else {
       if (slider_ != 0 && control.kind != ControlKind::Button) {
@@ -139,7 +142,7 @@ class PageDescriber {
         Drag((slider.minimum() + slider.maximum()) / 2);
       }
       log = Log(click);
-      text += ':' + log;
+      text += ':' + log + Told();
     }
     text += Shown(*row_).empty() ? "\n" : " →" + Shown(*row_) + '\n';
     return text + (log.empty() ? "" : Otherwise([&click](bool) { click(); }));
@@ -164,7 +167,7 @@ class PageDescriber {
         projector_.mood = refused ? Mood::Refuses : Mood::Ignores;
         const std::string log = Log([&] { act(refused); });
         outcomes.Add(std::string(refused ? "refused" : "ignored") + (unreadable ? " unread" : ""),
-                     log + " →" + Shown(*row_));
+                     log + " →" + Shown(*row_) + Told());
       }
     }
     projector_.mood = Mood::Obeys;
@@ -181,7 +184,9 @@ class PageDescriber {
     std::vector<Outcomes> shown(rows.size());
     const auto add = [&](const std::string& name) {
       refresh_();
-      for (std::size_t i = 0; i < rows.size(); ++i) shown[i].Add(name, Shown(rows[i]));
+      for (std::size_t i = 0; i < rows.size(); ++i) {
+        shown[i].Add(name, Shown(rows[i]) + (name.ends_with("read") ? Note(rows[i]) : ""));
+      }
     };
     for (const std::int16_t value : kValues) {
       projector_.value = value;
@@ -205,6 +210,31 @@ class PageDescriber {
     std::string log = std::exchange(projector_.log, {});
     const std::size_t all = pageReads_.empty() ? std::string::npos : log.find(pageReads_);
     return all == std::string::npos ? log : log.replace(all, pageReads_.size(), " …");
+  }
+
+  // What the line beside Close says, and ! if the row is marked as refused.
+  std::string Told() const {
+    const QString said = page_.window()->findChild<StatusLine*>()->findChild<QLabel*>()->text();
+    std::string told =
+        said.isEmpty() ? "" : " says " + QString(said).replace('#', '~').toStdString();
+    for (const auto* marks : page_.window()->findChildren<RowMarks*>()) {
+      for (const RowMarks::Mark& mark : marks->Shown()) {
+        if (std::ranges::find(row_->controls, mark.control, &ControlTemplate::id) !=
+            row_->controls.end())
+          told += " !";
+      }
+    }
+    return told;
+  }
+
+  // The note on a row.
+  std::string Note(const RowTemplate& row) const {
+    std::string note;
+    for (const ControlTemplate& control : row.controls) {
+      if (control.kind <= ControlKind::Colon || !note.empty()) continue;
+      note = page_.GetDlgItem(control.id)->toolTip().replace('#', '~').toStdString();
+    }
+    return note.empty() ? "" : " note " + note;
   }
 
   // What a row shows, and which of its controls are disabled.

@@ -36,6 +36,12 @@ struct NumberedCatalog {
     // Texts with an inserted text, and with an inserted number.
     list.entries[ListText::StatusValue] = Ansi("status %1\r\n");
     list.entries[ListText::Hours] = Ansi("%1!d! h\r\n");
+    list.entries[ListText::RangeNote] = Ansi("%1!d! to %2!d!\r\n");
+    list.entries[ListText::NotAccepted] = Ansi("refused: %1\r\n");
+    list.entries[ListText::NotAcceptedHas] = Ansi("refused: %1, has %2\r\n");
+    for (const int done : {ListText::ActionDone, ListText::ActionSent, ListText::ResetDone,
+                           ListText::ChoiceGoesNowhere})
+      list.entries[static_cast<std::size_t>(done)] = Ansi(std::to_string(done) + " %1\r\n");
     const TestBlock errors{MessageId(2201, 0), captions.entries};
     const std::string folder = own.path().toStdString();
     TestModule({{1033, {captions, list, errors}}}).Save(folder + "/mcdll.dll");

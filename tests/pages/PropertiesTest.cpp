@@ -63,7 +63,11 @@ TEST(Properties, AreAsRecorded) {
       ++found[line];
     }
   };
-  ForEachPage([&](OpenDialog& open, CTabPage&) { look(open.Dialog()); }, {FullModel(5, 30)});
+  const auto withReset = [&](OpenDialog& open, CTabPage& page) {
+    if (auto* slider = page.findChild<QSlider*>()) slider->setFocus();
+    look(open.Dialog());
+  };
+  ForEachPage(withReset, {FullModel(5, 30)});
   ForEachPopup(look);
   QWidget window;
   window.setLayoutDirection(Qt::RightToLeft);

@@ -25,9 +25,8 @@ QInputDialog& Asked(CDialog& page, int id) {
 }
 
 struct RowMenus : testing::Test {
-  OpenDialog open{
-      FullModel(5, 30), 1,
-      Answers({{"Get 0x2003", 138}, {"Get 0x3304", 16}, {"Get 0x2201", 100}, {"Get 0x2004", -1}})};
+  OpenDialog open{FullModel(5, 30), 1,
+                  Answers({{"Get 0x2003", 138}, {"Get 0x2201", 100}, {"Get 0x2004", -1}})};
   CTabPage& page = open.Page();
   DialogDriver driver = open.Driver();
 };
@@ -42,12 +41,12 @@ TEST_F(RowMenus, ShowTheRangeAndTheOpeningValueOfARow) {
            {kContrast,
             "(The projector did not report this setting.), (Put back), "
             "(Enter a value…), Copy"},
-           {kIris, "(When opened: Theater), (Put back), Copy"},
-           {kIrisCaption, "(When opened: Theater), (Put back), Copy"},
+           {kIris, "(When opened: Off), (Put back), Copy"},
+           {kIrisCaption, "(When opened: Off), (Put back), Copy"},
            {21065, ""}}) {
     EXPECT_EQ(Menu(page, control, "Copy"), lines) << control;
   }
-  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Active Iris: Theater"));
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Active Iris: Off"));
   open.Projector().Refuse("Get 0x2003");
   page.InitDisp();
   EXPECT_NE(Menu(page, kField).find("(When opened: 10), (Put back), (Enter a value…), Copy"),
@@ -59,12 +58,12 @@ TEST_F(RowMenus, PutBackActsLikeAUserAndNeverWhileAHandlerRuns) {
   Open(*service);
   DialogDriver(*service).Click(kIrFront);
   driver.Drag(kBrightness, 4);
-  driver.Choose(kIris, 0);
+  driver.Choose(kIris, 1);
   open.Projector().Take();
   for (const bool busy : {true, false}) {
     for (const int control : {kBrightness, kIris}) Menu(page, control, "Put back", busy);
     Menu(*service, kIrFront, "Put back", busy);
-    const Strings all{"SetBrightness 138", "Set 0x3304 16", "SetIRFront 0"};
+    const Strings all{"SetBrightness 138", "Set 0x3304 0", "SetIRFront 0"};
     EXPECT_EQ(open.Projector().Take(), busy ? Strings() : all);
   }
   EXPECT_EQ(Menu(*service, kIrFront), "(When opened: Off), (Put back), Copy");
@@ -83,8 +82,8 @@ TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
   EXPECT_EQ(question->textValue(), QStringLiteral("10"));
   EXPECT_EQ(question->labelText(), QStringLiteral("Range: -32 to 32"));
   auto* field = question->findChild<QLineEdit*>();
-  for (const char* text : {"-99", "33", "", "7 8", "7.5", "0x7", "99999999999"}) {
-    field->setText(QString());
+  for (const char* text : {"-99", "33", "7 8", "", "7.5", "0x7", "99999999999"}) {
+    QTest::keyClick(field, Qt::Key_Backspace);  // all of it is selected
     QTest::keyClicks(field, QString::fromUtf8(text));
     QTest::keyClick(question, Qt::Key_Return);
     EXPECT_EQ(open.Projector().Take(), Strings{}) << text;
@@ -92,7 +91,7 @@ TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
     EXPECT_EQ(question->textValue(), QString::fromUtf8(text));
     EXPECT_EQ(question->labelText(), QStringLiteral("Enter a whole number from -32 to 32."));
   }
-  field->setText(QString());
+  QTest::keyClick(field, Qt::Key_Backspace);
   QTest::keyClicks(field, QStringLiteral("-32"));
   open.Projector().Refuse("SetBrightness");
   QTest::keyClick(question, Qt::Key_Return);
@@ -108,6 +107,7 @@ TEST_F(RowMenus, ATypedNumberIsSentAndRefusedLikeADrag) {
 
 TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
   OpenDialog open(FullModel(5, 51), 7);
+  open.Dialog().SetProjectorName("Hall");
   const RowMenu menu(RowMenu::Row(), &open.Page());
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     EXPECT_GE(ContrastOf(menu.palette().color(QPalette::Disabled, role),
@@ -116,6 +116,7 @@ TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
   }
   EXPECT_TRUE(menu.actions().front()->isSeparator());
   const QPointer question = &Asked(open.Page(), kAutoOff);
+  EXPECT_EQ(question->windowTitle(), QStringLiteral("Hall — Auto Off"));
   const auto* field = question->findChild<QLineEdit*>();
   const auto* unit = field->findChild<QLabel*>();
   ASSERT_NE(unit, nullptr);
@@ -123,7 +124,9 @@ TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
   EXPECT_TRUE(field->rect().contains(unit->geometry()));
   EXPECT_GE(field->textMargins().right(), field->width() - unit->x() - 1)
       << "the number ends there";
+  question->setTextValue(QStringLiteral("7"));
   question->reject();
+  EXPECT_EQ(open.Projector().Take(), Strings{});
   EXPECT_TRUE(Soon([&] { return question == nullptr; }));
 }
 
@@ -135,7 +138,9 @@ TEST(RowMenu, TheOpeningValueBelongsToTheInputSource) {
   open.Driver().Drag(kVolume, 9);
   open.Projector().Answer("GetInputSource", 3);
   open.Projector().Answer("GetInputSrcVolume 3", 5);
-  open.Projector().TakeChanges();
+  open.Projector().Take();
+  Menu(open.Page(), kVolume, "Put back", true);
+  EXPECT_EQ(open.Projector().Take(), Strings{}) << "a handler runs";
   Menu(open.Page(), kVolume, "Put back");
   EXPECT_EQ(open.Projector().TakeChanges(), Strings{});
   EXPECT_EQ(open.Driver().SliderAt(kVolume), 5);

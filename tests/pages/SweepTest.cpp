@@ -40,21 +40,6 @@ TEST(Sweep, EveryControlHasAUniqueNumberANameAndExactlyOneHandler) {
   ForEachPopup(ExpectControlsWellKnown);
 }
 
-// Reads for an input source follow the question for the source; all others are announced.
-TEST(Sweep, APageAnnouncesItsReads) {
-  ForEachPage([](OpenDialog& open, CTabPage& page) {
-    open.Projector().Take();
-    for (const PjtCommand& command : page.Reader().Reads()) open.Projector().Execute(command);
-    const std::vector<std::string> announced = open.Projector().Take();
-    page.InitDisp();
-    std::vector<std::string> sent = open.Projector().Take();
-    std::erase_if(sent, [](const std::string& read) {
-      return read.starts_with("GetInputSrc") || read.starts_with("GetSRSWOW");
-    });
-    EXPECT_EQ(announced, sent);
-  });
-}
-
 // Whether a row of the template can be used. The button beside an empty list does nothing.
 bool IsOperable(const CDialog& page, const RowTemplate& row) {
   bool operable = false;

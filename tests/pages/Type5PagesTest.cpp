@@ -1,12 +1,14 @@
 // The pages of the newest page set.
 
+#include <gmock/gmock.h>
+
 #include <QAbstractButton>
 #include <QGuiApplication>
 #include <QLabel>
-#include <gtest/gtest.h>
 
 #include "pages/input/CInputType5Dlg.h"
 #include "pages/setup/CAudioType5Dlg.h"
+#include "pages/setup/CSetupType5TabDlg.h"
 #include "resources/ArrowBitmap.h"
 #include "tests/support/DialogDriver.h"
 
@@ -42,6 +44,8 @@ TEST(Input5, TheCaptionOfAnUnreadableListIsNotGreyed) {
   EXPECT_FALSE(page.driver.Item<QWidget>(20294).isEnabled());
   for (const int caption : {20500, 20508})
     EXPECT_TRUE(page.driver.Item<QWidget>(caption).isEnabled());
+  static_cast<CInputType5Dlg&>(page.Page()).Init();
+  EXPECT_FALSE(page.projector.Take().empty());
 }
 
 TEST(Input5, VideoFormatsHavePositions) {
@@ -96,6 +100,10 @@ TEST(Setup5, TheVolumeBelongsToTheCurrentInput) {
   page.Page().InitDisp();
   EXPECT_FALSE(page.driver.IsEnabled(20317));
   EXPECT_EQ(page.driver.Text(20142) + page.driver.Text(kCurrentInput), "");
+  for (const bool disabled : {false, true}) {
+    static_cast<CSetupType5TabDlg&>(page.Page()).DisableVolumeCtrl(disabled);
+    EXPECT_NE(page.driver.IsEnabled(20317), disabled);
+  }
 }
 
 TEST(Setup5, OnlyTheZoomButtonsRequireTheResultOne) {
@@ -217,6 +225,8 @@ TEST(Audio5, AButtonRemembersTheDeviceValue) {
   page.ExpectValue(20350, 3, 20315, "3");
   page.driver.Drag(20350, 0);
   page.ExpectValue(20350, 4, 20315, "");
+  EXPECT_THAT(Menu(page.Page(), 20350), testing::HasSubstr("(Enter a value…)"));
+  EXPECT_EQ(DialogDriver(page.Dialog().Page(PageId::SetupType5)).Text(20142), "16") << "not read";
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTabBar>
 #include <QTest>
 #include <QWheelEvent>
@@ -142,7 +143,7 @@ std::string Menu(CDialog& page, int id, const char* choice, bool overtaken) {
   const QPoint middle = control.rect().center();
   QContextMenuEvent event(QContextMenuEvent::Mouse, middle, control.mapToGlobal(middle));
   QApplication::sendEvent(&control, &event);
-  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  const QPointer menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   const int before = static_cast<RowDialog&>(page).projector->Sent().commands;
   QStringList lines;
   for (QAction* action : menu != nullptr ? menu->actions() : QList<QAction*>()) {
@@ -151,9 +152,12 @@ std::string Menu(CDialog& page, int id, const char* choice, bool overtaken) {
     if (action->text() == QString::fromUtf8(choice)) action->trigger();
   }
   EXPECT_EQ(static_cast<RowDialog&>(page).projector->Sent().commands, before);
+  EXPECT_EQ(menu == nullptr, lines.isEmpty());
   if (menu != nullptr) menu->close();
   const CDialog::Busy handler(overtaken ? &page : nullptr);
   QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(menu == nullptr);
   return lines.join(QStringLiteral(", ")).toStdString();
 }
 

@@ -20,7 +20,6 @@ constexpr int kUnitMargin = 6;  // in pixels
 NumberQuestion::NumberQuestion(const QString& caption, Range range, int present, QWidget* parent)
     : QInputDialog(parent), range_(range) {
   setAttribute(Qt::WA_DeleteOnClose);
-  setInputMode(TextInput);
   setTextValue(QString::number(present));
   setWindowTitle(caption);
   setLabelText(range == kUnbounded

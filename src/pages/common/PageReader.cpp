@@ -43,12 +43,10 @@ PageReader::Reading::~Reading() {
     reader_.MarkUnread();
     return;
   }
+  // Controls beside a list may have been enabled or disabled with it.
   for (const auto& row : reader_.rows_) {
-    row->memory.unread = false;
-    // Controls beside the list may have been enabled or disabled with it.
     if (row->memory.note != RowNote::None) reader_.notes_.GreyCaption(*row);
   }
-  reader_.UpdateVeil();
   const bool isAnswered = reader_.Projector().Sent().unanswered == reader_.sentBefore_.unanswered;
   if (isAnswered) reader_.sinceRead_.start();
 }
@@ -58,19 +56,18 @@ void PageReader::MarkUnread() {
   if (veil_ != nullptr) UpdateVeil();
 }
 
-std::vector<PjtCommand> PageReader::Reads() const {
-  std::vector<PjtCommand> commands;
+int PageReader::CountReads() const {
+  int count = 0;
   OfSource asked = OfSource::None;
   for (const auto& row : rows_) {
     if (!row->memory.present) continue;
-    if (const OfSource of = SourceOf(row->Row()); of != OfSource::None) {
-      if (std::exchange(asked, of) == of) continue;
-      for (const Call& call : SourceQuestions(of)) commands.push_back(call.Command());
-    } else if (const auto call = ReadingOf(row->Row(), host_.Dialog().Model())) {
-      commands.push_back(call->Command());
+    const OfSource of = SourceOf(row->Row());
+    if (of != OfSource::None && std::exchange(asked, of) != of) {
+      count += static_cast<int>(SourceQuestions(of).size());
     }
+    count += of != OfSource::None || ReadingOf(row->Row(), host_.Dialog().Model());
   }
-  return commands;
+  return count;
 }
 
 // The reads from row `first` on that can be announced together. They end with the question for a
@@ -200,12 +197,8 @@ PageReader::Source PageReader::AskFor(OfSource of) {
 QString PageReader::WaitingText() const {
   if (readings_ == 0) return CatalogString(kListCategory, ListText::Waiting);
   const int next = Projector().Sent().commands - sentBefore_.commands + 1;
-  auto total = static_cast<int>(Reads().size());
-  for (const auto& row : rows_) {
-    total += row->memory.present && SourceOf(row->Row()) != OfSource::None;
-  }
   return CatalogString(kListCategory, ListText::Reading, std::int64_t{next},
-                       std::int64_t{std::max(next, total)});
+                       std::int64_t{std::max(next, CountReads())});
 }
 
 void PageReader::ShowWaiting(bool waiting) {

@@ -41,10 +41,6 @@ class PageReader {
     PageReader& reader_;
   };
 
-  /// The commands that a refresh sends for the rows in their present state, in order. For a row
-  /// whose second command depends on the first answer, only the first one.
-  std::vector<PjtCommand> Reads() const;
-
   /// Reads and shows every row that the model has.
   void ReadAll();
   /// Reads and shows one row for a known input source.
@@ -73,6 +69,8 @@ class PageReader {
 
  private:
   CPjtInterface& Projector() const;
+  /// How many commands a reading sends if each row that depends on a source sends one.
+  int CountReads() const;
   std::vector<PjtCommand> ReadsFrom(std::size_t first, OfSource known, Source source) const;
   void Read(RowView& row, Source source, const CPjtInterface::Tally& before);
   void UpdateVeil();

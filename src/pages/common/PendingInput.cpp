@@ -45,7 +45,6 @@ void PendingInput::Run(const Notification& entry, CSliderCtrl* slider) {
     acts_.erase(acts_.begin());
     Show();
   }
-  row_->Widgets().ShowPending({});
   Watch(false);
   row_ = nullptr;
 }

@@ -135,7 +135,7 @@ TEST(Servers, AListenerServesOnlySoManyAndOthersWait) {
   TcpListener listener({.connections = 2, .readBuffer = 512}, [&](auto socket) {
     EXPECT_EQ(socket->state(), QAbstractSocket::ConnectedState);
     EXPECT_EQ(socket->readBufferSize(), 512);
-    EXPECT_LT(guests.size() - std::ranges::count(guests, nullptr), 2U);
+    EXPECT_LT(std::ssize(guests) - std::ranges::count(guests, nullptr), 2);
     return guests.emplace_back(new Guest(socket.release())).data();
   });
   ASSERT_TRUE(listener.listen(QHostAddress::LocalHost));

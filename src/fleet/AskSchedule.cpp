@@ -31,10 +31,10 @@ void AskSchedule::Hasten(SessionTime now, const FleetPolicy& policy) {
 }
 
 SessionTime::duration AskSchedule::PauseOf(const FleetPolicy& policy) const {
-  constexpr int kMostDoublings = 20;
-  const int doublings = std::clamp(failures_ - 1, 0, kMostDoublings);
-  return std::min<SessionTime::duration>(policy.interval * (std::int64_t{1} << doublings),
-                                         std::max(policy.longestPause, policy.interval));
+  const auto longest = std::max(policy.longestPause, policy.interval);
+  auto pause = policy.interval;
+  for (int i = 1; i < failures_ && pause < longest; ++i) pause *= 2;
+  return std::min(pause, longest);
 }
 
 void AskSchedule::SetNext(SessionTime::duration pause, const FleetPolicy& policy) {

@@ -48,6 +48,9 @@ class FleetNetwork {
   virtual void Send(Peer peer, std::string_view bytes) = 0;
   /// Ends the connection, or the attempt to connect. No more events of it follow.
   virtual void Close(Peer peer) = 0;
+  /// The same; nobody has answered in time, so the next attempt may be at another address of the
+  /// name.
+  virtual void GiveUp(Peer peer) { Close(peer); }
 };
 
 }  // namespace AdvancedControl

@@ -85,6 +85,7 @@ void SearchDriver::Visit::Drive() {
     const PjLinkStep step = inquiry_.Next(Now());
     switch (step.kind) {
       case PjLinkStep::Kind::Finished:
+        timer_.stop();
         Drop();
         return driver_.End(this);
       case PjLinkStep::Kind::Connect:

@@ -51,13 +51,14 @@ void SocketNetwork::Send(Peer peer, std::string_view bytes) {
   }
 }
 
-void SocketNetwork::Close(Peer peer) {
+void SocketNetwork::Close(Peer peer) { At(peer).Close(); }
+
+void SocketNetwork::GiveUp(Peer peer) {
   const SocketConnection& connection = At(peer);
-  // Where nobody has answered in time, the next attempt is at another address of the name.
   if (connection.GetStage() == Stage::Connecting && !connection.Name().empty()) {
     names_.TakeFailure(connection.Name(), connection.AddressNumber());
   }
-  At(peer).Close();
+  Close(peer);
 }
 
 std::uint16_t SocketNetwork::ListenForNotices(const std::string& address, std::uint16_t port) {

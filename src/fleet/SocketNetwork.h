@@ -22,6 +22,7 @@ class SocketNetwork final : public FleetNetwork {
   void OpenLine(Peer peer, const std::string& device, std::int32_t baud) override;
   void Send(Peer peer, std::string_view bytes) override;
   void Close(Peer peer) override;
+  void GiveUp(Peer peer) override;
 
   /// Gives up the address of the peer's host name that it is connecting to, and connects to the
   /// next one. False if there is none.

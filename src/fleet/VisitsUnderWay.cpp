@@ -72,7 +72,7 @@ void VisitsUnderWay::Drive(Peer peer) {
         network_.Send(peer, step.bytes);
         break;
       case Kind::Close:
-        network_.Close(peer);
+        network_.GiveUp(peer);
         break;
       case Kind::Wait:
         // A timer that runs out too early only asks again; most are never needed.

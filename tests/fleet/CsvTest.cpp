@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QStringConverter>
 
@@ -35,21 +36,13 @@ std::string Described(const CsvTable& table) {
   return text.replace('\n', '~').toStdString();
 }
 
-using Case = std::pair<QByteArray, const char*>;
-
 TEST(Csv, ReadsWhatSpreadsheetsExport) {
-  const Case cases[] = {
-      {"name,address\nA,B\n", "name/address | 2: A/B"},
-      {"\xEF\xBB\xBFname;address\r\nA,x;B\r\n\r\n;\r\nC;D", "name/address | 2: A,x/B | 5: C/D"},
-      {"name\taddress\rA; x\tB\r", "name/address | 2: A; x/B"},
-      {"sep=|\nname|x\nA;,|B", "name/x | 3: A;,/B"},
-      {"\n\nname , \"x;y;z\"\n \"A \"\"b\"\"\" , B \n", "name/x;y;z | 4: A \"b\"/B"},
-      {"name,x\n\"two\r\nlines\",B\nC;;;;,D", "name/x | 2: two~lines/B | 4: C;;;;/D"},
-      {"name,x\nA\nB,C,\nD,E,F\nG,'=1\n",
-       "name/x | 2: A/ | 3: B/C | 5: G/=1 ! 4: 3 cells, but the header has 2"},
-      {"name,x\n\"A\" b,C\nD,E\nF,\"G\nH,I",
-       "name/x | 3: D/E | 5: H/I ! 2: a text goes on behind its closing quotation mark ! 4: a "
-       "quotation mark is not closed"},
+  ExpectAnswers(TEST_SOURCE_DIR "/fleet/Tables.txt", [](const std::string& question) {
+    const QByteArray text = QByteArray::fromStdString(question).replace('"', "\\\"");
+    const auto table = QJsonDocument::fromJson("[\"" + text + "\"]")[0].toString();
+    return Described(ParseCsv(table.toUtf8()));
+  });
+  const std::pair<QByteArray, const char*> cases[] = {
       {Utf16("name;ü\nÄ;B", false, true), "name/ü | 2: Ä/B"},
       {Utf16("name;ü\nÄ;B", true, false), "name/ü | 2: Ä/B"},
       {Utf16("name;ü\nÄ;B", false, false), "name/ü | 2: Ä/B"},
@@ -57,13 +50,7 @@ TEST(Csv, ReadsWhatSpreadsheetsExport) {
       {"name,\xFC\n\xC4 "
        "\x80\x81\x82\x83\x84\x85\x86\x87\x88\x89\x8a\x8b\x8c\x8d\x8e\x8f\x90\x91\x92\x93\x94\x95"
        "\x96\x97\x98\x99\x9a\x9b\x9c\x9d\x9e\x9f\xa0-,B",
-       "name/ü | 2: Ä €�‚ƒ„…†‡ˆ‰Š‹Œ�Ž��‘’“”•–—˜™š›œ�žŸ -/B"},
-      {"", " ! 1: there is no header"},
-      {"\"name\nA", " ! 1: a quotation mark is not closed"},
-      {"sep=", "sep="},
-      {"name,x\rA, \r'B,\"C\"", "name/x | 2: A/ | 3: 'B/C"},
-      {"name\n\"A\" ", "name | 2: A"},
-      {"name\nA\n ", "name | 2: A"},
+       "name/ü | 2: Ä €�‚ƒ„…†‡ˆ‰Š‹Œ�Ž��‘’“”•–—˜™š›œ�žŸ\u00A0-/B"},
       {"name\n" + QByteArray(255, ','), "name"},
       {"name\n" + QByteArray(256, ','), "name ! 2: more than 256 cells"},
       {QByteArray((64 << 20) + 1, ' '), " ! 1: more than 67108864 bytes"},

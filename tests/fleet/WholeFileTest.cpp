@@ -39,11 +39,14 @@ TEST(WholeFile, IsWrittenWholeOrNotAtAll) {
   for (const char* const number : {"-2.", "-3."}) {
     EXPECT_EQ(WriteNewFile(file, QByteArray(70'000, 'x')).path, file + number);
   }
+  const QString circle = folder.filePath("circle");
+  ASSERT_TRUE(QFile::link(folder.filePath("none/../circle"), circle));
   const std::pair<QString, const char*> wrong[] = {
       {folder.path(), "Is a directory"},
       {file + "/in", "Not a directory"},
       {folder.filePath(QString(256, 'x')), "File name too long"},
-      {folder.filePath("none/in"), "No such file or directory"}};
+      {folder.filePath("none/in"), "No such file or directory"},
+      {circle, "Too many levels of symbolic links"}};
   for (const auto& [path, error] : wrong) {
     EXPECT_EQ(fault(WriteWholeFile(path, "new")), error);
     EXPECT_EQ(fault(CheckWholeFile(path)), error);

@@ -201,7 +201,6 @@ const NotificationMap& CAdvanceDlg::Notifications() const {
 }
 
 bool CAdvanceDlg::OnInitDialog() {
-  CDialog::OnInitDialog();
   parts_->data.UseNext();
   projector_.CutOff(false);
   parts_->savedResources = ResourceChain::SetCurrent(&AdvancedControlResources());
@@ -252,7 +251,6 @@ void CAdvanceDlg::OnSelchangeAdvanceTab() { DispTabScreen(); }
 void CAdvanceDlg::OnOrphaned() { projector_.CutOff(true); }
 
 void CAdvanceDlg::OnDestroy() {
-  CDialog::OnDestroy();
   parts_->inputsWatch.stop();
   auto& open = OpenDialogs();
   const auto self = std::ranges::find(open, this);
@@ -272,7 +270,6 @@ void CAdvanceDlg::resizeEvent(QResizeEvent* event) {
   if (parts_->pages.Tabs() != nullptr) parts_->frame.Place(parts_->Framed());
 }
 
-void CAdvanceDlg::paintEvent(QPaintEvent* event) {
-  CDialog::paintEvent(event);
+void CAdvanceDlg::paintEvent(QPaintEvent*) {
   if (parts_->pages.Tabs() != nullptr) parts_->frame.Paint(parts_->Framed());
 }

@@ -33,7 +33,6 @@ FindLine::FindLine(QWidget* parent) : QLineEdit(parent) {
   // when it loses the focus.
   connect(completer, qOverload<const QModelIndex&>(&QCompleter::activated), completer,
           [this](const QModelIndex& completion) { Choose(completion); });
-  hide();
 }
 
 void FindLine::Start(std::vector<Place> places) {
@@ -73,8 +72,7 @@ void FindLine::Choose(const QModelIndex& completion) {
 void FindLine::keyPressEvent(QKeyEvent* event) {
   QAbstractItemView* completions = completer()->popup();
   if (event->key() == Qt::Key_Escape) {
-    completions->hide();
-    hide();
+    hide();  // and with it the completions
     return;
   }
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
@@ -86,7 +84,6 @@ void FindLine::keyPressEvent(QKeyEvent* event) {
     completer()->setCompletionPrefix(text());
     chosen = completer()->completionModel()->index(0, 0);
   }
-  completions->hide();
   if (chosen.isValid()) {
     Choose(chosen);
   } else {

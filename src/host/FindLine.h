@@ -27,7 +27,7 @@ class FindLine final : public QLineEdit {
     std::optional<PagePopUp> popUp{};  ///< The pop-up with the row, if it is not on the page.
   };
 
-  /// Hidden until `Start`.
+  /// Made while `parent` is shown, it is hidden until `Start`.
   explicit FindLine(QWidget* parent);
 
   /// Shows the empty line for a search in `places`.

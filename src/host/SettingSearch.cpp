@@ -81,7 +81,6 @@ void SettingSearch::OpenPopUp(int button, int control, std::chrono::milliseconds
   QTimer::singleShot(delay, opener, [this, opener, button, control] {
     if (!opener->isVisible() || line_->isVisible()) return;
     if (dialog_.IsBusy()) return OpenPopUp(button, control, kLater);
-    if (!opener->isEnabled()) return;
     QTimer::singleShot(0, this, [this, control] {
       auto* popUp = qobject_cast<CDialog*>(QApplication::activeModalWidget());
       if (popUp != nullptr && popUp->Owner() != nullptr && popUp->Owner()->window() == &dialog_) {

@@ -41,9 +41,7 @@ void CComboBox::Fill(const std::vector<std::pair<QString, int>>& entries) {
   setCurrentIndex(-1);
 }
 
-void CComboBox::Select(int position) {
-  setCurrentIndex(position >= 0 && position < count() ? position : -1);
-}
+void CComboBox::Select(int position) { setCurrentIndex(position); }
 
 bool CComboBox::SelectValue(int value) {
   const int position = findData(value);

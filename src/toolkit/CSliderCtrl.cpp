@@ -144,13 +144,10 @@ void CSliderCtrl::DragTo(int position) {
 
 void CSliderCtrl::mousePressEvent(QMouseEvent* event) {
   // Some styles also scroll with the middle button, but here only the left one does.
-  if (event->button() == Qt::LeftButton) {
-    pressed_ = true;
-    QSlider::mousePressEvent(event);
-    Q_EMIT Scrolling(true);
-  } else {
-    event->ignore();
-  }
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  pressed_ = true;
+  QSlider::mousePressEvent(event);
+  Q_EMIT Scrolling(true);
 }
 
 void CSliderCtrl::mouseMoveEvent(QMouseEvent* event) {

@@ -14,11 +14,6 @@ CTabCtrl::CTabCtrl(QWidget* parent) : QTabBar(parent) {
   setFocusPolicy(Qt::StrongFocus);
 }
 
-void CTabCtrl::SetItemWidth(int width) {
-  itemWidth_ = width;
-  updateGeometry();
-}
-
 QSize CTabCtrl::tabSizeHint(int index) const {
   const QSize natural = QTabBar::tabSizeHint(index);
   return {std::max(natural.width(), itemWidth_), natural.height()};

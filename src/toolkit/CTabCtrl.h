@@ -10,10 +10,10 @@ class CTabCtrl : public QTabBar {
  public:
   explicit CTabCtrl(QWidget* parent = nullptr);
 
-  /// Sets the width of every tab, in device-independent pixels. A tab is wider if its caption needs
-  /// it, and narrower if there is too little space. If even the captions have too little space, the
-  /// longest are shortened, and a tool tip shows them whole.
-  void SetItemWidth(int width);
+  /// Sets the width of every tab that is added, in device-independent pixels. A tab is wider if its
+  /// caption needs it, and narrower if there is too little space. If even the captions have too
+  /// little space, the longest are shortened, and a tool tip shows them whole.
+  void SetItemWidth(int width) { itemWidth_ = width; }
 
  protected:
   QSize tabSizeHint(int index) const override;

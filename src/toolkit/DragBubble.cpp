@@ -29,7 +29,6 @@ class DragBubble final : public QLabel {
     setFrameStyle(Box | Plain);
     setPalette(QToolTip::palette());
     setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
     setAutoFillBackground(true);
     setMargin(kGap / 2);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -56,7 +55,6 @@ class DragBubble final : public QLabel {
     const int middle = handle.x() + slider_.HandleRect().width() / 2;
     move(std::clamp(middle - width() / 2, 0, std::max(0, parentWidget()->width() - width())),
          std::max(0, handle.y() - height() - kGap));
-    raise();
     show();
   }
 

@@ -24,7 +24,6 @@ class FlashFrame final : public QWidget {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(place.adjusted(-kMargin, -kMargin / 2, kMargin, kMargin / 2) & parent.rect());
     QTimer::singleShot(kDuration, this, &QObject::deleteLater);
-    raise();
     show();
   }
 

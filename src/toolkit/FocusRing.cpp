@@ -19,7 +19,6 @@ constexpr double kRadius = 4;
 
 FocusRing::FocusRing(QWidget& window) : QWidget(&window), window_(window) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  setFocusPolicy(Qt::NoFocus);
   hide();
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { Follow(now); });
 }

@@ -37,7 +37,6 @@ Design DesignOf(IconName name) {
 void DrawTurn(QPainter& painter, const QColor& color) {
   const QRectF circle(0.2, 0.2, 0.6, 0.6);
   painter.setPen(QPen(color, 0.1, Qt::SolidLine, Qt::RoundCap));
-  painter.setBrush(Qt::NoBrush);
   painter.drawArc(circle, 45 * 16, 270 * 16);
   const QPointF end(0.5 + 0.3 * 0.7071, 0.5 - 0.3 * 0.7071);
   const QPointF head[] = {end + QPointF(0.12, 0.12), end + QPointF(0.12, -0.2),
@@ -52,7 +51,6 @@ void DrawSign(QPainter& painter, const Design& design) {
   painter.setBrush(design.color);
   painter.drawEllipse(QRectF(0.04, 0.04, 0.92, 0.92));
   painter.setPen(QPen(Qt::white, 0.1, Qt::SolidLine, Qt::RoundCap));
-  painter.setBrush(Qt::NoBrush);
   if (design.sign == 'i') {
     painter.drawPoint(QPointF(0.5, 0.28));
     painter.drawLine(QPointF(0.5, 0.46), QPointF(0.5, 0.73));

@@ -24,6 +24,7 @@ bool IsInput(const QEvent& event) {
     case QEvent::Shortcut:
       return true;
     case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:  // with which an open list takes Enter
       break;
     default:
       return false;
@@ -38,10 +39,12 @@ bool IsInput(const QEvent& event) {
   }
 }
 
-bool IsModifier(const QEvent& event) {
-  if (event.type() != QEvent::KeyPress) return false;
-  const int key = static_cast<const QKeyEvent&>(event).key();
-  return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
+// Not a modifier, and of a key only the press.
+bool IsReported(const QEvent& event) {
+  const auto* key = dynamic_cast<const QKeyEvent*>(&event);
+  const bool isModifier =
+      key != nullptr && key->key() >= Qt::Key_Shift && key->key() <= Qt::Key_ScrollLock;
+  return !isModifier && event.type() != QEvent::ShortcutOverride;
 }
 
 // Also finds the dialog of a list that is dropped down.
@@ -78,7 +81,7 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
   const auto closed = closed_.find(DialogOf(target));
   if (closed == closed_.end() || closed->first->AcceptsInputWhileBusy(target)) return false;
   // A copy, because the gate may be opened meanwhile.
-  if (const Dropped dropped = closed->second; !IsModifier(*event)) dropped(target);
+  if (const Dropped dropped = closed->second; IsReported(*event)) dropped(target);
   return true;
 }
 

@@ -53,7 +53,6 @@ void NumberField::paintEvent(QPaintEvent* event) {
                     UnitGap(fontMetrics(), unit_));
   }
   QPainter painter(this);
-  painter.setPen(palette().color(QPalette::Text));
   painter.drawText(inside, Qt::AlignVCenter | Qt::AlignRight | Qt::AlignAbsolute, unit_);
 }
 

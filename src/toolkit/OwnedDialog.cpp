@@ -92,7 +92,7 @@ void OwnedDialog::ReturnOwner() {
 
 void OwnedDialog::WatchOwner() {
   disconnect(ownerDies_);
-  if (!isWindow() || Owner() == nullptr) return;
+  if (Owner() == nullptr) return;
   ownerDies_ = connect(Owner(), &QObject::destroyed, this, &OwnedDialog::OnOwnerDying);
 }
 

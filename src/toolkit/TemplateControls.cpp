@@ -64,7 +64,6 @@ void PlaceTogether(const std::vector<QWidget*>& controls, QGridLayout* grid, int
                            Qt::AlignVCenter | Qt::AlignLeft);
   }
   auto* box = new QHBoxLayout;
-  box->setContentsMargins(0, 0, 0, 0);
   box->setSpacing(grid->horizontalSpacing());
   for (QWidget* control : controls) box->addWidget(control, 0, Qt::AlignVCenter);
   box->addStretch(1);
@@ -77,7 +76,6 @@ int ResetButtonSide(const QWidget& dialog) { return dialog.fontMetrics().height(
 
 QGridLayout* MakeRowColumns(const QWidget& dialog) {
   auto* grid = new QGridLayout;
-  grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(0);
   grid->setHorizontalSpacing(kSpacing);
   grid->setColumnMinimumWidth(RowColumn::Minus, SmallButtonWidth(dialog));

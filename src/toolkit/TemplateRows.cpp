@@ -74,7 +74,7 @@ void TemplateRows::Arrange() {
     row.gridRow = row.grid == left ? leftRow++ : rightRow++;
     PlaceRow(*row.line, row.controls, row.grid, row.gridRow);
   }
-  if (!stretched) left->setRowStretch(leftRow++, 1);
+  if (!stretched) left->setRowStretch(leftRow, 1);
   if (right != nullptr) {
     right->setRowStretch(rightRow, 1);
   } else {
@@ -203,7 +203,6 @@ void TemplateRows::FitToScreen() {
     row.grid = nullptr;
     frame->addWidget(row.controls.front(), 0, Qt::AlignRight);
   }
-  frame->activate();
   const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();
   dialog_.resize(FittedToScreen(dialog_, rows->layout()->totalSizeHint() + outside));
 }

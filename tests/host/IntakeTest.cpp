@@ -33,20 +33,17 @@ TEST(Intake, EachFormAddsToThePreviousOne) {
                    "r13", "r14", "r15", "r16", "r17", "r18", "r19", "r20", "r21", "r22", "r23",
                    "r24", "r25", "r26", "r27", "r28", "r29", "r30", "r31");
   const ModelData& model = dialog.Model();
-  EXPECT_EQ(model.ModelName, "New");
-  EXPECT_EQ(model.DialogType, 5);
+  EXPECT_TRUE(model.ModelName == "New" && model.DialogType == 5);
   EXPECT_EQ(model.MySourceList, sources);
   EXPECT_EQ(model.AspectList, aspect);
-  EXPECT_EQ(model.GammaList, gamma);
-  EXPECT_EQ(model.ColorTempList, colorTemp);
+  EXPECT_TRUE(model.GammaList == gamma && model.ColorTempList == colorTemp);
   for (std::size_t i = 0; i < RangeIndex::Count; ++i) {
     EXPECT_EQ(model.RangeTexts[i], i < 32 ? "r" + std::to_string(i) : "");
   }
 
   dialog.CopyData("Old", 2, 0, nullptr, nullptr, nullptr, 0, nullptr, nullptr, 0, nullptr, nullptr,
                   0, nullptr, nullptr);
-  EXPECT_EQ(model.ModelName, "Old");
-  EXPECT_EQ(model.DialogType, 2);
+  EXPECT_TRUE(model.ModelName == "Old" && model.DialogType == 2);
   EXPECT_EQ(model.GammaList, CountedList());
   EXPECT_EQ(model.ModelCode, 42) << "the oldest form sets neither this";
   EXPECT_EQ(model.WhisperList, whisper);
@@ -59,13 +56,11 @@ TEST(Intake, ARecordOrItemGivesModelAndConnectionAndNullChangesNothing) {
   dialog.CopyData(&record, 3);
   dialog.CopyData(static_cast<const CModelInfo2*>(nullptr), 0);
   dialog.CopyData(static_cast<const CProjectorItem*>(nullptr));
-  EXPECT_EQ(dialog.Model().ModelCode, 30);
-  EXPECT_EQ(dialog.Projector().ConnectionNumber(), 40);
+  EXPECT_TRUE(dialog.Model().ModelCode == 30 && dialog.Projector().ConnectionNumber() == 40);
 
   const CProjectorItem item{.Name = "Room 7", .ConnectionKind = 1, .Address = 0xC0A80107};
   dialog.CopyData(&item);
-  EXPECT_EQ(dialog.Model().ModelName, "Room 7");
-  EXPECT_EQ(dialog.Model().ModelCode, 0) << "an item without a record";
+  EXPECT_TRUE(dialog.Model().ModelName == "Room 7" && dialog.Model().ModelCode == 0);
   EXPECT_EQ(dialog.Projector().ConnectionText1(), "192.168.1.7");
 }
 
@@ -123,10 +118,11 @@ TEST_F(IntakeOfAnOpenDialog, TakesEffectAtTheNextCreation) {
   }
   dialog_.close();
   EXPECT_EQ(dialog_.windowTitle(), title);
+  dialog_.CopyData("Newest", 4, 0, nullptr, nullptr, nullptr, 0, nullptr, nullptr, 0, nullptr,
+                   nullptr, 0, nullptr, nullptr);
   Open();
-  EXPECT_EQ(dialog_.Model().ModelCode, 9);
-  EXPECT_EQ(dialog_.Projector().ConnectionNumber(), 6);
-  EXPECT_NE(dialog_.windowTitle(), title);
+  EXPECT_TRUE(dialog_.Model().ModelName == "Newest" && dialog_.Model().ModelCode == 9);
+  EXPECT_TRUE(dialog_.Projector().ConnectionNumber() == 6 && dialog_.windowTitle() != title);
   for (int tab = 0; tab < Tabs().count(); ++tab) ClickTab(tab);
   InTheWait([&] {
     dialog_.reject();

@@ -96,8 +96,7 @@ class Host {
 
   void ExpectEnded(bool whileWaiting) {
     projector->Pace(0ms);
-    EXPECT_EQ(owner_, nullptr);
-    EXPECT_EQ(waitedAtDeath_, whileWaiting);
+    EXPECT_TRUE(owner_ == nullptr && waitedAtDeath_ == whileWaiting);
     EXPECT_EQ(projector->sent, sentAtDeath_) << "a command was sent afterwards";
     for (const QWidget* window : QApplication::topLevelWidgets()) {
       EXPECT_FALSE(window->isVisible()) << window->metaObject()->className();
@@ -154,11 +153,7 @@ void ExpectToRunAgain(const std::function<CAdvanceDlg&(QWidget*)>& make) {
     host.ExpectEnded(!idle);
 
     const int sent = host.projector->sent;
-    QTimer look;
-    look.callOnTimeout([&] {
-      if (host.projector->sent > sent && !dialog.IsBusy()) dialog.accept();
-    });
-    look.start(10ms);
+    When([&] { return host.projector->sent > sent && !dialog.IsBusy(); }, [&] { dialog.accept(); });
     QTimer::singleShot(60s, &dialog, &QDialog::reject);
     EXPECT_EQ(dialog.DoModal(), QDialog::Accepted) << "the channel is not back";
   }
@@ -176,13 +171,15 @@ TEST(OwnerOfALocalDialogOrOneInASmartPointer, DiesAndTheDialogCanRunAgain) {
 }
 
 TEST(OwnerOfADialogWithoutParent, DiesAndClosesTheDialogsAboveIt) {
-  for (const bool box : {true, false}) {
+  for (const auto moment : {Moment::MessageBox, Moment::PopUp, Moment::Opening}) {
     Host host;
     Activate(*host.Owner());
-    CAdvanceDlg dialog;
+    const auto heap = std::make_unique<CAdvanceDlg>();
+    CAdvanceDlg& dialog = *heap;
     host.Prepare(dialog);
-    WhenIdle(dialog, [&] {
-      if (box) return host.Die(dialog, Moment::MessageBox);
+    WhenIdle(dialog, [&, moment] {
+      if (moment == Moment::MessageBox) return host.Die(dialog, moment);
+      if (moment == Moment::Opening) return host.LetDie();  // nothing runs
       When([] { return IsModal("CServiceDlg"); }, [&] { host.LetDie(); });
       CServiceDlg popup(nullptr);
       popup.projector = &dialog.Projector();

@@ -17,6 +17,7 @@
 #include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 #include "tests/toolkit/SampleDialog.h"
+#include "toolkit/AnnouncedLabel.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/CurveView.h"
 #include "toolkit/DragBubble.h"
@@ -61,7 +62,7 @@ Control& Placed(Control* control, int x, int y, int width, int height) {
 }
 
 constexpr int kSliders[][4] = {
-    {-10, 10, 4, 3}, {-28, -1, -9, 1}, {0, 500, 300, 1}, {-8, 4, -4, 4}, {5, 5, 5, 1}};
+    {-10, 10, 4, 3}, {-28, -1, -9, 1}, {0, 500, 300, 1}, {-14, 7, -4, 1}, {5, 5, 5, 1}};
 
 TEST_F(DialogTest, ControlsLookAsRecorded) {
   QWidget stage;
@@ -137,7 +138,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   record("Icons: reset, refresh, information, stop.", 180, 200);
   record("Numbers: %, ms, % from right to left, ms from right to left, none.", 200, 250);
   record("Sliders: with 0, disabled, focused, from right to left, without range. Two with bubbles.",
-         250, 400);
+         250, 406);
 
   tabTo(tabs);
   tabs.setCurrentIndex(1);
@@ -149,12 +150,13 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   QTest::keyClick(&stage, Qt::Key_Tab);
   for (const int x : {10, 92}) Flash(stage, {x, 427, 30, 8});
   record("The focus. A place that is shown, and one at the edge.", 406, 440);
-  for (const QPoint at : {QPoint(60, 255), {20, 408}, {20, 426}}) {
+  for (const QPoint at : {QPoint(60, 265), {20, 408}, {20, 426}}) {
     EXPECT_EQ(stage.childAt(at), nullptr) << "does not take the mouse from others";
   }
   QTest::mouseClick(sliders[4], Qt::LeftButton);
   EXPECT_TRUE(sliders[4]->hasFocus() && !ring.isVisible()) << "the ring is for keys";
   stage.findChild<NumberField*>()->setFocus();
+  tabs.setCurrentIndex(0);
   EXPECT_FALSE(ring.isVisible()) << "a field takes the focus of the mouse only";
   delete sliders[0];
   sliders[2]->setEnabled(false);
@@ -166,7 +168,8 @@ struct KindsDialog : CDialog {
   using CDialog::CDialog;
   bool OnInitDialog() override {
     ShowRow(27, false);
-    PlaceBesideClose(*new QLabel("beside", this));
+    delete findChild<AnnouncedLabel*>();
+    PlaceBesideClose(*new AnnouncedLabel("beside", this));
     return true;
   }
 };
@@ -174,6 +177,7 @@ struct KindsDialog : CDialog {
 TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
   QString now;
   QDebug record = QDebug(&now).nospace();
+  dialog.setFont(Blocks(20));
   QWidget window;
   window.resize(800, 300);
   window.show();
@@ -187,15 +191,18 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
     shown.setWindowFlags(flags);
     shown.setLayoutDirection(direction);
     shown.setFont(Blocks(size));
-    ASSERT_TRUE(shown.Create());
-    const TemplateRows* const pages[] = {&shown.Rows()};
+    ASSERT_TRUE(shown.Create() && shown.Create());
+    const TemplateRows* const pages[] = {&dialog.Rows(), &shown.Rows()};
     if (!shown.isWindow()) TemplateRows::ShareCaptionWidths(pages);
     if (!shown.isWindow()) shown.setGeometry(0, 0, 700, 200);
     shown.isWindow() ? Activate(shown) : shown.show();
+    shown.Item<QLabel>(19).setText("Better");
+    shown.GetDlgItem(17)->setFont(Blocks(size + 8));
+    QCoreApplication::processEvents();
     QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
     record << '\n'
            << name << ' ' << access.role() << ' ' << shown.windowTitle() << ' ' << shown.sizeHint()
-           << '\n';
+           << ' ' << shown.size() << '\n';
     for (int i = 0; i < access.childCount(); ++i) {
       QAccessibleInterface& child = *access.child(i);
       auto& control = static_cast<QWidget&>(*child.object());
@@ -208,9 +215,9 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       record << '\n';
       EXPECT_EQ(access.indexOfChild(&child), i);
     }
-    for (const int id : {5, 7, 3, 23}) {
+    for (const int id : {5, 7, 19, 3, 23}) {
       QWidget& control = *shown.GetDlgItem(id);
-      control.setFocus();
+      id == 19 ? shown.Highlight(id) : control.setFocus();
       EXPECT_EQ(control.visibleRegion().boundingRect(), control.rect()) << "scrolled to";
     }
     if (size != 10) continue;

@@ -29,7 +29,7 @@ inline constexpr RowTemplate kKinds[] = {
     Row(Left, Label(17, "State"), Colon(18), Text(19, "Good")),
     Row(Right, Label(20, "Mode"), Colon(21), Combo(22, kLongEntries),
         Button(23, "A button that is longer than most")),
-    Row(Right, Label(24, "Longer caption"), Colon(25), Check(26, "Once")),
+    Row(Right, Label(24, "Longer &caption"), Colon(25), Check(26, "Once")),
     Row(Right, Label(27, "Absent, and longer than all"), Colon(28), Combo(29, kEntries)),
     Row(Bottom, Close(30, "End")),
 };

@@ -99,7 +99,6 @@ TEST(ProfileCsv, TakesRowsAsRecorded) {
     if (row.startsWith(' ') || row == "many rows") continue;
     now += row + '\n' + Imported("name,ip,port,link,password,mac,serial,id,\n" + row.toUtf8());
   }
-  EXPECT_GT(now.count('\n'), 30);
   now += "many rows\n" + Imported(Contents(TEST_SOURCE_DIR "/fleet/Import.csv"));
   ExpectRecord(file, now.toStdString());
 

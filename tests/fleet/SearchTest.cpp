@@ -55,7 +55,6 @@ TEST(SearchTexts, MeanWhatIsRecorded) {
     text.replace("\\r", "\r").replace("\\n", "\n").replace("\\0", QChar(0));
     now += asked + " => " + Meaning(asked.section(' ', 0, 0), text) + '\n';
   }
-  EXPECT_GT(now.count('\n'), 70);
   ExpectRecord(file, now.toStdString());
 }
 

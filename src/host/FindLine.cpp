@@ -72,7 +72,8 @@ void FindLine::Choose(const QModelIndex& completion) {
 void FindLine::keyPressEvent(QKeyEvent* event) {
   QAbstractItemView* completions = completer()->popup();
   if (event->key() == Qt::Key_Escape) {
-    hide();  // and with it the completions
+    completions->hide();
+    hide();
     return;
   }
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {

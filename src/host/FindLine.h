@@ -27,7 +27,7 @@ class FindLine final : public QLineEdit {
     std::optional<PagePopUp> popUp{};  ///< The pop-up with the row, if it is not on the page.
   };
 
-  /// Made while `parent` is shown, it is hidden until `Start`.
+  /// Hidden until `Start`. `parent` must be shown when the line is made.
   explicit FindLine(QWidget* parent);
 
   /// Shows the empty line for a search in `places`.

@@ -23,8 +23,12 @@ bool IsInput(const QEvent& event) {
     case QEvent::InputMethod:
     case QEvent::Shortcut:
       return true;
+    case QEvent::ShortcutOverride: {
+      // With these an open list takes the entry.
+      const int key = static_cast<const QKeyEvent&>(event).key();
+      return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Select;
+    }
     case QEvent::KeyPress:
-    case QEvent::ShortcutOverride:  // with which an open list takes Enter
       break;
     default:
       return false;

@@ -36,7 +36,8 @@ QColor ColorOf(StateLabel::Mark mark, const QPalette& palette) {
 
 void StateLabel::SetMark(Mark mark) {
   mark_ = mark;
-  setIndent(fontMetrics().height());  // also measures and paints it anew
+  setIndent(fontMetrics().height());  // also measures it anew
+  update();
 }
 
 void StateLabel::SetShare(std::optional<double> share) {

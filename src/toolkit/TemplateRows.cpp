@@ -203,6 +203,7 @@ void TemplateRows::FitToScreen() {
     row.grid = nullptr;
     frame->addWidget(row.controls.front(), 0, Qt::AlignRight);
   }
+  frame->activate();  // also takes back the least size of a dialog that is filled again
   const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();
   dialog_.resize(FittedToScreen(dialog_, rows->layout()->totalSizeHint() + outside));
 }

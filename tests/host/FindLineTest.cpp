@@ -72,6 +72,9 @@ TEST_F(Finding, GoesToTheRowOfAnyTab) {
     popUp->reject();
   });
   look.start(5);
+  QTimer::singleShot(60'000, &look, [] {
+    if (auto* modal = QApplication::activeModalWidget()) modal->close();
+  });
   {
     // The pop-up opens only when the dialog has finished reading.
     const CDialog::Busy reading(&open.Dialog());

@@ -99,7 +99,7 @@ class PageDescriber {
     std::string text = " at " + std::to_string(list.currentIndex()) + '\n', sent;
     for (int i = 0; i < list.count(); ++i) {
       const std::string log = Log([&] { Choose(id, i); });
-      text += "      " + list.itemText(i).toStdString() + ':' + log;
+      text += "      " + list.itemText(i).toStdString() + ':' + log + (log.empty() ? Told() : "");
       text += list.currentIndex() == i ? "\n" : " →" + Shown(*row_) + '\n';
       sent += log;
     }

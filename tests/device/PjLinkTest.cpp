@@ -1,7 +1,5 @@
 #include <atomic>
-#include <dlfcn.h>
 #include <future>
-#include <netdb.h>
 #include <optional>
 #include <string>
 #include <thread>
@@ -26,6 +24,7 @@
 #include "tests/device/Replies.h"
 #include "tests/support/Record.h"
 #include "tests/support/Soon.h"
+#include "tests/support/SystemLookUp.h"
 
 namespace {
 
@@ -39,13 +38,11 @@ std::atomic<int> lookUps = 0;
 /// Replaces the system's function, for the library too, to make a name look-up slow.
 extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, const char* service,
                                                           const addrinfo* hints, addrinfo** found) {
-  static const auto system =
-      reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
   ++lookUps;
   EXPECT_TRUE(hints->ai_socktype == SOCK_STREAM && hints->ai_flags == AI_ADDRCONFIG);
   std::this_thread::sleep_for(kLookUp);
   if (std::string_view(name) == "no-such-host") return EAI_NONAME;
-  return system(name, service, hints, found);
+  return systemLookUp(name, service, hints, found);
 }
 
 namespace {

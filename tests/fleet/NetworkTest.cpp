@@ -4,9 +4,7 @@
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <fcntl.h>
-#include <netdb.h>
 #include <poll.h>
 #include <string>
 #include <string_view>
@@ -23,6 +21,7 @@
 #include "fleet/SocketNetwork.h"
 #include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
+#include "tests/support/SystemLookUp.h"
 
 namespace {
 
@@ -33,16 +32,14 @@ std::atomic<int> lookUps = 0;
 /// Replaces the system's function, for the library too: a name has two addresses.
 extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, const char* service,
                                                           const addrinfo* hints, addrinfo** found) {
-  static const auto system =
-      reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
   EXPECT_EQ(hints->ai_socktype, SOCK_STREAM);
   if (hints->ai_flags == AI_NUMERICHOST || std::string_view(name) != "two.test") {
-    return system(name, service, hints, found);
+    return systemLookUp(name, service, hints, found);
   }
   EXPECT_EQ(hints->ai_flags, AI_ADDRCONFIG);
   ++lookUps;
-  const int result = system("127.0.0.2", service, hints, found);
-  return result != 0 ? result : system("127.0.0.1", service, hints, &(*found)->ai_next);
+  const int result = systemLookUp("127.0.0.2", service, hints, found);
+  return result != 0 ? result : systemLookUp("127.0.0.1", service, hints, &(*found)->ai_next);
 }
 
 namespace {

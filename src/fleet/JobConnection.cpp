@@ -50,8 +50,7 @@ void JobConnection::Wait(SessionTime until) {
   const SessionTime now = Now();
   const SessionTime half = until > now ? now + (until - now) / 2 : until;
   loop_.Wait(peer_, half);
-  if (stage_ != Stage::Connecting || Now() < half || loop_.Network().ConnectToNext(peer_)) return;
-  loop_.Wait(peer_, until);
+  if (stage_ == Stage::Connecting && Now() >= half) loop_.Network().ConnectToNext(peer_);
 }
 
 void JobConnection::Connected() {

@@ -8,11 +8,15 @@
 #include <numeric>
 #include <thread>
 #include <unistd.h>
+#include <variant>
+
+#include <QPointer>
 
 #include "app/simulator/PseudoTerminal.h"
 #include "fleet/Fleet.h"
 #include "fleet/FleetJob.h"
 #include "fleet/FleetUndo.h"
+#include "fleet/JobChannel.h"
 #include "fleet/MakeVisit.h"
 #include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
@@ -135,14 +139,15 @@ TEST_F(FleetJobTest, WorksOverPjLinkAndASerialPort) {
   const auto model = targets.front().model;
   targets = {{"pjlink", served[0].PjLink("secret"), model},
              {"line", line, model},
-             {"nowhere", AddressError{"no address"}, model}};
+             {"nowhere", AddressError{"no address"}, model},
+             {"shut", PjLinkAddress{"127.0.0.1", 1, ""}, model}};
   const auto taken = Do(TakeSnapshots());
-  EXPECT_EQ(Outcomes(taken), (std::vector{Done, Done, NoAnswer}));
+  EXPECT_EQ(Outcomes(taken), (std::vector{Done, Done, NoAnswer, NoAnswer}));
   EXPECT_EQ(taken[2].reason, "wrong connection parameters");
   const auto& told = taken[0].snapshot->settings;
   EXPECT_EQ(std::ranges::count(told, "HDMI (31)", &SavedSetting::text), 1);
   EXPECT_GT(taken[1].snapshot->settings.size(), 20);
-  EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer}));
+  EXPECT_EQ(Outcomes(Do(SwitchPower{false})), (std::vector{Done, Done, NoAnswer, NoAnswer}));
   auto problem = SerialLine::Problem::None;
   int file = -1;
   ASSERT_TRUE(
@@ -198,6 +203,45 @@ TEST_F(FleetJobTest, WorksOnOneAtATimeAtAnAddress) {
   targets.assign(WireServer::kMaximumConnections + 1,
                  {"again", served[0].Wire(), std::make_shared<ModelData>(SimulatedModelData())});
   EXPECT_EQ(Outcomes(Do(TakeSnapshots())), std::vector(targets.size(), Done)) << "one by one";
+}
+
+TEST_F(FleetJobTest, ConnectsAgainWhenTheProjectorHasClosed) {
+  const Served& projector = served.front();
+  const ProjectorAddress ways[] = {projector.Wire(), projector.PjLink("secret")};
+  for (const ProjectorAddress& way : ways) {
+    SilentServer door;
+    ProjectorAddress address = way;
+    std::visit(
+        [&](auto& at) {
+          if constexpr (requires { at.port; }) at.port = door.Address().port;
+        },
+        address);
+    std::atomic<int> answered = 0, wanted = 1;
+    std::jthread job([&] {
+      JobLoop loop;
+      loop.Run(1, [&](std::size_t) {
+        const auto channel = MakeJobChannel(loop, address, 1h);
+        for (; answered < 2; ++answered) {
+          while (wanted <= answered) std::this_thread::yield();  // the loop sees nothing
+          EXPECT_TRUE(channel->Execute({PjtOperation::Get, CommandCode::RunningState}).answered);
+        }
+      });
+    });
+    for (const int connection : {1, 2}) {
+      ASSERT_TRUE(Soon([&] { return door.Accept() == 1; })) << connection;
+      const QPointer line(door.connections.front().get());
+      if (std::holds_alternative<TcpAddress>(way)) {
+        served.front().wire.Serve(std::move(door.connections.front()));
+      } else {
+        served.front().pjLink.Serve(std::move(door.connections.front()));
+      }
+      door.connections.clear();
+      EXPECT_TRUE(Soon([&] { return answered == connection; }));
+      line->disconnectFromHost();
+      EXPECT_TRUE(Soon([&] { return !line; }));
+      ++wanted;
+    }
+  }
 }
 
 // Somebody else's turn must not shorten the wait for a connection.

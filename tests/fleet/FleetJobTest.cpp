@@ -222,7 +222,7 @@ TEST_F(FleetJobTest, ConnectsAgainWhenTheProjectorHasClosed) {
         const auto channel = MakeJobChannel(loop, address, 1h);
         for (; answered < 2; ++answered) {
           while (wanted <= answered) std::this_thread::yield();  // the loop sees nothing
-          EXPECT_TRUE(channel->Execute({PjtOperation::Get, CommandCode::RunningState}).answered);
+          EXPECT_TRUE(channel->Execute({PjtOperation::SetPowerOn}).answered);
         }
       });
     });

@@ -50,8 +50,12 @@ CModelInfo2 ModelInfoOf(const FleetProfile& profile) {
 }
 
 QString ConnectionText(const ProfileConnection& connection) {
-  QString address = QString::fromStdString(connection.address);
-  if (connection.isNetwork) return QStringLiteral("%1:%2").arg(address).arg(connection.port);
+  const QString address = QString::fromStdString(connection.address);
+  if (connection.isNetwork) {
+    const bool isIpv6 = address.contains(QLatin1Char(':'));
+    return (isIpv6 ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2"))
+        .arg(address, QString::number(connection.port));
+  }
   if (!address.isEmpty()) return address;
   return QCoreApplication::translate("ProfileFile", "serial port %1").arg(connection.port + 1);
 }

@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 
 #include "fleet/CsvColumn.h"
+#include "fleet/ExportCsv.h"
 #include "fleet/OneLine.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
@@ -23,8 +24,6 @@ namespace {
 struct ProfileCsv {
   Q_DECLARE_TR_FUNCTIONS(ProfileCsv)
 };
-
-constexpr QChar kTagSeparator = u'|';
 
 /// Thrown for a row that cannot be taken.
 struct WrongRow {
@@ -69,6 +68,18 @@ struct Reached {
   ProfileConnection connection;
 };
 
+// A serial port has none to add.
+bool HasPort(const QString& host) {
+  if (host.startsWith(QLatin1Char('/'))) return true;
+  if (host.startsWith(QLatin1Char('['))) return host.contains(QLatin1String("]:"));
+  return host.count(QLatin1Char(':')) == 1;
+}
+
+QString WithPort(const QString& host, const QString& port) {
+  const bool isIpv6 = host.contains(QLatin1Char(':')) && !host.startsWith(QLatin1Char('['));
+  return (isIpv6 ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2")).arg(host, port);
+}
+
 // An address as people write it, with its port in it or in a column of its own.
 Reached Reach(const Cells& cells) {
   const QString address = One(cells, CsvColumn::Address);
@@ -79,16 +90,13 @@ Reached Reach(const Cells& cells) {
     if (!known) throw WrongRow{ProfileCsv::tr("\"%1\" is not a kind of link").arg(text)};
     link = *known;
   }
-  QString text = address;
-  if (!port.isEmpty() && !address.contains(QLatin1String("://"))) {
-    const bool isIpv6 =
-        address.count(QLatin1Char(':')) > 1 && !address.startsWith(QLatin1Char('['));
-    text = (isIpv6 ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2")).arg(address, port);
-  }
-  if (!text.contains(QLatin1String("://"))) {
-    if (link == QLatin1String("pjlink")) text.prepend(QLatin1String("pjlink://"));
-    if (link == QLatin1String("network")) text.prepend(QLatin1String("tcp://"));
-  }
+  static const QRegularExpression kScheme(QStringLiteral("^[a-z]+://"));
+  QString scheme = kScheme.match(address).captured();
+  if (scheme.isEmpty() && link == QLatin1String("pjlink")) scheme = QStringLiteral("pjlink://");
+  if (scheme.isEmpty() && link == QLatin1String("network")) scheme = QStringLiteral("tcp://");
+  QString host = kScheme.match(address).hasMatch() ? address.sliced(scheme.size()) : address;
+  if (!port.isEmpty() && !HasPort(host)) host = WithPort(host, port);
+  const QString text = scheme + host;
   const ProjectorAddress parsed =
       ParseAddress(text.toStdString(), One(cells, CsvColumn::Password).toStdString());
   if (const auto* error = std::get_if<AddressError>(&parsed)) {
@@ -111,6 +119,36 @@ Reached Reach(const Cells& cells) {
   return reached;
 }
 
+/// The cells that differ from what the projector has now, whatever it has inherited or from a tag.
+/// Where it is counts as one: what is not given of it stays.
+Cells News(Cells cells, const FleetProfile& present) {
+  constexpr CsvColumn kWhere[] = {CsvColumn::Address, CsvColumn::Port, CsvColumn::Link,
+                                  CsvColumn::Password};
+  const auto isNew = [&](CsvColumn column) {
+    return cells.contains(column) && One(cells, column) != ExportedCell(present, column);
+  };
+  const bool isElsewhere = std::ranges::any_of(kWhere, isNew);
+  if (isElsewhere && !cells.contains(CsvColumn::Address)) {
+    // Another link usually has another port.
+    if (!isNew(CsvColumn::Link)) {
+      cells.try_emplace(CsvColumn::Port, ExportedCell(present, CsvColumn::Port));
+    }
+    cells.try_emplace(CsvColumn::Link, ExportedCell(present, CsvColumn::Link));
+    // A serial port has none of this.
+    const bool isNetwork = present.connection.isNetwork;
+    cells.emplace(CsvColumn::Address,
+                  isNetwork ? ExportedCell(present, CsvColumn::Address) : QString());
+  }
+  const bool hasFamily = cells.contains(CsvColumn::Family);
+  std::erase_if(cells, [&](const auto& cell) {
+    const auto& [column, texts] = cell;
+    if (std::ranges::count(kWhere, column) > 0) return !isElsewhere;
+    const bool isSame = texts.size() == 1 && texts.first() == ExportedCell(present, column);
+    return isSame && column != CsvColumn::Identity && !(column == CsvColumn::Model && hasFamily);
+  });
+  return cells;
+}
+
 /// Takes rows into a profile file.
 class Importer {
  public:
@@ -118,6 +156,9 @@ class Importer {
       : edits_(profiles),
         checker_(profiles),
         families_(QJsonDocument::fromJson(profiles).object()["families"].toObject()) {
+    for (FleetProfile& profile : ParseProfileList(profiles, {}).profiles) {
+      present_.emplace_back(std::move(profile));
+    }
     const QJsonArray entries = QJsonDocument::fromJson(profiles).object()["projectors"].toArray();
     for (const auto& entry : entries) Remember(entry.toObject());
   }
@@ -135,12 +176,13 @@ class Importer {
   std::optional<std::size_t> Find(const QString& identity, const QString& name) const;
   JsonEdit::Members MembersOf(const Cells& cells, bool isNew) const;
   void SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const;
-  bool Take(const Cells& cells);
+  bool Take(Cells cells);
 
   ProfileEdits edits_;
   ProfileChecker checker_;
   const QJsonObject families_;
   std::vector<QJsonObject> entries_;
+  std::vector<std::optional<FleetProfile>> present_;  ///< Of entries that no row has changed yet.
   std::map<QString, std::size_t> byName_;
   std::map<QString, std::size_t> byIdentity_;
 };
@@ -183,7 +225,7 @@ JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
   tell("name", One(cells, CsvColumn::Name));
   tell("identity", Identity(cells));
   SetModel(cells, isNew, members);
-  if (!One(cells, CsvColumn::Address).isEmpty()) {
+  if (cells.contains(CsvColumn::Address)) {
     const Reached reached = Reach(cells);
     members.push_back({"link", reached.link});
     members.push_back({"connection", ConnectionValue(reached.connection)});
@@ -209,9 +251,11 @@ JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
 }
 
 // Whether the projector is new.
-bool Importer::Take(const Cells& cells) {
-  const QString name = One(cells, CsvColumn::Name);
-  const auto known = Find(Identity(cells), name);
+bool Importer::Take(Cells cells) {
+  const auto known = Find(Identity(cells), One(cells, CsvColumn::Name));
+  if (known && *known < present_.size() && present_[*known]) {
+    cells = News(std::move(cells), *present_[*known]);
+  }
   const JsonEdit::Members members = MembersOf(cells, !known);
   QJsonObject entry = known ? entries_[*known] : QJsonObject();
   for (const auto& [key, value] : members) {
@@ -241,6 +285,7 @@ bool Importer::Take(const Cells& cells) {
     }
   }
   edits_.Change(*known, changed);
+  if (!changed.empty() && *known < present_.size()) present_[*known].reset();
   byName_.erase(entries_[*known]["name"].toString());
   byName_.emplace(newName, *known);
   if (entry.contains("identity")) byIdentity_.emplace(entry["identity"].toString(), *known);
@@ -263,7 +308,7 @@ CsvImport Importer::Import(const CsvTable& table) {
       if (column && !text.isEmpty()) cells[*column].append(text);
     }
     try {
-      ++(Take(cells) ? result.added : result.changed);
+      ++(Take(std::move(cells)) ? result.added : result.changed);
     } catch (const WrongRow& wrong) {
       result.faults.push_back({row.line, wrong.reason});
     }
@@ -289,28 +334,6 @@ CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv) {
   CsvImport result = Importer(profiles).Import(table);
   if (result.added + result.changed == 0) result.text = profiles;
   return result;
-}
-
-QByteArray ExportCsv(const std::vector<FleetProfile>& profiles) {
-  std::vector<QStringList> rows{{"name", "address", "port", "link", "model", "identity", "tags",
-                                 "notes", "rated lamp hours", "snapshot"}};
-  for (const FleetProfile& profile : profiles) {
-    const ProfileConnection& connection = profile.connection;
-    QStringList tags;
-    for (const std::string& tag : profile.tags) tags.append(QString::fromStdString(tag));
-    const auto text = [](const std::string& utf8) { return QString::fromStdString(utf8); };
-    const QString address = connection.isNetwork || !connection.address.empty()
-                                ? text(connection.address)
-                                : text(SerialDevice(connection.port));
-    rows.push_back(
-        {text(profile.name), address,
-         connection.isNetwork ? QString::number(connection.port) : QString(),
-         LinkName(profile.link), text(profile.model->info.ModelName), text(profile.identity),
-         tags.join(kTagSeparator), text(profile.notes),
-         profile.ratedLampHours > 0 ? QString::number(profile.ratedLampHours) : QString(),
-         text(profile.snapshot)});
-  }
-  return WriteCsv(rows);
 }
 
 }  // namespace AdvancedControl

@@ -147,7 +147,9 @@ void Taker::Update(std::size_t profile, const FoundProjector& found,
   QJsonObject network = connection["network"].toObject();
   const bool isElsewhere = AddressKey(network["address"].toString(), network["port"].toInt()) !=
                            AddressKey(Text(found.address), found.port);
-  if (isElsewhere && entry["connection"].toObject().contains("network")) {
+  // A host name follows the projector by itself.
+  const bool isNumeric = !QHostAddress(network["address"].toString()).isNull();
+  if (isElsewhere && isNumeric) {
     network["address"] = Text(found.address);
     network["port"] = found.port;
     connection["network"] = network;

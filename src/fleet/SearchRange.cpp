@@ -51,7 +51,8 @@ std::optional<Address> ParseV4(const QString& text) {
   Address address;
   for (const QString& part : parts) {
     const auto number = Number(part, UINT8_MAX);
-    if (!number) return std::nullopt;
+    const bool isOctal = part.size() > 1 && part.startsWith(u'0');  // for some programs
+    if (!number || isOctal) return std::nullopt;
     address.low = address.low << kByte | *number;
   }
   return parts.size() == kParts ? std::optional(address) : std::nullopt;

@@ -105,9 +105,10 @@ void CAdvanceDlg::Parts::SetStrip() {
 
 QString CAdvanceDlg::Parts::ConnectionText() const {
   const CPjtInterface& projector = dialog.projector_;
-  if (projector.ConnectionKind() == kNetworkConnection) {
-    return QString::fromStdString(projector.ConnectionText1());
-  }
+  const std::string& text = projector.ConnectionText1();
+  const bool isPath = text.starts_with('/');  // of a serial port, whatever its number
+  if (isPath || projector.ConnectionKind() == kNetworkConnection)
+    return QString::fromStdString(text);
   return QStringLiteral("COM%1").arg(std::int64_t{projector.ConnectionNumber()} + 1);
 }
 

@@ -107,6 +107,7 @@ TEST(ProfileFile, EntryOverridesItsFamilies) {
   EXPECT_EQ(a.RangeText(RangeIndex::Tint), "");
   EXPECT_EQ(a.RangeText(22), "3,4");
   EXPECT_EQ(ConnectionText(contents.profiles[0].connection), "192.0.2.1:23");
+  EXPECT_EQ(ConnectionText({.address = "fe80::1%2", .port = 23}), "[fe80::1%2]:23");
   EXPECT_EQ(contents.profiles[0].model->lacks, std::vector{SettingId::ActiveIris});
 
   const FleetProfile& b = contents.profiles[1];

@@ -148,10 +148,14 @@ TEST(Tabs, TitleAndConnectionAreThoseOfTheModel) {
   EXPECT_EQ(network.Projector().GammaValues(), std::vector{17});
   EXPECT_EQ(network.Projector().AspectValues(), std::vector{5});
   record.ConnectionKinds[0] = 0;
-  OpenDialog serial(record);
-  EXPECT_TRUE(serial.Dialog().windowTitle().contains(QStringLiteral("4")));
-  const QString strip = serial.Dialog().findChild<ProjectorStrip*>()->findChild<QLabel*>()->text();
-  EXPECT_TRUE(strip.contains(QStringLiteral("COM4"))) << strip.toStdString();
+  for (const auto& [text, shown] : {std::pair("10.0.0.7", "COM4"), {"/dev/ttyX", "/dev/ttyX"}}) {
+    record.ConnectionTexts1[0] = MakeNameSlot(text);
+    OpenDialog serial(record);
+    EXPECT_TRUE(serial.Dialog().windowTitle().contains(QStringLiteral("4")));
+    const QString strip =
+        serial.Dialog().findChild<ProjectorStrip*>()->findChild<QLabel*>()->text();
+    EXPECT_TRUE(strip.contains(shown)) << strip.toStdString();
+  }
 }
 
 TEST(Tabs, TheHostsResourceModuleIsRestoredInAnyOrderOfClosing) {

@@ -22,6 +22,7 @@ class Choosing(Building):
                              (["@building-3,!Lecture*"], everybody[1:3]), (["!@building-3"], everybody[3:])):
             self.check(["list", "--brief", *words], 0, "^" + "\n".join(names) + "\n$")
         self.check(["list", "@nowhere"], 2, errors="there is no projector '@nowhere'")
+        self.check(["--profiles", "real.json", "list", "Office*", "--brief"], 0, "^Office\nOffice \\(PJLink\\)\n$")
 
     def test_conditions_are_about_the_present_state(self):
         self.assertEqual(self.acctl("set", "Seminar 2", "power=standby", "--wait", "60s").returncode, 0)

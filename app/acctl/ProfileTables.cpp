@@ -9,6 +9,7 @@
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Signals.h"
+#include "app/acctl/Uses.h"
 #include "fleet/ProfileCsv.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
@@ -114,13 +115,23 @@ int Find(const Arguments& arguments, const std::string& password) {
     json.append(Describe(projector));
   }
   QJsonObject result{{"found", json}};
-  if (const QString problem = search.Problem(); !problem.isEmpty()) {
-    Complain(problem.toStdString());
-    result["errors"] = QJsonArray{QJsonObject{{"code", ProblemCode::Internal}, {"text", problem}}};
-    code = ExitCode::Refused;
+  QJsonArray errors;
+  const auto fail = [&](const Problem& problem) {
+    Complain(problem.text);
+    errors.append(Describe(problem));
+    code = problem.exitCode;
+  };
+  if (!search.Problem().isEmpty()) fail({ProblemCode::Internal, search.Problem().toStdString()});
+  const int signal = ReceivedSignal();
+  if (signal != 0) {
+    Problem problem = InterruptionOf();
+    problem.exitCode = ExitCode::Signalled + signal;
+    fail(problem);
   }
+  if (!errors.isEmpty()) result["errors"] = errors;
   std::string text = table.Text();
-  if (!arguments.file.empty()) {
+  // What is missing may have the serial number of another, which is then no identity.
+  if (!arguments.file.empty() && signal == 0) {
     const QString error = AddFound(arguments, found, password, result, text);
     if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   }

@@ -13,6 +13,7 @@
 #include "fleet/ProfileCsv.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
+#include "fleet/ProfileLock.h"
 #include "fleet/SearchDriver.h"
 #include "fleet/SearchProfiles.h"
 #include "fleet/SearchRange.h"
@@ -61,6 +62,7 @@ QJsonObject Describe(const FoundProjector& found) {
 
 QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& found,
                  const std::string& password, QJsonObject& result, std::string& text) {
+  const ProfileLock lock(Wide(arguments.file));
   const ProfileFileText file = ReadOrBegin(arguments.file);
   if (!file.error.isEmpty()) return file.error;
   const TakenProjectors taken = TakeFound(file.text, found, password);
@@ -146,8 +148,9 @@ int Import(const Arguments& arguments) {
                         .text = Message(Acctl::tr("name the profile file with --profiles")),
                         .exitCode = ExitCode::WrongUse});
   }
+  const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);  // perhaps from a slow pipe
+  const ProfileLock lock(Wide(arguments.profiles));
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
-  const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);
   const QString unread = csv.error.isEmpty()
                              ? QString()
                              : Acctl::tr("cannot read %1: %2").arg(Wide(arguments.file), csv.error);

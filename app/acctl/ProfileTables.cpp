@@ -79,6 +79,7 @@ QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& 
 }  // namespace
 
 int Find(const Arguments& arguments, const std::string& password) {
+  WatchSignals();
   SearchOptions options{.password = password};
   options.limits.connect = arguments.connecting.timeOut;
   if (arguments.words.empty()) {
@@ -150,6 +151,7 @@ int Import(const Arguments& arguments) {
   }
   const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);  // perhaps from a slow pipe
   const ProfileLock lock(Wide(arguments.profiles));
+  WatchSignals();
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
   const QString unread = csv.error.isEmpty()
                              ? QString()

@@ -280,6 +280,7 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models,
     shared.until = until.conditions.front();
   }
   if (work.arguments.wait) shared.end = Clock::now() + *work.arguments.wait;
+  WatchSignals();
   AllowFilesFor(static_cast<int>(projectors.size()));
   int width = 0;
   for (const FleetProfile* profile : projectors) {

@@ -148,6 +148,12 @@ class Runs(Building):
                 self.assertEqual(json.load(find.stdout)["errors"][0]["code"], "stopped")
         self.assertEqual((find.wait(60), (self.folder / "new.json").exists()), (130, False))
 
+    def test_nothing_has_begun_while_input_is_read(self):
+        os.mkfifo(self.folder / "endless")
+        ended = 'timeout --preserve-status -k 9 0.5 acctl "$@" <> endless'
+        for words in (["apply", "-", "Office"], ["set", "Office", "--from", "-"], ["import", "-"]):
+            self.assertEqual(self.run_program("bash", "-c", ended, "", *words).returncode, 128 + signal.SIGTERM, words)
+
     def test_old_undo_files_are_removed(self):
         undo = self.folder / "state/advanced-control/undo"
         undo.mkdir(parents=True)

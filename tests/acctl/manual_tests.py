@@ -131,7 +131,9 @@ class Integrations(Building):
             self.assertIn("Persistent=true", unit.read_text())
             calendar = re.search("^OnCalendar=(.*)$", unit.read_text(), re.MULTILINE)[1]
             self.assertEqual(self.run_program("systemd-analyze", "calendar", calendar).returncode, 0)
+            self.assertIn(int(calendar[-5:-3]), range(8, 22), "in standby there is nothing to turn off or to save")
             service = unit.with_suffix(".service").read_text()
+            self.assertRegex(service, "\nLoadCredential=(.*):/etc/(.*\n)*Environment=ACCTL_PROFILES=%d/\\1\n")
             line = re.search("^ExecStart=(.*)$", service, re.MULTILINE)[1].replace("%S", str(self.folder))
             run = self.run_program("bash", "-c", line.replace("${PROJECTORS}", "'*'"), ACCTL_INTERVAL="0.1")
             self.assertEqual(run.returncode, 0, run.stderr)

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "app/acctl/Message.h"
+#include "app/acctl/Signals.h"
 #include "app/profiles/OutOfMemory.h"
 #include "fleet/RunOnEach.h"
 
@@ -74,6 +75,7 @@ void AllowFilesFor(int jobs) {
 
 void RunParallel(JobLoop& loop, const std::vector<VisitQueue::Address>& addresses, int jobs,
                  Meter& meter, const ParallelWork& work) {
+  WatchSignals();
   std::mutex mutex;
   std::condition_variable ready;
   std::vector<std::optional<Report>> reports(addresses.size());

@@ -39,6 +39,7 @@ struct ParallelWork {
 };
 
 /// Runs the work for projectors at these addresses in the loop: at most `jobs` of them at the same
-/// time, and one at each address. The loop has one thread, however many they are.
+/// time, and one at each address. The loop has one thread, however many they are. Watches signals
+/// from then on.
 void RunParallel(JobLoop& loop, const std::vector<VisitQueue::Address>& addresses, int jobs,
                  Meter& meter, const ParallelWork& work);

@@ -9,9 +9,11 @@
 #include "app/acctl/Message.h"
 #include "app/acctl/Output.h"
 #include "app/acctl/Signals.h"
+#include "app/acctl/Uses.h"
 #include "fleet/ProfileCsv.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
+#include "fleet/ProfileLock.h"
 #include "fleet/SearchDriver.h"
 #include "fleet/SearchProfiles.h"
 #include "fleet/SearchRange.h"
@@ -60,6 +62,7 @@ QJsonObject Describe(const FoundProjector& found) {
 
 QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& found,
                  const std::string& password, QJsonObject& result, std::string& text) {
+  const ProfileLock lock(Wide(arguments.file));
   const ProfileFileText file = ReadOrBegin(arguments.file);
   if (!file.error.isEmpty()) return file.error;
   const TakenProjectors taken = TakeFound(file.text, found, password);
@@ -76,6 +79,7 @@ QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& 
 }  // namespace
 
 int Find(const Arguments& arguments, const std::string& password) {
+  WatchSignals();
   SearchOptions options{.password = password};
   options.limits.connect = arguments.connecting.timeOut;
   if (arguments.words.empty()) {
@@ -114,13 +118,23 @@ int Find(const Arguments& arguments, const std::string& password) {
     json.append(Describe(projector));
   }
   QJsonObject result{{"found", json}};
-  if (const QString problem = search.Problem(); !problem.isEmpty()) {
-    Complain(problem.toStdString());
-    result["errors"] = QJsonArray{QJsonObject{{"code", ProblemCode::Internal}, {"text", problem}}};
-    code = ExitCode::Refused;
+  QJsonArray errors;
+  const auto fail = [&](const Problem& problem) {
+    Complain(problem.text);
+    errors.append(Describe(problem));
+    code = problem.exitCode;
+  };
+  if (!search.Problem().isEmpty()) fail({ProblemCode::Internal, search.Problem().toStdString()});
+  const int signal = ReceivedSignal();
+  if (signal != 0) {
+    Problem problem = InterruptionOf();
+    problem.exitCode = ExitCode::Signalled + signal;
+    fail(problem);
   }
+  if (!errors.isEmpty()) result["errors"] = errors;
   std::string text = table.Text();
-  if (!arguments.file.empty()) {
+  // What is missing may have the serial number of another, which is then no identity.
+  if (!arguments.file.empty() && signal == 0) {
     const QString error = AddFound(arguments, found, password, result, text);
     if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   }
@@ -135,8 +149,10 @@ int Import(const Arguments& arguments) {
                         .text = Message(Acctl::tr("name the profile file with --profiles")),
                         .exitCode = ExitCode::WrongUse});
   }
+  const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);  // perhaps from a slow pipe
+  const ProfileLock lock(Wide(arguments.profiles));
+  WatchSignals();
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
-  const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);
   const QString unread = csv.error.isEmpty()
                              ? QString()
                              : Acctl::tr("cannot read %1: %2").arg(Wide(arguments.file), csv.error);

@@ -67,15 +67,16 @@ class Selector {
 
   void TakeTerm(std::string_view term) {
     if (TakeName(term)) return;
-    if (term.starts_with('!')) {
-      excluded_.emplace_back(term.substr(1));
-      return;
+    const bool isExcluded = term.starts_with('!');
+    if (isExcluded) {
+      term.remove_prefix(1);
+      excluded_.emplace_back(term);
     }
-    hasTerms_ = true;
+    hasTerms_ = hasTerms_ || !isExcluded;
     bool found = false;
     for (const FleetProfile& profile : profiles_) {
       if (!Fits(profile, term)) continue;
-      Add(profile);
+      if (!isExcluded) Add(profile);
       found = true;
     }
     if (!found && selection_.error.empty()) {

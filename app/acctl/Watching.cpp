@@ -11,7 +11,9 @@
 #include "app/acctl/Output.h"
 #include "app/acctl/ProjectorRuns.h"
 #include "app/acctl/Reading.h"
+#include "app/acctl/Signals.h"
 #include "app/acctl/Simulated.h"
+#include "app/acctl/Uses.h"
 
 namespace {
 
@@ -82,7 +84,11 @@ class ProjectorWatch {
                                      : shared_.work.arguments.interval;
       Wait(pause, nullptr);
     }
-    if (!shared_.until || isFinished_ || shared_.work.isInterrupted()) return;
+    if (!shared_.until || isFinished_) return;
+    if (const int signal = ReceivedSignal(); signal != 0) {
+      Add(InterruptionOf());
+      return shared_.Fail(ExitCode::Signalled + signal);
+    }
     shared_.Fail(isSilent_ ? ExitCode::NoAnswer : ExitCode::Refused);
     if (!isSilent_)
       Add({ProblemCode::Pending, Message(Acctl::tr("not so in time")), shared_.until->key});
@@ -274,6 +280,7 @@ int Watch(const Work& work, const Projectors& projectors, ModelCache& models,
     shared.until = until.conditions.front();
   }
   if (work.arguments.wait) shared.end = Clock::now() + *work.arguments.wait;
+  WatchSignals();
   AllowFilesFor(static_cast<int>(projectors.size()));
   int width = 0;
   for (const FleetProfile* profile : projectors) {

@@ -16,7 +16,6 @@
 #include "app/acctl/ParseArguments.h"
 #include "app/acctl/Printer.h"
 #include "app/acctl/ProgramRun.h"
-#include "app/acctl/Signals.h"
 #include "app/profiles/OutOfMemory.h"
 #include "fleet/ProfileFile.h"
 
@@ -75,7 +74,6 @@ int Main(int argc, char* argv[]) {
   if (isPage) return PrintPage(arguments);
   const ProfileList profiles = NeedsProfiles(arguments) ? ReadProfiles(arguments) : ProfileList();
   if (!profiles.error.isEmpty()) return FailWrongUse(arguments, profiles.error.toStdString());
-  WatchSignals();
   return RunProgram(arguments, words, profiles.profiles);
 }
 

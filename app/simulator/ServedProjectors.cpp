@@ -138,6 +138,7 @@ QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
       entries.append(entry);
     };
     add({}, "network", NetworkConnection(service->wirePort, {}));
+    entry.remove("identity");  // which must be unique
     // PJLink numbers the inputs differently, and the projector reports those numbers.
     const QJsonValue sources = entry.value("mySources");
     entry["mySources"] = QJsonArray();

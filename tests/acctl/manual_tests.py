@@ -31,11 +31,18 @@ class LookingUp(Building):
         faults = self.json("--profiles", "new.json", "import", "new.csv", code=1)["errors"]
         self.assertEqual([(fault["code"], fault["text"][:9]) for fault in faults], [("wrong-file", "new.csv:3")])
         self.check(["--profiles", "new.json", "list", "@x", "--brief"], 0, "^A\n$")
+        # Each of them is kept when several change the file at once.
+        table = "(sleep 0.5; printf 'name,address\\nR%s,192.0.2.%s\\n' $i $i)"
+        self.run_program("bash", "-c", f"for i in {{1..9}}; do {table} | acctl --profiles new.json import - & done; wait")
+        self.check(["--profiles", "new.json", "list", "--brief"], 0, "^A\n(R\\d\n){9}$")
         run = self.acctl("import", "new.csv", ACCTL_PROFILES="")
         self.assertEqual((run.returncode, run.stderr), (2, "acctl: name the profile file with --profiles\n"))
         port = str(self.pjlink[0]["connection"]["network"]["port"])
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "1 added, 0 moved, 0 known")
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
+        waits = ["flock", ".", "timeout", "-s", "KILL", "1"]  # as somebody else is changing a file
+        self.run_program(*waits, "acctl", "find", "127.0.0.1", "--port", port, "--add", "late.json")
+        self.assertFalse((self.folder / "late.json").exists())
 
     def test_manual_pages_are_sound(self):
         commands = re.findall(r"^  (\w+) {2,}", self.acctl("--help").stdout.split("Options")[0], re.MULTILINE)
@@ -124,7 +131,9 @@ class Integrations(Building):
             self.assertIn("Persistent=true", unit.read_text())
             calendar = re.search("^OnCalendar=(.*)$", unit.read_text(), re.MULTILINE)[1]
             self.assertEqual(self.run_program("systemd-analyze", "calendar", calendar).returncode, 0)
+            self.assertIn(int(calendar[-5:-3]), range(8, 22), "in standby there is nothing to turn off or to save")
             service = unit.with_suffix(".service").read_text()
+            self.assertRegex(service, "\nLoadCredential=(.*):/etc/(.*\n)*Environment=ACCTL_PROFILES=%d/\\1\n")
             line = re.search("^ExecStart=(.*)$", service, re.MULTILINE)[1].replace("%S", str(self.folder))
             run = self.run_program("bash", "-c", line.replace("${PROJECTORS}", "'*'"), ACCTL_INTERVAL="0.1")
             self.assertEqual(run.returncode, 0, run.stderr)

@@ -98,7 +98,7 @@ class Building(unittest.TestCase):
     def start_simulator(self, *options, **environment):
         simulator = subprocess.Popen(
             [PROGRAMS / "advanced-control-simulator", "--profiles", self.folder / "rooms.json", "--write-profiles",
-             self.folder / "served.json", *options], stdout=subprocess.PIPE, text=True, env={**os.environ, **environment})
+             self.folder / "real.json", *options], stdout=subprocess.PIPE, text=True, env={**os.environ, **environment})
         self.addCleanup(self.stop, simulator)
         for line in simulator.stdout:
             if line.strip() == "ready":
@@ -106,7 +106,7 @@ class Building(unittest.TestCase):
         else:
             self.fail("the simulator does not start")
         # It serves each projector over PJLink too.
-        served = json.loads((self.folder / "served.json").read_text())
+        served = json.loads((self.folder / "real.json").read_text())
         self.pjlink = [profile for profile in served["projectors"] if profile["link"] == "pjlink"]
         served["projectors"] = [profile for profile in served["projectors"] if profile["link"] == "network"]
         (self.folder / "served.json").write_text(json.dumps(served, indent=1))

@@ -6,6 +6,7 @@ import os
 import re
 import shutil
 import signal
+import socket
 import time
 
 from script_support import PROGRAMS, ROOMS, VALIDATOR, Building, free_port
@@ -19,9 +20,9 @@ class Choosing(Building):
         for words, names in (([], everybody), (["Seminar*"], everybody[1:3]), (["@building-3"], everybody[:3]),
                              (["@build*"], everybody), (["@hall,Office"], ["Lecture hall", "Office"]),
                              (["Office", "@hall"], ["Office", "Lecture hall"]), (["model=Model 5-*"], everybody[:2]),
-                             (["@building-3,!Lecture*"], everybody[1:3]), (["!@building-3"], everybody[3:])):
+                             (["@building-3,!Lecture*,!Office"], everybody[1:3]), (["!@building-3"], everybody[3:])):
             self.check(["list", "--brief", *words], 0, "^" + "\n".join(names) + "\n$")
-        self.check(["list", "@nowhere"], 2, errors="there is no projector '@nowhere'")
+        self.check(["--profiles", "real.json", "list", "Office*", "--brief"], 0, "^Office\nOffice \\(PJLink\\)\n$")
 
     def test_conditions_are_about_the_present_state(self):
         self.assertEqual(self.acctl("set", "Seminar 2", "power=standby", "--wait", "60s").returncode, 0)
@@ -138,6 +139,20 @@ class Runs(Building):
         self.assertIn(lines.pop(0)["error"]["code"], ("no-answer", "stopped"))
         self.assertEqual([(line["name"], line["error"]["code"]) for line in lines],
                          [("Seminar 2", "stopped"), ("Office", "stopped")])
+        port = self.pjlink[0]["connection"]["network"]["port"]
+        with socket.create_server(("127.0.0.2", port)) as silent:
+            find = self.start("find", "127.0.0.1-2", "--port", str(port), "--timeout", "60", "--add", "new.json", "--json")
+            with silent.accept()[0]:
+                time.sleep(0.5)  # the other one is found
+                find.send_signal(signal.SIGINT)
+                self.assertEqual(json.load(find.stdout)["errors"][0]["code"], "stopped")
+        self.assertEqual((find.wait(60), (self.folder / "new.json").exists()), (130, False))
+
+    def test_nothing_has_begun_while_input_is_read(self):
+        os.mkfifo(self.folder / "endless")
+        ended = 'timeout --preserve-status -k 9 0.5 acctl "$@" <> endless'
+        for words in (["apply", "-", "Office"], ["set", "Office", "--from", "-"], ["import", "-"]):
+            self.assertEqual(self.run_program("bash", "-c", ended, "", *words).returncode, 128 + signal.SIGTERM, words)
 
     def test_old_undo_files_are_removed(self):
         undo = self.folder / "state/advanced-control/undo"
@@ -330,6 +345,10 @@ class Watching(Building):
         watch.stdout.readline()
         self.acctl("set", "*", "contrast=4")
         self.assertEqual(watch.wait(60), 0)
+        watch = self.start("watch", "*", "contrast", "--until", "contrast=9")
+        watch.stdout.readline()
+        watch.terminate()
+        self.assertEqual((watch.wait(60), len(re.findall(": interrupted\n", watch.stderr.read()))), (143, 4))
         self.check(["watch", "Office", "power", "--until", "contrast=9", "--wait", "0.2"], 1, "On", "not so in time")
         for wrong in ("input=hdim", "power=offf"):
             self.check(["watch", "Office", "power", "--until", wrong], 2, errors="'.*' is not one of")

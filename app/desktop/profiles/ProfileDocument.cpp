@@ -10,6 +10,7 @@
 
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
+#include "fleet/ProfileLock.h"
 #include "fleet/WholeFile.h"
 
 namespace {
@@ -42,6 +43,7 @@ QString ProfileDocument::Load(const QString& fileName) {
 }
 
 QString ProfileDocument::SaveAs(const QString& fileName) {
+  const ProfileLock lock(fileName);
   if (QFileInfo::exists(fileName) && QFileInfo(fileName) == QFileInfo(fileName_)) {
     if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   }
@@ -205,6 +207,7 @@ QString ProfileDocument::Write(const QByteArray& text) {
   if (text == text_) return {};
   ProfileList list = ParseProfileList(text, fileName_);
   if (!list.error.isEmpty()) return list.error;
+  const ProfileLock lock(fileName_);
   if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   if (QString error = WriteProfileText(fileName_, text); !error.isEmpty()) return error;
   text_ = text;

@@ -25,7 +25,7 @@ int OpenFolderOf(const QString& fileName) {
 }  // namespace
 
 ProfileLock::ProfileLock(const QString& fileName) : folder_(OpenFolderOf(fileName)) {
-  constexpr std::chrono::seconds kLongest{30};
+  constexpr std::chrono::seconds kLongest{5};
   constexpr std::chrono::milliseconds kPause{20};
   const auto end = std::chrono::steady_clock::now() + kLongest;
   while (flock(folder_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&

@@ -11,7 +11,7 @@ namespace AdvancedControl {
 /// Released when it is destroyed or the process dies.
 class PROJECTOR_FLEET_EXPORT ProfileLock {
  public:
-  /// Waits for another program, but not longer than half a minute. Where locking is impossible, the
+  /// Waits for another program, but not longer than five seconds. Where locking is impossible, the
   /// work goes on without a lock.
   explicit ProfileLock(const QString& fileName);
   ~ProfileLock();

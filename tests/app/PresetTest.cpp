@@ -206,12 +206,22 @@ TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
   Find<QPushButton>(Modal<QMessageBox>(), "Remove").click();
   EXPECT_EQ(PresetFolder::Names(), QStringList{"other"});
   EXPECT_EQ(Row(a).profile.snapshot, "");
-  Find<QAction>(*window, "Undo Remove Preset").trigger();
-  Find<QAction>(*window, "Undo Rename Preset").trigger();
+  const auto trigger = [&](const char* edit) { Find<QAction>(*window, edit).trigger(); };
+  trigger("Undo Remove Preset");
+  trigger("Undo Rename Preset");
   EXPECT_EQ(PresetFolder::Names(), (QStringList{"day", "other"}));
   EXPECT_EQ(Row(a).profile.snapshot, "day");
-  Find<QAction>(*window, "Redo Rename Preset").trigger();
+  trigger("Redo Rename Preset");
   EXPECT_EQ(PresetFolder::Names(), (QStringList{"night", "other"}));
+  day.settings.clear();
+  EXPECT_EQ(PresetFolder::Write("night", day), "");
+  trigger("Redo Remove Preset");
+  trigger("Undo Remove Preset");
+  EXPECT_TRUE(PresetFolder::Read("night").snapshot->settings.empty()) << "another one by then";
+  trigger("Redo Remove Preset");
+  EXPECT_EQ(PresetFolder::Write("night", day), "");
+  trigger("Undo Remove Preset");
+  EXPECT_EQ(Modal<QMessageBox>().informativeText(), "There is already a preset night.");
 }
 
 TEST(PresetFolder, KeepsPresetsByTheirNames) {

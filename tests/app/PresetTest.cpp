@@ -147,26 +147,27 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
 TEST_F(PresetTest, ATagHasAPresetForAllItsProjectors) {
   const Snapshot day = EmptySnapshot("any", Row(a).profile.model->data);
   ASSERT_EQ(PresetFolder::Write("day", day), "");
-  auto& groups = *window->findChild<GroupList*>();
-  groups.Choose({ProjectorGroup::Kind::Tag, "Lecture halls"});
-  const auto count = [&](const char* preset) {
-    return std::ranges::count(Rows(*window), preset,
-                              [](const ProjectorRow& row) { return row.profile.snapshot; });
-  };
+  window->findChild<GroupList*>()->Choose({ProjectorGroup::Kind::Tag, "Lecture halls"});
   Choose("day", "All of Lecture halls");
-  const auto all = std::ranges::count_if(Rows(*window), [](const ProjectorRow& row) {
-    return std::ranges::count(row.profile.tags, "Lecture halls") > 0;
-  });
-  EXPECT_EQ(count("day"), all);
+  std::ptrdiff_t all = 0;
+  for (const ProjectorRow& row : Rows(*window)) {
+    const auto has = std::ranges::count(row.profile.tags, "Lecture halls");
+    EXPECT_EQ(row.profile.snapshot, has > 0 ? "day" : "");
+    all += has;
+  }
   EXPECT_GT(all, 1);
   ProfileDocument document = Shipped(folder);
   EXPECT_EQ(document.Tag({0, 1}, {"Lecture halls"}, true), "");
   EXPECT_EQ(document.Projectors()[1].snapshot, "day") << "one that gets the tag later";
+  for (const char* preset : {"day", ""}) EXPECT_EQ(document.SetTagPreset("Library", preset), "");
+  EXPECT_EQ(document.Write(QByteArray(document.Text()).replace(R"(day"})", R"(day", "x-a":1})")),
+            "");
   EXPECT_EQ(document.ReplacePreset("day", "night"), "");
   EXPECT_EQ(document.Projectors()[1].snapshot, "night");
   EXPECT_FALSE(document.Entry(1).contains("snapshot")) << "it is the tag's";
   EXPECT_EQ(document.SetTagPreset("Lecture halls", ""), "");
   EXPECT_EQ(document.Projectors()[1].snapshot, "");
+  EXPECT_TRUE(document.Text().contains(R"("tags": {"Lecture halls": {"x-a":1}})"));
 }
 
 TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {

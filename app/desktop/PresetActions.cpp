@@ -41,6 +41,7 @@ void PresetActions::Update(bool any) { presets_->setEnabled(any); }
 
 void PresetActions::Fill(QMenu& menu) {
   menu.clear();
+  qDeleteAll(menu.findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
   const Rows rows = parts_.selected();
   const QStringList names = PresetFolder::Names();
   menu.addSection(tr("Put on the selection"));

@@ -1,8 +1,10 @@
 #include "app/desktop/PresetEdits.h"
 
 #include <algorithm>
+#include <memory>
 
 #include <QAction>
+#include <QFileInfo>
 
 #include "app/desktop/presets/PresetManager.h"
 #include "app/desktop/profiles/ProfileDocument.h"
@@ -82,11 +84,18 @@ QString PresetEdits::Rename(const QString& from, const QString& to) {
 
 QString PresetEdits::Remove(const QString& preset) {
   const bool hasFile = parts_.document.HasFile();
-  const FileBytes file = ReadToEnd(PresetFolder::FileOf(preset), kMostBytes);
-  if (!file.error.isEmpty()) return file.error;
-  const auto remove = [preset] { return PresetFolder::Remove(preset); };
-  const auto writeBack = [preset, bytes = file.bytes] {
-    return WriteWholeFile(PresetFolder::FileOf(preset), bytes);
+  const QString path = PresetFolder::FileOf(preset);
+  const auto removed = std::make_shared<QByteArray>();
+  const auto remove = [=] {
+    const FileBytes file = ReadToEnd(path, kMostBytes);
+    if (!file.error.isEmpty()) return file.error;
+    *removed = file.bytes;
+    return PresetFolder::Remove(preset);
+  };
+  const auto writeBack = [=] {
+    if (QFileInfo::exists(path))
+      return PresetManager::tr("There is already a preset %1.").arg(preset);
+    return WriteWholeFile(path, *removed);
   };
   return parts_.history.Do(tr("Remove Preset"), -1,
                            [&] {

@@ -14,10 +14,12 @@
 
 #include "app/desktop/CommandLine.h"
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/Modal.h"
 #include "app/desktop/Preferences.h"
 #include "app/desktop/WindowMemory.h"
 #include "app/desktop/dialogs/Pictures.h"
 #include "app/desktop/profiles/ProfileDocument.h"
+#include "app/desktop/profiles/ProfileFileActions.h"
 #include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
 #include "app/profiles/Table.h"
@@ -54,18 +56,31 @@ QStringList ProfileFilePlaces() {
           QDir::cleanPath(folder.filePath("../share/advanced-control/projectors.json"))};
 }
 
+/// The checked arguments with what they name.
+struct Request {
+  CommandLine line;
+  ProfileDocument profiles;
+  bool areShipped = false;  ///< The profiles that come with the program.
+  QString wrongLast{};      ///< Why the file opened last could not be read; empty if it could.
+  std::size_t opened = 0;   ///< Position of the projector that --open names.
+};
+
 /// Reads the file named by --profiles, else the one opened last, else the one that comes with the
-/// program; `areShipped` says whether it is the last of these.
-QString ReadProfiles(const CommandLine& line, ProfileDocument& document, bool& areShipped) {
-  if (!line.profiles.isEmpty()) return document.Load(line.profiles);
+/// program.
+QString ReadProfiles(Request& request) {
+  const CommandLine& line = request.line;
+  if (!line.profiles.isEmpty()) return request.profiles.Load(line.profiles);
   if (line.action == CommandLine::Action::Window && line.open.isEmpty()) {
     const QString last = WindowMemory::LastProfiles(QSettings(kName, kName));
-    if (!last.isEmpty() && document.Load(last).isEmpty()) return {};
+    if (!last.isEmpty()) {
+      request.wrongLast = request.profiles.Load(last);
+      if (request.wrongLast.isEmpty()) return {};
+    }
   }
   const QStringList places = ProfileFilePlaces();
   const auto place = std::ranges::find_if(places, qOverload<const QString&>(&QFileInfo::exists));
-  areShipped = place != places.end();
-  if (areShipped) return document.Load(*place);
+  request.areShipped = place != places.end();
+  if (request.areShipped) return request.profiles.Load(*place);
   return Program::tr("no profiles at %1; name a file with --profiles")
       .arg(places.join(QStringLiteral(", ")));
 }
@@ -111,22 +126,15 @@ int RunTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
   return 0;
 }
 
-/// The checked arguments with what they name.
-struct Request {
-  CommandLine line;
-  ProfileDocument profiles;
-  bool areShipped = false;  ///< The profiles that come with the program.
-  std::size_t opened = 0;   ///< Position of the projector that --open names.
-};
-
 int RunWindow(Request request) {
-  const auto& [line, profiles, areShipped, opened] = request;
+  const auto& [line, profiles, areShipped, wrongLast, opened] = request;
   QSettings settings(kName, kName);
   MainWindow window(profiles, &settings,
                     {.interval = std::chrono::seconds(Preferences::Interval(&settings))});
   Apply(Preferences::ThemeOf(settings));
   if (areShipped) window.Demonstrate();
   window.show();
+  if (!wrongLast.isEmpty()) ShowError(window, ProfileFileActions::tr("Open Profiles"), wrongLast);
   // The user may close the dialog and the window while the dialog is being read.
   if (!line.open.isEmpty()) {
     QTimer::singleShot(0, &window, [&] { window.OpenDialog(request.opened, request.line.tab); });
@@ -156,7 +164,7 @@ std::variant<Request, int> Prepare(int argc, char* argv[]) {
     return 0;
   }
 
-  const QString wrongProfiles = ReadProfiles(line, request.profiles, request.areShipped);
+  const QString wrongProfiles = ReadProfiles(request);
   if (!wrongProfiles.isEmpty()) return Fail(wrongProfiles);
   const std::vector<FleetProfile>& projectors = request.profiles.Projectors();
   if (line.action == CommandLine::Action::List) {
@@ -191,7 +199,7 @@ int Run(int argc, char* argv[]) {
   auto prepared = Prepare(argc, argv);
   if (const int* exitCode = std::get_if<int>(&prepared)) return *exitCode;
   auto& request = std::get<Request>(prepared);
-  const auto& [line, profiles, areShipped, opened] = request;
+  const auto& [line, profiles, areShipped, wrongLast, opened] = request;
 
   if (!line.platform && !HasDisplay()) {
     if (line.action == CommandLine::Action::Window) {

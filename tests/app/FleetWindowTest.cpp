@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/alerts/AlertList.h"
+#include "app/desktop/details/DetailsPanel.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/profiles/ConnectionTest.h"
 #include "app/desktop/profiles/SearchDialog.h"
@@ -153,6 +154,19 @@ TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {
   EXPECT_EQ(events.item(0)->text(), "nothing yet");
   window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   EXPECT_TRUE(Soon([&] { return events.item(0)->text().endsWith("Temperature: OK → Error"); }));
+}
+
+TEST(FleetWindow, EventsAreThoseOfTheProjectorAndNoOtherNumberOfItsSource) {
+  using enum StateField;
+  DetailsPanel panel({});
+  const auto& events = Find<QListWidget>(panel, "Recent events");
+  const ProjectorRow row{.id = "a", .profile = Profile("A")};
+  const StateChange off{.field = Power, .before = {1}, .now = {0}};
+  const StateChange same{.field = Source, .before = {3, "HDMI"}, .now = {31, "HDMI (31)"}};
+  for (const auto& [field, name] : {std::pair(Mute, "Mute"), {Blank, "Blank"}}) {
+    panel.Show(&row, 1, {{.field = field, .before = {0}, .now = {1}}, same, off});
+    EXPECT_TRUE(events.item(1)->text().contains(name));
+  }
 }
 
 TEST(FleetWindow, SearchFindsAProjectorAndMarksTheKnown) {

@@ -124,10 +124,12 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
 
   AnswerQuestionOf(Find<QAction>(window, "Add"), [](QDialog& editor) {
     EXPECT_FALSE(Accept(editor)) << "without a name";
+    Fill(editor, {{"Model", "QD-M7450"}, {"Model code", "12"}});
+    Fill(editor, {{"Model", "QD-M7450-2"}});  // not what the file knows as QD-M7450
+    EXPECT_FALSE(Accept(editor));
+    Find<QLabel>(editor, "Still to be filled in: Name, Dialog type, and Address");
     EXPECT_GE(Find<QComboBox>(editor, "Model").findText("QD-M7450"), 0);
-    Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}});
-    EXPECT_FALSE(Accept(editor)) << "without an address";
-    Fill(editor, {{"Address", "192.0.2."}});
+    Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}, {"Address", "192.0.2."}});
     Find<QLabel>(editor, "192.0.2. is not an address.");
     Fill(editor, {{"Address", "hall.example"}});
     EXPECT_EQ(Field(editor, "Port").text(), "4352") << "the protocol's own";
@@ -216,10 +218,9 @@ TEST(ProjectorList, OffersToAddRealOnesWhileAllAreSimulated) {
       Find<QLabel>(window, "All these projectors are simulated, for trying the program.");
   EXPECT_TRUE(text.isVisible());
   Find<QPushButton>(window, "Add").click();
-  auto* editor = window.findChild<ProfileEditor*>();
-  ASSERT_NE(editor, nullptr);
-  Fill(*editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}, {"Address", "192.0.2.7"}});
-  EXPECT_TRUE(Accept(*editor));
+  auto& editor = Modal<ProfileEditor>();
+  Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}, {"Address", "192.0.2.7"}});
+  EXPECT_TRUE(Accept(editor));
   EXPECT_FALSE(text.isVisible());
 }
 
@@ -240,10 +241,9 @@ TEST(ProjectorList, AFileThatCannotBeWrittenIsSaidBeforeAnybodyTypes) {
     Modal<QFileDialog>().selectFile(folder.filePath("p.json"));
     QMetaObject::invokeMethod(&Modal<QFileDialog>(), "accept");
   });
-  auto* editor = window.findChild<ProfileEditor*>();
-  ASSERT_NE(editor, nullptr) << "the edit goes on";
-  Field(*editor, "Name").setText("Hall");
-  EXPECT_TRUE(Accept(*editor));
+  auto& editor = Modal<ProfileEditor>();  // the edit goes on
+  Field(editor, "Name").setText("Hall");
+  EXPECT_TRUE(Accept(editor));
   EXPECT_EQ(Selected(window), "Hall");
   Find<QAction>(window, "Undo Edit").trigger();
   EXPECT_NE(Selected(window), "Hall");

@@ -12,6 +12,16 @@ from gi.repository import GLib
 PROGRAM = ""  # its path
 
 
+def start(folder, *arguments):
+    return subprocess.Popen([PROGRAM, *arguments],
+                            env=dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder))
+
+
+def window_of(program, title):
+    return until(title, lambda: next((window for window in children(program)
+                                      if window is not None and window.get_name() == title), None))
+
+
 class Window:
     """The main window with three simulated projectors, in a process of its own."""
 
@@ -25,8 +35,7 @@ class Window:
         file = os.path.join(folder, "p.json")
         with open(file, "w", encoding="utf-8") as text:
             json.dump(profiles, text)
-        self.process = subprocess.Popen([PROGRAM, "--profiles", file],
-                                        env=dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder))
+        self.process = start(folder, "--profiles", file)
         self.program = program_of(self.process)
         self.keyboard = Keyboard()
         self.window = until("a window", lambda: next(iter(children(self.program)), None))
@@ -73,8 +82,7 @@ class Window:
         return [row[0] for row in self.rows()]
 
     def dialog(self, title):
-        return until(title, lambda: next((window for window in children(self.program)
-                                          if window is not None and window.get_name() == title), None))
+        return window_of(self.program, title)
 
 
 class WindowTest(unittest.TestCase):
@@ -113,3 +121,25 @@ class WindowTest(unittest.TestCase):
             until("all of them", lambda: window.names() == Window.NAMES)
             self.assertEqual(window.rows()[0][2], "On")
             self.assertEqual(window.close(), 0)
+
+    def test_the_last_file_that_cannot_be_read_any_more_is_told(self):
+        with tempfile.TemporaryDirectory() as folder:
+            file = os.path.join(folder, "mine.json")
+            with open(file, "w", encoding="utf-8") as text:
+                text.write('{"projectors":\n}')
+            os.mkdir(os.path.join(folder, "advanced-control"))
+            with open(os.path.join(folder, "advanced-control", "advanced-control.conf"), "w",
+                      encoding="utf-8") as text:
+                text.write(f"[window]\nprofiles={file}\n")
+            process = start(folder)
+            program = program_of(process)
+            told = window_of(program, "Open Profiles")
+            until("the line of the fault", lambda: any(
+                node.get_name().startswith(f"{file}:2:") for node in shown_in(told)))
+            press(next(node for node in shown_in(told) if node.get_name() == "OK"))
+            window = until("the window alone", lambda: len(children(program)) == 1
+                           and children(program)[0])
+            keyboard = Keyboard()
+            keyboard.give_to(window)
+            keyboard.press("Control_L q")
+            self.assertEqual(process.wait(SECONDS), 0)

@@ -1,6 +1,7 @@
 #include "app/desktop/details/DetailsPanel.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAction>
 #include <QApplication>
@@ -80,13 +81,22 @@ bool IsOfFirstReading(const StateChange& change, const std::vector<StateChange>&
          change.time == first.time;
 }
 
+/// A source may have one number in the dialog's protocol and another in PJLink.
+bool IsSameSource(const StateChange& change, const std::shared_ptr<const ProfileModel>& model) {
+  const auto name = [&model](const FieldValue& value) {
+    return StateTexts::Source(
+        {.source = PlayingSource{.number = *value.number, .name = value.name}}, model);
+  };
+  return change.field == StateField::Source && name(change.before) == name(change.now);
+}
+
 /// Whether a value really changed, and did not only become known or unknown.
-bool IsEvent(const StateChange& change) {
+bool IsEvent(const StateChange& change, const std::shared_ptr<const ProfileModel>& model) {
   const bool isAlways =
       change.field == StateField::Reachability || change.field == StateField::Power;
   const bool isProblem = change.field == StateField::Problem && change.now.number.value_or(0) > 0;
-  return isAlways ? change.now.number.has_value()
-                  : isProblem || (change.before.number && change.now.number);
+  const bool isChange = change.before.number && change.now.number && !IsSameSource(change, model);
+  return isAlways ? change.now.number.has_value() : isProblem || isChange;
 }
 
 }  // namespace
@@ -226,11 +236,11 @@ void DetailsPanel::ShowFacts(const ProjectorRow& row) {
 void DetailsPanel::ShowHistory(const ProjectorRow& row, const std::vector<StateChange>& history) {
   QStringList texts;
   for (auto change = history.rbegin(); change != history.rend(); ++change)
-    if (IsEvent(*change) && !IsOfFirstReading(*change, history))
+    if (IsEvent(*change, row.profile.model) && !IsOfFirstReading(*change, history))
       texts +=
           tr("%1  %2").arg(TimeOf(change->time), StateTexts::Change(*change, row.profile.model));
   if (texts.isEmpty()) texts += tr("nothing yet");
-  if (texts.size() == events_->count() && texts.first() == events_->item(0)->text()) return;
+  if (std::exchange(shown_, texts) == texts) return;
   events_->clear();
   events_->addItems(texts);
 }

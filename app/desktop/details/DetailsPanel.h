@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <QList>
+#include <QStringList>
 #include <QWidget>
 
 #include "app/desktop/projectors/ProjectorRow.h"
@@ -50,5 +51,6 @@ class DetailsPanel : public QWidget {
   std::array<QLabel*, FactCount> facts_{};
   QProgressBar* lamp_;
   QListWidget* events_;
+  QStringList shown_;  // the lines of `events_`
   QWidget* body_;
 };

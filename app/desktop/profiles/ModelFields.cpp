@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include <QCheckBox>
 #include <QCompleter>
@@ -47,14 +48,22 @@ void ModelFields::OfferModels() {
   model_->setCompleter(names);
 }
 
-// The numbers of a known model come from the file.
+// The numbers of a known model come from the file. When its name was only the beginning of another
+// one, they go again, except for those that the user has typed since.
 void ModelFields::TakeModel() {
   const auto model = models_.constFind(model_->text().trimmed());
-  if (model == models_.constEnd()) return;
-  modelMembers_ = *model;
+  const bool isKnown = model != models_.constEnd();
+  if (!isKnown && !before_) return;
+  if (!before_)
+    before_ = {{"like", family_->currentData().toString()},
+               {"dialogType", dialogType_->text()},
+               {"modelCode", modelCode_->text()}};
+  modelMembers_ = isKnown ? *model : *std::exchange(before_, std::nullopt);
   family_->setCurrentIndex(std::max(0, family_->findData(modelMembers_.take("like").toString())));
-  dialogType_->setText(EntryForm::TextOf(modelMembers_.take("dialogType")));
-  modelCode_->setText(EntryForm::TextOf(modelMembers_.take("modelCode")));
+  for (QLineEdit* field : {dialogType_, modelCode_}) {
+    const QString text = EntryForm::TextOf(modelMembers_.take(field->objectName()));
+    if (isKnown || !field->isModified()) field->setText(text);
+  }
   modelMembers_.remove("model");
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QJsonObject>
@@ -50,5 +51,6 @@ class ModelFields : public QObject {
   QCheckBox* more_;
   QLineEdit* dialogType_;
   QLineEdit* modelCode_;
-  QJsonObject modelMembers_;  // members of the chosen model that have no field
+  QJsonObject modelMembers_;           // members of the chosen model that have no field
+  std::optional<QJsonObject> before_;  // what the fields had before those of a known model
 };

@@ -20,8 +20,10 @@ const QString kTags = QStringLiteral("tags");
 const QString kSnapshot = QStringLiteral("snapshot");
 
 void SetPreset(QJsonObject& tags, const QString& tag, const QString& preset) {
-  if (preset.isEmpty()) return tags.remove(tag);
-  tags[tag] = QJsonObject{{kSnapshot, preset}};
+  QJsonObject settings = tags[tag].toObject();
+  settings[kSnapshot] = preset.isEmpty() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(preset);
+  if (settings.isEmpty()) return tags.remove(tag);
+  tags[tag] = settings;
 }
 
 JsonEdit::Path EntryPath(std::size_t projector) {

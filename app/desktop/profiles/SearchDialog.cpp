@@ -100,9 +100,9 @@ void SearchDialog::Add(const FoundProjector& found) {
                          : found.needsPassword ? tr("wants a password")
                                                : QString();
   found_.push_back(found);
-  auto* item = new QTreeWidgetItem(
-      {QString::fromStdString(found.name), QString::fromStdString(found.model),
-       QStringLiteral("%1:%2").arg(QString::fromStdString(found.address)).arg(found.port), remark});
+  auto* item =
+      new QTreeWidgetItem({QString::fromStdString(found.name), QString::fromStdString(found.model),
+                           ConnectionText({.address = found.address, .port = found.port}), remark});
   item->setCheckState(0, isKnown ? Qt::Unchecked : Qt::Checked);
   list_->addTopLevelItem(item);
   add_->setEnabled(!Chosen().empty());

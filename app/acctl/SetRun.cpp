@@ -86,6 +86,7 @@ void SetRun::Make() {
       // A run that cannot be undone goes on, and says so.
       replaced_.Keep(setting, result.before, result.aim, result.source);
       Make(result);
+      if (result.now == result.aim) replaced_.Confirm();
     }
     isForOtherSource_ = isForOtherSource_ || setting.SelectsInput();
   }

@@ -8,7 +8,7 @@ import shutil
 import signal
 import time
 
-from script_support import PROGRAMS, ROOMS, VALIDATOR, Building, free_port
+from script_support import PROGRAMS, RGB1, RGB2, ROOMS, VALIDATOR, Building, WireProjector, free_port
 
 ALL = "@building-3"
 
@@ -198,6 +198,18 @@ class Runs(Building):
         self.acctl("set", "Lecture hall", "input=rgb2")
         self.assertEqual(self.value("Lecture hall", "volume"),
                          [line.split("\t")[4] for line in before.splitlines() if "\taudio.volume\t" in line])
+
+    def test_what_follows_a_change_of_input_is_undone_for_the_input_that_it_was_made_for(self):
+        for refusals, words, code, output, errors in (
+                (1, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "input-source: refused, it is RGB1$"),
+                (9, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "refused")):  # still when it is undone
+            with self.subTest(refusals=refusals, words=words):
+                projector = self.start_projector(WireProjector)
+                projector.refusals = refusals
+                self.check(["set", "Lecture hall", *words, "--connect", projector.address], code, output, errors)
+                self.check(["undo"], 0, "^Lecture hall .*[0-9] changed$")
+                self.assertEqual((projector.input, projector.brightness, projector.others[0x2004]),
+                                 (RGB1, {RGB1: 128, RGB2: 140}, 128))
 
     def test_folders_know_their_projectors(self):
         self.acctl("save", "Seminar*", "-o", "saved")

@@ -202,7 +202,11 @@ class Runs(Building):
     def test_what_follows_a_change_of_input_is_undone_for_the_input_that_it_was_made_for(self):
         for refusals, words, code, output, errors in (
                 (1, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "input-source: refused, it is RGB1$"),
-                (9, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "refused")):  # still when it is undone
+                (9, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "refused"),  # still when it is undone
+                (0, ["contrast=1", "input=rgb2", "brightness+=3", "contrast+=1"], 0, "12 +->  15\n.* 1 +->  2$", ""),
+                (0, ["input=rgb2", "brightness=0"], 0, "12 +->  0$", ""),
+                (0, ["input=rgb2", "brightness+=31"], 1, "->  RGB2$", "brightness: '\+31' from 12 is not one of"),
+                (0, ["brightness=1", "input=rgb2", "input-=1", "brightness-=1"], 0, " 1 +->  0$", "")):
             with self.subTest(refusals=refusals, words=words):
                 projector = self.start_projector(WireProjector)
                 projector.refusals = refusals
@@ -210,6 +214,9 @@ class Runs(Building):
                 self.check(["undo"], 0, "^Lecture hall .*[0-9] changed$")
                 self.assertEqual((projector.input, projector.brightness, projector.others[0x2004]),
                                  (RGB1, {RGB1: 128, RGB2: 140}, 128))
+        projector.commands, projector.lost = 0, range(5, 99)  # from the value that brightness has then
+        self.check(["set", "Lecture hall", "input=rgb2", "brightness+=3", "--connect", projector.address, "--timeout", "0.2"],
+                   3, "->  RGB2$", "brightness: no answer$")
 
     def test_folders_know_their_projectors(self):
         self.acctl("save", "Seminar*", "-o", "saved")

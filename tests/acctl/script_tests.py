@@ -100,6 +100,14 @@ class Runs(Building):
         self.check(["undo", undo["run"]], 0, "2 changed")
         self.assertEqual(self.value(ALL, "contrast"), ["2"] * 3)
 
+    def test_undoing_an_undo_goes_to_the_same_address(self):
+        projector = self.start_projector(WireProjector)
+        self.check(["set", "Lecture hall", "brightness=5", "--connect", projector.address], 0, "0  ->  5")
+        for brightness in (128, 133):
+            self.check(["undo", self.json("undo", "--list")["runs"][-1]["run"]], 0, "1 changed")
+            self.assertEqual(projector.brightness[RGB1], brightness)
+        self.assertEqual(self.value("Lecture hall", "brightness"), ["0"])
+
     def test_a_part_of_a_run_is_undone_by_name_or_state(self):
         self.acctl("set", "Seminar 2", "power=standby", "--wait", "60s")
         self.acctl("set", "*", "brightness=5")

@@ -185,7 +185,10 @@ class Runs(Building):
     def test_an_undo_of_the_host_application_is_not_written_to(self):
         self.acctl("set", "Office", "brightness=5", "contrast=2")
         run = next((self.folder / "state/advanced-control/undo").iterdir())
-        self.check(["undo", "--dry-run"], 0, r"main.contrast .* \?  ->  0\n.* \?  ->  0\nOffice  2 not compared$")
+        not_compared = r"main.contrast .* \?  ->  0\n.* \?  ->  0\nOffice  2 not compared$"
+        self.check(["undo", "--dry-run"], 0, not_compared)
+        (self.folder / "undo.json").write_text(json.dumps(json.loads(run.read_text().splitlines()[-1])["snapshot"]))
+        self.check(["diff", "Office", "undo.json", "--exit-code"], 2, not_compared)
         job = self.folder / "job.undo"
         job.write_text(json.dumps({"undoOfJob": [json.loads(run.read_text().splitlines()[-1])]}, indent=1))
         before = job.read_text()

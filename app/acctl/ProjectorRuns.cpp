@@ -147,9 +147,7 @@ ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
   const auto* const pjLink = address ? std::get_if<PjLinkAddress>(&*address) : nullptr;
   attempt.lacksPassword = pjLink != nullptr && pjLink->password.empty() &&
                           projector.Channel().Connection() == ConnectionState::PasswordRequired;
-  const CPjtInterface::Tally sent = projector.Connection().Sent();
-  attempt.mayRepeat =
-      !IsChanging(arguments) || (sent.commands == sent.unanswered && sent.uncertain == 0);
+  attempt.mayRepeat = !projector.Channel().HasSentChange();
   if (step.keepsOpen && attempt.report.code == ExitCode::Done) open_.Keep(number, std::move(open));
   return attempt;
 }

@@ -273,6 +273,12 @@ class Runs(Building):
         for words in (["get", "*", "power"], ["list", "--where", "power=on"]):
             self.check([*words, "--jobs", "1", "--fail-fast"], 3,
                        errors="Lecture hall: .*\n(.*not begun, as another projector failed\n){3}")
+        for lost, code, output, error in ((range(2, 6), 0, "0  ->  3$", ""),  # a read
+                                          (range(3, 5), 3, "", "brightness: no answer, it may have been changed$")):
+            projector = self.start_projector(WireProjector)
+            projector.lost = lost
+            self.check(["set", "Lecture hall", "brightness=3", "contrast=3", "--retries", "9", "--timeout", "0.2",
+                        "--connect", projector.address], code, output, error)
         port = free_port(2)
         get = self.start("--profiles", "rooms.json", "get", "Office", "contrast", "-o", "value", "--retries", "60",
                          "--connect", f"tcp://127.0.0.1:{port}")

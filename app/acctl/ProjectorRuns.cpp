@@ -213,9 +213,11 @@ std::optional<Report> ProjectorRuns::NotBegun() const {
 bool ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
   if (conditions.empty()) return true;
   constexpr const char* kMeets = "meets";
+  PossibleValues reported(conditions, work_.texts);
   const Step step{[&](const Work& work, ProjectorAccess& projector) {
                     Report report;
                     report.json[kMeets] = MeetsAll(conditions, work.texts, projector, report);
+                    reported.Add(projector.Settings());
                     return report;
                   },
                   true};
@@ -238,6 +240,11 @@ bool ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
                                  IsSimulated(Profile(number), work_.arguments), report);
                   }
                 }});
+  // It was said already if it did not depend on the inputs that the projectors report.
+  const bool isNew = ImpossibleValue(conditions, work_.texts, projectors_, models_).empty();
+  if (const std::string note = reported.Error(); isNew && !note.empty()) {
+    Complain("--where " + note);
+  }
   const bool areAll = meeting.size() == projectors_.size();
   open_.Renumber(numbers);
   projectors_ = std::move(meeting);

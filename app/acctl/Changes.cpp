@@ -55,23 +55,21 @@ std::vector<Change> ChangesOf(const Work& work, const Target& target, Report& re
   return changes;
 }
 
-/// Reports values that cannot be reached from the present ones. The value of a setting that is kept
-/// for each input source is only known after a change of the source was made.
+/// Reports values that cannot be reached from the present ones. Behind a change of source or mode,
+/// the present value of another setting is only known after that change was made.
 void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess& projector,
                 Report& report) {
   const Progress progress = ProgressOf(work, projector);
   const Target target = TargetOf(projector);
   std::map<const ModelSetting*, std::optional<int>> expected;
-  bool isForOtherSource = false;
+  bool isForOtherMode = false;
   for (Change& change : changes) {
     const ModelSetting& setting = *change.setting;
-    isForOtherSource = isForOtherSource || setting.SelectsInput();
-    if (isForOtherSource && setting.IsPerSource()) continue;
     if (target.OnlySteps(setting)) continue;  // its value is unknown
     std::optional<int>& value = expected[&setting];
     if (!change.typed.relative && !IsUnbounded(target, setting)) {
       value = change.typed.amount;
-    } else if (progress.goesOn()) {
+    } else if (progress.goesOn() && (value || !isForOtherMode)) {
       if (!value) {
         change.source = projector.Settings().PresentSource(projector.Connection(), setting);
         value = projector.Settings().Read(projector.Connection(), setting, change.source);
@@ -85,10 +83,15 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
       value = AimOf(change, work, target, value, ExitCode::WrongUse, report);
     }
     if (&change == &changes.front()) change.aim = value;
+    if (!SelectsMode(setting)) continue;
+    isForOtherMode = true;
+    std::erase_if(expected, [&](const auto& other) { return other.first != &setting; });
   }
 }
 
 }  // namespace
+
+bool SelectsMode(const ModelSetting& setting) { return setting.kind == ModelSetting::Kind::Choice; }
 
 bool IsUnbounded(const Target& target, const ModelSetting& setting) {
   return target.OnlySteps(setting) || (setting.IsStepped() && !setting.range);

@@ -61,7 +61,8 @@ bool IsEqual(const Condition& condition, const ValueTexts& texts, const ModelSet
   const auto typed =
       texts.Parse(setting, isNumber && condition.value.starts_with('-') ? '=' + condition.value
                                                                         : condition.value);
-  return typed && !typed->relative && texts.Code(setting, typed->amount) == code;
+  if (!typed) return texts.Shown().IsNamed(setting, value, condition.value);  // as others may be
+  return !typed->relative && texts.Code(setting, typed->amount) == code;
 }
 
 }  // namespace
@@ -99,6 +100,12 @@ ConditionList ParseConditions(std::string_view text) {
 
 namespace {
 
+bool HasNamed(const ModelSetting& setting, const ValueTexts& texts, std::string_view name) {
+  return std::ranges::any_of(setting.entries, [&](const ListEntry& entry) {
+    return texts.Shown().IsNamed(setting, entry.value, name);
+  });
+}
+
 bool IsPowerCode(std::string_view text) {
   using enum PowerState;
   return std::ranges::any_of(std::array{Standby, WarmingUp, On, CoolingDown},
@@ -107,27 +114,33 @@ bool IsPowerCode(std::string_view text) {
 
 }  // namespace
 
-std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
-                            const Projectors& projectors, ModelCache& models) {
-  for (const Condition& condition : conditions) {
-    if (NumberOf(condition.value)) continue;
-    const ModelSetting* lacking = nullptr;
-    const bool isPossible = std::ranges::any_of(projectors, [&](const FleetProfile* profile) {
-      const ModelSetting* const setting =
-          FindSetting(models.Of(*profile), condition.key, kRead.isPossible);
-      if (setting == nullptr) return false;
-      lacking = setting;
-      const bool isListed =
-          setting->kind == ModelSetting::Kind::Choice && !setting->entries.empty();
-      if (!isListed && !setting->IsPower()) return true;
-      return texts.Parse(*setting, condition.value) || IsPowerCode(condition.value);
-    });
-    if (isPossible || lacking == nullptr) continue;
-    return condition.key + ": " +
-           Message(Acctl::tr("'%1' is not one of: %2"), condition.value,
-                   texts.ValuesWithCodes(*lacking));
+void PossibleValues::Add(const ModelSettings& model) {
+  for (std::size_t i = 0; i < conditions_.size(); ++i) {
+    const Condition& condition = conditions_[i];
+    const ModelSetting* const setting = FindSetting(model, condition.key, kRead.isPossible);
+    if (isPossible_[i] || setting == nullptr) continue;
+    const bool isListed = setting->kind == ModelSetting::Kind::Choice && !setting->entries.empty();
+    isPossible_[i] = NumberOf(condition.value) || (!isListed && !setting->IsPower()) ||
+                     texts_.Parse(*setting, condition.value) || IsPowerCode(condition.value) ||
+                     HasNamed(*setting, texts_, condition.value);
+    values_[i] = texts_.ValuesWithCodes(*setting);
+  }
+}
+
+std::string PossibleValues::Error() const {
+  for (std::size_t i = 0; i < conditions_.size(); ++i) {
+    if (isPossible_[i] || values_[i].empty()) continue;
+    return conditions_[i].key + ": " +
+           Message(Acctl::tr("'%1' is not one of: %2"), conditions_[i].value, values_[i]);
   }
   return {};
+}
+
+std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
+                            const Projectors& projectors, ModelCache& models) {
+  PossibleValues possible(conditions, texts);
+  for (const FleetProfile* profile : projectors) possible.Add(models.Of(*profile));
+  return possible.Error();
 }
 
 bool IsMet(const Condition& condition, const ValueTexts& texts, const ModelSetting& setting,
@@ -157,9 +170,17 @@ bool MeetsAll(const std::vector<Condition>& conditions, const ValueTexts& texts,
       if (!projector.Channel().HasAnswered()) report.Add(NoAnswerOf(projector));
       return false;
     }
-    if (!IsMet(conditions[i], texts, *setting, *value, projector.Connection().Power())) {
+    const bool isMet =
+        IsMet(conditions[i], texts, *setting, *value, projector.Connection().Power());
+    // An input whose name is not known may have the one that is compared.
+    const bool lacksName = TargetOf(projector).ReportsInputs() && ShowsInput(*setting) &&
+                           !NumberOf(conditions[i].value);
+    if (lacksName && isMet == (conditions[i].comparison == Comparison::Unequal)) {
+      report.Add(
+          {ProblemCode::InputsUnknown, InputsNotRead(), conditions[i].key, {}, ExitCode::NoAnswer});
       return false;
     }
+    if (!isMet) return false;
   }
   return true;
 }

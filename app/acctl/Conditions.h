@@ -26,9 +26,31 @@ struct ConditionList {
 /// must be one that some model has.
 ConditionList ParseConditions(std::string_view text);
 
-/// The error for a condition with a value that none of the projectors' models has; empty if there
-/// is none. Numbers, states except the power, and choices that only a projector knows may have any
-/// value.
+/// Finds a condition with a value that no projector has, which may be a mistake. Numbers, states
+/// except the power, and choices whose entries are not known may have any value.
+class PossibleValues {
+ public:
+  /// Both must outlive this object.
+  PossibleValues(const std::vector<Condition>& conditions, const ValueTexts& texts)
+      : conditions_(conditions),
+        texts_(texts),
+        isPossible_(conditions.size()),
+        values_(conditions.size()) {}
+
+  /// Takes the values of one more projector into account.
+  void Add(const ModelSettings& model);
+  /// The error for the first such condition; empty if there is none.
+  std::string Error() const;
+
+ private:
+  const std::vector<Condition>& conditions_;
+  const ValueTexts& texts_;
+  std::vector<bool> isPossible_;
+  std::vector<std::string> values_;  ///< For the error; empty if no projector has the setting.
+};
+
+/// The error for a condition with a value that none of the projectors' models has, before they are
+/// asked.
 std::string ImpossibleValue(const std::vector<Condition>& conditions, const ValueTexts& texts,
                             const Projectors& projectors, ModelCache& models);
 
@@ -37,7 +59,7 @@ bool IsMet(const Condition& condition, const ValueTexts& texts, const ModelSetti
            int value, std::optional<PowerState> power);
 
 /// Reads the settings that the conditions name, and returns whether all conditions are met. They
-/// are not if the model lacks a setting. A projector that does not answer is added to the report as
-/// a problem.
+/// are not if the model lacks a setting. A projector that does not answer, or does not report the
+/// inputs that a condition names, is added to the report as a problem.
 bool MeetsAll(const std::vector<Condition>& conditions, const ValueTexts& texts,
               ProjectorAccess& projector, Report& report);

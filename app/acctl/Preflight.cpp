@@ -113,9 +113,7 @@ Report CheckByAsking(const Work& work, ProjectorAccess& projector) {
 InputsNeeded InputsNeededBy(const Work& work, const Target& target) {
   if (!target.ReportsInputs()) return InputsNeeded::None;
   const Arguments& arguments = work.arguments;
-  const auto showsInput = [](const ModelSetting* setting) {
-    return setting->key == "status.input-source" || setting->SelectsInput();
-  };
+  const auto showsInput = [](const ModelSetting* setting) { return ShowsInput(*setting); };
   Report ignored;
   std::vector<const ModelSetting*> shown;
   if (!work.conditionKeys.empty()) {

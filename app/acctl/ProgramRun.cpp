@@ -121,6 +121,7 @@ std::string ProgramRun::PrepareUndo() {
   if (!error.empty()) return error;
   // The file contains the projector's address, and the options on which its values depend.
   if (arguments_.connecting.address.empty()) arguments_.connecting.address = undone_.address;
+  recorded_.address = arguments_.connecting.address;
   TakeRun(undone_, profiles_, projectors_, files_, left_);
   if (!arguments_.projectors.empty()) error = LimitUndo();
   arguments_.lenient = true;

@@ -147,9 +147,7 @@ ProjectorRuns::Attempt ProjectorRuns::Try(int number, const Step& step,
   const auto* const pjLink = address ? std::get_if<PjLinkAddress>(&*address) : nullptr;
   attempt.lacksPassword = pjLink != nullptr && pjLink->password.empty() &&
                           projector.Channel().Connection() == ConnectionState::PasswordRequired;
-  const CPjtInterface::Tally sent = projector.Connection().Sent();
-  attempt.mayRepeat =
-      !IsChanging(arguments) || (sent.commands == sent.unanswered && sent.uncertain == 0);
+  attempt.mayRepeat = !projector.Channel().HasSentChange();
   if (step.keepsOpen && attempt.report.code == ExitCode::Done) open_.Keep(number, std::move(open));
   return attempt;
 }
@@ -215,9 +213,11 @@ std::optional<Report> ProjectorRuns::NotBegun() const {
 bool ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
   if (conditions.empty()) return true;
   constexpr const char* kMeets = "meets";
+  PossibleValues reported(conditions, work_.texts);
   const Step step{[&](const Work& work, ProjectorAccess& projector) {
                     Report report;
                     report.json[kMeets] = MeetsAll(conditions, work.texts, projector, report);
+                    reported.Add(projector.Settings());
                     return report;
                   },
                   true};
@@ -240,6 +240,11 @@ bool ProjectorRuns::Filter(const std::vector<Condition>& conditions) {
                                  IsSimulated(Profile(number), work_.arguments), report);
                   }
                 }});
+  // It was said already if it did not depend on the inputs that the projectors report.
+  const bool isNew = ImpossibleValue(conditions, work_.texts, projectors_, models_).empty();
+  if (const std::string note = reported.Error(); isNew && !note.empty()) {
+    Complain("--where " + note);
+  }
   const bool areAll = meeting.size() == projectors_.size();
   open_.Renumber(numbers);
   projectors_ = std::move(meeting);

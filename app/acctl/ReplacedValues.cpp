@@ -1,5 +1,7 @@
 #include "app/acctl/ReplacedValues.h"
 
+#include <utility>
+
 #include "app/acctl/Message.h"
 #include "app/acctl/UndoRuns.h"
 
@@ -14,6 +16,7 @@ void KeepRun(const Work& work, const std::string& projector) {
 
 void ReplacedValues::Keep(const ModelSetting& setting, std::optional<int> before,
                           std::optional<int> aim, std::optional<int> source) {
+  choice_.reset();
   if (before && before == aim) return;
   if (!setting.Restorable() || !before) {
     KeepRun(work_, projector_.Name());
@@ -25,7 +28,7 @@ void ReplacedValues::Keep(const ModelSetting& setting, std::optional<int> before
                         .text = work_.texts.Shown().Value(setting, value),
                         .source = setting.of != OfSource::None ? source : std::nullopt};
   };
-  if (setting.kind == ModelSetting::Kind::Choice && aim) modes_.push_back(saved(*aim));
+  if (setting.kind == ModelSetting::Kind::Choice && aim) choice_ = saved(*aim);
   replaced_.insert(replaced_.begin(), saved(*before));
   Snapshot undo = EmptySnapshot(projector_.Name(), projector_.Settings().Model());
   if (replaced_.size() == 1) {
@@ -35,6 +38,10 @@ void ReplacedValues::Keep(const ModelSetting& setting, std::optional<int> before
     undo.beforehand.insert(undo.beforehand.end(), replaced_.begin(), replaced_.end());
   }
   isKept_ = KeepUndo(work_, projector_.Name(), undo) && isKept_;
+}
+
+void ReplacedValues::Confirm() {
+  if (choice_) modes_.push_back(*std::exchange(choice_, std::nullopt));
 }
 
 void ReplacedValues::ReportFailure(Report& report) const {

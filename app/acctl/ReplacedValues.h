@@ -19,13 +19,17 @@ class ReplacedValues {
   /// `aim` is the value that replaces it; nothing if only the projector knows that.
   void Keep(const ModelSetting& setting, std::optional<int> before, std::optional<int> aim,
             std::optional<int> source);
+  /// Records that the projector has taken the value that was kept last. If it is a choice, what is
+  /// kept later belongs to it, and is restored for it.
+  void Confirm();
   /// Reports that something could not be recorded, if so.
   void ReportFailure(Report& report) const;
 
  private:
   const Work& work_;
   const ProjectorAccess& projector_;
-  std::vector<SavedSetting> modes_;     ///< Choices that were sent, in order.
+  std::vector<SavedSetting> modes_;     ///< Choices that the projector has taken, in order.
+  std::optional<SavedSetting> choice_;  ///< The last one that was kept, until it is taken.
   std::vector<SavedSetting> replaced_;  ///< What was there before, the last one first.
   bool isKept_ = true;
 };

@@ -24,9 +24,13 @@ void ReportIfCut(const Work& work, const RestoredOutcomes& outcomes, Report& rep
   if (work.isInterrupted() && outcomes.Count(Outcome::NotReached) > 0) report.Add(InterruptionOf());
 }
 
-/// With --exit-code, 1 says that something differs, so an error is 2.
+/// With --exit-code, 1 says that something differs, so an error is 2, and so is what could not be
+/// compared.
 void TakeExitCode(const RestoredOutcomes& outcomes, Report& report) {
-  if (report.code == ExitCode::Refused) report.code = ExitCode::WrongUse;
+  const bool isLeft = outcomes.Count(Outcome::NotReached) > 0;
+  if (isLeft || report.code == ExitCode::Refused) {
+    report.code = std::max(report.code, ExitCode::WrongUse);
+  }
   if (outcomes.Count(Outcome::Differs) > 0) report.code = std::max(report.code, ExitCode::Refused);
 }
 

@@ -51,19 +51,16 @@ void SetRun::ReadBefore() {
     readable[i]->source = reads[i].source;
     readable[i]->before = model.Read(projector_.Connection(), *settings[i], reads[i].source);
   }
-  if (!projector_.Channel().IsGone() || results_.empty()) return;
-  const Problem silence = NoAnswerOf(projector_);
-  Fail(results_.front(), "notDone", silence.code, silence.text, ExitCode::NoAnswer);
+  if (projector_.Channel().IsGone() && !results_.empty()) FailUnanswered(results_.front());
 }
 
-// An earlier change may have changed the value, or the source that it belongs to.
+// An earlier change may have changed the value, or the source or mode that it belongs to.
 void SetRun::ReadAgain(Result& result) {
   const ModelSetting& setting = *result.change->setting;
-  const bool isOfOtherSource = isForOtherSource_ && setting.IsPerSource();
   const bool wasChanged = std::ranges::any_of(results_, [&](const Result& other) {
     return &other < &result && other.change->setting == &setting;
   });
-  if (!setting.readable || (!isOfOtherSource && !wasChanged)) return;
+  if (!setting.readable || (!isForOtherMode_ && !wasChanged)) return;
   result.source = projector_.Settings().PresentSource(projector_.Connection(), setting);
   result.before = projector_.Settings().Read(projector_.Connection(), setting, result.source);
 }
@@ -77,6 +74,10 @@ void SetRun::Make() {
       MakeSteps(result);
     } else {
       ReadAgain(result);
+      if (projector_.Channel().IsGone()) {
+        FailUnanswered(result);
+        break;
+      }
       // Not wrong usage, because other settings were changed already.
       if (!result.aim) {
         result.aim = AimOf(*result.change, work_, TargetOf(projector_), result.before,
@@ -86,8 +87,10 @@ void SetRun::Make() {
       // A run that cannot be undone goes on, and says so.
       replaced_.Keep(setting, result.before, result.aim, result.source);
       Make(result);
+      if (result.now == result.aim) replaced_.Confirm();
+      const bool wasSo = result.before == result.aim;
+      isForOtherMode_ = isForOtherMode_ || (SelectsMode(setting) && !wasSo);
     }
-    isForOtherSource_ = isForOtherSource_ || setting.SelectsInput();
   }
   replaced_.ReportFailure(report_);
 }
@@ -140,6 +143,11 @@ void SetRun::Fail(Result& result, const char* outcome, const char* code, std::st
       Problem{code, std::move(text), std::string(result.change->setting->key), {}, exitCode};
 }
 
+void SetRun::FailUnanswered(Result& result) {
+  const Problem silence = NoAnswerOf(projector_);
+  Fail(result, "notDone", silence.code, silence.text, ExitCode::NoAnswer);
+}
+
 std::string SetRun::NowText(const Result& result) const {
   if (!result.now) return {};
   return work_.texts.Shown().Value(*result.change->setting, *result.now);
@@ -167,17 +175,15 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
                            : Message(Acctl::tr("accepted, but not so yet")),
                 ExitCode::Done);
   }
-  const Problem silence = NoAnswerOf(projector_);
   if (after.uncertain > before.uncertain) {
+    const Problem silence = NoAnswerOf(projector_);
     return Fail(
         result, "unconfirmed", silence.code,
         result.now ? Message(Acctl::tr("%1, it may have been changed, it is %2"), silence.text, now)
                    : Message(Acctl::tr("%1, it may have been changed"), silence.text),
         ExitCode::NoAnswer);
   }
-  if (after.unanswered > before.unanswered) {
-    return Fail(result, "notDone", silence.code, silence.text, ExitCode::NoAnswer);
-  }
+  if (after.unanswered > before.unanswered) return FailUnanswered(result);
   if (after.notOffered > before.notOffered) {
     return Fail(result, "refused", ProblemCode::NotOffered, NotOffered(), ExitCode::Refused);
   }

@@ -46,6 +46,8 @@ class SetRun {
   void AddUnknownBefore(const Result& result);
   bool IsInEffect(const Result& result) const;
   void Fail(Result& result, const char* outcome, const char* code, std::string text, int exitCode);
+  /// The projector did not answer, and nothing was changed.
+  void FailUnanswered(Result& result);
   std::string NowText(const Result& result) const;
   QJsonObject Describe(const Result& result) const;
 
@@ -54,5 +56,5 @@ class SetRun {
   Report& report_;
   std::vector<Result> results_;
   ReplacedValues replaced_;
-  bool isForOtherSource_ = false;  ///< The input source was changed.
+  bool isForOtherMode_ = false;  ///< An input source or another choice was sent.
 };

@@ -67,6 +67,10 @@ Target TargetOf(const ProjectorAccess& projector) {
   return {projector.Settings(), projector.IsPjLink()};
 }
 
+bool ShowsInput(const ModelSetting& setting) {
+  return setting.key == "status.input-source" || setting.SelectsInput();
+}
+
 bool IsReadOverPjLink(const ModelSetting& setting, const ModelData& model) {
   return IsInPjLink(ReadingOf(*setting.row, model));
 }

@@ -53,6 +53,9 @@ struct Use {
   bool (*isForPatterns)(const ModelSetting&) = [](const ModelSetting&) { return true; };
 };
 
+/// Whether its value is an input, which has a name if the projector or its profile says it.
+bool ShowsInput(const ModelSetting& setting);
+
 /// Whether PJLink has the commands to read, to change and to reset a setting.
 bool IsReadOverPjLink(const ModelSetting& setting, const ModelData& model);
 bool IsChangedOverPjLink(const ModelSetting& setting, const ModelData& model);

@@ -21,6 +21,7 @@ PjtReply PatientChannel::Execute(const PjtCommand& command) {
     if (last_.answered) break;
   }
   last_.unsent = !wasSent;
+  hasSentChange_ = hasSentChange_ || (wasSent && !IsRead(command.operation));
   // An unanswered step does not mean that the projector is gone; the next command will show it.
   gone_ = gone_ || (!last_.answered && (isAbsolute || !wasSent || !wasThere_));
   return last_;

@@ -49,6 +49,8 @@ class PatientChannel : public ForwardingChannel {
   const PjtReply& Last() const { return last_; }
   /// Whether the last command was answered.
   bool HasAnswered() const { return last_.answered; }
+  /// Whether a change was sent, whatever became of it.
+  bool HasSentChange() const { return hasSentChange_; }
   /// Whether the last command was for something that the projector has, as far as that is known.
   bool IsOffered() const { return last_.offered; }
 
@@ -58,5 +60,6 @@ class PatientChannel : public ForwardingChannel {
   const PatientTime time_;
   bool wasThere_;  ///< It has greeted or answered.
   bool gone_ = false;
+  bool hasSentChange_ = false;
   PjtReply last_;
 };

@@ -47,6 +47,10 @@ std::string_view PlainName(std::string_view name) {
   return name.ends_with(')') ? name.substr(0, name.rfind(" (")) : name;
 }
 
+bool HasPlainName(const ListEntry& entry, std::string_view text) {
+  return !entry.text && SameText(PlainName(entry.name), text);
+}
+
 /// Caption number of "V" or "H" for a setting whose row shows it after its caption; 0 for others.
 int Direction(std::string_view key) {
   if (key.ends_with("-v")) return 52;
@@ -147,6 +151,12 @@ std::string SettingTexts::Value(const ModelSetting& setting, int value,
   return std::to_string(value - setting.bias);
 }
 
+bool SettingTexts::IsNamed(const ModelSetting& setting, int value, std::string_view text) const {
+  return std::ranges::any_of(setting.entries, [&](const ListEntry& entry) {
+    return entry.value == value && HasPlainName(entry, text);
+  });
+}
+
 bool SettingTexts::IsShownAs(const ModelSetting& setting, int value, std::string_view text) const {
   const bool isEntry = std::ranges::any_of(setting.entries, [&](const ListEntry& entry) {
     return entry.value == value && (Is(entry, text, likely_) || Is(entry, text, others_) ||
@@ -187,9 +197,7 @@ std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
       if (isIt) return TypedValue{entry.value};
     }
   }
-  const auto isPlainName = [&text](const ListEntry& entry) {
-    return !entry.text && SameText(PlainName(entry.name), text);
-  };
+  const auto isPlainName = [&](const ListEntry& entry) { return HasPlainName(entry, text); };
   if (std::ranges::count_if(setting.entries, isPlainName) == 1) {
     return TypedValue{std::ranges::find_if(setting.entries, isPlainName)->value};
   }

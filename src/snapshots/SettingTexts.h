@@ -49,6 +49,9 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   /// The same, but with the exact power state that `CPjtInterface::Power` returns: a projector that
   /// is warming up is not shown as on.
   std::string Value(const ModelSetting& setting, int value, std::optional<PowerState> power) const;
+  /// Whether a text is the name of the entry with a device value, without the number in parentheses
+  /// that makes it unique. Several entries may have it.
+  bool IsNamed(const ModelSetting& setting, int value, std::string_view text) const;
   /// Whether a text is the text of a device value in any language.
   bool IsShownAs(const ModelSetting& setting, int value, std::string_view text) const;
   /// The values that the setting allows: "-32 to 32", or the texts of its entries.

@@ -119,6 +119,22 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
               Ends(2, HasSubstr("'HDMI' is not one of: HDMI (31), hdmi (32)\n")));
   EXPECT_THAT(run({"set", "Any", "other.input-source", "hdmi (31)"}), Ends(0, ""));
   EXPECT_THAT(run({"set", "Any", "other.input-source", "31"}), Ends(0, ""));
+
+  ScriptedPjLink alike([others = Projector("1")](const std::string& request) {
+    if (request == "CLSS ?") return std::string("2");
+    return request.starts_with("INNM") ? "HDMI" : others(request);
+  });
+  const std::tuple<const char*, const char*, const char*> kConditions[] = {
+      {"input=hdmi", "On\n", ""},
+      {"input!=HDMI", "", ""},
+      {"input!=hdmi-32", "On\n", ""},
+      {"input!=hdmy", "On\n", "acctl: --where input: 'hdmy' is not one of: HDMI (11) (hdmi-11), "}};
+  for (const auto& [condition, output, error] : kConditions) {
+    const Outcome chosen =
+        any.Run(alike, {"get", "Any", "power", "-o", "value", "--where", condition});
+    EXPECT_THAT(chosen, Ends(0, StartsWith(error))) << condition;
+    EXPECT_EQ(chosen.output, output) << condition;
+  }
 }
 
 TEST(AcctlPjLink, ChecksAndRunsACommandForSeveralProjectorsOverOneConnectionEach) {
@@ -253,6 +269,8 @@ TEST(AcctlPjLink, TellsInputsThatWereNotToldAsNotReadWithExitCode3) {
   EXPECT_EQ(Entry(diff)["notDone"][0]["key"], "other.input-source");
   EXPECT_THAT(any.Run(projector, {"apply", file, "Any"}), isNotRead);
   EXPECT_THAT(any.Run(projector, {"set", "Any", "other.input-source", "31"}), isNotRead);
+  EXPECT_THAT(any.Run(projector, {"get", "Any", "power", "--where", "input!=hdmi"}),
+              Ends(3, HasSubstr("input: not read, ")));
   EXPECT_EQ(projector.Count("INPT 31"), 0);
   // The class is remembered, so that it is the first thing that is asked.
   ScriptedPjLink silent(ProjectorBut("INST ?", ""));

@@ -6,6 +6,7 @@ import re
 import shutil
 import socket
 import socketserver
+import struct
 import subprocess
 import sys
 import tempfile
@@ -23,6 +24,8 @@ from rig import free_port  # noqa: E402,F401
 
 ROOMS = {"Lecture hall": ("Projector 5-30", ["building-3", "hall"]), "Seminar 1": ("Projector 5-31", ["building-3"]),
          "Seminar 2": ("Projector 4-24", ["building-3"]), "Office": ("Projector 2-6", ["building-1"])}
+
+RGB1, RGB2 = 0, 4  # inputs
 
 SCHEMA = json.loads((SOURCES / "app/acctl/acctl.schema.json").read_text())
 
@@ -42,6 +45,15 @@ def strict(schema):
 VALIDATOR = jsonschema.Draft202012Validator(
     {**strict(SCHEMA), "$defs": {name: part if name in ("description", "line") else strict(part)
                                  for name, part in SCHEMA["$defs"].items()}})
+
+
+def check_sum(content):
+    rest = 0xFFFF
+    for byte in content:
+        rest ^= byte
+        for _ in range(8):
+            rest = rest >> 1 ^ (0x8408 if rest & 1 else 0)
+    return rest ^ 0xFFFF
 
 
 def write_rooms(path):
@@ -81,6 +93,48 @@ class PjLinkProjector(socketserver.ThreadingTCPServer):
             return False
 
 
+class WireProjector(socketserver.ThreadingTCPServer):
+    """A projector of model 5-30 over the wire, with a brightness for each input. It refuses the next `refusals` changes of its input,
+    and leaves the commands with the numbers in `lost` without an answer."""
+
+    daemon_threads = True
+
+    class Connection(socketserver.StreamRequestHandler):
+        def handle(self):
+            while head := self.rfile.read(6):
+                body = self.rfile.read(head[3] + 2)[:-2]
+                answer = b"\1" if head[2] == 1 else self.server.answer(*struct.unpack(">HHhh", body))
+                if answer:
+                    frame = bytes([head[2] + 1, len(answer)]) + head[4:] + answer
+                    self.wfile.write(b"\xa5\x5a" + frame + struct.pack(">H", check_sum(frame)))
+
+    def __init__(self):
+        super().__init__(("127.0.0.1", 0), self.Connection)
+        self.port, self.address = self.server_address[1], f"tcp://127.0.0.1:{self.server_address[1]}"
+        self.input, self.refusals, self.lost, self.commands = RGB1, 0, (), 0
+        self.brightness, self.others = {RGB1: 128, RGB2: 140}, {0x2004: 128, 0x6000: 1}  # contrast, power
+
+    def answer(self, operation, code, first, _):
+        self.commands += 1
+        if self.commands in self.lost:
+            return None
+        code = {121: 0x2003, 99: 0x2004}.get(operation, code)
+        result, value = 1, 0
+        if operation == 66 or (operation, code) == (211, 0x2000):
+            value = self.input
+        elif operation == 211:
+            value = self.brightness[self.input] if code == 0x2003 else self.others.get(code, 0)
+        elif code == 0x2000 and self.refusals:
+            self.refusals, result = self.refusals - 1, 0
+        elif code == 0x2000:
+            self.input = first
+        elif code == 0x2003:
+            self.brightness[self.input] = first
+        else:
+            self.others[code] = first
+        return struct.pack(">Bih", 0, result, value)
+
+
 class Building(unittest.TestCase):
     """Each test has projectors of its own, in their first state, and a folder."""
 
@@ -112,8 +166,8 @@ class Building(unittest.TestCase):
         (self.folder / "served.json").write_text(json.dumps(served, indent=1))
         return simulator
 
-    def start_projector(self):
-        projector = PjLinkProjector()
+    def start_projector(self, kind=PjLinkProjector):
+        projector = kind()
         self.addCleanup(projector.server_close)
         threading.Thread(target=projector.serve_forever, args=(0.01,), daemon=True).start()
         self.addCleanup(projector.shutdown)

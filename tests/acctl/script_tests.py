@@ -9,7 +9,7 @@ import signal
 import socket
 import time
 
-from script_support import PROGRAMS, ROOMS, VALIDATOR, Building, free_port
+from script_support import PROGRAMS, RGB1, RGB2, ROOMS, VALIDATOR, Building, WireProjector, free_port
 
 ALL = "@building-3"
 
@@ -100,6 +100,14 @@ class Runs(Building):
         undo = self.json("undo", "--list")["runs"][-1]
         self.check(["undo", undo["run"]], 0, "2 changed")
         self.assertEqual(self.value(ALL, "contrast"), ["2"] * 3)
+
+    def test_undoing_an_undo_goes_to_the_same_address(self):
+        projector = self.start_projector(WireProjector)
+        self.check(["set", "Lecture hall", "brightness=5", "--connect", projector.address], 0, "0  ->  5")
+        for brightness in (128, 133):
+            self.check(["undo", self.json("undo", "--list")["runs"][-1]["run"]], 0, "1 changed")
+            self.assertEqual(projector.brightness[RGB1], brightness)
+        self.assertEqual(self.value("Lecture hall", "brightness"), ["0"])
 
     def test_a_part_of_a_run_is_undone_by_name_or_state(self):
         self.acctl("set", "Seminar 2", "power=standby", "--wait", "60s")
@@ -192,7 +200,10 @@ class Runs(Building):
     def test_an_undo_of_the_host_application_is_not_written_to(self):
         self.acctl("set", "Office", "brightness=5", "contrast=2")
         run = next((self.folder / "state/advanced-control/undo").iterdir())
-        self.check(["undo", "--dry-run"], 0, r"main.contrast .* \?  ->  0\n.* \?  ->  0\nOffice  2 not compared$")
+        not_compared = r"main.contrast .* \?  ->  0\n.* \?  ->  0\nOffice  2 not compared$"
+        self.check(["undo", "--dry-run"], 0, not_compared)
+        (self.folder / "undo.json").write_text(json.dumps(json.loads(run.read_text().splitlines()[-1])["snapshot"]))
+        self.check(["diff", "Office", "undo.json", "--exit-code"], 2, not_compared)
         job = self.folder / "job.undo"
         job.write_text(json.dumps({"undoOfJob": [json.loads(run.read_text().splitlines()[-1])]}, indent=1))
         before = job.read_text()
@@ -213,6 +224,25 @@ class Runs(Building):
         self.acctl("set", "Lecture hall", "input=rgb2")
         self.assertEqual(self.value("Lecture hall", "volume"),
                          [line.split("\t")[4] for line in before.splitlines() if "\taudio.volume\t" in line])
+
+    def test_what_follows_a_change_of_input_is_undone_for_the_input_that_it_was_made_for(self):
+        for refusals, words, code, output, errors in (
+                (1, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "input-source: refused, it is RGB1$"),
+                (9, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "refused"),  # still when it is undone
+                (0, ["contrast=1", "input=rgb2", "brightness+=3", "contrast+=1"], 0, "12 +->  15\n.* 1 +->  2$", ""),
+                (0, ["input=rgb2", "brightness=0"], 0, "12 +->  0$", ""),
+                (0, ["input=rgb2", "brightness+=31"], 1, "->  RGB2$", "brightness: '\+31' from 12 is not one of"),
+                (0, ["brightness=1", "input=rgb2", "input-=1", "brightness-=1"], 0, " 1 +->  0$", "")):
+            with self.subTest(refusals=refusals, words=words):
+                projector = self.start_projector(WireProjector)
+                projector.refusals = refusals
+                self.check(["set", "Lecture hall", *words, "--connect", projector.address], code, output, errors)
+                self.check(["undo"], 0, "^Lecture hall .*[0-9] changed$")
+                self.assertEqual((projector.input, projector.brightness, projector.others[0x2004]),
+                                 (RGB1, {RGB1: 128, RGB2: 140}, 128))
+        projector.commands, projector.lost = 0, range(5, 99)  # from the value that brightness has then
+        self.check(["set", "Lecture hall", "input=rgb2", "brightness+=3", "--connect", projector.address, "--timeout", "0.2"],
+                   3, "->  RGB2$", "brightness: no answer$")
 
     def test_folders_know_their_projectors(self):
         self.acctl("save", "Seminar*", "-o", "saved")
@@ -258,6 +288,12 @@ class Runs(Building):
         for words in (["get", "*", "power"], ["list", "--where", "power=on"]):
             self.check([*words, "--jobs", "1", "--fail-fast"], 3,
                        errors="Lecture hall: .*\n(.*not begun, as another projector failed\n){3}")
+        for lost, code, output, error in ((range(2, 6), 0, "0  ->  3$", ""),  # a read
+                                          (range(3, 5), 3, "", "brightness: no answer, it may have been changed$")):
+            projector = self.start_projector(WireProjector)
+            projector.lost = lost
+            self.check(["set", "Lecture hall", "brightness=3", "contrast=3", "--retries", "9", "--timeout", "0.2",
+                        "--connect", projector.address], code, output, error)
         port = free_port(2)
         get = self.start("--profiles", "rooms.json", "get", "Office", "contrast", "-o", "value", "--retries", "60",
                          "--connect", f"tcp://127.0.0.1:{port}")

@@ -4,14 +4,17 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <tuple>
 
 #include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
 #include "device/ModelDataIntake.h"
+#include "device/channels/LoggingChannel.h"
 #include "settings/ModelSettings.h"
 #include "settings/Range.h"
 #include "simulator/FaultChannel.h"
@@ -110,6 +113,49 @@ TEST(ModelSettings, EverySettingOfEveryModelWorksOnTheSimulationAndHasAUniqueKey
       if (!kOneWay.contains(setting.key)) ExpectWorks(settings, setting);
     }
   }
+}
+
+// What is known of each setting without a projector, with the models for which it is so; then the
+// settings of pop-ups, for lists of other lengths and values.
+TEST(ModelSettings, AreDescribedAsRecorded) {
+  constexpr const char* kKinds[] = {"number", "choice", "state", "action"};
+  std::map<std::string, std::string> models;
+  for (const CModelInfo2& info : EveryModel()) {
+    const ModelSettings settings(MakeModelData(info));
+    for (const ModelSetting& setting : settings.All()) {
+      std::ostringstream text;
+      text << setting.key << ": " << kKinds[static_cast<std::size_t>(setting.kind)]
+           << (setting.readable ? ", read" : "") << (setting.changeable ? ", changed" : "")
+           << (setting.IsPerSource() ? ", of a source" : "") << ", caption " << setting.caption
+           << ", tab " << setting.tab << ", bias " << setting.bias;
+      if (setting.range) text << ", " << setting.range->minimum << " to " << setting.range->maximum;
+      if (setting.reset) text << ", " << FormatCommand(setting.reset->Command(0, info.ModelCode));
+      for (const ListEntry& one : setting.entries)
+        text << ", " << one.value << '=' << one.text.value_or(0) << one.name;
+      text << ", or " << setting.otherwise << '\n';
+      models[text.str()] += ' ' + NameOf(info);
+    }
+  }
+  std::ostringstream now;
+  for (const auto& [text, of] : models) now << text << of << '\n';
+  for (const auto& [type, value, count] : {std::tuple(4, 99, 0),
+                                           {4, 99, 1},
+                                           {4, 99, 3},
+                                           {4, 99, 4},
+                                           {5, 16, 1},
+                                           {5, 17, 1},
+                                           {5, 21, 1},
+                                           {5, 22, 1}}) {
+    CModelInfo2 info = MakeModel(type, 1);
+    for (int i = 0; i < count; ++i) AddEntry(info.GammaList, value, "");
+    info.ColorTempList = info.GammaList;
+    now << "type " << type << ", value " << value << ", entries " << count << ':';
+    const ModelSettings settings(MakeModelData(info));
+    for (const char* key : {"gamma.point-1", "color-temp.gain-r"})
+      if (settings.Find(key)) now << ' ' << key;
+    now << '\n';
+  }
+  ExpectRecord(TEST_SOURCE_DIR "/settings/Described.txt", now.str());
 }
 
 TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {

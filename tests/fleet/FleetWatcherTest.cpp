@@ -143,6 +143,12 @@ class Played {
        [&] {
          fleet_->watcher.Events().Noticed({id_, key_, value_});
        }},
+      {"learn",
+       [&] {
+         fleet_->states.Learn(id_, {PjtOperation::Get, Code()},
+                              {.result = 1, .value = static_cast<std::int16_t>(std::stoi(value_))},
+                              {});
+       }},
       {"ask", [&] { fleet_->watcher.AskSoon(id_); }},
       {"pause", [&] { fleet_->watcher.Pause(id_); }},
       {"resume", [&] { fleet_->watcher.Resume(id_); }},

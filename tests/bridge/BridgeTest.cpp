@@ -225,18 +225,23 @@ TEST_F(BridgeProgram, ProvesWhoItIs) {
 
 TEST_F(BridgeProgram, TriesAgainAfterGrowingPauses) {
   StartProjectors(1);
-  QTcpServer server;
-  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-  std::vector<std::chrono::steady_clock::time_point> tries;
-  QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
-    while (QTcpSocket* const client = server.nextPendingConnection()) {
-      tries.push_back(std::chrono::steady_clock::now());
-      client->abort();
-    }
-  });
-  const auto bridge = Bridge({"--broker", QString("127.0.0.1:%1").arg(server.serverPort())});
-  ASSERT_TRUE(Soon([&] { return tries.size() >= 4; }));
-  EXPECT_GT(tries[3] - tries[0], std::chrono::seconds(2)) << "half a second, one and two";
+  for (const bool accepts : {false, true}) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    std::vector<std::chrono::steady_clock::time_point> tries;
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
+      while (QTcpSocket* const client = server.nextPendingConnection()) {
+        tries.push_back(std::chrono::steady_clock::now());
+        if (!accepts) return client->abort();
+        client->write(QByteArray::fromHex("20020000"));
+        client->disconnectFromHost();
+      }
+    });
+    const auto bridge = Bridge({"--broker", QString("127.0.0.1:%1").arg(server.serverPort())});
+    ASSERT_TRUE(Soon([&] { return tries.size() >= 4; }));
+    EXPECT_GT(tries[3] - tries[0], std::chrono::seconds(2)) << "half a second, one and two";
+    EXPECT_EQ(bridge->Said().contains(": connected to the broker"), accepts);
+  }
 }
 
 TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {

@@ -91,6 +91,7 @@ void Bridge::StartBroker() {
                                 .topics = {topics_.EveryHolder()},
                                 .received = [this](const BrokerMessage& message) { Take(message); },
                                 .renewed = [this] { desk_.TakeSwitch({}); },
+                                .takenOver = [this] { fleet_.Forget(), drift_.PutOff(); },
                                 .share = JsonOf(options_.share)};
   if (!desk_.Keys().IsEmpty()) {
     services.commandSwitch = topics_.CommandSwitch();

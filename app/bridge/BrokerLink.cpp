@@ -100,6 +100,7 @@ void BrokerLink::Take(const BrokerMessage& message) {
     }
   } else if (message.topic == topics_.Holder()) {
     if (const auto claim = ParseClaim(message.payload)) keeper_.TakeClaim(*claim);
+    FollowRole();  // another bridge had the share, even if it has given it up by now
   } else if (message.topic == topics_.Availability()) {
     const bool isOnline = message.payload == "online";
     keeper_.TakeAvailability(isOnline);
@@ -116,6 +117,7 @@ void BrokerLink::FollowRole() {
   if (std::exchange(stoodBack_, standsBack) != standsBack) {
     Log(standsBack ? QStringLiteral("stands back: another bridge has the share")
                    : QStringLiteral("takes the share over"));
+    if (!standsBack) services_.takenOver();
   }
   const bool holds = keeper_.GetRole() == ShareKeeper::Role::Holding;
   if (std::exchange(holds_, holds) != holds) {

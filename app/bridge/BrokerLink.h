@@ -28,6 +28,8 @@ class BrokerLink {
     std::function<void(const BrokerMessage& message)> received;
     /// The connection is new; nothing has been received over it.
     std::function<void()> renewed;
+    /// Another bridge had the share until now, so what was known of the projectors is old.
+    std::function<void()> takenOver;
     QJsonObject share;  ///< Describes the share for other bridges.
   };
 

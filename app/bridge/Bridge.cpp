@@ -79,7 +79,7 @@ QString Bridge::Start() {
     if (const QString error = link_->Start(); !error.isEmpty()) return "--broker: " + error;
   }
   Log(QStringLiteral("watches %1 projectors").arg(projectors_.Count()));
-  if (!options_.snapshots.isEmpty()) drift_.Start([this] { return MayAsk(); });
+  if (!options_.snapshots.isEmpty()) drift_.Start();
   tick_.start(kTick);
   observing_.start(kObserving);
   Tick();
@@ -91,6 +91,7 @@ void Bridge::StartBroker() {
                                 .topics = {topics_.EveryHolder()},
                                 .received = [this](const BrokerMessage& message) { Take(message); },
                                 .renewed = [this] { desk_.TakeSwitch({}); },
+                                .takenOver = [this] { fleet_.Forget(), drift_.PutOff(); },
                                 .share = JsonOf(options_.share)};
   if (!desk_.Keys().IsEmpty()) {
     services.commandSwitch = topics_.CommandSwitch();
@@ -152,7 +153,9 @@ void Bridge::FinishCommand(std::size_t projector, const Command& command,
 void Bridge::Tick() {
   if (link_) link_->Tick();
   fleet_.SetAsking(MayAsk());
-  if (!MayAsk()) runner_.StopAll();
+  if (MayAsk()) return;
+  runner_.StopAll();
+  drift_.PutOff();
 }
 
 BridgeCounts Bridge::Counts() const {

@@ -19,6 +19,13 @@ void BridgeFleet::SetAsking(bool asks) {
   if (std::exchange(asks_, asks) != asks) fleet_.SetAsking(asks);
 }
 
+void BridgeFleet::Forget() {
+  for (const FleetProfile& profile : projectors_.All()) {
+    fleet_.Remove(FleetIdOf(profile));
+    fleet_.Set(TargetOf(profile));
+  }
+}
+
 LiveState BridgeFleet::State(std::size_t projector) const {
   return fleet_.State(FleetIdOf(projectors_.Profile(projector))).value_or(LiveState());
 }

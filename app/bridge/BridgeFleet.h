@@ -23,6 +23,8 @@ class BridgeFleet {
 
   const ShareProfiles& Projectors() const { return projectors_; }
   void SetAsking(bool asks);
+  /// Makes all projectors unknown, so that each is visited at once.
+  void Forget();
   LiveState State(std::size_t projector) const;
   std::vector<MeasuredProjector> States() const;
   Fleet& Watched() { return fleet_; }

@@ -15,7 +15,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds kLongestPause{30'000};
 constexpr int kKeepAlive = 20;  // seconds
 constexpr int kWait = 1000;     // milliseconds
 constexpr int kExactlyOnce = 2;

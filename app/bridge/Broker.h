@@ -34,9 +34,9 @@ struct BrokerMessage {
 /// thread of its own.
 class Broker {
  public:
-  /// The pause after the first try. Also how long to wait before a connection that broke is
-  /// replaced.
+  // The pauses after tries. Also how long to wait before a connection that broke is replaced.
   static constexpr std::chrono::milliseconds kFirstPause{500};
+  static constexpr std::chrono::milliseconds kLongestPause{30'000};
 
   struct Listener {
     std::function<void()> connected;

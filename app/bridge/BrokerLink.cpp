@@ -1,5 +1,6 @@
 #include "app/bridge/BrokerLink.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QUuid>
@@ -9,6 +10,9 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+/// After a connection that lasted so long, the next pause is short again.
+constexpr std::chrono::seconds kLasting{30};
 
 }  // namespace
 
@@ -56,15 +60,23 @@ void BrokerLink::Connect() {
   session_ = std::make_unique<BrokerSession>(
       address_, topics_, instance_, holds_,
       BrokerSession::Listener{.connected = [this] { TakeConnected(); },
-                              .lost = [this] { ConnectAgain(Broker::kFirstPause); },
+                              .lost = [this] { TakeLost(); },
                               .received = [this](const BrokerMessage& message) { Take(message); },
                               .sent = [this](int number) { publisher_.Sent(number); }});
 }
 
 void BrokerLink::TakeConnected() {
+  connected_ = Clock::now();
   isSettled_ = false;
   keeper_.Connected();
   services_.renewed();
+}
+
+/// A broker that ends each connection soon is called less and less often.
+void BrokerLink::TakeLost() {
+  if (Clock::now() - connected_ >= kLasting) pause_ = Broker::kFirstPause;
+  ConnectAgain(pause_);
+  pause_ = std::min(pause_ * 2, Broker::kLongestPause);
 }
 
 /// Before the next connection is settled, nothing is sent and no command is taken.
@@ -88,6 +100,7 @@ void BrokerLink::Take(const BrokerMessage& message) {
     }
   } else if (message.topic == topics_.Holder()) {
     if (const auto claim = ParseClaim(message.payload)) keeper_.TakeClaim(*claim);
+    FollowRole();  // another bridge had the share, even if it has given it up by now
   } else if (message.topic == topics_.Availability()) {
     const bool isOnline = message.payload == "online";
     keeper_.TakeAvailability(isOnline);
@@ -104,6 +117,7 @@ void BrokerLink::FollowRole() {
   if (std::exchange(stoodBack_, standsBack) != standsBack) {
     Log(standsBack ? QStringLiteral("stands back: another bridge has the share")
                    : QStringLiteral("takes the share over"));
+    if (!standsBack) services_.takenOver();
   }
   const bool holds = keeper_.GetRole() == ShareKeeper::Role::Holding;
   if (std::exchange(holds_, holds) != holds) {

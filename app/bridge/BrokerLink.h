@@ -28,6 +28,8 @@ class BrokerLink {
     std::function<void(const BrokerMessage& message)> received;
     /// The connection is new; nothing has been received over it.
     std::function<void()> renewed;
+    /// Another bridge had the share until now, so what was known of the projectors is old.
+    std::function<void()> takenOver;
     QJsonObject share;  ///< Describes the share for other bridges.
   };
 
@@ -50,6 +52,7 @@ class BrokerLink {
  private:
   void Connect();
   void TakeConnected();
+  void TakeLost();
   void ConnectAgain(std::chrono::milliseconds pause);
   void Take(const BrokerMessage& message);
   void FollowRole();
@@ -67,6 +70,8 @@ class BrokerLink {
   bool isSettled_ = false;  ///< Whether the work that follows once it is settled was done.
   bool stoodBack_ = false;
   bool isClosing_ = false;
+  std::chrono::steady_clock::time_point connected_{};      ///< When the last connection was made.
+  std::chrono::milliseconds pause_ = Broker::kFirstPause;  ///< After the next one that is lost.
   std::unique_ptr<BrokerSession> session_;
   QTimer connecting_;  ///< Makes the next connection.
 };

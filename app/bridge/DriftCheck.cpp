@@ -33,14 +33,17 @@ DriftCheck::DriftCheck(BridgeFleet& fleet, const SettingTexts& texts, QString fo
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Check(); });
 }
 
-void DriftCheck::Start(std::function<bool()> mayAsk, std::chrono::milliseconds first) {
-  mayAsk_ = std::move(mayAsk);
+void DriftCheck::Start(std::chrono::milliseconds first) {
   first_ = first;
   timer_.start(first_);
 }
 
+void DriftCheck::PutOff() {
+  if (job_) job_->Cancel();
+  if (timer_.isActive()) timer_.start(first_);
+}
+
 void DriftCheck::Check() {
-  if (!mayAsk_()) return timer_.start(first_);
   timer_.start(kEvery);
   std::map<std::string, std::shared_ptr<const Snapshot>> files;
   std::vector<FleetTarget> targets;

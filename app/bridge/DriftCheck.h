@@ -1,7 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <functional>
 #include <memory>
 
 #include <QString>
@@ -19,9 +18,10 @@ class DriftCheck {
   /// outlive it.
   DriftCheck(BridgeFleet& fleet, const SettingTexts& texts, QString folder);
 
-  /// Starts; the first check is made after `first`. Nothing is checked while `mayAsk` is false.
-  void Start(std::function<bool()> mayAsk,
-             std::chrono::milliseconds first = std::chrono::minutes(1));
+  /// Starts; the first check is made after `first`.
+  void Start(std::chrono::milliseconds first = std::chrono::minutes(1));
+  /// Ends a check that is under way. If it was started, starts anew.
+  void PutOff();
 
  private:
   void Check();
@@ -29,7 +29,6 @@ class DriftCheck {
   BridgeFleet& fleet_;
   const SettingTexts& texts_;
   const QString folder_;
-  std::function<bool()> mayAsk_;
   std::chrono::milliseconds first_{};
   QTimer timer_;
   std::unique_ptr<FleetJob> job_;  ///< The last one; ends first.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <set>
+#include <utility>
 
 #include <QJsonArray>
 
@@ -39,7 +41,11 @@ bool Share::Has(const FleetProfile& profile) const {
 
 QByteArray Share::Name() const {
   QByteArray name = QByteArray::number(number) + "-of-" + QByteArray::number(count);
-  for (const std::string& tag : tags) name += '-' + TopicLevel(tag);
+  // No level has the dot, so that two tags differ from one with a hyphen.
+  char separator = '-';
+  for (const std::string& tag : std::set(tags.begin(), tags.end())) {
+    name += std::exchange(separator, '.') + TopicLevel(tag);
+  }
   return name;
 }
 

@@ -18,7 +18,7 @@ struct Share {
   /// Whether the projector belongs to the share. Each identity belongs to one of `count` shares. If
   /// `count` grows by one, only the projectors that move to the new share change.
   bool Has(const FleetProfile& profile) const;
-  /// "2-of-5", or "2-of-5-Building_3-5a1be27f" with a tag.
+  /// "2-of-5", or "2-of-5-Building_3-5a1be27f.North" with tags. Their order makes no difference.
   QByteArray Name() const;
 
   friend bool operator==(const Share&, const Share&) = default;

@@ -7,6 +7,19 @@
 
 namespace AdvancedControl {
 
+namespace {
+
+/// Keeps what the status page has less exactly: all problems behind one error, and all lamps.
+void KeepExact(LiveState& state, const LiveState& before) {
+  if (state.error == before.error) state.problems = before.problems;
+  if (before.lamps.empty()) return;
+  const int hours = state.lamps.front().hours;
+  state.lamps = before.lamps;
+  state.lamps.front().hours = hours;
+}
+
+}  // namespace
+
 void FleetStates::Add(const std::string& id, std::shared_ptr<const ModelData> model) {
   const std::lock_guard lock(mutex_);
   known_[id].model = std::move(model);
@@ -32,19 +45,20 @@ void FleetStates::Learn(const std::string& id, const PjtCommand& command, const 
   const std::lock_guard lock(mutex_);
   const auto known = known_.find(id);
   if (known == known_.end()) return;
-  LiveState state = known->second.state;
-  const auto sourceBefore = state.source;
+  const LiveState& before = known->second.state;
+  LiveState state = before;
   state.reachability = Reachability::Answers;
   state.connection = ConnectionState::Connected;
   state.answered = clock_.Wall();
   if (const auto item = StatusItemOf(command)) {
     const Answer answer = AnswerTo(ReadingOf(*item), reply);
     if (answer.accepted) TakeStatus(state, *item, answer.value, known->second.model.get());
+    KeepExact(state, before);
     if (*item == StatusItem::Power && power) TakePower(state, *power);
     // A visit may know a name that the model does not have.
     const bool isSame =
-        state.source && sourceBefore && state.source->number == sourceBefore->number;
-    if (isSame && state.source->name.empty()) state.source->name = sourceBefore->name;
+        state.source && before.source && state.source->number == before.source->number;
+    if (isSame && state.source->name.empty()) state.source->name = before.source->name;
     if (state.power == PowerState::Standby) state.ForgetPicture();  // whatever it answers
   }
   Apply(id, known->second, std::move(state));

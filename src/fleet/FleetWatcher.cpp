@@ -174,6 +174,7 @@ void FleetWatcher::Noticed(const FleetNetwork::Notice& notice) {
       const bool wasOn = state.power == PowerState::On;
       PjLinkStatus::Take(state, *question, notice.value, watched.target.model.get(),
                          watched.memory.inputs);
+      if (state.power == PowerState::Standby) state.ForgetPicture();  // whatever it tells
       tellsAll = wasOn || state.power != PowerState::On;
     });
     if (!tellsAll) AskPeerSoon(peer);

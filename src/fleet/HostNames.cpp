@@ -8,6 +8,8 @@ namespace AdvancedControl {
 namespace {
 
 constexpr std::chrono::minutes kNameLasts{10};
+/// Long enough for all attempts of a visit.
+constexpr std::chrono::seconds kFailureLasts{3};
 
 SessionTime Now() { return std::chrono::steady_clock::now(); }
 
@@ -15,7 +17,9 @@ SessionTime Now() { return std::chrono::steady_clock::now(); }
 
 bool HostNames::IsKnown(const std::string& name) const {
   const auto known = known_.find(name);
-  return known != known_.end() && Now() < known->second.time + kNameLasts;
+  if (known == known_.end()) return false;
+  const Known& found = known->second;
+  return Now() < found.time + (found.addresses.empty() ? kFailureLasts : kNameLasts);
 }
 
 std::optional<SocketAddress> HostNames::AddressOf(const std::string& name, std::uint16_t port,

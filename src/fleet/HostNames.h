@@ -13,7 +13,8 @@
 
 namespace AdvancedControl {
 
-/// The addresses of host names. Each name is looked up at most once in ten minutes.
+/// The addresses of host names. Each name is looked up at most once in ten minutes, or in three
+/// seconds if it was not found: the name server may not have answered yet.
 class HostNames {
  public:
   /// `wakes` as for `NameResolver`; it becomes readable when `Take` has an answer.

@@ -50,13 +50,16 @@ struct LiveState {
   std::optional<int> error{};  ///< The device value of the status page's error row.
   std::optional<bool> blank{}, mute{}, freeze{};
 
-  // These remain valid until the projector reports new values.
+  // These remain valid until the projector reports new values, except whether a lamp is lit.
   std::vector<LampState> lamps{};
   std::optional<int> filterHours{};
   std::optional<int> drift{};  ///< Settings that differ from what they should be.
 
+  void ForgetLit() {
+    for (LampState& lamp : lamps) lamp.isOn.reset();
+  }
   /// Forgets what only a running projector reports.
-  void ForgetPicture() { source = {}, blank = {}, mute = {}, freeze = {}; }
+  void ForgetPicture() { ForgetLit(), source = {}, blank = {}, mute = {}, freeze = {}; }
   /// Forgets everything that may have changed since the last answer.
   void ForgetMomentary() { ForgetPicture(), power = {}, problems = {}, error = {}; }
 };

@@ -125,6 +125,7 @@ void ForgetStatus(LiveState& state, StatusItem item) {
     case StatusItem::Freeze:
       return state.freeze.reset();
     case StatusItem::LampTime:
+      return state.ForgetLit();
     case StatusItem::FilterTime:
       break;  // hours hold until there are others
   }

@@ -140,8 +140,9 @@ TEST(FleetWindow, ShowsWhatADialogHasRead) {
   ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.answered.has_value(); }));
   projector.SetValue(SettingId::LampTime, 777);
   window.OpenDialog(0, 0);
-  EXPECT_TRUE(
-      Soon([&] { return Rows(window)[0].state.lamps == std::vector<LampState>{{.hours = 777}}; }));
+  EXPECT_TRUE(Soon([&] {
+    return Rows(window)[0].state.lamps == std::vector<LampState>{{.hours = 777, .isOn = true}};
+  }));
 }
 
 TEST(FleetWindow, TheFirstReadingIsNoEventAndUnseenRowsStayUpToDate) {

@@ -117,11 +117,20 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
   MosquittoBroker broker(folder_.path());
   const quint16 ports[] = {LastingPort(), LastingPort()};
   const QStringList options =
-      At(broker) + QStringList{"--takeover", "2", "--allow-commands", "power"};
-  const std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), Bridge(options, ports[1])};
-  Subscriber subscriber(broker.port);
+      At(broker) +
+      QStringList{"--takeover", "2", "--allow-commands", "power", "--interval", "3600"};
   const auto holds = [&](int which) { return HoldsShare(ports[which]); };
-  for (const bool isCutOff : {false, true}) {
+  std::unique_ptr<Daemon> bridges[] = {Bridge(options, ports[0]), nullptr};
+  EXPECT_TRUE(Soon([&] { return holds(0); }));
+  bridges[1] = Bridge(options, ports[1]);
+  EXPECT_TRUE(bridges[1]->Says("stands back"));
+  const auto seesAsleep = [&](int which, int number) {
+    return Soon([&] { return Get(ports[which], Probe(number)).contains("\"standby\"} 1"); });
+  };
+  int asleep = 0;
+  for (const bool isCutOff : {false, true, false}) {
+    const bool otherEnds = !isCutOff && asleep != 0;
+    Subscriber subscriber(broker.port);
     int holder = 0;
     ASSERT_TRUE(Soon([&] {
       holder = holds(0) ? 0 : 1;
@@ -134,11 +143,9 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
     const auto id = static_cast<pid_t>(bridges[holder]->Id());
     kill(id, SIGSTOP);
     Publish(broker, {"-t", "projectors/" + subscriber.Find("on", {}) + "/set/power", "-m", "off"});
-    // What the next holder sees in its first visit.
-    if (!isCutOff) {
-      EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
-    }
+    EXPECT_EQ(Control(QByteArray::number(on) + " power 0"), "ok");
     EXPECT_TRUE(Soon([&] { return holds(1 - holder); })) << bridges[1 - holder]->Said().data();
+    EXPECT_TRUE(seesAsleep(1 - holder, on)) << "not what it knew before it stood back";
     const auto isTold = [&] {
       return isCutOff || subscriber.StateOf(NameOf(on))["power"] == "standby";
     };
@@ -147,12 +154,15 @@ TEST_F(BridgeProgram, YieldsAfterItHungLongerThanTheTakeover) {
       broker.Start();
     }
     EXPECT_TRUE(Soon(isTold));
+    if (otherEnds) bridges[1 - holder]->Stop();
     kill(id, SIGCONT);
     EXPECT_TRUE(Soon([&] { return holds(0) != holds(1); })) << bridges[holder]->Said().data();
     // After a restart of the broker, whoever connects first may have the share.
-    EXPECT_TRUE(isCutOff || holds(1 - holder));
+    EXPECT_TRUE(isCutOff || (otherEnds ? seesAsleep(holder, on) : holds(1 - holder)));
     EXPECT_TRUE(isTold()) << "not what the one that hung knew";
     EXPECT_EQ(Metric(ports[holder], commands), taken) << "the command that came meanwhile is old";
+    EXPECT_FALSE(subscriber.NamesThatWere("on").contains(NameOf(asleep))) << "the same";
+    asleep = on;
   }
 }
 
@@ -225,18 +235,23 @@ TEST_F(BridgeProgram, ProvesWhoItIs) {
 
 TEST_F(BridgeProgram, TriesAgainAfterGrowingPauses) {
   StartProjectors(1);
-  QTcpServer server;
-  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-  std::vector<std::chrono::steady_clock::time_point> tries;
-  QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
-    while (QTcpSocket* const client = server.nextPendingConnection()) {
-      tries.push_back(std::chrono::steady_clock::now());
-      client->abort();
-    }
-  });
-  const auto bridge = Bridge({"--broker", QString("127.0.0.1:%1").arg(server.serverPort())});
-  ASSERT_TRUE(Soon([&] { return tries.size() >= 4; }));
-  EXPECT_GT(tries[3] - tries[0], std::chrono::seconds(2)) << "half a second, one and two";
+  for (const bool accepts : {false, true}) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    std::vector<std::chrono::steady_clock::time_point> tries;
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
+      while (QTcpSocket* const client = server.nextPendingConnection()) {
+        tries.push_back(std::chrono::steady_clock::now());
+        if (!accepts) return client->abort();
+        client->write(QByteArray::fromHex("20020000"));
+        client->disconnectFromHost();
+      }
+    });
+    const auto bridge = Bridge({"--broker", QString("127.0.0.1:%1").arg(server.serverPort())});
+    ASSERT_TRUE(Soon([&] { return tries.size() >= 4; }));
+    EXPECT_GT(tries[3] - tries[0], std::chrono::seconds(2)) << "half a second, one and two";
+    EXPECT_EQ(bridge->Said().contains(": connected to the broker"), accepts);
+  }
 }
 
 TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {

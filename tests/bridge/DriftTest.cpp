@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "app/bridge/DriftCheck.h"
+#include "fleet/MakeVisit.h"
 #include "snapshots/Snapshot.h"
 #include "tests/bridge/Profiles.h"
 #include "tests/fleet/Served.h"
@@ -37,8 +38,16 @@ TEST(DriftCheck, TellsHowManySettingsDiffer) {
   }
   Write(folder.filePath("good.json"), WriteSnapshot(snapshot));
   DriftCheck check(fleet, Texts(), folder.path());
-  check.Start([] { return true; }, std::chrono::milliseconds(1));
+  check.Start(std::chrono::milliseconds(1));
   EXPECT_TRUE(Soon([&] { return fleet.State(0).drift == 2; }));
+  std::optional<AddressHold> hold(std::in_place, PlaceOf(TargetOf(hall)));
+  const auto waits = [&] { return AddressHold::LengthOfLine(PlaceOf(TargetOf(hall))) == 2; };
+  check.PutOff();
+  EXPECT_TRUE(Soon(waits)) << "it begins anew";
+  check.Start();
+  check.PutOff();
+  EXPECT_TRUE(Soon([&] { return !waits(); })) << "it ends";
+  hold.reset();
 
   fleet.SetAsking(true);
   EXPECT_TRUE(Soon([&] { return fleet.States()[0].state.power && changes > 0; }));

@@ -57,6 +57,8 @@ TEST(Share, DividesEvenlyAndMovesFew) {
   EXPECT_TRUE(tagged.Has(Identified("id:1", {"east", "south"})));
   EXPECT_EQ(ParseShare("2/5"), (Share{.number = 2, .count = 5}));
   EXPECT_EQ(ParseShare("2/5")->Name(), "2-of-5");
+  EXPECT_EQ((Share{.tags = {"North-East"}}.Name()), "1-of-1-North-East");
+  EXPECT_EQ((Share{.tags = {"North", "East", "North"}}.Name()), "1-of-1-East.North");
   for (const char* wrong : {"", "2", "0/5", "6/5", "2/5x", "-1/5", "1/1001", "1/99999999999"}) {
     EXPECT_FALSE(ParseShare(wrong)) << wrong;
   }

@@ -28,7 +28,8 @@ class Subscriber {
       ++counts_[topic];
       if (topic.endsWith("/state")) {
         const QJsonObject state = QJsonDocument::fromJson(last_[topic]).object();
-        names_[state["reachability"].toString()].insert(state["name"].toString().toUtf8());
+        for (const char* key : {"reachability", "power"})
+          names_[state[key].toString()].insert(state["name"].toString().toUtf8());
       }
     }
     return last_;
@@ -63,10 +64,8 @@ class Subscriber {
   }
   bool Saw(const char* text) { return daemon_.Said().contains(text); }
   int Count(const QByteArray& topic) { return Last(), counts_[topic]; }
-  /// The projectors that ever had this reachability.
-  const std::set<QByteArray>& NamesThatWere(const char* reachability) {
-    return Last(), names_[reachability];
-  }
+  /// The projectors that ever had this reachability or power state.
+  const std::set<QByteArray>& NamesThatWere(const char* state) { return Last(), names_[state]; }
   /// How many topics with this end have a message that contains a text.
   int With(const char* end, const char* text = "") {
     int count = 0;

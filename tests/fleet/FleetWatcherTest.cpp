@@ -99,6 +99,12 @@ class Played {
     auto& device = At().device;
     (device.states.contains(key_) ? device.states : device.facts)[key_] = value_;
   }
+  void Set(ProjectorAddress address) { fleet_->watcher.Set({id_, std::move(address)}); }
+  void Notice() { fleet_->watcher.Events().Noticed({id_, key_, value_}); }
+  void Learn() {
+    const auto value = static_cast<std::int16_t>(std::stoi(value_));
+    fleet_->states.Learn(id_, {PjtOperation::Get, Code()}, {.result = 1, .value = value}, {});
+  }
   void Wire() {
     const auto model = std::make_shared<ModelData>();
     model->MySourceList.count = 1;
@@ -117,18 +123,12 @@ class Played {
       {"==",
        [&] { fleet_.emplace(FleetPolicy{.jitter = 0}), told_.clear(), connections_.clear(); }},
       {"add", [&] { fleet_->Add(id_, key_.empty() ? id_ : key_); }},
-      {"line",
-       [&] {
-         fleet_->watcher.Set({id_, SerialAddress{.device = key_}});
-       }},
+      {"line", [&] { Set(SerialAddress{.device = key_}); }},
       {"wired", [&] { At().wire = std::make_shared<WireDevice>(); }},
       {"wire", [&] { Wire(); }},
       {"value", [&] { At().wire->values[Code()] = std::stoi(value_); }},
       {"lacks", [&] { At().wire->values.erase(Code()); }},
-      {"wrong",
-       [&] {
-         fleet_->watcher.Set({id_, AddressError{}});
-       }},
+      {"wrong", [&] { Set(AddressError()); }},
       {"remove", [&] { fleet_->watcher.Remove(id_); }},
       {"says", [&] { Says(); }},
       {"busy", [&] { At().device.busyFor = Seconds(key_); }},
@@ -139,10 +139,8 @@ class Played {
       {"gone", [&] { At().isThere = key_ == "no"; }},
       {"refuses", [&] { At().isRefusing = key_ != "no"; }},
       {"taken", [&] { At().isTaken = true; }},
-      {"notice",
-       [&] {
-         fleet_->watcher.Events().Noticed({id_, key_, value_});
-       }},
+      {"notice", [&] { Notice(); }},
+      {"learn", [&] { Learn(); }},
       {"ask", [&] { fleet_->watcher.AskSoon(id_); }},
       {"pause", [&] { fleet_->watcher.Pause(id_); }},
       {"resume", [&] { fleet_->watcher.Resume(id_); }},

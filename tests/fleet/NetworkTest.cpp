@@ -29,15 +29,16 @@ std::atomic<int> lookUps = 0;
 
 }  // namespace
 
-/// Replaces the system's function, for the library too: a name has two addresses.
+/// Replaces the system's function, for the library too: a name has two addresses, "late.test" not
+/// before it is looked up again.
 extern "C" [[gnu::visibility("default")]] int getaddrinfo(const char* name, const char* service,
                                                           const addrinfo* hints, addrinfo** found) {
   EXPECT_EQ(hints->ai_socktype, SOCK_STREAM);
-  if (hints->ai_flags == AI_NUMERICHOST || std::string_view(name) != "two.test") {
+  if (hints->ai_flags == AI_NUMERICHOST || !std::string_view(name).ends_with(".test")) {
     return systemLookUp(name, service, hints, found);
   }
   EXPECT_EQ(hints->ai_flags, AI_ADDRCONFIG);
-  ++lookUps;
+  if (++lookUps == 1 && std::string_view(name) == "late.test") return EAI_AGAIN;
   const int result = systemLookUp("127.0.0.2", service, hints, found);
   return result != 0 ? result : systemLookUp("127.0.0.1", service, hints, &(*found)->ai_next);
 }
@@ -80,6 +81,10 @@ TEST_F(NetworkTest, TriesEachAddressOfAName) {
   late.Set({"a", TcpAddress{.host = "two.test", .port = served.wirePort}});
   EXPECT_TRUE(Soon([&] { return late.Tally().answered > 2; }));
   EXPECT_LE(lookUps, 3) << "known for a while";
+  lookUps = 0;
+  late.Set({"a", TcpAddress{.host = "late.test", .port = served.wirePort}});
+  EXPECT_TRUE(Soon([&] { return late.State("a")->connection == ConnectionState::NameUnknown; }));
+  EXPECT_TRUE(Soon([&] { return late.State("a")->reachability == Reachability::Answers; }));
 }
 
 struct Told final : FleetNetwork::Listener {

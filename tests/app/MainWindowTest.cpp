@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
+#include "app/desktop/groups/GroupList.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/profiles/PresetFolder.h"
@@ -75,12 +76,14 @@ TEST(MainWindow, QuestionsAndWorkHoldUpNoDialog) {
 
   inTheWait([&] {
     Find<QAction>(window, "Save Settings").trigger();
+    window.findChild<GroupList*>()->Choose({ProjectorGroup::Kind::Off});  // it leaves the list
     Modal<QFileDialog>().selectFile(file);
     QMetaObject::invokeMethod(&Modal<QFileDialog>(), "accept");
   });
   ASSERT_TRUE(Soon([&] { return QFile::exists(file); }));
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "nothing went wrong";
   EXPECT_EQ(ReadSettingsFile(file).error, "");
+  window.findChild<ProjectorView*>()->Select(0);
   Find<QAction>(window, "Compare with File").trigger();
   EXPECT_EQ(Modal<QFileDialog>().directory().path(), folder.path()) << "where the last file was";
 }

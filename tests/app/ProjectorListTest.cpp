@@ -14,6 +14,7 @@
 #include <QUndoStack>
 #include <gtest/gtest.h>
 
+#include "app/desktop/groups/GroupList.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
@@ -94,6 +95,26 @@ TEST(ProjectorList, IsSearchedAndSorted) {
   EXPECT_GT(row("Projector 4-9"), row("Projector 4-11"));
   table.sortByColumn(-1, Qt::AscendingOrder);
   EXPECT_EQ(row("Projector 4-9"), inFile);
+}
+
+TEST(ProjectorList, OnlyProjectorsThatStayInTheListStaySelected) {
+  std::vector<FleetProfile> profiles;
+  std::vector<int> odd;
+  for (int i = 0; i < 300; ++i) {
+    profiles.push_back(Profile(std::to_string(i).c_str()));
+    if (i % 2 == 0) continue;
+    profiles.back().tags = {"odd"};
+    odd.push_back(i);
+  }
+  const ShownWindow window(std::move(profiles));
+  for (const ProjectorGroup& group : {ProjectorGroup{ProjectorGroup::Kind::Tag, "odd"}, {}}) {
+    Table(window).selectAll();
+    window.findChild<GroupList*>()->Choose(group);
+    EXPECT_EQ(window.findChild<ProjectorView*>()->Selected(), odd);
+  }
+  window.findChild<GroupList*>()->Choose({ProjectorGroup::Kind::Off});
+  for (const char* edit : {"Switch On", "Save Settings", "Presets"})
+    EXPECT_FALSE(Find<QAction>(window, edit).isEnabled()) << edit;
 }
 
 QLineEdit& Field(const QDialog& editor, const QString& caption) {
@@ -237,6 +258,7 @@ TEST(ProjectorList, AFileThatCannotBeWrittenIsSaidBeforeAnybodyTypes) {
   }
   AnswerQuestionOf(Find<QAction>(window, "Edit"), [&](QDialog& question) {
     Find<QPushButton>(question, "Save Profiles As").click();
+    window.findChild<GroupList*>()->Choose({ProjectorGroup::Kind::Off});  // it leaves the list
     Modal<QFileDialog>().selectFile(folder.filePath("p.json"));
     QMetaObject::invokeMethod(&Modal<QFileDialog>(), "accept");
   });

@@ -16,12 +16,9 @@
 
 namespace {
 
-/// Two projectors of one model in the window, both selected, and a folder.
+/// Two projectors of one model in the window, and a folder.
 struct SettingsOfTwo : testing::Test {
-  SettingsOfTwo() {
-    EXPECT_TRUE(AreWatched(window));
-    Table(window).selectAll();
-  }
+  SettingsOfTwo() { EXPECT_TRUE(AreWatched(window)); }
   SimulatedProjector& Projector(std::size_t index) { return window.Session(index)->Simulator(); }
 
   const QTemporaryDir folder;
@@ -32,7 +29,7 @@ struct SettingsOfTwo : testing::Test {
 
 TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   MakeSilent(window, 1, true);
-  actions.SaveTo(folder.path());
+  actions.SaveTo(folder.path(), Rows(window));
   WorkDialog* dialog = &Done(window);
   EXPECT_EQ(Results(*dialog), QStringList({"A: done", "B: no answer"}));
   const auto files = [&] { return QDir(folder.path()).entryList({"*.json"}); };
@@ -46,15 +43,13 @@ TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   EXPECT_GT(saved.snapshot.settings.size(), 50U);
   dialog->close();
 
-  window.findChild<ProjectorView*>()->Select(0);
-  actions.SaveTo("/proc/x.json");
+  actions.SaveTo("/proc/x.json", {Rows(window)[0]});
   ASSERT_TRUE(Soon([] { return QApplication::activeModalWidget() != nullptr; }));
   EXPECT_TRUE(Modal<QMessageBox>().text().startsWith("cannot write /proc/x.json: "));
 }
 
 TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
-  window.findChild<ProjectorView*>()->Select(0);
-  actions.SaveTo(file);
+  actions.SaveTo(file, {Rows(window)[0]});
   ASSERT_TRUE(Soon([&] { return QFile::exists(file); }));
   Snapshot snapshot = ReadSettingsFile(file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}, {"picture.tint", 129, ""}};
@@ -65,8 +60,7 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   Projector(1).SetValue(SettingId::Contrast, 120);
   Projector(1).SetValue(SettingId::PositionV, 50);
 
-  Table(window).selectAll();
-  actions.OpenFile(file, true);
+  actions.OpenFile(file, Rows(window), true);
   auto* dialog = window.findChild<ComparisonDialog*>();
   ASSERT_NE(dialog, nullptr);
   ASSERT_TRUE(HasCompared(*dialog));

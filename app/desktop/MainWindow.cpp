@@ -227,17 +227,21 @@ void MainWindow::ShowProfiles() {
                      : tr("Advanced Control"));
 }
 
+// While a dialog is being read, the list may change and the window may be closed.
 void MainWindow::OpenSelected() {
-  const std::vector<int> positions = pane_->View().Selected();
-  const auto open = [this, positions] {
-    for (const int position : positions)
+  std::vector<std::string> ids;
+  for (const ProjectorRow* row : pane_->Selected()) ids.push_back(row->id);
+  const auto open = [this, ids] {
+    for (const std::string& id : ids) {
+      const int position = pane_->View().Model().Find(id);
+      if (position < 0 || !isVisible()) continue;
       dialogs_->Open(*Session(static_cast<std::size_t>(position)));
+    }
   };
-  if (positions.size() <= kOpenedUnasked) return open();
-  auto* question =
-      new QMessageBox(QMessageBox::Question, tr("Open Settings"),
-                      tr("Open %n dialogs?", nullptr, static_cast<int>(positions.size())),
-                      QMessageBox::Open | QMessageBox::Cancel, this);
+  if (ids.size() <= kOpenedUnasked) return open();
+  auto* question = new QMessageBox(QMessageBox::Question, tr("Open Settings"),
+                                   tr("Open %n dialogs?", nullptr, static_cast<int>(ids.size())),
+                                   QMessageBox::Open | QMessageBox::Cancel, this);
   question->setAttribute(Qt::WA_DeleteOnClose);
   connect(question, &QDialog::accepted, this, open);
   RemoveForeignButtonIcons(*question);

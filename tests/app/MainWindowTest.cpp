@@ -209,6 +209,31 @@ TEST(MainWindow, PreferencesTakeEffectAtOnce) {
   EXPECT_TRUE(Soon([&] { return !isDark(); }));
 }
 
+TEST(MainWindow, OpensTheDialogsOfTheSelectedUntilItIsClosed) {
+  ShippedWindow window;
+  for (const std::size_t i : {0, 1, 2, 3})
+    window.Session(i)->SetFault({}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
+  const auto openThree = [&](const auto& whileTheFirstIsRead) {
+    const QAbstractItemModel& list = *Table(window).model();
+    Table(window).selectionModel()->select({list.index(0, 0), list.index(2, 8)},
+                                           QItemSelectionModel::ClearAndSelect);
+    QTimer::singleShot(25, &window, whileTheFirstIsRead);
+    Find<QAction>(window, "Open Settings").trigger();
+  };
+  const std::string third = Rows(window)[2].id;
+  openThree([&] {
+    EXPECT_EQ(Shipped(window.folder).Remove({1}), "");
+    Find<QAction>(window, "Reload").trigger();
+  });
+  EXPECT_EQ(Rows(window)[1].id, third);
+  EXPECT_TRUE(window.Dialog(0) && window.Dialog(1));
+  EXPECT_EQ(window.Dialog(2), nullptr) << "not selected, but where the third one was";
+  for (const std::size_t i : {0, 1}) window.Dialog(i)->close();
+  QTimer::singleShot(0, &window, [&] { openThree([&] { window.close(); }); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_FALSE(window.Dialog(0) || window.Dialog(1) || window.Dialog(2));
+}
+
 TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {
   const QTemporaryDir folder;
   QSettings settings(folder.filePath("s.ini"), QSettings::IniFormat);

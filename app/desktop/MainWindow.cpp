@@ -148,23 +148,25 @@ void MainWindow::Connect() {
     if (selected >= 0) pane_->View().Select(selected);
   });
   connect(&presets_->Drift(), &DriftCheck::Checked, this, &MainWindow::ShowLastSeen);
+  // By its own profile, because the list may have another one for the projector already.
   const auto setOpen = [this](const ProjectorSession* session, bool isOpen) {
-    const int position = pane_->View().Model().Find(live_->IdOf(*session));
-    if (position < 0) return;
-    pane_->View().Model().Change(position, [isOpen](ProjectorRow& row) { row.isOpen = isOpen; });
+    const std::string id = FleetIdOf(session->Profile());
+    const int position = pane_->View().Model().Find(id);
+    if (position >= 0)
+      pane_->View().Model().Change(position, [isOpen](ProjectorRow& row) { row.isOpen = isOpen; });
+    return id;
   };
   connect(dialogs_.get(), &DialogKeeper::Opened, this,
           [this, setOpen](const ProjectorSession* session) {
-            const std::string id = live_->IdOf(*session);
+            const std::string id = setOpen(session, true);
             live_->Watch().LeaveToDialog(id);
-            setOpen(session, true);
             ShowLastSeen(id);
           });
   connect(dialogs_.get(), &DialogKeeper::Closed, this,
           [this, setOpen](const ProjectorSession* session) {
-            live_->Watch().TakeBack(live_->IdOf(*session));
-            presets_->Drift().Check({live_->IdOf(*session)});
-            setOpen(session, false);
+            const std::string id = setOpen(session, false);
+            live_->Watch().TakeBack(id);
+            presets_->Drift().Check({id});
           });
 }
 

@@ -180,12 +180,15 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     EXPECT_TRUE(Accept(editor));
   });
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(SerialAddress{"/dev/ttyUSB0", 9600}));
+  window.OpenDialog(2);
+  EXPECT_TRUE(Rows(window)[2].isOpen);
   AnswerQuestionOf(Find<QAction>(window, "Edit"), [](QDialog& editor) {
     Choose(editor, "Reached through", "PJLink");
     Fill(editor, {{"Address", "192.0.2.7"}, {"Port", "4352"}});
     Field(editor, "Password").setText("\t open \n");  // as pasted
     EXPECT_TRUE(Accept(editor));
   });
+  EXPECT_FALSE(Rows(window)[2].isOpen) << "its connection is another one";
   AnswerQuestionOf(Find<QAction>(window, "Edit"),
                    [](QDialog& editor) { EXPECT_TRUE(Accept(editor)); });
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(PjLinkAddress{"192.0.2.7", 4352, " open "}));

@@ -86,7 +86,6 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
       settingsActions_(new SettingsActions({.selected = [this] { return pane_->Selected(); },
                                             .watch = live_->Watch(),
                                             .work = *work_,
-                                            .drift = presets_->Drift(),
                                             .window = *this})),
       dialogs_(std::make_unique<DialogKeeper>(*this, settings)) {
   InstallAccessibility();  // the panels have lists
@@ -147,6 +146,7 @@ void MainWindow::Connect() {
     presets_->Drift().TakeProfiles();
     if (selected >= 0) pane_->View().Select(selected);
   });
+  connect(presets_, &PresetActions::Saved, dialogs_.get(), &DialogKeeper::UpdateAll);
   connect(&presets_->Drift(), &DriftCheck::Checked, this, &MainWindow::ShowLastSeen);
   // By its own profile, because the list may have another one for the projector already.
   const auto setOpen = [this](const ProjectorSession* session, bool isOpen) {

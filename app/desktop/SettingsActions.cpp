@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "app/desktop/DriftCheck.h"
 #include "app/desktop/Modal.h"
 #include "app/desktop/projectors/FleetWatch.h"
 #include "app/desktop/work/ComparisonDialog.h"
@@ -123,10 +122,7 @@ void SettingsActions::OpenFile(const QString& path, const Rows& rows, bool appli
                                       &parts_.window);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &ComparisonDialog::ApplyWanted, this, [this, path](const WorkPlan& plan) {
-    parts_.work.Do(plan, [this, path](const WorkRun& run) {
-      KeepUndo(path, run);
-      parts_.drift.CheckAfter(run);
-    });
+    parts_.work.Do(plan, [this, path](const WorkRun& run) { KeepUndo(path, run); });
   });
   dialog->open();
 }

@@ -10,7 +10,6 @@
 
 #include "app/desktop/projectors/ProjectorRow.h"
 
-class DriftCheck;
 class FleetWatch;
 class QAction;
 class QWidget;
@@ -30,7 +29,6 @@ class SettingsActions : public QObject {
     std::function<std::vector<const ProjectorRow*>()> selected;
     FleetWatch& watch;
     WorkActions& work;
-    DriftCheck& drift;
     QWidget& window;
   };
 

@@ -9,12 +9,15 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 
+#include "app/desktop/LiveProjectors.h"
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/presets/PresetDialog.h"
 #include "app/desktop/presets/PresetManager.h"
+#include "app/desktop/work/WorkActions.h"
 #include "app/profiles/PresetFolder.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Work.h"
@@ -120,6 +123,7 @@ TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
 }
 
 TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
+  const QDeadlineTimer all(50'000);  // then all are compared, which must not be waited for
   Snapshot day = EmptySnapshot("any", Row(a).profile.model->data);
   day.settings = {{.key = "picture.brightness", .value = 140, .text = {}},
                   {.key = "main.contrast", .value = 130, .text = {}}};  // of other models
@@ -142,6 +146,22 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0; }));
   EXPECT_EQ(Projector(a).Value(SettingId::Brightness), 140);
   EXPECT_TRUE(Soon([&] { return !hasAlert(); }));
+
+  const auto target = window->findChild<LiveProjectors*>()->Watch().TargetOf(Row(a).profile);
+  window->findChild<WorkActions*>()->Do(
+      {.title = "Darken",
+       .question = {},
+       .parts = {{SetSetting{"picture.brightness", "-7"}, {target}}}});
+  EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; })) << "after any work";
+  const auto& tabs = *dialog.findChild<QTabBar*>();
+  EXPECT_TRUE(Soon([&] { return tabs.tabText(1) == "Picture (1?)"; }));
+  Choose("Save as Preset");
+  ASSERT_TRUE(Soon([&] { return window->findChild<PresetDialog*>() != nullptr; }));
+  auto& saved = *window->findChild<PresetDialog*>();
+  QTest::keyClicks(saved.findChild<QLineEdit*>(), "day");
+  Find<QPushButton>(saved, "Save").click();
+  EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0 && tabs.tabText(1) == "Picture"; }));
+  EXPECT_FALSE(all.hasExpired());
 }
 
 TEST_F(PresetTest, ATagHasAPresetForAllItsProjectors) {

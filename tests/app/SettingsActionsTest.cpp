@@ -57,7 +57,7 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   snapshot.settings.push_back({"main.contrast", 130, ""});  // of other models
   Write(file, WriteSnapshot(snapshot));
   Projector(0).SetValue(SettingId::Brightness, 135);
-  Projector(1).SetValue(SettingId::Contrast, 120);
+  for (const std::size_t i : {0, 1}) Projector(i).SetValue(SettingId::Contrast, 120);
   Projector(1).SetValue(SettingId::PositionV, 50);
 
   actions.OpenFile(file, Rows(window), true);
@@ -68,9 +68,8 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   const QString first = "  First the other sources and modes||2 settings";
   const QString foreign = "  2 settings do not apply to this model||";
   const QStringList expected{
-      "A||",  first, "  Picture: Brightness|7|0", foreign,
-      "B||",  first, "  Picture: Contrast|-8|0",  "  Image: Position V|50|40",
-      foreign};
+      "A||", first, "  Picture: Brightness|7|0", "  Picture: Contrast|-8|0",  foreign,
+      "B||", first, "  Picture: Contrast|-8|0",  "  Image: Position V|50|40", foreign};
   EXPECT_EQ(Lines(tree).join('\n').toStdString(), expected.join('\n').toStdString());
   Find<QLabel>(*dialog, "2 projectors differ.");
 
@@ -78,19 +77,24 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   for (QTreeWidgetItem* item : {tree.topLevelItem(0), b}) item->child(0)->setCheckState(0, {});
   b->child(2)->setCheckState(0, Qt::Unchecked);
   EXPECT_EQ(b->checkState(0), Qt::PartiallyChecked);
+  window.Session(0)->SetFault(std::uint16_t{0x2004}, {Fault::Kind::Refuse});
   Find<QPushButton>(*dialog, "Apply").click();
   WorkDialog& work = Done(window);
-  EXPECT_EQ(Results(work), QStringList({"A: done", "B: done"}));
+  EXPECT_EQ(Results(work), QStringList({"A: Contrast: refused", "B: done"}));
+  window.Session(0)->ClearFaults();
+  Find<QPushButton>(work, "Retry the Failed").click();
+  EXPECT_EQ(Results(Done(window)), QStringList({"A: done", "B: done"}));
   EXPECT_EQ(Projector(0).Value(SettingId::Brightness), 128);
   EXPECT_EQ(Projector(1).Value(SettingId::Contrast), 128);
   EXPECT_EQ(Projector(1).Value(SettingId::PositionV), 50) << "unchecked";
   EXPECT_EQ(Projector(1).Value(SettingId::Sharpness), 128) << "unchecked";
   const QStringList undo = QDir(folder.path()).entryList({"good.undo.*.json"});
-  ASSERT_EQ(undo.size(), 1);
-  EXPECT_EQ(ReadFleetUndo(Contents(folder.filePath(undo[0]))).undo.size(), 2U);
+  ASSERT_EQ(undo.size(), 2);
+  EXPECT_EQ(ReadFleetUndo(Contents(folder.filePath(undo[1]))).undo.size(), 2U);
   Find<QPushButton>(work, "Undo All").click();
   EXPECT_TRUE(Soon([&] { return Projector(1).Value(SettingId::Contrast) == 120; }));
   EXPECT_TRUE(Soon([&] { return Projector(0).Value(SettingId::Brightness) == 135; }));
+  EXPECT_EQ(Projector(0).Value(SettingId::Contrast), 120) << "both attempts";
 }
 
 }  // namespace

@@ -26,6 +26,7 @@ DriftCheck::DriftCheck(const ProfileDocument& document, FleetWatch& watch, const
     CheckAll();
   });
   timer_.start(kFirst);
+  connect(&work_, &WorkActions::Finished, this, &DriftCheck::CheckAfter);
   for (const FleetProfile& profile : document_.Projectors())
     if (!profile.snapshot.empty()) presets_[FleetIdOf(profile)] = profile.snapshot;
 }
@@ -53,9 +54,21 @@ void DriftCheck::CheckAll() {
   Check(all);
 }
 
+void DriftCheck::CheckPreset(const std::string& name) {
+  std::set<std::string> ids;
+  for (const auto& [id, preset] : presets_)
+    if (preset == name) ids.insert(id);
+  Check(ids);
+}
+
 void DriftCheck::CheckAfter(const WorkRun& run) {
   std::set<std::string> ids;
-  for (const WorkLine& line : run.Lines()) ids.insert(line.id);
+  for (const WorkPart& part : run.Plan().parts) {
+    if (!std::holds_alternative<SetSetting>(part.work) &&
+        !std::holds_alternative<ApplySnapshots>(part.work))
+      continue;
+    for (const FleetTarget& target : part.targets) ids.insert(target.id);
+  }
   Check(ids);
 }
 

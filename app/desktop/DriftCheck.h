@@ -17,12 +17,13 @@ class WorkRun;
 
 /// Checks how many settings of the projectors differ from the presets that they should have, and
 /// reports it to the fleet: for all projectors a minute after the start and then every hour, and
-/// for some on request.
+/// for some on request and after work on them.
 class DriftCheck : public QObject {
   Q_OBJECT
 
  public:
-  /// All arguments must outlive it. Checks under way belong to `window`.
+  /// Checks projectors when `work` has changed them. All arguments must outlive it. Checks under
+  /// way belong to `window`.
   DriftCheck(const ProfileDocument& document, FleetWatch& watch, const WorkActions& work,
              QWidget& window);
 
@@ -32,17 +33,18 @@ class DriftCheck : public QObject {
   /// Checks those of these projectors now that have such a preset and are not in standby.
   void Check(const std::set<std::string>& ids);
   void CheckAll();
+  /// Checks those that should be like this preset, which has changed.
+  void CheckPreset(const std::string& name);
   /// The values that the settings of a projector's preset had at its last check; empty if there was
   /// none.
   Snapshot LastSeen(const std::string& id) const;
-  /// Checks the projectors that the work has changed.
-  void CheckAfter(const WorkRun& run);
 
  Q_SIGNALS:
   /// The settings of a projector were compared with its preset.
   void Checked(const std::string& id);
 
  private:
+  void CheckAfter(const WorkRun& run);
   void Keep(const WorkRun& run);
 
   const ProfileDocument& document_;

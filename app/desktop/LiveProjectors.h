@@ -34,8 +34,6 @@ class LiveProjectors : public QObject {
   std::shared_ptr<ProjectorSession> Session(const FleetProfile& profile) {
     return sessions_.Get(profile);
   }
-  /// The identity of a session's projector; empty if it is in no list any more.
-  std::string IdOf(const ProjectorSession& session) const { return sessions_.IdOf(session); }
   FleetWatch& Watch() { return watch_; }
   /// Takes over the faults and states of a simulation that were changed.
   void TakeSimulation(const ProjectorSession& session);

@@ -86,7 +86,6 @@ MainWindow::MainWindow(ProfileDocument profiles, QSettings* settings, const Flee
       settingsActions_(new SettingsActions({.selected = [this] { return pane_->Selected(); },
                                             .watch = live_->Watch(),
                                             .work = *work_,
-                                            .drift = presets_->Drift(),
                                             .window = *this})),
       dialogs_(std::make_unique<DialogKeeper>(*this, settings)) {
   InstallAccessibility();  // the panels have lists
@@ -147,24 +146,27 @@ void MainWindow::Connect() {
     presets_->Drift().TakeProfiles();
     if (selected >= 0) pane_->View().Select(selected);
   });
+  connect(presets_, &PresetActions::Saved, dialogs_.get(), &DialogKeeper::UpdateAll);
   connect(&presets_->Drift(), &DriftCheck::Checked, this, &MainWindow::ShowLastSeen);
+  // By its own profile, because the list may have another one for the projector already.
   const auto setOpen = [this](const ProjectorSession* session, bool isOpen) {
-    const int position = pane_->View().Model().Find(live_->IdOf(*session));
-    if (position < 0) return;
-    pane_->View().Model().Change(position, [isOpen](ProjectorRow& row) { row.isOpen = isOpen; });
+    const std::string id = FleetIdOf(session->Profile());
+    const int position = pane_->View().Model().Find(id);
+    if (position >= 0)
+      pane_->View().Model().Change(position, [isOpen](ProjectorRow& row) { row.isOpen = isOpen; });
+    return id;
   };
   connect(dialogs_.get(), &DialogKeeper::Opened, this,
           [this, setOpen](const ProjectorSession* session) {
-            const std::string id = live_->IdOf(*session);
+            const std::string id = setOpen(session, true);
             live_->Watch().LeaveToDialog(id);
-            setOpen(session, true);
             ShowLastSeen(id);
           });
   connect(dialogs_.get(), &DialogKeeper::Closed, this,
           [this, setOpen](const ProjectorSession* session) {
-            live_->Watch().TakeBack(live_->IdOf(*session));
-            presets_->Drift().Check({live_->IdOf(*session)});
-            setOpen(session, false);
+            const std::string id = setOpen(session, false);
+            live_->Watch().TakeBack(id);
+            presets_->Drift().Check({id});
           });
 }
 
@@ -227,17 +229,21 @@ void MainWindow::ShowProfiles() {
                      : tr("Advanced Control"));
 }
 
+// While a dialog is being read, the list may change and the window may be closed.
 void MainWindow::OpenSelected() {
-  const std::vector<int> positions = pane_->View().Selected();
-  const auto open = [this, positions] {
-    for (const int position : positions)
+  std::vector<std::string> ids;
+  for (const ProjectorRow* row : pane_->Selected()) ids.push_back(row->id);
+  const auto open = [this, ids] {
+    for (const std::string& id : ids) {
+      const int position = pane_->View().Model().Find(id);
+      if (position < 0 || !isVisible()) continue;
       dialogs_->Open(*Session(static_cast<std::size_t>(position)));
+    }
   };
-  if (positions.size() <= kOpenedUnasked) return open();
-  auto* question =
-      new QMessageBox(QMessageBox::Question, tr("Open Settings"),
-                      tr("Open %n dialogs?", nullptr, static_cast<int>(positions.size())),
-                      QMessageBox::Open | QMessageBox::Cancel, this);
+  if (ids.size() <= kOpenedUnasked) return open();
+  auto* question = new QMessageBox(QMessageBox::Question, tr("Open Settings"),
+                                   tr("Open %n dialogs?", nullptr, static_cast<int>(ids.size())),
+                                   QMessageBox::Open | QMessageBox::Cancel, this);
   question->setAttribute(Qt::WA_DeleteOnClose);
   connect(question, &QDialog::accepted, this, open);
   RemoveForeignButtonIcons(*question);

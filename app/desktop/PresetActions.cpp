@@ -102,6 +102,8 @@ void PresetActions::AskWhatToSave(Snapshot taken, const ModelData& model) {
     const QString error = PresetFolder::Write(dialog->Name(), dialog->Chosen());
     if (!error.isEmpty()) return ShowError(parts_.window, tr("Save as Preset"), error);
     Q_EMIT parts_.work.Reported(tr("Saved as the preset %1").arg(dialog->Name()));
+    Q_EMIT Saved();
+    drift_->CheckPreset(dialog->Name().toStdString());
   });
   dialog->open();
 }
@@ -119,9 +121,8 @@ void PresetActions::Preview(Comparison comparison) {
   auto* dialog = new ComparisonDialog(std::move(comparison), parts_.watch, parts_.work.Texts(),
                                       &parts_.window);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  connect(dialog, &ComparisonDialog::ApplyWanted, this, [this](const WorkPlan& plan) {
-    parts_.work.Do(plan, [this](const WorkRun& run) { drift_->CheckAfter(run); });
-  });
+  connect(dialog, &ComparisonDialog::ApplyWanted, this,
+          [this](const WorkPlan& plan) { parts_.work.Do(plan); });
   dialog->open();
 }
 
@@ -191,6 +192,5 @@ void PresetActions::PutBack() {
   const auto count = static_cast<int>(part.targets.size());
   parts_.work.Do({.title = tr("Put Back"),
                   .question = tr("Put back the settings of %n projectors?", nullptr, count),
-                  .parts = {std::move(part)}},
-                 [this](const WorkRun& run) { drift_->CheckAfter(run); });
+                  .parts = {std::move(part)}});
 }

@@ -42,6 +42,10 @@ class PresetActions : public QObject {
   void Update(bool any);
   DriftCheck& Drift() const { return *drift_; }
 
+ Q_SIGNALS:
+  /// A preset was saved, perhaps in place of another one.
+  void Saved();
+
  private:
   void Fill(QMenu& menu);
   /// Makes a preset of the selected projector's settings.

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "app/desktop/DriftCheck.h"
 #include "app/desktop/Modal.h"
 #include "app/desktop/projectors/FleetWatch.h"
 #include "app/desktop/work/ComparisonDialog.h"
@@ -32,25 +31,31 @@ void SettingsActions::Update(bool any) {
   for (QAction* action : {save_, compare_, apply_}) action->setEnabled(any);
 }
 
+SettingsActions::Rows SettingsActions::Selected() const {
+  Rows rows;
+  for (const ProjectorRow* row : parts_.selected()) rows.push_back(*row);
+  return rows;
+}
+
 void SettingsActions::AskWhereToSave() {
-  const Rows rows = parts_.selected();
+  const Rows rows = Selected();
   if (rows.empty()) return;
   const bool isOne = rows.size() == 1;
   AskForFile(parts_.window,
              {.kind = isOne ? FileQuestion::Kind::Save : FileQuestion::Kind::Folder,
               .title = isOne ? tr("Save Settings") : tr("Save Settings in Folder"),
-              .suggestion = isOne ? FileNameOf(rows.front()->profile.name) + ".json" : QString(),
+              .suggestion = isOne ? FileNameOf(rows.front().profile.name) + ".json" : QString(),
               .filter = tr("Settings (*.json)")},
-             [this](const QString& path) { SaveTo(path); });
+             [this, rows](const QString& path) { SaveTo(path, rows); });
 }
 
-void SettingsActions::SaveTo(const QString& path) {
+void SettingsActions::SaveTo(const QString& path, const Rows& rows) {
   WorkPart part{.work = TakeSnapshots(), .targets = {}};
   const auto saving = std::make_shared<Saving>();
   saving->path = path;
-  for (const ProjectorRow* row : parts_.selected()) {
-    part.targets.push_back(parts_.watch.TargetOf(row->profile));
-    saving->names[row->id] = row->profile.name;
+  for (const ProjectorRow& row : rows) {
+    part.targets.push_back(parts_.watch.TargetOf(row.profile));
+    saving->names[row.id] = row.profile.name;
   }
   Q_EMIT parts_.work.Reported(tr("Reading settings…"));
   // Called again when those that failed are tried again.
@@ -93,16 +98,17 @@ void SettingsActions::Write(Saving& saving, const WorkRun& run) {
 }
 
 void SettingsActions::AskForSettings(bool applies) {
-  if (parts_.selected().empty()) return;
+  const Rows rows = Selected();
+  if (rows.empty()) return;
   AskForFile(parts_.window,
              {.kind = FileQuestion::Kind::Open,
               .title = tr("Open Settings"),
               .suggestion = {},
               .filter = tr("Settings (*.json)")},
-             [this, applies](const QString& path) { OpenFile(path, applies); });
+             [this, rows, applies](const QString& path) { OpenFile(path, rows, applies); });
 }
 
-void SettingsActions::OpenFile(const QString& path, bool applies) {
+void SettingsActions::OpenFile(const QString& path, const Rows& rows, bool applies) {
   SettingsFileContents contents = ReadSettingsFile(path);
   if (!contents.error.isEmpty())
     return ShowError(parts_.window, tr("Open Settings"), contents.error);
@@ -111,15 +117,12 @@ void SettingsActions::OpenFile(const QString& path, bool applies) {
                         .column = tr("File"),
                         .source = QDir::toNativeSeparators(path),
                         .applies = applies};
-  for (const ProjectorRow* row : parts_.selected()) comparison.Add(*row, parts_.watch, wanted);
+  for (const ProjectorRow& row : rows) comparison.Add(row, parts_.watch, wanted);
   auto* dialog = new ComparisonDialog(std::move(comparison), parts_.watch, parts_.work.Texts(),
                                       &parts_.window);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &ComparisonDialog::ApplyWanted, this, [this, path](const WorkPlan& plan) {
-    parts_.work.Do(plan, [this, path](const WorkRun& run) {
-      KeepUndo(path, run);
-      parts_.drift.CheckAfter(run);
-    });
+    parts_.work.Do(plan, [this, path](const WorkRun& run) { KeepUndo(path, run); });
   });
   dialog->open();
 }

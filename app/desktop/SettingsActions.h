@@ -10,7 +10,6 @@
 
 #include "app/desktop/projectors/ProjectorRow.h"
 
-class DriftCheck;
 class FleetWatch;
 class QAction;
 class QWidget;
@@ -24,13 +23,12 @@ class SettingsActions : public QObject {
   Q_OBJECT
 
  public:
-  using Rows = std::vector<const ProjectorRow*>;
+  using Rows = std::vector<ProjectorRow>;
 
   struct Parts {
-    std::function<Rows()> selected;
+    std::function<std::vector<const ProjectorRow*>()> selected;
     FleetWatch& watch;
     WorkActions& work;
-    DriftCheck& drift;
     QWidget& window;
   };
 
@@ -44,12 +42,12 @@ class SettingsActions : public QObject {
   /// Enables the actions if projectors are selected.
   void Update(bool any);
 
-  /// Saves the settings of each selected projector: those of a single one in the file `path`, those
-  /// of several in new files in the folder `path`, named after the projectors.
-  void SaveTo(const QString& path);
-  /// Compares the selected projectors with a file; `applies` lets the user send what differs. What
-  /// is replaced is kept in a file beside it.
-  void OpenFile(const QString& path, bool applies);
+  /// Saves the settings of each projector: those of a single one in the file `path`, those of
+  /// several in new files in the folder `path`, named after the projectors.
+  void SaveTo(const QString& path, const Rows& rows);
+  /// Compares projectors with a file; `applies` lets the user send what differs. What is replaced
+  /// is kept in a file beside it.
+  void OpenFile(const QString& path, const Rows& rows, bool applies);
 
  private:
   /// The saving under way, and its files.
@@ -59,6 +57,8 @@ class SettingsActions : public QObject {
     std::set<std::string> saved{};               ///< Identities.
   };
 
+  /// Copies, because the list may change while a question is open.
+  Rows Selected() const;
   void AskWhereToSave();
   void AskForSettings(bool applies);
   void Write(Saving& saving, const WorkRun& run);

@@ -310,4 +310,17 @@ Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& tex
   return snapshot;
 }
 
+// What the second one replaced may belong to a source or mode that the first one had set. It is
+// therefore restored before the values from before the first.
+Snapshot UndoOfBoth(const Snapshot& earlier, const Snapshot& later, const ModelSettings& model) {
+  std::vector<SavedSetting> settings = later.settings;
+  std::ranges::stable_sort(
+      settings, {}, [&model](const SavedSetting& saved) { return RankOf(*model.Find(saved.key)); });
+  Snapshot both = earlier;
+  both.beforehand = later.beforehand;
+  for (const auto& list : {settings, earlier.beforehand})
+    both.beforehand.insert(both.beforehand.end(), list.begin(), list.end());
+  return both;
+}
+
 }  // namespace AdvancedControl

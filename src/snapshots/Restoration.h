@@ -73,4 +73,9 @@ class PROJECTOR_SETTINGS_EXPORT Restoration {
   int turns_ = 0;
 };
 
+/// A snapshot that undoes two restorations at once: `earlier` undoes the first, `later` the second.
+/// Both are from `Undo`, for this model.
+PROJECTOR_SETTINGS_EXPORT Snapshot UndoOfBoth(const Snapshot& earlier, const Snapshot& later,
+                                              const ModelSettings& model);
+
 }  // namespace AdvancedControl

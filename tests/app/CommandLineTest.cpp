@@ -13,12 +13,12 @@ namespace {
 using testing::HasSubstr;
 
 /// Runs the program without a display.
-Outcome RunProgram(const QStringList& arguments) {
+Outcome RunProgram(QStringList arguments) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
     environment.remove(QLatin1String(name));
-  }
-  return Run(ADVANCED_CONTROL_PROGRAM, arguments, {}, environment);
+  const bool simulates = arguments.removeOne("simulator");
+  return Run(simulates ? SIMULATOR_PROGRAM : ADVANCED_CONTROL_PROGRAM, arguments, {}, environment);
 }
 
 TEST(Program, AnswersWrongUseAsRecorded) {

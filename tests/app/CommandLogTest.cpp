@@ -1,6 +1,5 @@
 #include <tuple>
 
-#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -15,6 +14,7 @@
 #include "app/desktop/log/SettingNames.h"
 #include "device/channels/LoggingChannel.h"
 #include "fleet/ProfileFile.h"
+#include "tests/app/Windows.h"
 #include "tests/support/Programs.h"
 #include "tests/support/Soon.h"
 
@@ -30,10 +30,9 @@ const PjtCommand kChange{PjtOperation::Set, 0x2201, 130};
 TEST(CommandLog, KeepsTheNewestEntries) {
   CommandLogModel model;
   constexpr int kMaximum = CommandLogModel::kMaximumEntries;
-  for (const int size : {3, kMaximum, 4}) {
+  for (const int size : {3, kMaximum, 4})
     model.Append(std::vector(static_cast<std::size_t>(size),
                              Entry(QString::number(size), kRead, {.result = 1, .value = 5})));
-  }
   ASSERT_EQ(model.rowCount(), kMaximum);
   EXPECT_EQ(model.index(kMaximum - 5, 1).data(), QString::number(kMaximum));
   EXPECT_EQ(model.index(kMaximum - 4, 1).data(), "4");
@@ -153,9 +152,7 @@ TEST(CommandLog, CopiesAndSavesShownRowsAndFollowsNewOnes) {
   EXPECT_EQ(choose("A"), 0);
   EXPECT_EQ(choose("All projectors"), 1);
   log.ClearAll()->trigger();
-  auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  ASSERT_NE(question, nullptr);
-  question->reject();
+  Modal<QMessageBox>().reject();
   EXPECT_EQ(table.model()->rowCount(), 1) << "asked, and answered with Esc";
 }
 

@@ -95,15 +95,28 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
 TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {
   std::vector<FleetProfile> profiles;
   profiles.reserve(250);
-  for (int i = 0; i < 250; ++i) profiles.push_back(Profile(std::to_string(i).c_str()));
+  for (int i = 0; i < 250; ++i) {
+    profiles.push_back(Profile(std::to_string(i).c_str()));
+    if (i % 2 == 1) profiles.back().tags = {"odd"};
+  }
   ShownWindow window(profiles, kOften);
   window.Session(249)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   ASSERT_TRUE(AreWatched(window));
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Problems) == 1; }));
   EXPECT_EQ(HealthOf(Rows(window)[249]), Health::Error);
   EXPECT_EQ(CountIn(window, ProjectorGroup::Kind::Unreachable), 0);
+  auto& off = Find<QAction>(window, "Switch Off");
+  for (const ProjectorGroup& group : {ProjectorGroup{ProjectorGroup::Kind::Tag, "odd"}, {}}) {
+    Table(window).selectAll();
+    window.findChild<GroupList*>()->Choose(group);
+    const std::vector<int> selected = window.findChild<ProjectorView*>()->Selected();
+    EXPECT_TRUE(selected.size() == 125 && selected.back() == 249) << "only what was and is shown";
+  }
+  window.findChild<GroupList*>()->Choose({ProjectorGroup::Kind::Off});
+  EXPECT_FALSE(off.isEnabled()) << "nothing is selected any more";
+  window.findChild<GroupList*>()->Choose({});
   Table(window).selectAll();
-  Find<QAction>(window, "Switch Off").trigger();
+  off.trigger();
   Find<QPushButton>(*window.findChild<WorkDialog*>(), "Switch Off").click();
   EXPECT_EQ(Failed(Done(window)), 0);
 }
@@ -268,6 +281,10 @@ TEST(FleetWindow, AlertsFollowTheRules) {
   row.state.since = now - 5min;
   EXPECT_EQ(found(), (Kinds{{Silent, ProjectorPart::Other}}));
   EXPECT_EQ(found({.silent = 0min}), Kinds());
+  const AlertRules quiet{.quietFrom = QTime(22, 0), .quietTo = QTime(6, 0)};
+  EXPECT_TRUE(quiet.IsQuiet(QTime(23, 0)) && quiet.IsQuiet(QTime(5, 59)));
+  EXPECT_FALSE(quiet.IsQuiet(QTime(6, 0)) || quiet.IsQuiet(QTime(12, 0)));
+  EXPECT_FALSE(AlertRules().IsQuiet(QTime(0, 0)));
 }
 
 TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
@@ -300,21 +317,13 @@ TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
   EXPECT_EQ(said.size(), 2);
 }
 
-TEST(FleetWindow, QuietHoursGoOnPastMidnight) {
-  const AlertRules rules{.quietFrom = QTime(22, 0), .quietTo = QTime(6, 0)};
-  EXPECT_TRUE(rules.IsQuiet(QTime(23, 0)) && rules.IsQuiet(QTime(5, 59)));
-  EXPECT_FALSE(rules.IsQuiet(QTime(6, 0)) || rules.IsQuiet(QTime(12, 0)));
-  EXPECT_FALSE(AlertRules().IsQuiet(QTime(0, 0)));
-}
-
 TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   ShippedWindow window;
   const QString file = window.folder.filePath("t.csv");
   const auto before = Rows(window).size();
   QByteArray table("name,address\n");
-  for (int i = 0; i < 20; ++i) {
+  for (int i = 0; i < 20; ++i)
     table += "Room " + QByteArray::number(i) + (i % 2 == 0 ? ",192.0.2.1\n" : ",192.0.2.1:x\n");
-  }
   Write(file, table);
   window.findChild<TransferActions*>()->ImportFile(file);
   auto& said = Modal<QMessageBox>();

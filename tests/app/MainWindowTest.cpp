@@ -19,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
+#include "app/desktop/groups/GroupList.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/profiles/PresetFolder.h"
@@ -75,12 +76,14 @@ TEST(MainWindow, QuestionsAndWorkHoldUpNoDialog) {
 
   inTheWait([&] {
     Find<QAction>(window, "Save Settings").trigger();
+    window.findChild<GroupList*>()->Choose({ProjectorGroup::Kind::Off});  // it leaves the list
     Modal<QFileDialog>().selectFile(file);
     QMetaObject::invokeMethod(&Modal<QFileDialog>(), "accept");
   });
   ASSERT_TRUE(Soon([&] { return QFile::exists(file); }));
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "nothing went wrong";
   EXPECT_EQ(ReadSettingsFile(file).error, "");
+  window.findChild<ProjectorView*>()->Select(0);
   Find<QAction>(window, "Compare with File").trigger();
   EXPECT_EQ(Modal<QFileDialog>().directory().path(), folder.path()) << "where the last file was";
 }
@@ -204,6 +207,28 @@ TEST(MainWindow, PreferencesTakeEffectAtOnce) {
   EXPECT_EQ(AlertRules::Read(&settings).silent, std::chrono::minutes(7));
   Apply(Theme::Desktop);
   EXPECT_TRUE(Soon([&] { return !isDark(); }));
+}
+
+TEST(MainWindow, OpensTheDialogsOfTheSelectedUntilItIsClosed) {
+  ShippedWindow window;
+  for (const std::size_t i : {0, 1, 2, 3})
+    window.Session(i)->SetFault({}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
+  const auto openThree = [&](const auto& whileTheFirstIsRead) {
+    const QAbstractItemModel& list = *Table(window).model();
+    Table(window).selectionModel()->select({list.index(0, 0), list.index(2, 8)},
+                                           QItemSelectionModel::ClearAndSelect);
+    QTimer::singleShot(25, &window, whileTheFirstIsRead);
+    Find<QAction>(window, "Open Settings").trigger();
+  };
+  openThree([&] {
+    EXPECT_EQ(Shipped(window.folder).Remove({1}), "");
+    Find<QAction>(window, "Reload").trigger();
+  });
+  EXPECT_TRUE(window.Dialog(0) && window.Dialog(1) && !window.Dialog(2)) << "the third is second";
+  for (const std::size_t i : {0, 1}) window.Dialog(i)->close();
+  QTimer::singleShot(0, &window, [&] { openThree([&] { window.close(); }); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_FALSE(window.Dialog(0) || window.Dialog(1) || window.Dialog(2));
 }
 
 TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 
 #include "app/desktop/groups/GroupList.h"
@@ -115,8 +116,10 @@ TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
 }
 
 TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
+  const QDeadlineTimer all(50'000);  // then all are compared, which must not be waited for
   Snapshot day = EmptySnapshot("any", Row(a).profile.model->data);
   day.settings = {{.key = "picture.brightness", .value = 140, .text = {}},
+                  {.key = "other.mute", .value = 0, .text = {}},
                   {.key = "main.contrast", .value = 130, .text = {}}};  // of other models
   ASSERT_EQ(PresetFolder::Write("day", day), "");
   Select({a});
@@ -131,6 +134,17 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0; }));
   EXPECT_EQ(Projector(a).Value(SettingId::Brightness), 140);
   EXPECT_TRUE(Soon([&] { return !Row(a).hasAlert; }));
+
+  Find<QAction>(*window, "Mute the Sound").trigger();
+  EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; })) << "after any work";
+  const auto& tabs = *dialog.findChild<QTabBar*>();
+  EXPECT_TRUE(Soon([&] { return tabs.tabText(8) == "Other (1?)"; }));
+  Choose("Save as Preset");
+  ASSERT_TRUE(Soon([&] { return window->findChild<PresetDialog*>() != nullptr; }));
+  auto& saved = *window->findChild<PresetDialog*>();
+  QTest::keyClicks(saved.findChild<QLineEdit*>(), "day");
+  Find<QPushButton>(saved, "Save").click();
+  EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 0 && tabs.tabText(8) == "Other"; }));
 }
 
 TEST_F(PresetTest, ATagHasAPresetForAllItsProjectors) {
@@ -226,9 +240,8 @@ TEST(PresetFolder, KeepsPresetsByTheirNames) {
   EXPECT_TRUE(PresetFolder::Write("day", {}).startsWith("cannot create the folder /dev/null/"));
   qunsetenv("XDG_DATA_HOME");
   for (const QString& name : {QString(), QString(" a"), QString(".a"), QString("a/b"),
-                              QString("a\tb"), QString(101, QChar(0xE9))}) {
+                              QString("a\tb"), QString(101, QChar(0xE9))})
     EXPECT_FALSE(PresetFolder::IsName(name)) << qPrintable(name);
-  }
 }
 
 }  // namespace

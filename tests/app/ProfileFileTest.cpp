@@ -81,9 +81,8 @@ TEST(ProfileFile, OnlyRegularFilesAreOpened) {
   const QTemporaryDir folder;
   const QString pipe = folder.filePath("pipe");
   ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
-  for (const QString& name : {pipe, QStringLiteral("/dev/zero"), folder.path()}) {
+  for (const QString& name : {pipe, QStringLiteral("/dev/zero"), folder.path()})
     EXPECT_TRUE(ReadProfileList(name).error.endsWith(name + ": not a regular file"));
-  }
   QFile large(folder.filePath("large"));
   ASSERT_TRUE(large.open(QFile::WriteOnly) && large.resize(1LL << 40));
   EXPECT_TRUE(ReadProfileList(large.fileName()).error.endsWith("more than 67108864 bytes"));
@@ -125,9 +124,8 @@ TEST(ProfileFile, ShippedFileHasEveryModelWithPagesOfItsOwn) {
   for (const auto& [dialogType, codes] : ListedModels()) {
     for (const int code : codes) missing.emplace(dialogType, code);
   }
-  for (const FleetProfile& profile : contents.profiles) {
+  for (const FleetProfile& profile : contents.profiles)
     missing.erase({profile.model->info.DialogType, profile.model->info.ModelCode});
-  }
   EXPECT_EQ(missing, (Models{{1, 0}, {2, 0}, {3, 0}, {4, 0}, {5, 29}, {5, 55}}));
 }
 

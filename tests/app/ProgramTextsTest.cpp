@@ -157,7 +157,7 @@ TEST_F(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
   }
 }
 
-TEST_F(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
+TEST_F(ProgramTexts, HaveHoursFirstAndFactsInLatinLettersAtTheRightFromRightToLeftToo) {
   InstallTranslations(LanguageIdOf("he").value());
   const QTemporaryDir folder;
   QSettings settings(folder.filePath("settings"), QSettings::IniFormat);
@@ -166,10 +166,6 @@ TEST_F(ProgramTexts, TimesHaveTheirHoursFirstFromRightToLeftToo) {
   ASSERT_EQ(times.size(), 2);
   times.front()->setTime(QTime(22, 30));
   EXPECT_EQ(times.front()->text(), "22:30");
-}
-
-TEST_F(ProgramTexts, FactsInLatinLettersBeginAtTheRightFromRightToLeftToo) {
-  InstallTranslations(LanguageIdOf("he").value());
   DetailsPanel panel({});
   const ProjectorRow row{.id = "a", .profile = Profile("A")};
   panel.Show(&row, 1, {});

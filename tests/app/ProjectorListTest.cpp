@@ -14,6 +14,7 @@
 #include <QUndoStack>
 #include <gtest/gtest.h>
 
+#include "app/desktop/groups/GroupList.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
@@ -23,11 +24,6 @@ namespace {
 QString Selected(const QWidget& window) {
   const QTableView& table = Table(window);
   return table.currentIndex().siblingAtColumn(0).data().toString();
-}
-
-TEST(ProjectorList, InitiallySelectsAProjectorWithRowsOnEveryTab) {
-  const MainWindow window({Profile("no tabs", MakeModel(9, 30)), Profile("A"), Profile("B")});
-  EXPECT_EQ(Selected(window), "A");
 }
 
 /// A desktop on which a single click activates.
@@ -41,17 +37,18 @@ struct SingleClickStyle : QProxyStyle {
 };
 
 TEST(ProjectorList, OnlyADoubleClickOpensADialog) {
-  MainWindow window({Profile("A"), Profile("B")});
+  MainWindow window({Profile("no tabs", MakeModel(9, 30)), Profile("A"), Profile("B")});
+  EXPECT_EQ(Selected(window), "A") << "the first with rows on every tab";
   SingleClickStyle style;
   QTableView& table = Table(window);
   table.setStyle(&style);
   window.show();
-  const QPoint second = table.visualRect(table.model()->index(1, 0)).center();
-  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, second);
+  const QPoint third = table.visualRect(table.model()->index(2, 0)).center();
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, third);
   EXPECT_EQ(Selected(window), "B");
-  EXPECT_EQ(window.Dialog(1), nullptr);
-  QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, second);
-  EXPECT_NE(window.Dialog(1), nullptr);
+  EXPECT_EQ(window.Dialog(2), nullptr);
+  QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, third);
+  EXPECT_NE(window.Dialog(2), nullptr);
 }
 
 TEST(ProjectorList, IsSearchedAndSorted) {
@@ -76,10 +73,7 @@ TEST(ProjectorList, IsSearchedAndSorted) {
     Find<QLabel>(window, QStringLiteral("%1 found").arg(count));
   }
   QTest::keyClick(search, Qt::Key_Return);
-  EXPECT_NE(window.Dialog(
-                static_cast<std::size_t>(window.findChild<ProjectorView*>()->CurrentPosition())),
-            nullptr)
-      << "Enter opens the best one";
+  EXPECT_TRUE(window.findChild<ProjectorView*>()->Current()->isOpen) << "the best one";
   QTest::keyClicks(search, "zz");
   EXPECT_EQ(found.rowCount(), 0);
   Find<QLabel>(window, "Nothing found");
@@ -161,12 +155,15 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     EXPECT_TRUE(Accept(editor));
   });
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(SerialAddress{"/dev/ttyUSB0", 9600}));
+  window.OpenDialog(2);
+  EXPECT_TRUE(Rows(window)[2].isOpen);
   AnswerQuestionOf(Find<QAction>(window, "Edit"), [](QDialog& editor) {
     Choose(editor, "Reached through", "PJLink");
     Fill(editor, {{"Address", "192.0.2.7"}, {"Port", "4352"}});
     Field(editor, "Password").setText("\t open \n");  // as pasted
     EXPECT_TRUE(Accept(editor));
   });
+  EXPECT_FALSE(Rows(window)[2].isOpen) << "its connection is another one";
   AnswerQuestionOf(Find<QAction>(window, "Edit"),
                    [](QDialog& editor) { EXPECT_TRUE(Accept(editor)); });
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(PjLinkAddress{"192.0.2.7", 4352, " open "}));
@@ -238,6 +235,7 @@ TEST(ProjectorList, AFileThatCannotBeWrittenIsSaidBeforeAnybodyTypes) {
   }
   AnswerQuestionOf(Find<QAction>(window, "Edit"), [&](QDialog& question) {
     Find<QPushButton>(question, "Save Profiles As").click();
+    window.findChild<GroupList*>()->Choose({ProjectorGroup::Kind::Off});  // it leaves the list
     Modal<QFileDialog>().selectFile(folder.filePath("p.json"));
     QMetaObject::invokeMethod(&Modal<QFileDialog>(), "accept");
   });

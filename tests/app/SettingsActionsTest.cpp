@@ -16,12 +16,9 @@
 
 namespace {
 
-/// Two projectors of one model in the window, both selected, and a folder.
+/// Two projectors of one model in the window, and a folder.
 struct SettingsOfTwo : testing::Test {
-  SettingsOfTwo() {
-    EXPECT_TRUE(AreWatched(window));
-    Table(window).selectAll();
-  }
+  SettingsOfTwo() { EXPECT_TRUE(AreWatched(window)); }
   SimulatedProjector& Projector(std::size_t index) { return window.Session(index)->Simulator(); }
 
   const QTemporaryDir folder;
@@ -32,7 +29,7 @@ struct SettingsOfTwo : testing::Test {
 
 TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   MakeSilent(window, 1, true);
-  actions.SaveTo(folder.path());
+  actions.SaveTo(folder.path(), Rows(window));
   WorkDialog* dialog = &Done(window);
   EXPECT_EQ(Results(*dialog), QStringList({"A: done", "B: no answer"}));
   const auto files = [&] { return QDir(folder.path()).entryList({"*.json"}); };
@@ -46,15 +43,13 @@ TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   EXPECT_GT(saved.snapshot.settings.size(), 50U);
   dialog->close();
 
-  window.findChild<ProjectorView*>()->Select(0);
-  actions.SaveTo("/proc/x.json");
+  actions.SaveTo("/proc/x.json", {Rows(window)[0]});
   ASSERT_TRUE(Soon([] { return QApplication::activeModalWidget() != nullptr; }));
   EXPECT_TRUE(Modal<QMessageBox>().text().startsWith("cannot write /proc/x.json: "));
 }
 
 TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
-  window.findChild<ProjectorView*>()->Select(0);
-  actions.SaveTo(file);
+  actions.SaveTo(file, {Rows(window)[0]});
   ASSERT_TRUE(Soon([&] { return QFile::exists(file); }));
   Snapshot snapshot = ReadSettingsFile(file).snapshot;
   snapshot.beforehand = {{"picture.sharpness", 129, ""}, {"picture.tint", 129, ""}};
@@ -62,11 +57,10 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   snapshot.settings.push_back({"main.contrast", 130, ""});  // of other models
   Write(file, WriteSnapshot(snapshot));
   Projector(0).SetValue(SettingId::Brightness, 135);
-  Projector(1).SetValue(SettingId::Contrast, 120);
+  for (const std::size_t i : {0, 1}) Projector(i).SetValue(SettingId::Contrast, 120);
   Projector(1).SetValue(SettingId::PositionV, 50);
 
-  Table(window).selectAll();
-  actions.OpenFile(file, true);
+  actions.OpenFile(file, Rows(window), true);
   auto* dialog = window.findChild<ComparisonDialog*>();
   ASSERT_NE(dialog, nullptr);
   ASSERT_TRUE(HasCompared(*dialog));
@@ -74,9 +68,8 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   const QString first = "  First the other sources and modes||2 settings";
   const QString foreign = "  2 settings do not apply to this model||";
   const QStringList expected{
-      "A||",  first, "  Picture: Brightness|7|0", foreign,
-      "B||",  first, "  Picture: Contrast|-8|0",  "  Image: Position V|50|40",
-      foreign};
+      "A||", first, "  Picture: Brightness|7|0", "  Picture: Contrast|-8|0",  foreign,
+      "B||", first, "  Picture: Contrast|-8|0",  "  Image: Position V|50|40", foreign};
   EXPECT_EQ(Lines(tree).join('\n').toStdString(), expected.join('\n').toStdString());
   Find<QLabel>(*dialog, "2 projectors differ.");
 
@@ -84,19 +77,24 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   for (QTreeWidgetItem* item : {tree.topLevelItem(0), b}) item->child(0)->setCheckState(0, {});
   b->child(2)->setCheckState(0, Qt::Unchecked);
   EXPECT_EQ(b->checkState(0), Qt::PartiallyChecked);
+  window.Session(0)->SetFault(std::uint16_t{0x2004}, {Fault::Kind::Refuse});
   Find<QPushButton>(*dialog, "Apply").click();
   WorkDialog& work = Done(window);
-  EXPECT_EQ(Results(work), QStringList({"A: done", "B: done"}));
+  EXPECT_EQ(Results(work), QStringList({"A: Contrast: refused", "B: done"}));
+  window.Session(0)->ClearFaults();
+  Find<QPushButton>(work, "Retry the Failed").click();
+  EXPECT_EQ(Results(Done(window)), QStringList({"A: done", "B: done"}));
   EXPECT_EQ(Projector(0).Value(SettingId::Brightness), 128);
   EXPECT_EQ(Projector(1).Value(SettingId::Contrast), 128);
   EXPECT_EQ(Projector(1).Value(SettingId::PositionV), 50) << "unchecked";
   EXPECT_EQ(Projector(1).Value(SettingId::Sharpness), 128) << "unchecked";
   const QStringList undo = QDir(folder.path()).entryList({"good.undo.*.json"});
-  ASSERT_EQ(undo.size(), 1);
-  EXPECT_EQ(ReadFleetUndo(Contents(folder.filePath(undo[0]))).undo.size(), 2U);
+  ASSERT_EQ(undo.size(), 2);
+  EXPECT_EQ(ReadFleetUndo(Contents(folder.filePath(undo[1]))).undo.size(), 2U);
   Find<QPushButton>(work, "Undo All").click();
   EXPECT_TRUE(Soon([&] { return Projector(1).Value(SettingId::Contrast) == 120; }));
   EXPECT_TRUE(Soon([&] { return Projector(0).Value(SettingId::Brightness) == 135; }));
+  EXPECT_EQ(Projector(0).Value(SettingId::Contrast), 120) << "both attempts";
 }
 
 }  // namespace

@@ -156,13 +156,6 @@ TEST_F(SimulatorTest, ADialogUsesTheInputsThatTheProjectorReports) {
   EXPECT_EQ(CurrentInput(later), "RGB1") << "known from the start";
 }
 
-TEST(SimulatorPorts, NoneExceedsTheLastPort) {
-  const Outcome outcome = ::Run(SIMULATOR_PROGRAM, {"--projector", kName, "--port", "65535"});
-  EXPECT_EQ(outcome.exitCode, 2);
-  EXPECT_EQ(outcome.output, "");
-  EXPECT_NE(outcome.errors.find("no ports are left"), std::string::npos) << outcome.errors;
-}
-
 TEST(SimulatorPorts, AreOpenedOrGiveTheReason) {
   const quint16 port = LastingPort();
   const int held = LoopbackSocket::Listen(port);

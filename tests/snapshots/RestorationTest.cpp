@@ -58,6 +58,11 @@ TEST(Restoration, RestoresEveryProjectorAndCanBeUndone) {
       Snapshot undo, redo;
       const int limit = target.channel->sent + cut;
       target.Restore(wanted, &undo, [&] { return target.channel->sent < limit; });
+      if (seed % 2 == 0) {  // go on with it
+        Snapshot later;
+        target.Restore(wanted, &later, [&] { return target.channel->sent < limit + cut; });
+        undo = UndoOfBoth(undo, later, target.settings);
+      }
       // The user may choose another source meanwhile.
       if (cut == 1000) target.channel->projector.SetValue(SettingId::InputSource, source);
       target.channel->Execute({.operation = PjtOperation::GetInputSource});

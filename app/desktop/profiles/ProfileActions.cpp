@@ -32,9 +32,11 @@ ProfileActions::ProfileActions(ProfileDocument& document, ProfileHistory& histor
       selected_(std::move(selected)),
       window_(window) {
   const auto make = [&](const QString& text, const QKeySequence& keys,
-                        void (ProfileActions::*ask)()) {
-    return MakeAction(*this, text, keys,
-                      [this, &files, ask] { files.WhenWritable([this, ask] { (this->*ask)(); }); });
+                        void (ProfileActions::*ask)(const Positions& rows)) {
+    return MakeAction(*this, text, keys, [this, &files, ask] {
+      // A projector that leaves its group during the question is selected no longer.
+      files.WhenWritable([this, ask, rows = selected_()] { (this->*ask)(rows); });
+    });
   };
   add_ = make(tr("&Add…"), QKeySequence::New, &ProfileActions::AddProjector);
   edit_ = make(tr("&Edit…"), Qt::Key_F2, &ProfileActions::EditProjector);
@@ -54,10 +56,9 @@ void ProfileActions::Update() {
 }
 
 // A new projector is inserted after the selected one.
-void ProfileActions::AddProjector() {
-  const Positions selected = selected_();
+void ProfileActions::AddProjector(const Positions& rows) {
   const int after =
-      selected.empty() ? static_cast<int>(document_.Projectors().size()) - 1 : selected.back();
+      rows.empty() ? static_cast<int>(document_.Projectors().size()) - 1 : rows.back();
   OpenEditor(new ProfileEditor(
       document_, {},
       [this, after](const JsonEdit::Members& members) {
@@ -67,8 +68,8 @@ void ProfileActions::AddProjector() {
       &window_));
 }
 
-void ProfileActions::EditProjector() {
-  const int row = selected_().front();
+void ProfileActions::EditProjector(const Positions& rows) {
+  const int row = rows.front();
   OpenEditor(new ProfileEditor(
       document_, document_.Entry(Position(row)),
       [this, row](const JsonEdit::Members& members) {
@@ -84,8 +85,8 @@ void ProfileActions::OpenEditor(ProfileEditor* editor) {
 }
 
 // The copy needs an address of its own, which the editor asks for.
-void ProfileActions::DuplicateProjector() {
-  const int row = selected_().front();
+void ProfileActions::DuplicateProjector(const Positions& rows) {
+  const int row = rows.front();
   const auto& all = document_.Projectors();
   const QString name = QString::fromStdString(all[Position(row)].name);
   QString copy;
@@ -106,8 +107,7 @@ void ProfileActions::DuplicateProjector() {
   OpenEditor(editor);
 }
 
-void ProfileActions::RemoveProjectors() {
-  const Positions rows = selected_();
+void ProfileActions::RemoveProjectors(const Positions& rows) {
   QStringList names;
   for (const int row : rows)
     names += QString::fromStdString(document_.Projectors()[Position(row)].name);
@@ -138,8 +138,7 @@ void ProfileActions::RemoveProjectors() {
   question->open();
 }
 
-void ProfileActions::TagProjectors() {
-  const Positions rows = selected_();
+void ProfileActions::TagProjectors(const Positions& rows) {
   auto* question = new QInputDialog(&window_);
   question->setAttribute(Qt::WA_DeleteOnClose);
   question->setWindowTitle(tr("Tag"));

@@ -35,11 +35,11 @@ class ProfileActions : public QObject {
   void Update();
 
  private:
-  void AddProjector();
-  void EditProjector();
-  void DuplicateProjector();
-  void RemoveProjectors();
-  void TagProjectors();
+  void AddProjector(const Positions& rows);
+  void EditProjector(const Positions& rows);
+  void DuplicateProjector(const Positions& rows);
+  void RemoveProjectors(const Positions& rows);
+  void TagProjectors(const Positions& rows);
   /// Opens an editor, which the window then owns.
   void OpenEditor(ProfileEditor* editor);
 

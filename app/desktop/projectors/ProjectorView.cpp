@@ -76,6 +76,11 @@ ProjectorView::ProjectorView(QWidget* parent)
           &ProjectorView::SelectionChanged);
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &ProjectorView::SelectionChanged);
+  connect(model_, &QAbstractItemModel::layoutAboutToBeChanged, this, [this] {
+    selectedBefore_ = Selected();
+    currentBefore_ = CurrentPosition();
+  });
+  connect(model_, &QAbstractItemModel::layoutChanged, this, &ProjectorView::KeepSelection);
 }
 
 // A third click on a title restores the order of the file.
@@ -146,11 +151,9 @@ void ProjectorView::SetRows(std::vector<ProjectorRow> rows) {
   const ProjectorRow* before = Current();
   const std::string current = before == nullptr ? std::string() : before->id;
   model_->SetRows(std::move(rows));
-  QItemSelection selection;
-  for (const std::string& id : selected) {
-    const QModelIndex index = model_->IndexOf(model_->Find(id));
-    if (index.isValid()) selection.select(index, index);
-  }
+  std::vector<int> positions;
+  for (const std::string& id : selected) positions.push_back(model_->Find(id));
+  QItemSelection selection = SelectionOf(positions);
   QModelIndex index = model_->IndexOf(model_->Find(current));
   if (!index.isValid()) index = model_->index(0, 0);
   if (selection.isEmpty() && index.isValid()) selection.select(index, index);
@@ -158,6 +161,32 @@ void ProjectorView::SetRows(std::vector<ProjectorRow> rows) {
   table_->selectionModel()->select(selection,
                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   Q_EMIT SelectionChanged();
+}
+
+QItemSelection ProjectorView::SelectionOf(const std::vector<int>& positions) const {
+  QItemSelection selection;
+  for (const int position : positions) {
+    const QModelIndex index = model_->IndexOf(position);
+    if (index.isValid()) selection.select(index, index);
+  }
+  return selection;
+}
+
+// If a row disappears, its selection ends without a signal. If all rows of a long list were
+// selected, the table selects as many rows as before, whatever they show.
+void ProjectorView::KeepSelection() {
+  const std::size_t before = selectedBefore_.size();
+  std::erase_if(selectedBefore_, [this](int one) { return !model_->IndexOf(one).isValid(); });
+  std::vector<int> now = Selected();
+  std::ranges::sort(now);
+  std::ranges::sort(selectedBefore_);
+  if (now != selectedBefore_) {
+    table_->selectionModel()->select(
+        SelectionOf(selectedBefore_),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  } else if (now.size() != before || CurrentPosition() != currentBefore_) {
+    Q_EMIT SelectionChanged();
+  }
 }
 
 int ProjectorView::CurrentPosition() const {

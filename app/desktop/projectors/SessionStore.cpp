@@ -1,7 +1,5 @@
 #include "app/desktop/projectors/SessionStore.h"
 
-#include <algorithm>
-
 namespace {
 
 /// Whether a session of one profile can serve the other.
@@ -26,12 +24,6 @@ std::shared_ptr<ProjectorSession> SessionStore::Get(const FleetProfile& profile)
 std::shared_ptr<ProjectorSession> SessionStore::Find(const std::string& id) const {
   const auto found = sessions_.find(id);
   return found == sessions_.end() ? nullptr : found->second;
-}
-
-std::string SessionStore::IdOf(const ProjectorSession& session) const {
-  const auto found = std::ranges::find_if(
-      sessions_, [&session](const auto& one) { return one.second.get() == &session; });
-  return found == sessions_.end() ? std::string() : found->first;
 }
 
 std::vector<std::shared_ptr<ProjectorSession>> SessionStore::Keep(

@@ -21,9 +21,6 @@ class SessionStore {
   /// Null if there is none yet.
   std::shared_ptr<ProjectorSession> Find(const std::string& id) const;
 
-  /// Empty for one that is not here.
-  std::string IdOf(const ProjectorSession& session) const;
-
   /// Keeps the sessions of those profiles whose name, model and connection are as before, and
   /// returns the others.
   std::vector<std::shared_ptr<ProjectorSession>> Keep(const std::vector<FleetProfile>& profiles);

@@ -22,8 +22,10 @@ void WorkActions::Do(WorkPlan plan, const Then& then) {
   if (count == 0) return;
   auto* dialog = new WorkDialog(new WorkRun(watch_, Texts(), plan), nameOf_, &window_);
   connect(dialog, &WorkDialog::UndoWanted, this, [this](const WorkPlan& undo) { Do(undo); });
-  if (then)
-    connect(&dialog->Run(), &WorkRun::Finished, this, [then, dialog] { then(dialog->Run()); });
+  connect(&dialog->Run(), &WorkRun::Finished, this, [this, then, dialog] {
+    if (then) then(dialog->Run());
+    Q_EMIT Finished(dialog->Run());
+  });
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   if (count > 1) {
     dialog->open();

@@ -30,6 +30,8 @@ class WorkActions : public QObject {
  Q_SIGNALS:
   /// The result of the work on a single projector, for the status bar.
   void Reported(const QString& text);
+  /// Work has ended. Emitted again when those that failed were tried again.
+  void Finished(const WorkRun& run);
 
  private:
   const WorkDialog::NameOf nameOf_;

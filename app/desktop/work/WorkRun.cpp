@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "app/desktop/projectors/FleetWatch.h"
+#include "app/desktop/work/UsualSettings.h"
+#include "snapshots/Restoration.h"
 
 namespace {
 
@@ -113,13 +115,26 @@ void WorkRun::Look() {
   if (isOver) {
     looking_.stop();
     for (const auto& job : jobs_) {
-      undo_.merge(job->job.Undo());
+      KeepUndo(*job);
       for (const FleetTarget& target : job->targets) watch_.Projectors().AskSoon(target.id);
     }
     jobs_.clear();
   }
   Q_EMIT Progressed();
   if (isOver) Q_EMIT Finished();
+}
+
+void WorkRun::KeepUndo(const Job& job) {
+  UsualSettings models;
+  const SnapshotsById undo = job.job.Undo();
+  for (const FleetTarget& target : job.targets) {
+    const auto found = undo.find(target.id);
+    if (found == undo.end()) continue;
+    const auto [kept, isFirst] = undo_.insert(*found);
+    if (isFirst) continue;
+    kept->second = std::make_shared<const Snapshot>(
+        UndoOfBoth(*kept->second, *found->second, models.Of(target.model)));
+  }
 }
 
 void WorkRun::Collect(const Job& job) {

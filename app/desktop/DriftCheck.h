@@ -51,7 +51,7 @@ class DriftCheck : public QObject {
   FleetWatch& watch_;
   const WorkActions& work_;
   QWidget& window_;
-  QTimer timer_;
+  QTimer timer_{this};
   std::map<std::string, std::string> presets_;  // by identity, of those that have one
   std::map<std::string, Snapshot> seen_;
 };

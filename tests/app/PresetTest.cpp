@@ -11,7 +11,9 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
+#include <QTimer>
 
+#include "app/desktop/DriftCheck.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/presets/PresetDialog.h"
 #include "app/desktop/presets/PresetManager.h"
@@ -116,7 +118,8 @@ TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
 }
 
 TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
-  const QDeadlineTimer all(50'000);  // then all are compared, which must not be waited for
+  // Nothing is compared merely because it is time.
+  window->findChild<DriftCheck*>()->findChild<QTimer*>()->stop();
   Snapshot day = EmptySnapshot("any", Row(a).profile.model->data);
   day.settings = {{.key = "picture.brightness", .value = 140, .text = {}},
                   {.key = "other.mute", .value = 0, .text = {}},

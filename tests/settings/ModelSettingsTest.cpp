@@ -240,7 +240,7 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
   }
 }
 
-// The result of each step from 10 towards 12; no further step is made.
+// The result of each step from 10 towards 12, or likewise towards 8; no further step is made.
 TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
   constexpr Stepped kRefused{.refused = true, .value = 10};
   const std::vector<std::pair<std::vector<Stepped>, Sent>> cases{
@@ -251,15 +251,20 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
       {{kRefused, kRefused, kRefused}, Sent::Refused},
       // The step was made, but its answer got lost.
       {{kRefused, kRefused, {.refused = true, .value = 11}, {.value = 12}}, Sent::Accepted},
+      {{kRefused, kRefused, {.value = 11}, kRefused, kRefused, {.value = 12}}, Sent::Accepted},
   };
   for (const auto& [steps, sent] : cases) {
-    std::size_t made = 0;
-    const auto step = [&made, &steps = steps](bool upwards, int) {
-      EXPECT_TRUE(upwards);
-      return steps.at(made++);
-    };
-    EXPECT_EQ(StepTo(10, 12, step, [] { return true; }), sent) << made;
-    EXPECT_EQ(made, steps.size());
+    for (const int sign : {1, -1}) {
+      std::size_t made = 0;
+      const auto step = [&, &steps = steps](bool upwards, int) {
+        EXPECT_EQ(upwards, sign > 0);
+        Stepped stepped = steps.at(made++);
+        if (stepped.value) stepped.value = 10 + sign * (*stepped.value - 10);
+        return stepped;
+      };
+      EXPECT_EQ(StepTo(10, 10 + 2 * sign, step, [] { return true; }), sent) << made;
+      EXPECT_EQ(made, steps.size());
+    }
   }
 }
 

@@ -245,6 +245,8 @@ TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {
   const auto bridge = Bridge({"--text-file", file});
   EXPECT_TRUE(Soon([&] { return Contents(file).count("\nprojector_up{") == 5; }));
   EXPECT_EQ(QDir(folder_.path()).entryList({"*.prom"}), QStringList{"projectors.prom"});
+  bridge->Stop();
+  EXPECT_FALSE(QFile::exists(file)) << "the last metrics would be served for ever";
 }
 
 TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {

@@ -54,7 +54,7 @@ ParsedCommand ParseJson(const QByteArray& payload) {
 std::optional<bool> PowerIn(const std::string& value) {
   const QString text = QString::fromStdString(value).toLower();
   if (text == "on" || text == "1" || text == "=1") return true;
-  if (text == "off" || text == "0" || text == "=0") return false;
+  if (text == "standby" || text == "off" || text == "0" || text == "=0") return false;
   return {};
 }
 
@@ -83,7 +83,9 @@ QString CheckCommand(const Command& command, const ModelSettings& settings,
   const ModelSetting* const setting = settings.Find(command.key);
   if (!isPower && setting == nullptr) return "the model has no setting " + key;
   if (!rules.Allows(command.key)) return key + " may not be commanded";
-  if (isPower) return PowerIn(command.value) ? QString() : QStringLiteral("the power is on or off");
+  if (isPower) {
+    return PowerIn(command.value) ? QString() : QStringLiteral("the power is on or standby");
+  }
 
   using Kind = ModelSetting::Kind;
   const bool isAction = setting->kind == Kind::Action;

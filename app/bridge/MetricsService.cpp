@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include <QFile>
+#include <QFileInfo>
+
 #include "app/bridge/Log.h"
 #include "fleet/WholeFile.h"
 
@@ -24,6 +27,12 @@ MetricsService::MetricsService(const BridgeFleet& fleet, Counting count)
   QObject::connect(&writing_, &QTimer::timeout, &writing_, [this] { Write(); });
 }
 
+MetricsService::~MetricsService() {
+  // A collector would go on serving the last metrics. The file may lie behind a link.
+  const QFileInfo file(file_);
+  if (file.isFile()) QFile::remove(file.canonicalFilePath());
+}
+
 QString MetricsService::Listen(const QHostAddress& address, quint16 port) {
   const auto listening = listener_.Listen(address, port);
   if (listening.port == 0) return listening.error;
@@ -32,8 +41,8 @@ QString MetricsService::Listen(const QHostAddress& address, quint16 port) {
 }
 
 QString MetricsService::WriteTo(const QString& file) {
+  if (QString error = CheckWholeFile(file); !error.isEmpty()) return error;
   file_ = file;
-  if (QString error = CheckWholeFile(file_); !error.isEmpty()) return error;
   writing_.start(kWriting);
   QTimer::singleShot(kFirstWriting, &writing_, [this] { Write(); });
   return {};

@@ -19,6 +19,10 @@ class MetricsService {
 
   /// `fleet` must outlive it; `count` returns what the bridge reports about itself now.
   MetricsService(const BridgeFleet& fleet, Counting count);
+  /// Removes the text file.
+  ~MetricsService();
+  MetricsService(const MetricsService&) = delete;
+  MetricsService& operator=(const MetricsService&) = delete;
 
   // Each starts, and returns one line with the error; empty on success.
 

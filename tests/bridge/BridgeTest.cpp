@@ -259,7 +259,8 @@ TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {
   const QString file = folder_.filePath("projectors.prom");
   const auto bridge = Bridge({"--text-file", file});
   EXPECT_TRUE(Soon([&] { return Contents(file).count("\nprojector_up{") == 5; }));
-  EXPECT_EQ(QDir(folder_.path()).entryList({"*.prom"}), QStringList{"projectors.prom"});
+  bridge->Stop();
+  EXPECT_EQ(QDir(folder_.path()).entryList({"*.prom"}), QStringList()) << "served for ever";
 }
 
 TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {

@@ -32,6 +32,7 @@ FleetProfile HallOf(const CModelInfo2& info) {
 
 TEST(Topics, LevelsAreDistinctAndFitEveryBroker) {
   EXPECT_EQ(TopicLevel("mac:00:00:5e:00:53:01"), "mac_00_00_5e_00_53_01");
+  EXPECT_EQ(TopicLevel("serial:A B/1"), "serial_A_B_1-cd053955") << "for ever";
   std::vector<std::string> texts{std::string(100, 'x'), std::string(99, 'x') + 'y'};
   for (const char* text : {"a:b", "a_b", "a/b", "a+b", "a#b", "A:b", "Hörsaal", ""}) {
     texts.emplace_back(text);

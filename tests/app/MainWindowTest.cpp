@@ -211,7 +211,7 @@ TEST(MainWindow, PreferencesTakeEffectAtOnce) {
 
 TEST(MainWindow, OpensTheDialogsOfTheSelectedUntilItIsClosed) {
   ShippedWindow window;
-  for (const std::size_t i : {0, 1, 2, 3})
+  for (const std::size_t i : {0U, 1U, 2U, 3U})
     window.Session(i)->SetFault({}, {Fault::Kind::Late, std::chrono::milliseconds(20)});
   const auto openThree = [&](const auto& whileTheFirstIsRead) {
     const QAbstractItemModel& list = *Table(window).model();
@@ -225,7 +225,7 @@ TEST(MainWindow, OpensTheDialogsOfTheSelectedUntilItIsClosed) {
     Find<QAction>(window, "Reload").trigger();
   });
   EXPECT_TRUE(window.Dialog(0) && window.Dialog(1) && !window.Dialog(2)) << "the third is second";
-  for (const std::size_t i : {0, 1}) window.Dialog(i)->close();
+  for (const std::size_t i : {0U, 1U}) window.Dialog(i)->close();
   QTimer::singleShot(0, &window, [&] { openThree([&] { window.close(); }); });
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_FALSE(window.Dialog(0) || window.Dialog(1) || window.Dialog(2));

@@ -57,7 +57,7 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   snapshot.settings.push_back({"main.contrast", 130, ""});  // of other models
   Write(file, WriteSnapshot(snapshot));
   Projector(0).SetValue(SettingId::Brightness, 135);
-  for (const std::size_t i : {0, 1}) Projector(i).SetValue(SettingId::Contrast, 120);
+  for (const std::size_t i : {0U, 1U}) Projector(i).SetValue(SettingId::Contrast, 120);
   Projector(1).SetValue(SettingId::PositionV, 50);
 
   actions.OpenFile(file, Rows(window), true);

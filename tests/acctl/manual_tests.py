@@ -165,6 +165,19 @@ class Integrations(Building):
         self.assertTrue(failed["failed"])
         self.assertIn("'99' is not one of", failed["msg"])
 
+    def test_the_ansible_module_waits_for_a_projector_that_somebody_else_has_turned_on(self):
+        self.start_simulator("--fleet", "1", "--link", "pjlink", "--warm-up", "2", "--cool-down", "0")
+        self.environment.update(ACCTL_PROFILES="real.json", ACCTL_INTERVAL="0.1")
+        self.acctl("set", "*", "power=standby", "--wait", "60s")
+        self.acctl("set", "*", "power=on")
+        self.assertIn("not possible", self.module(settings={"power": "on"}, wait="nonsense").get("msg", ""))
+        run = self.module(settings={"power": "on", "input": "rgb2"}, wait="60s")
+        self.assertEqual([change["after"]["code"] for change in run["projectors"][0]["changes"]], ["on", "rgb2-32"])
+        self.acctl("set", "*", "power=standby", "--wait", "60s")
+        self.acctl("set", "*", "power=on")
+        self.assertFalse(self.module(settings={"power": "on"}, wait="60s")["changed"])
+        self.check(["get", "*", "power", "-o", "value"], 0, "^On$")
+
     def test_the_module_has_only_the_fault_that_is_ignored(self):
         # ansible-test would download what it needs for this into an environment of its own.
         tools = Path(importlib.util.find_spec("ansible_test").origin).parent

@@ -52,8 +52,13 @@ install(FILES packaging/bridge/projector-alerts.yml packaging/bridge/projectors-
         DESTINATION ${CMAKE_INSTALL_DATADIR}/advanced-control-bridge COMPONENT bridge)
 install(FILES packaging/bridge/advanced-control-bridge.service
         DESTINATION lib/systemd/system COMPONENT bridge)
+# Only a path below the prefix follows `cmake --install --prefix`. The packages have it in /etc.
+set(optionsDir ${CMAKE_INSTALL_SYSCONFDIR}/default)
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set(optionsDir ${CMAKE_INSTALL_FULL_SYSCONFDIR}/default)
+endif()
 install(FILES packaging/bridge/advanced-control-bridge.default RENAME advanced-control-bridge
-        DESTINATION ${CMAKE_INSTALL_FULL_SYSCONFDIR}/default COMPONENT bridge)
+        DESTINATION ${optionsDir} COMPONENT bridge)
 install_compressed(advanced-control-bridge.1
   ${CMAKE_INSTALL_MANDIR}/man1/advanced-control-bridge.1.gz bridge)
 

@@ -25,9 +25,10 @@ endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${first})
 file(RENAME ${first} ${prefix})
-foreach(module mcdll.dll mcschn.dll)
-  if(NOT EXISTS ${prefix}/share/advanced-control/${module})
-    message(FATAL_ERROR "${module} is not installed")
+foreach(file share/advanced-control/mcdll.dll share/advanced-control/mcschn.dll
+             etc/default/advanced-control-bridge)
+  if(NOT EXISTS ${prefix}/${file})
+    message(FATAL_ERROR "${file} is not installed below the prefix")
   endif()
 endforeach()
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/minimal -B ${example} -G Ninja

@@ -19,6 +19,7 @@ import subprocess
 import sys
 import threading
 import time
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 from rig import LONGEST, PROJECTOR, Found, Rig, free_port
@@ -213,8 +214,8 @@ def try_points(rig, points, end, found):
         name, how, number = point.split(":")
         try:
             rig.commands[name](rig.environment(how, int(number)))
-        except Found as what:
-            found.append(f"{point}: {what}")
+        except Exception as what:  # a state that cannot be read is found too
+            found.append(f"{point}: {what if isinstance(what, Found) else repr(what)}")
             Rig.stop(rig)  # the simulator alone
             rig.start_simulator()  # nobody knows what it had
             rig.forget_undo()
@@ -232,7 +233,7 @@ def main():
             rig.counts(command)  # which leaves what there is without a fault
     points = wanted or points_of(rigs[0], rigs[0].commands, seed)
     end = time.monotonic() + float(seconds)
-    found, tried = [], []
+    found = []
     left = iter(points)
     lock = threading.Lock()
 
@@ -244,18 +245,16 @@ def main():
                 return
             yield point
 
-    threads = [threading.Thread(target=lambda rig=rig: tried.append(try_points(rig, take(), end, found)))
-               for rig in rigs]
-    for thread in threads:
-        thread.start()
-    for thread in threads:
-        thread.join()
-    for rig in rigs:
-        rig.stop()
-        rig.remove()
-    print(f"{sum(tried)} of {len(points)} points")
-    for line in found:
-        print(line, file=sys.stderr)
+    try:
+        with ThreadPoolExecutor(len(rigs)) as pool:
+            tried = sum(pool.map(lambda rig: try_points(rig, take(), end, found), rigs))
+    finally:
+        for line in found:
+            print(line, file=sys.stderr)
+        for rig in rigs:
+            rig.stop()
+            rig.remove()
+    print(f"{tried} of {len(points)} points")
     if found:
         print(f"again: scripts/faults.py {build} 60 {found[0].split(': ')[0]}", file=sys.stderr)
     return bool(found)

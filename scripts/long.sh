@@ -22,13 +22,14 @@
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
 
-case "${1:-2h}" in
+set -- "${1:-2h}" "${@:2}"
+case $1 in
   *h) seconds=$((${1%h} * 3600)) ;;
   *m) seconds=$((${1%m} * 60)) ;;
   *s) seconds=${1%s} ;;
   *) sed -n '2,/^set/ s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
 esac
-[ $# -eq 0 ] || shift
+shift
 timed="fuzzing walks kills faults"
 others="languages alone tidy release load bridges sweeps mutants"
 wanted="${*:-$timed $others}"

@@ -16,7 +16,7 @@ packages=(
   at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi xvfb
   fonts-dejavu-core fonts-wqy-microhei
   ansible-core fish groff-base python3-jsonschema python3-voluptuous systemd zsh
-  desktop-file-utils appstream
+  desktop-file-utils appstream dpkg-dev
   libmosquitto-dev mosquitto mosquitto-clients prometheus prometheus-alertmanager curl openssl
 )
 

@@ -83,7 +83,7 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
       value = AimOf(change, work, target, value, ExitCode::WrongUse, report);
     }
     if (&change == &changes.front()) change.aim = value;
-    if (!SelectsMode(setting)) continue;
+    if (!SelectsMode(work, setting)) continue;
     isForOtherMode = true;
     std::erase_if(expected, [&](const auto& other) { return other.first != &setting; });
   }
@@ -91,7 +91,10 @@ void CheckSteps(std::vector<Change>& changes, const Work& work, ProjectorAccess&
 
 }  // namespace
 
-bool SelectsMode(const ModelSetting& setting) { return setting.kind == ModelSetting::Kind::Choice; }
+bool SelectsMode(const Work& work, const ModelSetting& setting) {
+  return setting.kind == ModelSetting::Kind::Choice ||
+         (setting.kind == ModelSetting::Kind::State && work.arguments.wait);
+}
 
 bool IsUnbounded(const Target& target, const ModelSetting& setting) {
   return target.OnlySteps(setting) || (setting.IsStepped() && !setting.range);

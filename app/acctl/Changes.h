@@ -17,8 +17,9 @@ struct Change {
   std::optional<int> source{};   ///< Its input source, if it has one.
 };
 
-/// Whether other settings may have other values once it is changed: an input source or a mode.
-bool SelectsMode(const ModelSetting& setting);
+/// Whether other settings may have other values once it is changed: an input source or a mode, or
+/// the power state if the command waits for it.
+bool SelectsMode(const Work& work, const ModelSetting& setting);
 
 /// Whether only the projector knows the limits for steps.
 bool IsUnbounded(const Target& target, const ModelSetting& setting);

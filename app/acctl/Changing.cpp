@@ -18,7 +18,7 @@ Report RunSet(const Work& work, ProjectorAccess& projector) {
     run.Compare();
   } else {
     run.Make();
-    if (work.arguments.wait) run.WaitForEffect(*work.arguments.wait);
+    run.WaitForEffect();
   }
   run.Finish();
   return report;

@@ -89,7 +89,8 @@ void SetRun::Make() {
       Make(result);
       if (result.now == result.aim) replaced_.Confirm();
       const bool wasSo = result.before == result.aim;
-      isForOtherMode_ = isForOtherMode_ || (SelectsMode(setting) && !wasSo);
+      isForOtherMode_ = isForOtherMode_ || (SelectsMode(work_, setting) && !wasSo);
+      if (setting.kind == ModelSetting::Kind::State) WaitForEffect({&result, 1});
     }
   }
   replaced_.ReportFailure(report_);
@@ -218,22 +219,23 @@ bool SetRun::IsInEffect(const Result& result) const {
          work_.texts.Code(setting, *result.aim);
 }
 
-void SetRun::WaitForEffect(std::chrono::milliseconds time) {
+void SetRun::WaitForEffect(std::span<Result> results) {
+  if (!work_.arguments.wait) return;
   using Clock = std::chrono::steady_clock;
   constexpr std::chrono::milliseconds kStep{20};
   const Progress progress = ProgressOf(work_, projector_);
-  const auto end = Clock::now() + time;
+  if (!end_) end_ = Clock::now() + *work_.arguments.wait;
   auto next = Clock::now();
   const auto isAwaited = [this](const Result& result) {
     const bool mayCome =
         std::string_view(result.outcome) == "done" || std::string_view(result.outcome) == "pending";
     return mayCome && result.change->setting->readable && !IsInEffect(result);
   };
-  while (progress.goesOn() && std::ranges::any_of(results_, isAwaited) && Clock::now() < end) {
+  while (progress.goesOn() && std::ranges::any_of(results, isAwaited) && Clock::now() < *end_) {
     JobLoop::Pause(Clock::now() + kStep);
     if (Clock::now() < next) continue;
     next = Clock::now() + work_.arguments.interval;
-    for (Result& result : results_) {
+    for (Result& result : results) {
       if (!isAwaited(result)) continue;
       result.now = projector_.Settings().Read(projector_.Connection(), *result.change->setting,
                                               result.source);
@@ -243,7 +245,7 @@ void SetRun::WaitForEffect(std::chrono::milliseconds time) {
       }
     }
   }
-  for (Result& result : results_) {
+  for (Result& result : results) {
     if (!isAwaited(result)) continue;
     const Problem silence = NoAnswerOf(projector_);
     if (projector_.Channel().IsGone()) {

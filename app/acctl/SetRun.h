@@ -3,6 +3,7 @@
 #include <chrono>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -19,9 +20,10 @@ class SetRun {
 
   /// Reads the present values, which are reported beside the new ones and can be restored later.
   void ReadBefore();
+  /// With --wait, what follows a change of the power state is sent when that is in effect.
   void Make();
-  /// Waits until every change that was accepted is in effect, for at most this time.
-  void WaitForEffect(std::chrono::milliseconds time);
+  /// With --wait, waits until every change that was accepted is in effect.
+  void WaitForEffect() { WaitForEffect(results_); }
   /// Only reports what `Make` would do.
   void Compare();
   /// Puts the results into the report.
@@ -40,6 +42,7 @@ class SetRun {
 
   void Make(Result& result);
   void MakeSteps(Result& result);
+  void WaitForEffect(std::span<Result> results);
   void ReadAgain(Result& result);
   void Judge(Result& result, const CPjtInterface::Tally& before, bool accepted,
              const CPjtInterface::Tally& after);
@@ -56,5 +59,7 @@ class SetRun {
   Report& report_;
   std::vector<Result> results_;
   ReplacedValues replaced_;
-  bool isForOtherMode_ = false;  ///< An input source or another choice was sent.
+  bool isForOtherMode_ = false;  ///< What `SelectsMode` was sent.
+  /// When the waiting ends; nothing until it begins.
+  std::optional<std::chrono::steady_clock::time_point> end_{};
 };

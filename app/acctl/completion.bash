@@ -28,8 +28,9 @@ _acctl_words() {
 
 # Files, or with -d folders.
 _acctl_files() {
-  local IFS=$'\n'
-  COMPREPLY+=($(compgen "$1" -- "$(_acctl_word "$cur")"))
+  local IFS=$'\n' word
+  word=$(_acctl_word "$cur") || word=${cur#[\"\']}  # its quote is still open
+  COMPREPLY+=($(compgen "$1" -- "$word"))
   compopt -o filenames 2> /dev/null
 }
 

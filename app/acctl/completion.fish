@@ -3,7 +3,8 @@
 function __acctl_complete
     set -l typed (commandline -opc)
     set -e typed[1]
-    set -l word (commandline -ct)
+    # Without the quote that is still open, and what escapes a space.
+    set -l word (commandline -ct | string replace -r '^["\']' '' | string unescape)
     for line in (acctl complete $typed "$word" 2> /dev/null)
         switch $line
             case '<files>'

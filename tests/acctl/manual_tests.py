@@ -62,10 +62,13 @@ class LookingUp(Building):
                  ("acctl set Office input s", ["s-video"]),
                  ("acctl reset Office status.", ["status.filter-time", "status.lamp-time"]))
 
+    QUOTED = (("acctl get 'Sem", ["Seminar 1", "Seminar 2"]), ('acctl get "Lec', ["Lecture hall"]), ('acctl apply "sav', ["saved"]),
+              ("acctl apply 'nowhere", []), ('acctl save Office -o "sav', ["saved"]))
+
     def completed(self, shell, line):
         completion = SOURCES / f"app/acctl/completion.{shell}"
         if shell == "fish":
-            return self.run_program("fish", "-c", f"source {completion}; complete -C '{line}'")
+            return self.run_program("fish", "-c", f"source {completion}; complete -C $argv[1]", line)
         if shell == "zsh":
             stubs = "compadd() { shift; print -l -- $@ }; _files() { print -l -- $PREFIX*(N) }"
             return self.run_program("zsh", "-fc", f"{stubs}; words=(${{(z)1}}); CURRENT=$#words; PREFIX=$words[-1]; "
@@ -77,11 +80,11 @@ class LookingUp(Building):
     def test_shells_complete_the_same(self):
         (self.folder / "saved").mkdir()
         for shell in ("bash", "zsh", "fish"):
-            for line, words in self.COMPLETED:
+            for line, words in self.COMPLETED + (self.QUOTED if shell != "zsh" else ()):
                 with self.subTest(shell=shell, line=line):
                     run = self.completed(shell, line)
                     # Bash replaces only what follows the equals sign.
-                    found = [word.split("\t")[0].rstrip("/").split("=")[-1] for word in run.stdout.splitlines()]
+                    found = [word.split("\t")[0].rstrip("/").split("=")[-1] for word in run.stdout.split("\n") if word]
                     self.assertEqual(sorted(found), words, run.stderr)
 
 
@@ -164,6 +167,19 @@ class Integrations(Building):
         failed = self.module(settings={"contrast": 99})
         self.assertTrue(failed["failed"])
         self.assertIn("'99' is not one of", failed["msg"])
+
+    def test_the_ansible_module_waits_for_a_projector_that_somebody_else_has_turned_on(self):
+        self.start_simulator("--fleet", "1", "--link", "pjlink", "--warm-up", "2", "--cool-down", "0")
+        self.environment.update(ACCTL_PROFILES="real.json", ACCTL_INTERVAL="0.1")
+        self.acctl("set", "*", "power=standby", "--wait", "60s")
+        self.acctl("set", "*", "power=on")
+        self.assertIn("not possible", self.module(settings={"power": "on"}, wait="nonsense").get("msg", ""))
+        run = self.module(settings={"power": "on", "input": "rgb2"}, wait="60s")
+        self.assertEqual([change["after"]["code"] for change in run["projectors"][0]["changes"]], ["on", "rgb2-32"])
+        self.acctl("set", "*", "power=standby", "--wait", "60s")
+        self.acctl("set", "*", "power=on")
+        self.assertFalse(self.module(settings={"power": "on"}, wait="60s")["changed"])
+        self.check(["get", "*", "power", "-o", "value"], 0, "^On$")
 
     def test_the_module_has_only_the_fault_that_is_ignored(self):
         # ansible-test would download what it needs for this into an environment of its own.

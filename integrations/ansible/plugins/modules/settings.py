@@ -35,7 +35,9 @@ options:
     description: Only projectors in this state, such as C(power=on lamp-hours>1500).
     type: str
   wait:
-    description: How long to wait until the state is reached, such as C(90s).
+    description:
+      - How long to wait until the state is reached, such as C(90s).
+      - Settings that follow C(power) are sent when the projector is on, so C(power) is best the first.
     type: str
   profiles:
     description: The profile file.
@@ -120,8 +122,7 @@ def run(module, dry_run):
     command += [key + '=' + word_of(value) for key, value in module.params['settings'].items()]
     command += options_of(module.params)
     if dry_run:
-        command = [word for index, word in enumerate(command)
-                   if word != '--wait' and command[index - 1] != '--wait'] + ['--dry-run']
+        command.append('--dry-run')
     code, output, errors = module.run_command(command)
     try:
         report = json.loads(output)
@@ -177,7 +178,7 @@ def main():
     )
     projectors, failure = run(module, dry_run=True)
     changed = any(differs(change) for change in changes_of(projectors))
-    if changed and not module.check_mode:
+    if (changed or module.params['wait']) and not module.check_mode:
         projectors, failure = run(module, dry_run=False)
         changed = any(differs(change) for change in changes_of(projectors))
         diff = dict(before=state_of(projectors, 'before'), after=state_of(projectors, 'after'))

@@ -12,7 +12,7 @@
 #include <QRegularExpression>
 
 #include "fleet/CsvColumn.h"
-#include "fleet/ExportCsv.h"
+#include "fleet/ExportedCell.h"
 #include "fleet/OneLine.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
@@ -334,6 +334,16 @@ CsvImport ImportCsv(const QByteArray& profiles, const QByteArray& csv) {
   CsvImport result = Importer(profiles).Import(table);
   if (result.added + result.changed == 0) result.text = profiles;
   return result;
+}
+
+QByteArray ExportCsv(const std::vector<FleetProfile>& profiles) {
+  std::vector<QStringList> rows(1);
+  for (const auto& [column, heading] : kExported) rows.front().append(heading);
+  for (const FleetProfile& profile : profiles) {
+    QStringList& row = rows.emplace_back();
+    for (const auto& [column, heading] : kExported) row.append(ExportedCell(profile, column));
+  }
+  return WriteCsv(rows);
 }
 
 }  // namespace AdvancedControl

@@ -1,31 +1,15 @@
-#include "fleet/ExportCsv.h"
+#include "fleet/ExportedCell.h"
 
 #include <string>
-#include <utility>
-#include <vector>
 
 #include <QStringList>
 
 #include "device/Connect.h"
-#include "fleet/Csv.h"
-#include "fleet/ProfileCsv.h"
 #include "fleet/ProfileEdits.h"
 
 namespace AdvancedControl {
 
 namespace {
-
-constexpr std::pair<CsvColumn, const char*> kExported[] = {
-    {CsvColumn::Name, "name"},
-    {CsvColumn::Address, "address"},
-    {CsvColumn::Port, "port"},
-    {CsvColumn::Link, "link"},
-    {CsvColumn::Model, "model"},
-    {CsvColumn::Identity, "identity"},
-    {CsvColumn::Tags, "tags"},
-    {CsvColumn::Notes, "notes"},
-    {CsvColumn::RatedLampHours, "rated lamp hours"},
-    {CsvColumn::Snapshot, "snapshot"}};
 
 QString Text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
@@ -70,16 +54,6 @@ QString ExportedCell(const FleetProfile& profile, CsvColumn column) {
     default:
       return {};
   }
-}
-
-QByteArray ExportCsv(const std::vector<FleetProfile>& profiles) {
-  std::vector<QStringList> rows(1);
-  for (const auto& [column, heading] : kExported) rows.front().append(heading);
-  for (const FleetProfile& profile : profiles) {
-    QStringList& row = rows.emplace_back();
-    for (const auto& [column, heading] : kExported) row.append(ExportedCell(profile, column));
-  }
-  return WriteCsv(rows);
 }
 
 }  // namespace AdvancedControl

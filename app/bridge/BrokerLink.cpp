@@ -1,6 +1,5 @@
 #include "app/bridge/BrokerLink.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QUuid>
@@ -10,9 +9,6 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-/// After a connection that lasted so long, the next pause is short again.
-constexpr std::chrono::seconds kLasting{30};
 
 }  // namespace
 
@@ -59,24 +55,16 @@ void BrokerLink::Connect() {
   holds_ = keeper_.GetRole() == ShareKeeper::Role::Holding;
   session_ = std::make_unique<BrokerSession>(
       address_, topics_, instance_, holds_,
-      BrokerSession::Listener{.connected = [this] { TakeConnected(); },
-                              .lost = [this] { TakeLost(); },
+      BrokerSession::Listener{.connected =
+                                  [this] {
+                                    pauses_.Connected();
+                                    isSettled_ = false;
+                                    keeper_.Connected();
+                                    services_.renewed();
+                                  },
+                              .lost = [this] { ConnectAgain(pauses_.Next()); },
                               .received = [this](const BrokerMessage& message) { Take(message); },
                               .sent = [this](int number) { publisher_.Sent(number); }});
-}
-
-void BrokerLink::TakeConnected() {
-  connected_ = Clock::now();
-  isSettled_ = false;
-  keeper_.Connected();
-  services_.renewed();
-}
-
-/// A broker that ends each connection soon is called less and less often.
-void BrokerLink::TakeLost() {
-  if (Clock::now() - connected_ >= kLasting) pause_ = Broker::kFirstPause;
-  ConnectAgain(pause_);
-  pause_ = std::min(pause_ * 2, Broker::kLongestPause);
 }
 
 /// Before the next connection is settled, nothing is sent and no command is taken.

@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QTimer>
 
+#include "app/bridge/BrokerPauses.h"
 #include "app/bridge/BrokerSession.h"
 #include "app/bridge/HangWatch.h"
 #include "app/bridge/Publisher.h"
@@ -51,8 +52,6 @@ class BrokerLink {
 
  private:
   void Connect();
-  void TakeConnected();
-  void TakeLost();
   void ConnectAgain(std::chrono::milliseconds pause);
   void Take(const BrokerMessage& message);
   void FollowRole();
@@ -70,8 +69,7 @@ class BrokerLink {
   bool isSettled_ = false;  ///< Whether the work that follows once it is settled was done.
   bool stoodBack_ = false;
   bool isClosing_ = false;
-  std::chrono::steady_clock::time_point connected_{};      ///< When the last connection was made.
-  std::chrono::milliseconds pause_ = Broker::kFirstPause;  ///< After the next one that is lost.
+  BrokerPauses pauses_;
   std::unique_ptr<BrokerSession> session_;
   QTimer connecting_;  ///< Makes the next connection.
 };

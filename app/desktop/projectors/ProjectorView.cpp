@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "app/desktop/projectors/LampDelegate.h"
+#include "app/desktop/projectors/ProjectorSelection.h"
 #include "app/desktop/projectors/StateTexts.h"
 
 namespace {
@@ -72,15 +73,8 @@ ProjectorView::ProjectorView(QWidget* parent)
   // Not the signal `activated`, which some desktops emit for a single click.
   table_->installEventFilter(this);
   connect(table_, &QTableView::doubleClicked, this, &ProjectorView::Activated);
-  connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-          &ProjectorView::SelectionChanged);
-  connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-          &ProjectorView::SelectionChanged);
-  connect(model_, &QAbstractItemModel::layoutAboutToBeChanged, this, [this] {
-    selectedBefore_ = Selected();
-    currentBefore_ = CurrentPosition();
-  });
-  connect(model_, &QAbstractItemModel::layoutChanged, this, &ProjectorView::KeepSelection);
+  selection_ = new ProjectorSelection(*model_, *table_->selectionModel(), this);
+  connect(selection_, &ProjectorSelection::Changed, this, &ProjectorView::SelectionChanged);
 }
 
 // A third click on a title restores the order of the file.
@@ -153,7 +147,7 @@ void ProjectorView::SetRows(std::vector<ProjectorRow> rows) {
   model_->SetRows(std::move(rows));
   std::vector<int> positions;
   for (const std::string& id : selected) positions.push_back(model_->Find(id));
-  QItemSelection selection = SelectionOf(positions);
+  QItemSelection selection = selection_->RowsOf(positions);
   QModelIndex index = model_->IndexOf(model_->Find(current));
   if (!index.isValid()) index = model_->index(0, 0);
   if (selection.isEmpty() && index.isValid()) selection.select(index, index);
@@ -163,53 +157,14 @@ void ProjectorView::SetRows(std::vector<ProjectorRow> rows) {
   Q_EMIT SelectionChanged();
 }
 
-QItemSelection ProjectorView::SelectionOf(const std::vector<int>& positions) const {
-  QItemSelection selection;
-  for (const int position : positions) {
-    const QModelIndex index = model_->IndexOf(position);
-    if (index.isValid()) selection.select(index, index);
-  }
-  return selection;
-}
-
-// If a row disappears, its selection ends without a signal. If all rows of a long list were
-// selected, the table selects as many rows as before, whatever they show.
-void ProjectorView::KeepSelection() {
-  const std::size_t before = selectedBefore_.size();
-  std::erase_if(selectedBefore_, [this](int one) { return !model_->IndexOf(one).isValid(); });
-  std::vector<int> now = Selected();
-  std::ranges::sort(now);
-  std::ranges::sort(selectedBefore_);
-  if (now != selectedBefore_) {
-    table_->selectionModel()->select(
-        SelectionOf(selectedBefore_),
-        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  } else if (now.size() != before || CurrentPosition() != currentBefore_) {
-    Q_EMIT SelectionChanged();
-  }
-}
-
-int ProjectorView::CurrentPosition() const {
-  const QModelIndex current = table_->currentIndex();
-  return current.isValid() ? model_->PositionAt(current.row()) : -1;
-}
+int ProjectorView::CurrentPosition() const { return selection_->Current(); }
 
 const ProjectorRow* ProjectorView::Current() const {
   const int position = CurrentPosition();
   return position < 0 ? nullptr : &model_->All()[static_cast<std::size_t>(position)];
 }
 
-std::vector<int> ProjectorView::Selected() const {
-  std::vector<int> rows;
-  for (const QItemSelectionRange& range : table_->selectionModel()->selection()) {
-    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
-  }
-  std::ranges::sort(rows);
-  // Not ranges::unique: clang 14 cannot use its result with this standard library.
-  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-  std::ranges::transform(rows, rows.begin(), [this](int row) { return model_->PositionAt(row); });
-  return rows;
-}
+std::vector<int> ProjectorView::Selected() const { return selection_->Positions(); }
 
 void ProjectorView::Select(int position) {
   if (!model_->IndexOf(position).isValid()) search_->clear();

@@ -2,11 +2,11 @@
 
 #include <vector>
 
-#include <QItemSelection>
 #include <QWidget>
 
 #include "app/desktop/projectors/ProjectorTableModel.h"
 
+class ProjectorSelection;
 class QHeaderView;
 class QLabel;
 class QLineEdit;
@@ -67,15 +67,10 @@ class ProjectorView : public QWidget {
   void AskForColumns(const QPoint& place);
   void TakeSearch(const QString& text);
   void SelectOnly(const QModelIndex& index);
-  /// The rows that show these projectors.
-  QItemSelection SelectionOf(const std::vector<int>& positions) const;
-  void KeepSelection();
 
   ProjectorTableModel* model_;
   QLineEdit* search_;
   QLabel* found_;
   QTableView* table_;
-  // Positions before the rows were arranged anew.
-  std::vector<int> selectedBefore_;
-  int currentBefore_ = -1;
+  ProjectorSelection* selection_;
 };

@@ -50,10 +50,26 @@ struct WorkRun::Job {
         targets(std::move(part.targets)),
         job(&watch.Projectors(), targets, work, texts) {}
 
+  void AddUndoTo(SnapshotsById& kept) const;
+
   const FleetWork work;
   const std::vector<FleetTarget> targets;
   FleetJob job;
 };
+
+/// A projector may have been changed by an earlier attempt, too.
+void WorkRun::Job::AddUndoTo(SnapshotsById& kept) const {
+  UsualSettings models;
+  const SnapshotsById undo = job.Undo();
+  for (const FleetTarget& target : targets) {
+    const auto found = undo.find(target.id);
+    if (found == undo.end()) continue;
+    const auto [place, isFirst] = kept.insert(*found);
+    if (isFirst) continue;
+    place->second = std::make_shared<const Snapshot>(
+        UndoOfBoth(*place->second, *found->second, models.Of(target.model)));
+  }
+}
 
 WorkRun::WorkRun(FleetWatch& watch, const SettingTexts& texts, WorkPlan plan, QObject* parent)
     : QObject(parent), watch_(watch), texts_(texts), plan_(std::move(plan)) {
@@ -115,26 +131,13 @@ void WorkRun::Look() {
   if (isOver) {
     looking_.stop();
     for (const auto& job : jobs_) {
-      KeepUndo(*job);
+      job->AddUndoTo(undo_);
       for (const FleetTarget& target : job->targets) watch_.Projectors().AskSoon(target.id);
     }
     jobs_.clear();
   }
   Q_EMIT Progressed();
   if (isOver) Q_EMIT Finished();
-}
-
-void WorkRun::KeepUndo(const Job& job) {
-  UsualSettings models;
-  const SnapshotsById undo = job.job.Undo();
-  for (const FleetTarget& target : job.targets) {
-    const auto found = undo.find(target.id);
-    if (found == undo.end()) continue;
-    const auto [kept, isFirst] = undo_.insert(*found);
-    if (isFirst) continue;
-    kept->second = std::make_shared<const Snapshot>(
-        UndoOfBoth(*kept->second, *found->second, models.Of(target.model)));
-  }
 }
 
 void WorkRun::Collect(const Job& job) {

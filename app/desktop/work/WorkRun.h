@@ -69,7 +69,6 @@ class WorkRun : public QObject {
   void Begin(std::vector<WorkPart> parts);
   void Look();
   void Collect(const Job& job);
-  void KeepUndo(const Job& job);
   std::optional<WorkPart> PowerUndo(bool on) const;
 
   FleetWatch& watch_;

@@ -146,6 +146,7 @@ void ProjectorView::SetRows(std::vector<ProjectorRow> rows) {
   const std::string current = before == nullptr ? std::string() : before->id;
   model_->SetRows(std::move(rows));
   std::vector<int> positions;
+  positions.reserve(selected.size());
   for (const std::string& id : selected) positions.push_back(model_->Find(id));
   QItemSelection selection = selection_->RowsOf(positions);
   QModelIndex index = model_->IndexOf(model_->Find(current));

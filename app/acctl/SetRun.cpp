@@ -65,6 +65,12 @@ void SetRun::ReadAgain(Result& result) {
   result.before = projector_.Settings().Read(projector_.Connection(), setting, result.source);
 }
 
+void SetRun::ReadNow(Result& result) {
+  CPjtInterface& connection = projector_.Connection();
+  result.now = projector_.Settings().Read(connection, *result.change->setting, result.source);
+  result.power = connection.Power();
+}
+
 void SetRun::Make() {
   const Progress progress = ProgressOf(work_, projector_);
   for (Result& result : results_) {
@@ -107,7 +113,7 @@ void SetRun::Make(Result& result) {
   const CPjtInterface::Tally after = connection.Sent();
   // The setter has no result, so only reading the setting shows whether it succeeded.
   if (!projector_.Channel().IsGone() && setting.readable) {
-    result.now = projector_.Settings().Read(connection, setting, result.source);
+    ReadNow(result);
   }
   Judge(result, before, sent == Sent::Accepted, after);
 }
@@ -151,7 +157,7 @@ void SetRun::FailUnanswered(Result& result) {
 
 std::string SetRun::NowText(const Result& result) const {
   if (!result.now) return {};
-  return work_.texts.Shown().Value(*result.change->setting, *result.now);
+  return work_.texts.Shown().Value(*result.change->setting, *result.now, result.power);
 }
 
 /// Decides the outcome of a change from the commands that were sent between `before` and `after`,
@@ -215,7 +221,7 @@ void SetRun::Judge(Result& result, const CPjtInterface::Tally& before, bool acce
 bool SetRun::IsInEffect(const Result& result) const {
   const ModelSetting& setting = *result.change->setting;
   if (!result.now || !result.aim) return !setting.readable;
-  return work_.texts.Code(setting, *result.now, projector_.Connection().Power()) ==
+  return work_.texts.Code(setting, *result.now, result.power) ==
          work_.texts.Code(setting, *result.aim);
 }
 
@@ -237,8 +243,7 @@ void SetRun::WaitForEffect(std::span<Result> results) {
     next = Clock::now() + work_.arguments.interval;
     for (Result& result : results) {
       if (!isAwaited(result)) continue;
-      result.now = projector_.Settings().Read(projector_.Connection(), *result.change->setting,
-                                              result.source);
+      ReadNow(result);
       if (IsInEffect(result)) {
         result.outcome = "done";
         result.problem.reset();
@@ -280,7 +285,7 @@ QJsonObject SetRun::Describe(const Result& result) const {
     if (value) json[member] = DescribeValueAlone(work_.texts, setting, *value, power);
   };
   add("before", result.before);
-  add("after", result.now, projector_.Connection().Power());
+  add("after", result.now, result.power);
   if (work_.arguments.dryRun) add("aim", result.aim);
   if (result.problem) json["reason"] = Wide(result.problem->text);
   return json;
@@ -311,7 +316,7 @@ void SetRun::Finish() {
         result.before ? work_.texts.Shown().Value(setting, *result.before) : std::string();
     const auto value = work_.arguments.dryRun ? result.aim : result.now;
     if (value) {
-      const auto power = work_.arguments.dryRun ? std::nullopt : projector_.Connection().Power();
+      const auto power = work_.arguments.dryRun ? std::nullopt : result.power;
       values.AddChanged(setting, before, *value, power);
     }
     if (result.problem) report_.Add(*result.problem);

@@ -36,6 +36,7 @@ class SetRun {
     std::optional<int> before{};
     std::optional<int> aim{};
     std::optional<int> now{};
+    std::optional<PowerState> power{};  ///< When `now` was read.
     const char* outcome = "notDone";
     std::optional<Problem> problem{};
   };
@@ -44,6 +45,7 @@ class SetRun {
   void MakeSteps(Result& result);
   void WaitForEffect(std::span<Result> results);
   void ReadAgain(Result& result);
+  void ReadNow(Result& result);
   void Judge(Result& result, const CPjtInterface::Tally& before, bool accepted,
              const CPjtInterface::Tally& after);
   void AddUnknownBefore(const Result& result);

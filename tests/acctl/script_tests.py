@@ -136,7 +136,7 @@ class Runs(Building):
             self.check(["undo"], 2, errors=runs[-1]["run"] + ".*there is nothing to undo; name an earlier run")
 
     def test_what_follows_a_power_on_waits_for_it(self):
-        self.start_simulator("--fleet", "1", "--link", "pjlink", "--warm-up", "2", "--cool-down", "0")
+        self.start_simulator("--fleet", "1", "--link", "pjlink", "--warm-up", "3", "--cool-down", "0")
         self.environment.update(ACCTL_PROFILES="real.json", ACCTL_INTERVAL="0.1", ACCTL_TIMEOUT="1")
         standby, on = ["set", "*", "power=standby", "--wait", "60s"], ["set", "*", "power=on", "input=rgb2", "--wait", "60s"]
         self.check(standby, 0, "->  Standby$")
@@ -146,8 +146,9 @@ class Runs(Building):
         run = self.run_program("timeout", "--preserve-status", "-s", "INT", "1", "acctl", *on)
         self.assertEqual((run.returncode, "RGB2" in run.stdout, ": interrupted\n" in run.stderr), (130, False, True))
         # The time is for all of it.
-        self.check(["set", "*", "power=standby", "power=on", "power=standby", "power=on", "--wait", "3"], 1, "Up$",
-                   "^[^\n]*: other.power: not so in time, it is On$")
+        self.acctl("set", "*", "power=on", "--wait", "60s")
+        self.check(["set", "*", "power=standby", "power=on", "power=standby", "power=on", "--wait", "4"], 1, "Up$",
+                   "^[^\n]*: other.power: not so in time, it is Warming Up$")
 
     def test_what_is_interrupted_is_not_an_empty_list(self):
         served = json.loads((self.folder / "served.json").read_text())

@@ -95,6 +95,10 @@ int Find(const Arguments& arguments, const std::string& password) {
     }
     options.addresses = std::move(range.addresses);
   }
+  if (!arguments.file.empty()) {
+    const QByteArray profiles = ReadOrBegin(arguments.file).text;
+    options.hostNames = HostNamesOf(ParseProfileList(profiles, Wide(arguments.file)).profiles);
+  }
   if (arguments.connecting.port != 0) options.port = arguments.connecting.port;
   std::vector<FoundProjector> found;
   QEventLoop loop;

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <utility>
 
+#include <QHostInfo>
 #include <QTcpSocket>
 
 #include "fleet/AddressHold.h"
@@ -157,6 +159,7 @@ SearchDriver::SearchDriver(SearchOptions options,
 SearchDriver::~SearchDriver() = default;
 
 void SearchDriver::Start() {
+  LookUpNames();
   for (const QHostAddress& address : options_.addresses) Enqueue(address, {});
   if (!options_.broadcasts.empty()) {
     datagrams_ = std::make_unique<QUdpSocket>();
@@ -172,6 +175,21 @@ void SearchDriver::Start() {
     QTimer::singleShot(kSecondBroadcast, &context_, [this] { Broadcast(); });
   }
   pace_.start(kPace);
+}
+
+void SearchDriver::LookUpNames() {
+  const std::set<std::string> names(options_.hostNames.begin(), options_.hostNames.end());
+  lookUps_ = names.size();
+  lookUpEnd_.setRemainingTime(options_.lookUps);
+  for (const std::string& name : names) {
+    QHostInfo::lookupHost(QString::fromStdString(name), &context_,
+                          [this, name](const QHostInfo& found) {
+                            --lookUps_;
+                            for (const QHostAddress& address : found.addresses()) {
+                              hostNames_[address].push_back(name);
+                            }
+                          });
+  }
 }
 
 void SearchDriver::Broadcast() {
@@ -207,6 +225,7 @@ void SearchDriver::Enqueue(const QHostAddress& address, const std::string& mac) 
 }
 
 void SearchDriver::BeginVisits() {
+  if (lookUps_ > 0 && !lookUpEnd_.hasExpired()) return;
   constexpr double kMilliseconds = 1000;
   allowance_ = std::min(allowance_ + options_.perSecond * kPace / kMilliseconds,
                         std::max(1.0, options_.perSecond * kPace / kMilliseconds));
@@ -227,7 +246,11 @@ void SearchDriver::End(Visit* visit) {
   std::shared_ptr<Visit> kept(std::move(*ended));
   visits_.erase(ended);
   ++done_;
-  if (kept->Inquiry().HasFound()) onFound_(kept->Inquiry().Found());
+  if (kept->Inquiry().HasFound()) {
+    FoundProjector found = kept->Inquiry().Found();
+    found.hostNames = hostNames_.value(QHostAddress(QString::fromStdString(found.address)));
+    onFound_(found);
+  }
   QTimer::singleShot(0, &context_, [kept] {});
 }
 

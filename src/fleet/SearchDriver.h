@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include <QDeadlineTimer>
+#include <QHash>
 #include <QHostAddress>
 #include <QList>
 #include <QNetworkInterface>
@@ -28,12 +30,15 @@ struct SearchOptions {
   /// Where PJLink's search is sent; empty for nowhere. `NetworkBroadcasts` has those of the
   /// machine.
   std::vector<QHostAddress> broadcasts{};
+  /// Names of hosts that are known, to tell whether one of them was found.
+  std::vector<std::string> hostNames{};
   std::uint16_t port = 4352;                ///< Of the projectors, TCP and UDP.
   std::uint16_t answerPort = 4352;          ///< Where projectors send their answers; 0 for any.
   std::string password{};                   ///< For projectors that require one.
   int atOnce = 64;                          ///< Most connections at the same time.
   int perSecond = 200;                      ///< Most connections begun in a second.
   std::chrono::milliseconds answers{3000};  ///< Answers to the broadcast are taken for this time.
+  std::chrono::milliseconds lookUps{3000};  ///< Host names are waited for this long.
   PjLinkLimits limits{.connect = std::chrono::milliseconds(1500)};
 };
 
@@ -69,6 +74,7 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
  private:
   class Visit;
 
+  void LookUpNames();
   void Broadcast();
   void TakeAnswers();
   void Enqueue(const QHostAddress& address, const std::string& mac);
@@ -84,6 +90,9 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
   std::unique_ptr<QUdpSocket> datagrams_;
   std::deque<FoundProjector> waiting_;
   QSet<QHostAddress> known_;
+  QHash<QHostAddress, std::vector<std::string>> hostNames_;
+  std::size_t lookUps_ = 0;  // under way
+  QDeadlineTimer lookUpEnd_;
   std::vector<std::unique_ptr<Visit>> visits_;
   double allowance_ = 0;  // connections that may begin now
   std::size_t done_ = 0;

@@ -22,6 +22,8 @@ std::optional<std::string> ParseSearchAnswer(std::string_view datagram);
 struct FoundProjector {
   std::string address;  ///< Numeric, IPv4 or IPv6.
   std::uint16_t port = 0;
+  std::vector<std::string>
+      hostNames{};             ///< Those of the search's host names that mean the address.
   std::string mac{};           ///< From a broadcast search.
   bool needsPassword = false;  ///< It refused the password, and nothing more is known.
   char protocolClass = '1';

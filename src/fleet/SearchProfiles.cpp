@@ -116,7 +116,11 @@ std::optional<std::size_t> Taker::Find(const FoundProjector& found,
       return known->second;
     }
   }
-  const auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
+  auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
+  for (const std::string& name : found.hostNames) {
+    if (there != byAddress_.end()) break;
+    there = byAddress_.find(AddressKey(Text(name), found.port));
+  }
   if (there == byAddress_.end()) return std::nullopt;
   // A projector with another identity of the same kind is a different one, even at the same
   // address. Identities of different kinds (a serial number, a MAC, a made-up one) cannot be
@@ -224,6 +228,16 @@ TakenProjectors Taker::Result() && {
 }
 
 }  // namespace
+
+std::vector<std::string> HostNamesOf(const std::vector<FleetProfile>& profiles) {
+  std::vector<std::string> names;
+  for (const FleetProfile& profile : profiles) {
+    const ProfileConnection& connection = profile.connection;
+    const bool isName = QHostAddress(Text(connection.address)).isNull();
+    if (connection.isNetwork && isName) names.push_back(connection.address);
+  }
+  return names;
+}
 
 TakenProjectors TakeFound(const QByteArray& profiles, const std::vector<FoundProjector>& found,
                           const std::string& password) {

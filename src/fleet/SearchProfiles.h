@@ -9,6 +9,7 @@
 
 #include "Namespace.h"
 #include "ProjectorFleetExport.h"
+#include "fleet/FleetProfile.h"
 #include "fleet/SearchInquiry.h"
 
 namespace AdvancedControl {
@@ -21,10 +22,14 @@ struct TakenProjectors {
   std::size_t known = 0;  ///< Number of known projectors whose address has not changed.
 };
 
+/// The host names in the profiles, for `SearchOptions::hostNames`.
+PROJECTOR_FLEET_EXPORT std::vector<std::string> HostNamesOf(
+    const std::vector<FleetProfile>& profiles);
+
 /// Adds found projectors to the text of a valid profile file, or to `ProfileEdits::kNoProfiles`. If
 /// a profile has the identity of a found projector, it gets its address. If a profile without an
-/// identity has its address, it gets the identity. Otherwise a profile is added. `password` is the
-/// password of the search.
+/// identity has its address or host name, it gets the identity. Otherwise a profile is added.
+/// `password` is the password of the search.
 PROJECTOR_FLEET_EXPORT TakenProjectors TakeFound(const QByteArray& profiles,
                                                  const std::vector<FoundProjector>& found,
                                                  const std::string& password);

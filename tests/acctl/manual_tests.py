@@ -40,6 +40,10 @@ class LookingUp(Building):
         port = str(self.pjlink[0]["connection"]["network"]["port"])
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "1 added, 0 moved, 0 known")
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
+        # It has the same address with a host's name.
+        found = (self.folder / "found.json").read_text()
+        (self.folder / "found.json").write_text(re.sub('"identity": "[^"]*", ', "", found).replace("127.0.0.1", "localhost"))
+        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
         waits = ["flock", ".", "timeout", "-s", "KILL", "1"]  # as somebody else is changing a file
         self.run_program(*waits, "acctl", "find", "127.0.0.1", "--port", port, "--add", "late.json")
         self.assertFalse((self.folder / "late.json").exists())

@@ -10,6 +10,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "fleet/SearchProfiles.h"
 #include "fleet/SearchRange.h"
 #include "toolkit/Icons.h"
 #include "toolkit/IsolatedText.h"
@@ -67,7 +68,7 @@ SearchDialog::SearchDialog(const std::vector<FleetProfile>& known, QWidget* pare
 SearchDialog::~SearchDialog() = default;
 
 void SearchDialog::Begin() {
-  SearchOptions options{.password = Password()};
+  SearchOptions options{.hostNames = HostNamesOf(known_), .password = Password()};
   if (addresses_->text().trimmed().isEmpty()) {
     options.broadcasts = NetworkBroadcasts();
   } else {
@@ -90,7 +91,9 @@ bool SearchDialog::IsKnown(const FoundProjector& found) const {
   return std::ranges::any_of(known_, [&found](const FleetProfile& profile) {
     const ProfileConnection& connection = profile.connection;
     return profile.link != ProjectorLink::Simulated && connection.isNetwork &&
-           connection.address == found.address && connection.port == found.port;
+           connection.port == found.port &&
+           (connection.address == found.address ||
+            std::ranges::count(found.hostNames, connection.address) != 0);
   });
 }
 

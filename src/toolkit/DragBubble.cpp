@@ -35,7 +35,7 @@ class DragBubble final : public QLabel {
     setAttribute(Qt::WA_DeleteOnClose);
     slider.installEventFilter(this);
     connect(&slider, &CSliderCtrl::Scrolling, this, [this](bool goesOn) {
-      if (!goesOn) close();
+      if (!goesOn) End();
     });
     connect(&slider, &QObject::destroyed, this, &QWidget::close);
     connect(&slider, &QSlider::valueChanged, this, &DragBubble::Follow);
@@ -43,11 +43,18 @@ class DragBubble final : public QLabel {
   }
 
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange) close();
+    if (event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange) End();
     return false;
   }
 
  private:
+  // The slider may still move before the bubble is deleted: to the value after a refusal, while a
+  // message box is open.
+  void End() {
+    slider_.disconnect(this);
+    close();
+  }
+
   void Follow(int position) {
     setText(textOf_(position));
     adjustSize();

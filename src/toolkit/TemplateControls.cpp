@@ -154,8 +154,6 @@ Place PlaceOf(const RowTemplate& row, std::size_t index) {
       return hasSlider ? Place{RowColumn::Field} : Place{};
     case ControlKind::Button:
       return hasSlider ? Place{RowColumn::Button} : Place{};
-    case ControlKind::Close:
-      return {RowColumn::Label, RowColumn::Count, Qt::AlignRight};
     case ControlKind::Text:
       // The captions within an arrow pad have their own column, so that the arrows are aligned.
       return Has(row, ControlKind::Arrow) ? Place{RowColumn::Minus} : Place{};

@@ -84,7 +84,7 @@ class ADVANCED_CONTROL_EXPORT TemplateDialog : public QDialog {
   void changeEvent(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
-  /// Places a widget in the row of Close, at the opposite side.
+  /// Places a widget in the row of Close, where it gets the space that Close leaves.
   void PlaceBesideClose(QWidget& widget);
 
  private:

@@ -38,6 +38,7 @@ QSize FromDialogUnits(const QWidget& widget, int width, int height) {
 
 void TemplateRows::Clear() {
   rows_.clear();
+  closeRow_ = nullptr;
   delete dialog_.layout();
   delete scroll_;
 }
@@ -72,7 +73,14 @@ void TemplateRows::Arrange() {
     }
     row.grid = place == RowPlace::Right && right != nullptr ? right : left;
     row.gridRow = row.grid == left ? leftRow++ : rightRow++;
-    PlaceRow(*row.line, row.controls, row.grid, row.gridRow);
+    if (row.line->controls.front().kind == ControlKind::Close) {
+      closeRow_ = new QHBoxLayout;
+      closeRow_->setSpacing(left->horizontalSpacing());
+      closeRow_->addWidget(row.controls.front(), 0, Qt::AlignVCenter | Qt::AlignRight);
+      row.grid->addLayout(closeRow_, row.gridRow, RowColumn::Label, 1, RowColumn::Count);
+    } else {
+      PlaceRow(*row.line, row.controls, row.grid, row.gridRow);
+    }
   }
   if (!stretched) left->setRowStretch(leftRow, 1);
   if (right != nullptr) {
@@ -164,11 +172,8 @@ void TemplateRows::PlaceNotice(QWidget& notice) const {
 }
 
 void TemplateRows::PlaceBesideClose(QWidget& widget) const {
-  for (const Row& row : rows_) {
-    if (row.line->controls.front().kind != ControlKind::Close) continue;
-    row.grid->addWidget(&widget, row.gridRow, RowColumn::Label, 1, RowColumn::Count,
-                        Qt::AlignVCenter | Qt::AlignLeft);
-  }
+  widget.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  if (closeRow_ != nullptr) closeRow_->insertWidget(0, &widget, 1, Qt::AlignVCenter);
 }
 
 void TemplateRows::ShareCaptionWidths(std::span<const TemplateRows* const> dialogs) {
@@ -200,8 +205,9 @@ void TemplateRows::FitToScreen() {
   for (Row& row : rows_) {
     if (row.line->controls.front().kind != ControlKind::Close) continue;
     row.grid->setRowMinimumHeight(row.gridRow, 0);
+    row.grid->removeItem(closeRow_);
     row.grid = nullptr;
-    frame->addWidget(row.controls.front(), 0, Qt::AlignRight);
+    frame->addLayout(closeRow_);
   }
   frame->activate();  // also takes back the least size of a dialog that is filled again
   const QSize outside = frame->totalSizeHint() - scroll_->sizeHint();

@@ -11,6 +11,7 @@
 #include "Namespace.h"
 
 class QGridLayout;
+class QHBoxLayout;
 class QWidget;
 
 namespace AdvancedControl {
@@ -46,7 +47,8 @@ class TemplateRows {
 
   /// Adds a sentence above the rows.
   void PlaceNotice(QWidget& notice) const;
-  /// Places a widget in the row of Close, at the opposite side.
+  /// Places a widget in the row of Close, where it gets the space that Close leaves, however much
+  /// it wants.
   void PlaceBesideClose(QWidget& widget) const;
 
   /// Gives the captions of all these dialogs the same width, the left columns and the right columns
@@ -72,8 +74,9 @@ class TemplateRows {
 
   QWidget& dialog_;
   const DialogTemplate* template_ = nullptr;
-  std::vector<Row> rows_;     // in the template's order
-  int pitch_ = 0;             // height of the present rows, in pixels
+  std::vector<Row> rows_;            // in the template's order
+  QHBoxLayout* closeRow_ = nullptr;  // Close and what stands beside it
+  int pitch_ = 0;                    // height of the present rows, in pixels
   QPointer<QWidget> scroll_;  // scrolls the rows of a window that is too large for the screen
 };
 

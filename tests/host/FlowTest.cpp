@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 using testing::IsEmpty;
 
 constexpr int kPictureTab = 1, kAudioTab = 5, kOptionTab = 7, kOtherTab = 8;
-constexpr int kIris = 20293, kIrisCaption = 20621, kCustomGamma = 20133, kAutoOff = 20369;
+constexpr int kIris = 20293, kCustomGamma = 20133, kAutoOff = 20369;
 constexpr int kBrightness = 20136, kBrightnessPlus = 20135, kBrightnessField = 20329;
 constexpr int kClose = 1, kInputSource = 20103;
 
@@ -244,22 +244,6 @@ TEST_F(SilentProjectorTest, APopUpShowsThatNobodyAnswersAndTriesAgain) {
   look.start(20);
   Page().Click(kCustomGamma);
   EXPECT_FALSE(look.isActive());
-}
-
-TEST_F(FlowTest, RowsHaveNotes) {
-  model_.GammaList.count = 0;
-  dialog_.CopyData(&model_, 0);
-  Open();
-  projector_->refuses = true;
-  ClickTab(kPictureTab);
-  for (const bool refused : {true, false}) {
-    const QString why = refused ? CatalogString(5, 4303) : QString();
-    EXPECT_EQ(Page().Item<QWidget>(kIris).toolTip(), why);
-    EXPECT_EQ(Page().IsEnabled(kIrisCaption), !refused);
-    EXPECT_EQ(Page().Item<QWidget>(20142).toolTip(), CatalogString(5, 4305)) << "no gammas";
-    projector_->refuses = false;
-    dialog_.DispTabScreen();
-  }
 }
 
 TEST_F(FlowTest, AHeldButtonStepsOnceForEachReply) {

@@ -11,7 +11,6 @@
 #include <QToolButton>
 
 #include "host/ProjectorStrip.h"
-#include "pages/common/StatusLine.h"
 #include "pages/rows/RowMarks.h"
 #include "snapshots/Snapshot.h"
 #include "tests/support/DialogDriver.h"
@@ -128,18 +127,15 @@ TEST(ReadAgain, TheStatusPageIsKeptUpToDateOnlyWhenAskedAndQuiet) {
   EXPECT_TRUE(Soon([&] { return !(sent = open.Projector().Take()).empty(); }));
   EXPECT_EQ(sent, reads);
   EXPECT_GT(timer.interval(), 1000) << "the next pause is whole";
-  const auto said = [&open] {
-    return open.Dialog().findChild<StatusLine*>()->findChild<QLabel*>()->text().toStdString();
-  };
   open.Driver().Click(kExecuteReset);
   for (int i = 0; i < 2; ++i) {
     open.Projector().Take();
     timer.start(1);
     EXPECT_TRUE(Soon([&] { return !open.Projector().Take().empty(); }));
-    EXPECT_EQ(said(), "Lamp Time reset") << "does not vanish by itself";
+    EXPECT_EQ(Said(open.Dialog()), "Lamp Time reset") << "does not vanish by itself";
   }
   open.Dialog().DispTabScreen();
-  EXPECT_EQ(said(), "") << "the user has read the page again";
+  EXPECT_EQ(Said(open.Dialog()), "") << "the user has read the page again";
   Menu(open.Page(), kPowerState, "Keep up to date");
   EXPECT_FALSE(timer.isActive());
 }
@@ -171,13 +167,19 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture (2)"));
   QWidget& brightness = *open.Page().GetDlgItem(kBrightness);
   EXPECT_TRUE(brightness.toolTip().startsWith(QStringLiteral("Wanted: 12")));
-  const char* set = "Set to wanted: 12";
-  Menu(open.Page(), kBrightness, set, true);
-  EXPECT_THAT(open.Projector().Take(), IsEmpty());
-  Menu(open.Page(), kBrightness, set);
-  EXPECT_EQ(open.Projector().Take(), std::vector<std::string>{"SetBrightness 140"});
-  EXPECT_THAT(Differing(), ElementsAre(kIris));
-  EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture (1)"));
+  const MessageBoxes boxes;
+  for (const auto& [control, choice, sent] :
+       {std::tuple{kBrightness, "Set to wanted: 12", "SetBrightness 140"},
+        {kIris, "Set to wanted: Theater", "Set 0x3304 16"}}) {
+    for (const bool refused : {true, true, false}) {
+      refused ? open.Projector().Refuse(sent) : open.Projector().Accept(sent);
+      Menu(open.Page(), control, choice, true);
+      EXPECT_THAT(open.Projector().Take(), IsEmpty());
+      Menu(open.Page(), control, choice);
+      EXPECT_THAT(open.Projector().Take(), ElementsAre(sent));
+    }
+    EXPECT_EQ(Tab(kPictureTab), control == kIris ? "Picture" : "Picture (1)");
+  }
   open.Projector().Answer("Get 0x3304", 16);
   open.Projector().Answer("Get 0x2004", 130);
   open.Dialog().DispTabScreen();

@@ -142,6 +142,7 @@ TEST(PicturePages, ShowTheMiddleAndNoEntryBeforeTheFirstRead) {
     open.Page().InitDisp();
     EXPECT_EQ(std::ranges::count(open.Projector().Take(), "Get 0x30A1"), 0);
     EXPECT_FALSE(driver.IsEnabled(kGamma)) << "a model without gammas";
+    EXPECT_EQ(driver.Item<QWidget>(kGamma).toolTip(), CatalogString(5, 4305));
   }
 }
 

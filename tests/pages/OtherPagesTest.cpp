@@ -88,8 +88,7 @@ TEST(OtherPages, AProjectorThatStaysOnOrIsSilentHasRefusedToTurnOff) {
                                                      {0, kQuestion, "Off", true},
                                                      {2, kQuestion, "Cooling Down", false}}) {
     OpenDialog open(MakeModel(5, 34), 7, Answers({{"Get 0x6000", 1}}));
-    after < 0 ? open.Projector().Refuse("Get 0x6000")
-              : open.Projector().Answer("Get 0x6000", after);
+    Answers({{"Get 0x6000", after}})(open.Projector());
     MessageBoxes boxes(true);
     open.Driver().Click(20101);
     EXPECT_EQ(open.Projector().Take().size(), 1U + 8U) << "and the page is read again";

@@ -2,31 +2,12 @@
 
 #include <gmock/gmock.h>
 
-#include <QLabel>
-
-#include "pages/common/StatusLine.h"
-#include "pages/rows/RowMarks.h"
 #include "tests/support/DialogDriver.h"
 
 namespace {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-std::string Said(const CDialog& dialog) {
-  return dialog.window()->findChild<StatusLine*>()->findChild<QLabel*>()->text().toStdString();
-}
-
-// The rows of the shown page that are marked as refused.
-std::vector<int> Marked(const CDialog& dialog) {
-  std::vector<int> controls;
-  for (const auto* marks : dialog.window()->findChildren<RowMarks*>()) {
-    for (const RowMarks::Mark& mark : marks->Shown()) {
-      if (mark.refused && marks->isVisible()) controls.push_back(mark.control);
-    }
-  }
-  return controls;
-}
 
 struct Case {
   const char* name;
@@ -92,8 +73,7 @@ TEST(OutcomesOfPopUps, AreSaidInThePopUp) {
   const DialogDriver driver(*service);
   for (const char* set : {"SetIRFront", "SetAutoAdjustEnable"}) open.Projector().Refuse(set);
   for (const bool isOn : {false, true}) {
-    for (const char* get : {"GetIRRemoteFront", "GetAutoAdjustEnable"})
-      open.Projector().Answer(get, isOn);
+    Answers({{"GetIRRemoteFront", isOn}, {"GetAutoAdjustEnable", isOn}})(open.Projector());
     driver.Choose(20374, 1);
     EXPECT_THAT(Said(*service), HasSubstr(isOn ? "has Enable" : "has Disable")) << "as just read";
     driver.Click(20375);

@@ -3,13 +3,11 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QHoverEvent>
-#include <QLabel>
 #include <QMessageBox>
 #include <QToolButton>
 
 #include "device/channels/LoggingChannel.h"
-#include "pages/common/StatusLine.h"
-#include "pages/rows/RowMarks.h"
+#include "tests/support/DialogDriver.h"
 #include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 
@@ -214,15 +212,11 @@ class PageDescriber {
 
   // What the line beside Close says, and ! if the row is marked as refused.
   std::string Told() const {
-    const QString said = page_.window()->findChild<StatusLine*>()->findChild<QLabel*>()->text();
-    std::string told =
-        said.isEmpty() ? "" : " says " + QString(said).replace('#', '~').toStdString();
-    for (const auto* marks : page_.window()->findChildren<RowMarks*>()) {
-      for (const RowMarks::Mark& mark : marks->Shown()) {
-        if (std::ranges::find(row_->controls, mark.control, &ControlTemplate::id) !=
-            row_->controls.end())
-          told += " !";
-      }
+    const QString said = QString::fromStdString(Said(page_)).replace('#', '~');
+    std::string told = said.isEmpty() ? "" : " says " + said.toStdString();
+    for (const int marked : Marked(page_)) {
+      if (std::ranges::find(row_->controls, marked, &ControlTemplate::id) != row_->controls.end())
+        told += " !";
     }
     return told;
   }

@@ -2,20 +2,27 @@
 
 #include <tuple>
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "pages/common/StatusLine.h"
+#include "pages/rows/RowMarks.h"
 #include "settings/PageTables.h"
 #include "tests/support/DialogDriver.h"
 #include "toolkit/CurveView.h"
+#include "toolkit/FittedScroll.h"
 
 namespace {
 
 struct OpenPopUp : OpenDialog {
-  explicit OpenPopUp(PopUp kind, int code = 30)
+  explicit OpenPopUp(PopUp kind, int code = 30, int fontSize = 9)
       : OpenDialog(MakeModel(5, code)), popUp(MakePopUp(kind, Dialog())) {
+    popUp->setFont(QFont(popUp->font().family(), fontSize));
     Open(*popUp);
     EXPECT_TRUE(QTest::qWaitForWindowActive(popUp.get()));
   }
@@ -125,6 +132,29 @@ TEST(GammaPopUp, APointOfTheCurveCanBeDraggedAndSendsWhatItsSliderSends) {
   EXPECT_EQ(open.driver.SliderAt(21025), open.driver.Item<QSlider>(21025).maximum());
   QTest::mouseClick(&curve, Qt::LeftButton, {}, curve.PlaceOf({0.5, 1.2}).toPoint());
   EXPECT_TRUE(open.Projector().Take().empty()) << "no point is there";
+}
+
+TEST(GammaPopUp, ThatScrollsShowsItsLineAndTheMarksAndMenusOfTheVisibleRows) {
+  OpenPopUp open(PopUp::Gamma, 30, 40);
+  const MessageBoxes boxes;
+  open.Projector().Refuse("Inc 0x3090");
+  open.Click(20161);
+  const auto& line = *open.popUp->findChild<StatusLine*>();
+  EXPECT_EQ(line.visibleRegion().boundingRect(), line.rect());
+  auto& area = *open.popUp->findChild<FittedScroll*>();
+  EXPECT_EQ(open.popUp->findChild<RowMarks*>()->geometry(),
+            area.viewport()->geometry().translated(area.pos()));
+  area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum() / 2);
+  for (const RowTemplate& row : open.popUp->Template()->rows) {
+    const auto& [kind, id, text, entries] = row.controls.front();
+    if (kind != ControlKind::Label) continue;
+    const QWidget& caption = *open.popUp->GetDlgItem(id);
+    const bool isVisible = caption.visibleRegion().contains(caption.rect().center());
+    QApplication::clipboard()->setText({});
+    Menu(*open.popUp, id, "Copy");
+    EXPECT_EQ(QApplication::clipboard()->text().section(':', 0, 0),
+              isVisible ? open.driver.Text(id) : QString());
+  }
 }
 
 TEST(ServicePopUp, ABoxThatChangedWhileAHandlerRanIsReadAgainUnlessItWasLeft) {

@@ -47,8 +47,10 @@ TEST_F(RowMenus, ShowTheRangeAndTheOpeningValueOfARow) {
     EXPECT_EQ(Menu(page, control, "Copy"), lines) << control;
   }
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Active Iris: Off"));
-  open.Projector().Refuse("Get 0x2003");
+  EXPECT_TRUE(driver.IsEnabled(kIrisCaption));
+  for (const char* read : {"Get 0x2003", "Get 0x3304"}) open.Projector().Refuse(read);
   page.InitDisp();
+  EXPECT_FALSE(driver.IsEnabled(kIrisCaption));
   EXPECT_NE(Menu(page, kField).find("(When opened: 10), (Put back), (Enter a value…), Copy"),
             std::string::npos);
 }
@@ -151,21 +153,24 @@ TEST(RowMenu, StepsArrowRowsWhileStepsComeNearer) {
   OpenDialog open(FullModel(5, 30), 2, Answers({{"Get 0x2100", 40}}));
   RecordingChannel& projector = open.Projector();
   EXPECT_EQ(Menu(open.Page(), kPositionV), "(When opened: 40), (Put back), Enter a value…, Copy");
-  auto* question = &Asked(open.Page(), kPositionV);
-  question->setTextValue(QStringLiteral("42"));
   projector.Answer("Get 0x2100", 41);
-  projector.Take();
-  question->accept();
-  EXPECT_EQ(projector.Take(), (Strings{"Inc 0x2100", "Get 0x2100", "Inc 0x2100", "Get 0x2100"}));
+  MessageBoxes boxes;
+  for (const auto& [number, sent] :
+       {std::pair{"4137", Strings{}},
+        {"42", Strings{"Inc 0x2100", "Get 0x2100", "Inc 0x2100", "Get 0x2100"}},
+        {"45", Strings{"Inc 0x2100"}}}) {
+    if (sent.size() == 1) projector.Refuse(sent.front());  // which ends the stepping
+    auto& question = Asked(open.Page(), kPositionV);
+    question.setTextValue(QString::fromUtf8(number));
+    projector.Take();
+    question.accept();
+    EXPECT_EQ(projector.Take(), sent);
+    const QString tip = open.Page().GetDlgItem(kPositionV)->toolTip();
+    EXPECT_EQ(tip.startsWith("Not accepted: Position V 4137. The projector has 40."), sent.empty());
+  }
   projector.Answer("Get 0x2100", 40);
   Menu(open.Page(), kPositionV, "Put back");
   EXPECT_EQ(projector.Take(), (Strings{"Dec 0x2100", "Get 0x2100"}));
-  MessageBoxes boxes;
-  projector.Refuse("Inc 0x2100");
-  question = &Asked(open.Page(), kPositionV);
-  question->setTextValue(QStringLiteral("45"));
-  question->accept();
-  EXPECT_EQ(projector.Take(), Strings{"Inc 0x2100"}) << "a refusal ends the stepping";
 }
 
 }  // namespace

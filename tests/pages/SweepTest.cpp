@@ -115,22 +115,18 @@ TEST(Sweep, PresentRowsArePacked) {
 // Sliders and lists must not jump when the tab changes.
 TEST(Sweep, ControlsStartAndEndAtTheSamePlaceOnAllTabs) {
   for (const CModelInfo2& model : {FullModel(1, 1), FullModel(4, 9), FullModel(5, 30)}) {
-    std::map<std::pair<RowPlace, ControlKind>, std::set<std::pair<int, int>>> places;
-    ForEachPage(
-        [&places](OpenDialog&, CTabPage& page) {
-          for (const RowTemplate& row : page.Template()->rows) {
-            for (const ControlTemplate& control : row.controls) {
-              if (control.kind != ControlKind::Slider && control.kind != ControlKind::Colon)
-                continue;
-              const QWidget& widget = *page.GetDlgItem(control.id);
-              const RowPlace column =
-                  row.place == RowPlace::Right ? RowPlace::Right : RowPlace::Left;
-              if (widget.isVisible())
-                places[{column, control.kind}].emplace(widget.x(), widget.width());
-            }
-          }
-        },
-        {model});
+    std::map<std::pair<bool, ControlKind>, std::set<std::pair<int, int>>> places;
+    const auto look = [&places](OpenDialog&, CTabPage& page) {
+      for (const RowTemplate& row : page.Template()->rows) {
+        for (const auto& [kind, id, caption, entries] : row.controls) {
+          const QWidget* widget = page.GetDlgItem(id);
+          if (kind != ControlKind::Slider && kind != ControlKind::Colon) continue;
+          if (!widget->isVisible()) continue;
+          places[{row.place == RowPlace::Right, kind}].emplace(widget->x(), widget->width());
+        }
+      }
+    };
+    ForEachPage(look, {model});
     EXPECT_FALSE(places.empty());
     for (const auto& [kind, different] : places) EXPECT_EQ(different.size(), 1U) << NameOf(model);
   }

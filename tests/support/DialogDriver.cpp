@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -16,9 +15,11 @@
 #include <gtest/gtest.h>
 
 #include "pages/common/CTabPage.h"
+#include "pages/common/StatusLine.h"
 #include "pages/option/CServiceDlg.h"
 #include "pages/picture/CColorDlg.h"
 #include "pages/picture/CGammaDlg.h"
+#include "pages/rows/RowMarks.h"
 #include "tests/support/Soon.h"
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/WindowText.h"
@@ -82,11 +83,8 @@ void Activate(QWidget& window) {
 bool DialogDriver::IsEnabled(int id) const { return Item<QWidget>(id).isEnabled(); }
 
 QString DialogDriver::Text(int id) const {
-  const QWidget* control = &Item<QWidget>(id);
-  if (const auto* label = qobject_cast<const QLabel*>(control)) return label->text();
-  if (const auto* field = qobject_cast<const QLineEdit*>(control)) return field->text();
-  if (const auto* combo = qobject_cast<const QComboBox*>(control)) return combo->currentText();
-  return Item<QAbstractButton>(id).text();
+  const auto& control = Item<QWidget>(id);
+  return control.property(control.inherits("QComboBox") ? "currentText" : "text").toString();
 }
 
 QStringList DialogDriver::Entries(int id) const {
@@ -161,6 +159,20 @@ std::string Menu(CDialog& page, int id, const char* choice, bool overtaken) {
   return lines.join(QStringLiteral(", ")).toStdString();
 }
 
+std::string Said(const QWidget& dialog) {
+  return dialog.window()->findChild<StatusLine*>()->findChild<QLabel*>()->text().toStdString();
+}
+
+std::vector<int> Marked(const QWidget& dialog) {
+  std::vector<int> controls;
+  for (const auto* marks : dialog.window()->findChildren<RowMarks*>()) {
+    for (const RowMarks::Mark& mark : marks->Shown()) {
+      if (mark.refused && marks->isVisible()) controls.push_back(mark.control);
+    }
+  }
+  return controls;
+}
+
 bool UserOperates(ControlKind kind) {
   using enum ControlKind;
   constexpr ControlKind kOperated[] = {Minus, Plus, Combo, Button, Arrow, Check};
@@ -182,10 +194,8 @@ std::vector<QWidget*> UsableControls(const CDialog& dialog) {
   for (const RowTemplate& row : dialog.Template()->rows) {
     for (const ControlTemplate& control : row.controls) {
       QWidget* widget = dialog.GetDlgItem(control.id);
-      if (widget != nullptr && widget->isVisible() && widget->isEnabled() &&
-          control.kind != ControlKind::Close) {
-        usable.push_back(widget);
-      }
+      if (widget == nullptr || control.kind == ControlKind::Close) continue;
+      if (widget->isVisible() && widget->isEnabled()) usable.push_back(widget);
     }
   }
   return usable;
@@ -214,8 +224,7 @@ void WhenModal(const char* className, std::function<void(CDialog&)> act) {
   QTimer::singleShot(0, [className, act = std::move(act)] {
     auto* dialog = qobject_cast<CDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || !dialog->inherits(className)) {
-      ADD_FAILURE() << "no " << className << " came up";
-      return;
+      return ADD_FAILURE() << "no " << className << " came up";
     }
     act(*dialog);
     QTest::keyClick(dialog, Qt::Key_Escape);

@@ -89,6 +89,11 @@ void Open(CDialog& popUp);
 /// handler runs then.
 std::string Menu(CDialog& page, int id, const char* choice = "", bool overtaken = false);
 
+/// What the line beside Close says.
+std::string Said(const QWidget& dialog);
+/// The controls of the rows that are marked as refused.
+std::vector<int> Marked(const QWidget& dialog);
+
 /// Whether the user clicks or chooses from such a control.
 bool UserOperates(ControlKind kind);
 /// The numbers of those controls, in the order of the template.

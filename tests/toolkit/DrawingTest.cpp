@@ -9,9 +9,12 @@
 #include <QAccessible>
 #include <QDebug>
 #include <QFontDatabase>
+#include <QHelpEvent>
 #include <QLayout>
 #include <QTabBar>
 #include <QTest>
+#include <QTextDocument>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include "tests/support/Record.h"
@@ -92,6 +95,13 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   auto& dark = Placed(new CurveView(&stage), 0, 62, 60, 40);
   dark.setPalette(PaletteOf(Qt::white, Qt::black));
   dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
+  for (const auto& [y, text] :
+       {std::pair{64, "abcd"}, {76, "abcdefghijk"}, {88, "\u200fabcdefghijk"}}) {
+    auto& said = Placed(new AnnouncedLabel(text, &stage), 64, y, 24, 12);
+    QHelpEvent help(QEvent::ToolTip, {}, {});
+    QApplication::sendEvent(&said, &help);
+    EXPECT_EQ(QToolTip::text(), y == 64 ? QString() : Qt::convertFromPlainText(text));
+  }
   const QString theme = QIcon::themeName();
   QIcon::setThemeName("none");
   for (const int i : {0, 1, 2, 3, 4}) {
@@ -133,7 +143,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     EXPECT_TRUE(to.hasFocus());
   };
   tabTo(*sliders[2]);
-  record("Three curves, of which two coincide and one is tried. A curve on black.", 0, 102);
+  record("Three curves: two coincide, one is tried. One on black. Texts, two too long.", 0, 102);
   record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
   record("Icons: reset, refresh, information, stop.", 180, 200);
   record("Numbers: %, ms, % from right to left, ms from right to left, none.", 200, 250);
@@ -160,7 +170,9 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   EXPECT_FALSE(ring.isVisible()) << "a field takes the focus of the mouse only";
   delete sliders[0];
   sliders[2]->setEnabled(false);
-  EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 9; })) << "no bubbles";
+  sliders[2]->setValue(1);
+  EXPECT_FALSE(stage.findChildren<QLabel*>().last()->isVisible()) << "though its value changes";
+  EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 12; })) << "no bubbles";
   ExpectRecord(TEST_SOURCE_DIR "/toolkit/Drawings.txt", now.str());
 }
 
@@ -169,7 +181,7 @@ struct KindsDialog : CDialog {
   bool OnInitDialog() override {
     ShowRow(27, false);
     delete findChild<AnnouncedLabel*>();
-    PlaceBesideClose(*new AnnouncedLabel("beside", this));
+    PlaceBesideClose(*new AnnouncedLabel(QString(160, 'b'), this));
     return true;
   }
 };

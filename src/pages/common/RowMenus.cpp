@@ -26,7 +26,9 @@ RowMenus::RowMenus(RowHost& host, const PageReader::Rows& rows) : host_(host), r
 bool RowMenus::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::ContextMenu) {
     auto* asked = static_cast<QContextMenuEvent*>(event);
-    asked->setAccepted(Open(asked->pos(), asked->globalPos()));
+    const QWidget* under = host_.Dialog().childAt(asked->pos());
+    asked->setAccepted(
+        Open(under != nullptr ? *under : host_.Dialog(), asked->pos(), asked->globalPos()));
     return true;
   }
   if (event->type() != QEvent::KeyPress) return false;
@@ -35,24 +37,29 @@ bool RowMenus::eventFilter(QObject*, QEvent* event) {
   const bool isMenuKey = key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier;
   if (!isMenuKey || focus == nullptr) return false;
   const QPoint middle = focus->rect().center();
-  return Open(focus->mapTo(&host_.Dialog(), middle), focus->mapToGlobal(middle));
+  return Open(*focus, focus->mapTo(&host_.Dialog(), middle), focus->mapToGlobal(middle));
 }
 
-RowView* RowMenus::RowAt(QPoint at) const {
+RowView* RowMenus::RowAt(const QWidget& under, QPoint at) const {
   SettingsDialog& dialog = host_.Dialog();
-  RowView* const own = host_.RowOf(dialog.childAt(at));
+  RowView* const own = host_.RowOf(&under);
   if (own != nullptr && own->memory.present) return own;
   RowView* beside = nullptr;
   for (const auto& row : rows_) {
-    if (!row->memory.present || !dialog.RowRect(ControlOf(row->Row())).contains(at)) continue;
+    if (!row->memory.present) continue;
+    const int control = ControlOf(row->Row());
+    const QWidget& rows = *dialog.GetDlgItem(control)->parentWidget();
+    if (!dialog.RowRect(control).contains(rows.mapFrom(&dialog, at))) continue;
+    // Rows that scroll may lie behind other parts of the dialog.
+    if (&rows != &under && !rows.isAncestorOf(&under)) continue;
     if (beside != nullptr) return nullptr;
     beside = row.get();
   }
   return beside;
 }
 
-bool RowMenus::Open(QPoint at, QPoint onScreen) {
-  RowView* const found = RowAt(at);
+bool RowMenus::Open(const QWidget& under, QPoint at, QPoint onScreen) {
+  RowView* const found = RowAt(under, at);
   if (found == nullptr || !ReadingOf(found->Row(), host_.Dialog().Model())) {
     return OpenForPage(onScreen);
   }

@@ -19,9 +19,10 @@ class RowMenus final : public QObject {
   bool eventFilter(QObject* dialog, QEvent* event) override;
 
  private:
-  /// The row at a point of the dialog; null if there is none or it is ambiguous.
-  RowView* RowAt(QPoint at) const;
-  bool Open(QPoint at, QPoint onScreen);
+  /// The row at a point of the dialog, where the widget `under` is; null if there is none or it is
+  /// ambiguous.
+  RowView* RowAt(const QWidget& under, QPoint at) const;
+  bool Open(const QWidget& under, QPoint at, QPoint onScreen);
   /// Opens the menu of the page itself, if it has one.
   bool OpenForPage(QPoint onScreen);
   bool IsBusy() const;

@@ -8,6 +8,7 @@
 #include <QStyle>
 
 #include "pages/common/SettingsDialog.h"
+#include "toolkit/FittedScroll.h"
 #include "toolkit/LineLabel.h"
 
 namespace AdvancedControl {
@@ -20,14 +21,13 @@ constexpr int kBarStart = 6;   // before the row
 constexpr int kSignStart = 4;  // before the row
 constexpr int kSpace = 10;     // beside a row
 
-// The part of the page that is visible, in the window's coordinates.
-QRect VisiblePart(const QWidget& page) {
-  if (page.isWindow()) return page.rect();
-  for (const QWidget* area = page.parentWidget(); area != nullptr; area = area->parentWidget()) {
-    if (qobject_cast<const QScrollArea*>(area) == nullptr) continue;
-    return {area->mapTo(page.window(), QPoint()), area->size()};
+// What scrolls the page, or the rows of a page that is a window; null if nothing does.
+const QScrollArea* AreaOf(const QWidget& page) {
+  if (page.isWindow()) return page.findChild<FittedScroll*>(QString(), Qt::FindDirectChildrenOnly);
+  for (const QWidget* part = &page; part != nullptr; part = part->parentWidget()) {
+    if (const auto* area = qobject_cast<const QScrollArea*>(part)) return area;
   }
-  return {page.mapTo(page.window(), QPoint()), page.size()};
+  return nullptr;
 }
 
 }  // namespace
@@ -35,7 +35,6 @@ QRect VisiblePart(const QWidget& page) {
 RowMarks::RowMarks(SettingsDialog& page) : QWidget(page.window()), page_(page) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   page.installEventFilter(this);
-  if (!page.isWindow()) page.parentWidget()->installEventFilter(this);  // moves when it scrolls
 }
 
 void RowMarks::Show(std::vector<Mark> marks) {
@@ -45,7 +44,16 @@ void RowMarks::Show(std::vector<Mark> marks) {
 }
 
 void RowMarks::Place() {
-  setGeometry(VisiblePart(page_).adjusted(-kSpace, 0, kSpace, 0));
+  const QWidget* visible = &page_;
+  if (const QScrollArea* area = AreaOf(page_)) {
+    visible = area->viewport();
+    // The contents move when they scroll.
+    for (QObject* part : {area->widget(), area->viewport()}) part->installEventFilter(this);
+  }
+  // A window has space of its own beside the rows.
+  const int space = page_.isWindow() ? 0 : kSpace;
+  setGeometry(QRect(visible->mapTo(page_.window(), QPoint()), visible->size())
+                  .adjusted(-space, 0, space, 0));
   setVisible(!marks_.empty() && page_.isVisible());
   raise();
   update();

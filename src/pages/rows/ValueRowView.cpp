@@ -107,8 +107,9 @@ void ValueRowView::StepTo(int number) {
     refused = Step(upwards).refused;
     return Stepped{.refused = refused, .value = Position()};
   };
-  ::StepTo(Position().value_or(number), number, step,
-           [&] { return !refused && Dialog().isVisible(); });
+  const Sent sent = ::StepTo(Position().value_or(number), number, step,
+                             [&] { return !refused && Dialog().isVisible(); });
+  if (sent == Sent::Nothing) ShowRefusal(*this, TextAt(number));  // too far
 }
 
 bool ValueRowView::Release() {
@@ -182,15 +183,17 @@ bool ValueRowView::CanMoveTo(int position) const {
   if (!IsUsable()) return false;
   const CSliderCtrl* slider = controls_.Slider();
   if (slider == nullptr) return Position() && *Position() != position;
-  return position != slider->value() && position >= slider->minimum() &&
-         position <= slider->maximum();
+  // After a refused drag, the slider may show a value that the projector does not have.
+  const bool isNews = position != slider->value() || Position() != position;
+  return isNews && position >= slider->minimum() && position <= slider->maximum();
 }
 
 void ValueRowView::MoveTo(int position) {
   if (controls_.Slider() == nullptr) {
     StepTo(position);
   } else {
-    controls_.Slider()->ScrollTo(position);
+    controls_.Slider()->DragTo(position);
+    controls_.Slider()->Drop();
   }
 }
 

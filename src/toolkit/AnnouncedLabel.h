@@ -13,7 +13,10 @@ class AnnouncedLabel final : public QLabel {
   Q_OBJECT
 
  public:
-  using QLabel::QLabel;
+  explicit AnnouncedLabel(const QString& text = {}, QWidget* parent = nullptr)
+      : QLabel(text, parent) {
+    setTextFormat(Qt::PlainText);
+  }
 
   /// Shows a text that screen readers read even if the label shows the same text already.
   void Announce(const QString& text);

@@ -194,7 +194,13 @@ TEST_F(WantedTest, MarksWhatDiffersAndSetsIt) {
   EXPECT_THAT(Differing(), ElementsAre(kIris));
   const auto service = MakePopUp(PopUp::Service, open.Dialog());
   Open(*service);
-  EXPECT_THAT(Menu(*service, 20375), testing::HasSubstr("Set to wanted: On"));
+  for (const char* const command : {"SetIRFront", "GetIRRemoteFront"})
+    open.Projector().Refuse(command);
+  for (int i = 0; i < 2; ++i) {
+    open.Projector().Take();
+    Menu(*service, 20375, "Set to wanted: On");
+    EXPECT_THAT(open.Projector().Take(), ElementsAre("SetIRFront 1", "GetIRRemoteFront"));
+  }
   open.Dialog().SetWanted(WantedSettings());
   EXPECT_THAT(Differing(), IsEmpty());
   EXPECT_EQ(Tab(kPictureTab), QStringLiteral("Picture"));

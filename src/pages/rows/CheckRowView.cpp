@@ -43,9 +43,12 @@ QString CheckRowView::TextAt(int position) const {
 }
 
 bool CheckRowView::CanMoveTo(int position) const {
-  return IsUsable() && check_->isChecked() != (position != 0);
+  return IsUsable() && (Position() != position || ShowsAnother(*this));
 }
 
-void CheckRowView::MoveTo(int) { check_->click(); }
+void CheckRowView::MoveTo(int position) {
+  check_->setChecked(position == 0);
+  check_->click();
+}
 
 }  // namespace AdvancedControl

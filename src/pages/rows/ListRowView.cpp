@@ -106,9 +106,7 @@ bool ListRowView::AreSame(int position, int other) const {
 QString ListRowView::TextAt(int position) const { return list_->itemText(position); }
 
 bool ListRowView::CanMoveTo(int position) const {
-  // After a refused choice, the list may show an entry that the projector does not have.
-  const bool isShownOnly = memory.isKnown && memory.known != list_->currentIndex();
-  const bool isNews = position != list_->currentIndex() || isShownOnly;
+  const bool isNews = position != list_->currentIndex() || ShowsAnother(*this);
   return IsUsable() && isNews && position >= 0 && position < list_->count();
 }
 

@@ -63,6 +63,10 @@ void ShowRefusal(RowView& row, const QString& tried) {
   dialog.Say(row.memory.refusal);
 }
 
+bool ShowsAnother(const RowView& row) {
+  return row.memory.isKnown && row.memory.known != row.Position();
+}
+
 std::optional<int> WantedPosition(const RowView& row) {
   const WantedSettings* wanted = WantedOf(row);
   if (wanted == nullptr) return {};

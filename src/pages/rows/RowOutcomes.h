@@ -29,6 +29,9 @@ bool IsRefusedSince(const RowView& row, const CPjtInterface::Tally& before);
 /// the line beside Close and by a mark on the row, which stays until `Confirm`.
 void ShowRefusal(RowView& row, const QString& tried);
 
+/// Whether the row shows a position that the projector does not have, as after a refusal.
+bool ShowsAnother(const RowView& row);
+
 /// The position that the row should have now; nothing if any will do.
 std::optional<int> WantedPosition(const RowView& row);
 /// Whether the projector has another position than the wanted one.

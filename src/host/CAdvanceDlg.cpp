@@ -65,7 +65,7 @@ CAdvanceDlg::Parts::Parts(CAdvanceDlg& owner)
   connect(&strip, &ProjectorStrip::ReadAgain, &waiting, readAgain);
   AddShortcut(QKeySequence::Refresh, readAgain);
   AddShortcut(QKeySequence::Find, [this] {
-    if (pages.Tabs() == nullptr) return;
+    if (!dialog.IsCreated()) return;
     search.Start();
     frame.Place(Framed());
   });
@@ -253,6 +253,7 @@ void CAdvanceDlg::OnOrphaned() { projector_.CutOff(true); }
 
 void CAdvanceDlg::OnDestroy() {
   parts_->inputsWatch.stop();
+  parts_->search.Stop();
   auto& open = OpenDialogs();
   const auto self = std::ranges::find(open, this);
   if (self == open.end()) return;

@@ -165,6 +165,8 @@ void CAdvanceDlg::SetWanted(WantedSettings wanted) {
   parts_->wanted = std::move(wanted);
   for (CTabPage* page : parts_->pages.Created()) page->Reader().ShowNotes();
   parts_->pages.ShowDifferences();
+  if (ShownPage() == nullptr || !ShownPage()->Reader().LacksSourceOfWanted()) return;
+  IsBusy() ? parts_->waiting.OnStale() : parts_->ReadLater();
 }
 
 const WantedSettings* CAdvanceDlg::Wanted() const {
@@ -226,6 +228,7 @@ bool CAdvanceDlg::OnInitDialog() {
 
 void CAdvanceDlg::DispTabScreen() {
   parts_->pages.ShowSelected();
+  parts_->strip.ShowAge();
   if (parts_->reading || projector_.IsWaiting()) {
     parts_->waiting.OnStale();
     if (!HasPopUp()) Leave();

@@ -65,7 +65,7 @@ CAdvanceDlg::Parts::Parts(CAdvanceDlg& owner)
   connect(&strip, &ProjectorStrip::ReadAgain, &waiting, readAgain);
   AddShortcut(QKeySequence::Refresh, readAgain);
   AddShortcut(QKeySequence::Find, [this] {
-    if (pages.Tabs() == nullptr) return;
+    if (!dialog.IsCreated()) return;
     search.Start();
     frame.Place(Framed());
   });
@@ -165,6 +165,8 @@ void CAdvanceDlg::SetWanted(WantedSettings wanted) {
   parts_->wanted = std::move(wanted);
   for (CTabPage* page : parts_->pages.Created()) page->Reader().ShowNotes();
   parts_->pages.ShowDifferences();
+  if (ShownPage() == nullptr || !ShownPage()->Reader().LacksSourceOfWanted()) return;
+  IsBusy() ? parts_->waiting.OnStale() : parts_->ReadLater();
 }
 
 const WantedSettings* CAdvanceDlg::Wanted() const {
@@ -226,6 +228,7 @@ bool CAdvanceDlg::OnInitDialog() {
 
 void CAdvanceDlg::DispTabScreen() {
   parts_->pages.ShowSelected();
+  parts_->strip.ShowAge();
   if (parts_->reading || projector_.IsWaiting()) {
     parts_->waiting.OnStale();
     if (!HasPopUp()) Leave();
@@ -253,6 +256,7 @@ void CAdvanceDlg::OnOrphaned() { projector_.CutOff(true); }
 
 void CAdvanceDlg::OnDestroy() {
   parts_->inputsWatch.stop();
+  parts_->search.Stop();
   auto& open = OpenDialogs();
   const auto self = std::ranges::find(open, this);
   if (self == open.end()) return;

@@ -116,7 +116,9 @@ class ADVANCED_CONTROL_EXPORT CAdvanceDlg : public CDialog,
 
   /// Gives the settings that the projector should have: rows that have another value are marked,
   /// and offer to set it; without wanted settings nothing is marked. May be called at any time.
-  /// Values that the model's rows cannot show are ignored.
+  /// Values that the model's rows cannot show are ignored. If the shown page was read without
+  /// asking for the input source that a wanted value belongs to (the volume's), it is soon read
+  /// again.
   void SetWanted(AdvancedControl::WantedSettings wanted);
   /// The same with the settings of a snapshot.
   void SetWanted(const AdvancedControl::Snapshot& wanted);

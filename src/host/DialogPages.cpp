@@ -114,11 +114,14 @@ std::optional<PageId> DialogPages::PageIdOfTab(int tab) const {
 }
 
 void DialogPages::ShowSelected() {
-  for (CTabPage* page : Created()) page->hide();
   const auto selected = tabs_ != nullptr ? PageIdOfTab(tabs_->currentIndex()) : std::nullopt;
   shown_ = selected ? &Page(*selected) : nullptr;
   // The data of a closed dialog's next creation may have other pages than its tabs.
   if (shown_ != nullptr && shown_->Template() == nullptr) shown_ = nullptr;
+  // Hiding the page that stays would take the focus from its control.
+  for (CTabPage* page : Created()) {
+    if (page != shown_) page->hide();
+  }
   if (shown_ == nullptr) return;
   shown_->Reader().MarkUnread();
   shown_->show();

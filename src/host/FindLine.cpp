@@ -56,6 +56,13 @@ void FindLine::Start(std::vector<Place> places) {
   setFocus(Qt::ShortcutFocusReason);
 }
 
+void FindLine::Stop() {
+  places_.clear();
+  static_cast<QStringListModel*>(completer()->model())->setStringList({});
+  completer()->popup()->hide();
+  hide();
+}
+
 void FindLine::Choose(const QModelIndex& completion) {
   if (!completion.isValid()) return;
   const auto* shown = static_cast<const QAbstractProxyModel*>(completer()->completionModel());
@@ -64,7 +71,9 @@ void FindLine::Choose(const QModelIndex& completion) {
   completer()->popup()->hide();
   hide();
   // The list of completions must be closed before the tab is read.
-  QTimer::singleShot(0, this, [this, place] { Q_EMIT Found(place); });
+  QTimer::singleShot(0, this, [this, place] {
+    if (!places_.empty()) Q_EMIT Found(place);
+  });
 }
 
 // The list of completions passes its keys on to the line. Enter chooses the marked completion, or

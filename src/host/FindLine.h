@@ -32,6 +32,8 @@ class FindLine final : public QLineEdit {
 
   /// Shows the empty line for a search in `places`.
   void Start(std::vector<Place> places);
+  /// Hides the line, and finds nothing any more.
+  void Stop();
 
  Q_SIGNALS:
   void Found(const FindLine::Place& place);

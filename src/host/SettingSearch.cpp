@@ -27,6 +27,12 @@ void FocusOn(CDialog& dialog, int control) {
   }
 }
 
+// Whether the user works in another window of the program now.
+bool WorksElsewhere(const CDialog& dialog) {
+  const QWidget* active = QApplication::activeWindow();
+  return active != nullptr && active != dialog.window();
+}
+
 }  // namespace
 
 void SettingSearch::Start() {
@@ -63,6 +69,10 @@ void SettingSearch::Start() {
   line_->Start(std::move(places));
 }
 
+void SettingSearch::Stop() {
+  if (line_ != nullptr) line_->Stop();
+}
+
 // While the tab is being read, the user may close the dialog, select another tab, or search again.
 void SettingSearch::GoTo(const FindLine::Place& place) {
   CTabCtrl& tabs = *pages_.Tabs();
@@ -75,12 +85,15 @@ void SettingSearch::GoTo(const FindLine::Place& place) {
 }
 
 // The button's handler runs until the pop-up is closed. While the dialog is still reading, the
-// button does nothing, so it is tried again later.
+// button does nothing, so it is tried again later. A pop-up must not take the input from another
+// window.
 void SettingSearch::OpenPopUp(int button, int control, std::chrono::milliseconds delay) {
   auto* opener = qobject_cast<QAbstractButton*>(pages_.Shown()->GetDlgItem(button));
+  if (opener == nullptr) return;  // unreachable: the search ends with the pages that it knows
   QTimer::singleShot(delay, opener, [this, opener, button, control] {
     if (!opener->isVisible() || line_->isVisible()) return;
     if (dialog_.IsBusy()) return OpenPopUp(button, control, kLater);
+    if (WorksElsewhere(dialog_)) return;
     QTimer::singleShot(0, this, [this, control] {
       auto* popUp = qobject_cast<CDialog*>(QApplication::activeModalWidget());
       if (popUp != nullptr && popUp->Owner() != nullptr && popUp->Owner()->window() == &dialog_) {

@@ -22,6 +22,8 @@ class SettingSearch final : public QObject {
 
   /// Lets the user type the caption. Only after the pages were created.
   void Start();
+  /// Ends the search, because the dialog is closed and may get other pages.
+  void Stop();
   /// The line in which the user types; owned by the dialog, null until the first `Start`.
   FindLine* Line() const { return line_; }
 

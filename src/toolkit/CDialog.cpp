@@ -61,10 +61,12 @@ int CDialog::DoModal() {
   setWindowModality(Owner() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
   setResult(Rejected);
   if (!CreateShown([this] { CentreOnOwner(); })) return -1;
+  const int opening = Openings();
   // The dialog may have been closed while its first page was being read.
   const int result = IsCreated() ? exec() : QDialog::result();
   if (self == nullptr) return Rejected;
   ReturnOwner();
+  if (Openings() != opening) return result;  // a host was told of the end and opened it again
   hide();
   Destroy();  // the event loop may have ended without closing the dialog
   return result;

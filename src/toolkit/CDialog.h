@@ -25,8 +25,8 @@ class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
   Q_OBJECT
 
  public:
-  /// `owner` may be null: a modal dialog then belongs to the dialog opened last, or to the active
-  /// window.
+  /// `owner` may be null: a modal dialog then belongs to the window that `BelongTo` names, else to
+  /// the active window or the dialog opened last.
   explicit CDialog(int templateNumber, CWnd* owner = nullptr);
   ~CDialog() override;
 

@@ -46,8 +46,14 @@ OwnedDialog::OwnedDialog(int templateNumber, CWnd* owner)
 
 OwnedDialog::~OwnedDialog() { Destroy(); }
 
+QWidget* OwnedDialog::Owner() const {
+  if (parentWidget() != nullptr) return parentWidget();
+  return namedOwner_ != nullptr ? namedOwner_ : borrowedOwner_;
+}
+
 void OwnedDialog::Open() {
   life_ = Life::Open;
+  ++openings_;
   if (isWindow()) Windows().push_back(this);
   WatchOwner();
 }
@@ -63,14 +69,15 @@ void OwnedDialog::done(int result) {
   if (!isWindow()) return;
   ClosePopUps(*this);
   Leave();
+  const int opening = openings_;
   InputDialog::done(result);
-  Destroy();
+  if (openings_ == opening) Destroy();
 }
 
 bool OwnedDialog::HasPopUp() const { return !PopUpsOf(*this).empty(); }
 
 void OwnedDialog::BorrowOwner() {
-  if (parentWidget() != nullptr) return;
+  if (parentWidget() != nullptr || namedOwner_ != nullptr) return;
   const auto& open = Windows();
   QWidget* active = QApplication::activeWindow();
   const auto isActive = [active](const OwnedDialog* dialog) { return dialog == active; };
@@ -82,12 +89,12 @@ void OwnedDialog::BorrowOwner() {
   // The active window may still be the drop-down of a list in this dialog.
   const QObject* part = active;
   while (part != nullptr && part != this) part = part->parent();
-  owner_ = part == nullptr ? active : nullptr;
+  borrowedOwner_ = part == nullptr ? active : nullptr;
 }
 
 void OwnedDialog::ReturnOwner() {
-  owner_.clear();
-  if (parentWidget() == nullptr) disconnect(ownerDies_);
+  borrowedOwner_.clear();
+  if (Owner() == nullptr) disconnect(ownerDies_);
 }
 
 void OwnedDialog::WatchOwner() {

@@ -26,8 +26,13 @@ class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithN
   /// with false if you use `new` but keep the dialog in a smart pointer.
   void SetDeletedWithOwner(bool deleted) { deletedWithOwner_ = deleted; }
 
-  /// The parent, or the window to which a running dialog without a parent belongs; may be null.
-  QWidget* Owner() const { return parentWidget() != nullptr ? parentWidget() : owner_.data(); }
+  /// Names the window to which a dialog without a parent belongs; otherwise a modal dialog belongs
+  /// to the one that the user is working with. The window does not become the parent, because the
+  /// dialog belongs to its creator and must not die with it. To be called before the dialog opens.
+  void BelongTo(QWidget* owner) { namedOwner_ = owner; }
+
+  /// The parent, or the window to which a dialog without a parent belongs; may be null.
+  QWidget* Owner() const;
 
   /// Whether the dialog's window ended because its owner died. Reset when it is created again.
   bool IsOrphaned() const;
@@ -40,6 +45,9 @@ class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithN
 
   /// Opens the dialog, until it closes, its owner dies, or `Destroy` is called.
   void Open();
+  /// How often it was opened. A host that is told of the end may open it again before the code that
+  /// ended it goes on.
+  int Openings() const { return openings_; }
   /// Runs `OnDestroy` if the dialog is open. A class that overrides `OnDestroy` calls this in its
   /// destructor.
   void Destroy();
@@ -51,9 +59,7 @@ class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithN
   /// Handlers may still be running.
   virtual void OnOrphaned() {}
 
-  /// Makes the dialog that the user is working with the owner of a running dialog without a parent.
-  /// It does not become the parent, because the dialog belongs to its creator and must not die with
-  /// the owner.
+  /// Makes the dialog that the user is working with the owner of a running dialog that has none.
   void BorrowOwner();
   void ReturnOwner();
 
@@ -73,7 +79,9 @@ class ADVANCED_CONTROL_EXPORT OwnedDialog : public InputDialog, public MadeWithN
   bool deletedWithOwner_;
   bool deletionWaits_ = false;  // for running handlers
   Life life_ = Life::Closed;
-  QPointer<QWidget> owner_;  // borrowed
+  int openings_ = 0;
+  QPointer<QWidget> namedOwner_;
+  QPointer<QWidget> borrowedOwner_;
   QMetaObject::Connection ownerDies_;
 };
 

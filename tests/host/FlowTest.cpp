@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractItemView>
+
+#include "host/ProjectorStrip.h"
 #include "pages/rows/RowMarks.h"
 #include "tests/host/PacedDialog.h"
 #include "tests/support/Soon.h"
@@ -29,6 +32,7 @@ TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
       {"Esc", [this] { QTest::keyClick(Focused(), Qt::Key_Escape); }},
       {"window", [this] { dialog_.close(); }},
   };
+  const QLabel& age = *dialog_.findChild<ProjectorStrip*>()->findChildren<QLabel*>().last();
   for (const auto& [name, leave] : ways) {
     for (const std::string moment : {"opening", "refresh", "change"}) {
       SCOPED_TRACE(testing::Message() << name << " while " << moment);
@@ -36,6 +40,7 @@ TEST_F(FlowTest, ClosingActsAtOnceDuringReadsAndChangesAndSendsNothingMore) {
       projector_->Take();
       std::size_t sent = 0;
       InTheWait([&, &leave = leave] {
+        EXPECT_EQ(age.text().isEmpty(), moment != "change") << "the page was not read yet";
         sent = projector_->Take().size();
         leave();
         EXPECT_FALSE(dialog_.isVisible());
@@ -117,8 +122,11 @@ TEST_F(FlowTest, SourcesThatAreReplacedDuringAWaitAreReadAfterIt) {
   Open(kOtherTab);
   SourceList sources;
   AddSource(sources, 1, "Camera");
+  auto& list = Page().Item<CComboBox>(kInputSource);
   InTheWait([&] {
+    list.showPopup();
     dialog_.ReplaceSources(sources);
+    EXPECT_FALSE(list.view()->isVisible()) << "its entries are others now";
     projector_->Take();
     projector_->Pace(0ms);
   });

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/FindLine.h"
 #include "tests/host/PacedDialog.h"
 #include "tests/support/Soon.h"
 
@@ -37,9 +38,8 @@ TEST(Intake, EachFormAddsToThePreviousOne) {
   EXPECT_EQ(model.MySourceList, sources);
   EXPECT_EQ(model.AspectList, aspect);
   EXPECT_TRUE(model.GammaList == gamma && model.ColorTempList == colorTemp);
-  for (std::size_t i = 0; i < RangeIndex::Count; ++i) {
+  for (std::size_t i = 0; i < RangeIndex::Count; ++i)
     EXPECT_EQ(model.RangeTexts[i], i < 32 ? "r" + std::to_string(i) : "");
-  }
 
   dialog.CopyData("Old", 2, 0, nullptr, nullptr, nullptr, 0, nullptr, nullptr, 0, nullptr, nullptr,
                   0, nullptr, nullptr);
@@ -136,19 +136,32 @@ TEST_F(IntakeOfAnOpenDialog, TakesEffectAtTheNextCreation) {
   EXPECT_EQ(dialog_.Model().ModelName, "Later");
 }
 
-TEST_F(IntakeOfAnOpenDialog, OfAClosedOneMayHaveOtherPagesThanItsTabs) {
+TEST_F(IntakeOfAnOpenDialog, OfAClosedOneMayHaveOtherPagesThanItsTabsAndEndsASearch) {
   Open(1);
+  QTest::keyClick(&dialog_, Qt::Key_F, Qt::ControlModifier);
+  auto& line = *dialog_.findChild<FindLine*>();
+  QTest::keyClicks(&line, QStringLiteral("gamma point"));
+  QTest::keyClick(&line, Qt::Key_Return);
   dialog_.close();
-  for (const int type : {3, 0}) {
+  for (const int type : {0, 3}) {
     dialog_.CopyData("Other", type, 0, nullptr, nullptr, nullptr, 0, nullptr, nullptr, 0, nullptr,
                      nullptr, 0, nullptr, nullptr);
     dialog_.SetWanted(WantedSettings());
     dialog_.DispTabScreen();
     EXPECT_EQ(dialog_.ShownPage(), nullptr);
     dialog_.show();
-    QTest::keyClick(&dialog_, Qt::Key_F, Qt::ControlModifier);
     dialog_.hide();
   }
+  Open();
+  EXPECT_FALSE(line.isVisible());
+  line.show();
+  QTest::keyClick(&line, Qt::Key_Return);
+  QTest::qWait(0);
+  EXPECT_EQ(Tabs().currentIndex(), 0) << "what it found before is forgotten";
+  dialog_.close();
+  Activate(dialog_);
+  QTest::keyClick(&dialog_, Qt::Key_F, Qt::ControlModifier);
+  EXPECT_FALSE(line.isVisible()) << "a closed dialog has nothing to find";
 }
 
 }  // namespace

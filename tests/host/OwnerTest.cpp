@@ -67,8 +67,7 @@ class Host {
   void LetDie() {
     sentAtDeath_ = projector->sent;
     waitedAtDeath_ = projector->waiting;
-    if (!later_) return delete owner_;
-    owner_->deleteLater();
+    later_ ? owner_->deleteLater() : delete owner_;
   }
 
   void Die(CAdvanceDlg& dialog, Moment moment) {

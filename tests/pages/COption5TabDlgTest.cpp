@@ -46,7 +46,7 @@ TEST(OptionType5, WithoutAListOfTheModelTheTemplatesFunctionsAreUsed) {
 }
 
 // A source's code is the low half of its word. For this read, any result but 0 is a success.
-TEST(OptionType5, MySourceAcceptsAnyResultOfARead) {
+TEST(OptionType5, MySourceAcceptsAnyResultOfAReadAndTakesOtherSources) {
   OptionPage open(49);
   const DialogDriver driver = open.Driver();
   open.Projector().AnswerResult("Get 0x3620", 2);
@@ -55,16 +55,12 @@ TEST(OptionType5, MySourceAcceptsAnyResultOfARead) {
     open.Page().InitDisp();
     EXPECT_EQ(driver.Selected(20374), position);
   }
-}
-
-TEST(OptionType5, AnOpenDialogTakesOtherSources) {
-  OptionPage open(49);
   open.Projector().Answer("Get 0x3620", 3);
   SourceList sources;
   AddSource(sources, 0x50003, "Camera");
   open.Dialog().ReplaceSources(sources);
-  EXPECT_EQ(open.Driver().Entries(20374), QStringList{"Camera"});
-  EXPECT_EQ(open.Driver().Selected(20374), 0) << "it is read again";
+  EXPECT_EQ(driver.Entries(20374), QStringList{"Camera"});
+  EXPECT_EQ(driver.Selected(20374), 0) << "it is read again";
 }
 
 TEST(OptionType5, ServiceOpensForTheModelOnTheSameProjector) {

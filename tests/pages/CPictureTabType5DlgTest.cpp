@@ -30,9 +30,8 @@ struct PictureTest : testing::Test {
 TEST_F(PictureTest, TheButtonAfterANumberDoesWhatTheListOfResetsDoes) {
   const auto visible = [&] {
     std::vector<QToolButton*> buttons;
-    for (auto* button : open.Page().findChildren<QToolButton*>()) {
+    for (auto* button : open.Page().findChildren<QToolButton*>())
       if (button->isVisible()) buttons.push_back(button);
-    }
     return buttons;
   };
   const auto hover = [&](int control) {
@@ -146,12 +145,12 @@ TEST(PicturePages, ShowTheMiddleAndNoEntryBeforeTheFirstRead) {
   }
 }
 
-TEST(PicturePages, APopUpBelongsToTheDialogInUse) {
+TEST(PicturePages, APopUpBelongsToItsDialogAlsoIfAnotherOneIsInUse) {
   CModelInfo2 wide = PictureModel();
   wide.RangeText(RangeIndex::GammaPoint) = "78,178";
   OpenDialog first(wide, 1, kCustom);
   OpenDialog second(PictureModel(), 1, kCustom);
-  Activate(first.Dialog());
+  Activate(second.Dialog());
   WhenModal("CGammaDlg", [&](CDialog& dialog) {
     EXPECT_EQ(dialog.Owner(), &first.Dialog());
     EXPECT_EQ(dialog.Item<QSlider>(20181).maximum(), 50);

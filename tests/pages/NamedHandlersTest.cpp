@@ -70,70 +70,56 @@ void ExpectOwnControls(int tab, const Handlers<Page>& handlers) {
 
 #define BUTTON(name) &Page::OnBnClicked##name
 #define LIST(name) &Page::OnCbnSelchange##name
+#define TEST_HANDLERS(PageClass, tab, ...)       \
+  TEST(NamedHandlers, PageClass) {               \
+    using Page = PageClass;                      \
+    ExpectOwnControls<Page>(tab, {__VA_ARGS__}); \
+  }
 
-TEST(NamedHandlers, Picture5) {
-  using Page = CPictureTabType5Dlg;
-  ExpectOwnControls<Page>(
-      1, {BUTTON(PicBgnBtn), BUTTON(PicBgpBtn), BUTTON(PicCnnBtn), BUTTON(PicCnpBtn), nullptr,
-          nullptr, nullptr, nullptr, BUTTON(PicClrnBtn), BUTTON(PicClrpBtn), BUTTON(PicTintnBtn),
-          BUTTON(PicTintpBtn), BUTTON(PicShpnBtn), BUTTON(PicShppBtn), LIST(Pic5ActilisCombo),
-          nullptr, BUTTON(PicMyldBtn), nullptr, BUTTON(PicRstBtn)});
-}
+TEST_HANDLERS(CPictureTabType5Dlg, 1, BUTTON(PicBgnBtn), BUTTON(PicBgpBtn), BUTTON(PicCnnBtn),
+              BUTTON(PicCnpBtn), nullptr, nullptr, nullptr, nullptr, BUTTON(PicClrnBtn),
+              BUTTON(PicClrpBtn), BUTTON(PicTintnBtn), BUTTON(PicTintpBtn), BUTTON(PicShpnBtn),
+              BUTTON(PicShppBtn), LIST(Pic5ActilisCombo), nullptr, BUTTON(PicMyldBtn), nullptr,
+              BUTTON(PicRstBtn))
 
-TEST(NamedHandlers, Input5) {
-  using Page = CInputType5Dlg;
-  ExpectOwnControls<Page>(
-      3,
-      {LIST(Input5ProgComb), LIST(Input5VidnrComb), LIST(Input53dycsComb), LIST(Input5CospsComb),
-       LIST(Input5CompoComb), LIST(Input5CvidfmtComb), LIST(Input5SvidfmtComb),
-       LIST(Input5HdmiComb), LIST(Input5M1dComb), LIST(Input5FrlckCombo),
-       LIST(Input5Framelockrgb1Comb), LIST(Input5Framelockcomp1Comb), LIST(Input5Framelockrgb2Comb),
-       LIST(Input5Framelockcomp2Comb), LIST(Input5FramelockhdmiComb), LIST(Input5Rgbin1Comb),
-       LIST(Input5Computerin1Comb), LIST(Input5Rgbin2Comb), LIST(Input5Computerin2Comb)});
-}
+TEST_HANDLERS(CInputType5Dlg, 3, LIST(Input5ProgComb), LIST(Input5VidnrComb), LIST(Input53dycsComb),
+              LIST(Input5CospsComb), LIST(Input5CompoComb), LIST(Input5CvidfmtComb),
+              LIST(Input5SvidfmtComb), LIST(Input5HdmiComb), LIST(Input5M1dComb),
+              LIST(Input5FrlckCombo), LIST(Input5Framelockrgb1Comb), LIST(Input5Framelockcomp1Comb),
+              LIST(Input5Framelockrgb2Comb), LIST(Input5Framelockcomp2Comb),
+              LIST(Input5FramelockhdmiComb), LIST(Input5Rgbin1Comb), LIST(Input5Computerin1Comb),
+              LIST(Input5Rgbin2Comb), LIST(Input5Computerin2Comb))
 
-TEST(NamedHandlers, Setup5) {
-  using Page = CSetupType5TabDlg;
-  ExpectOwnControls<Page>(
-      4, {BUTTON(Stu5Btnatks), BUTTON(Stu5Btksvneg), BUTTON(Stu5Btksvpos), BUTTON(Stu5Btkshneg),
-          BUTTON(Stu5Btkshpos), LIST(Stu5Wspcomb), LIST(Stu5Mircomb), BUTTON(Stu5Btvolneg),
-          BUTTON(Stu5Btvolpos), LIST(Stu5Speakercomb), BUTTON(DzoomDecBtn), BUTTON(DzoomIncBtn),
-          BUTTON(DshiftUpBtn), BUTTON(DshiftDownBtn), BUTTON(DshiftLeftBtn), BUTTON(DshiftRightBtn),
-          nullptr, BUTTON(Stu5Btreset),
-          // The right column.
-          LIST(Stu5Argb1comb), LIST(Stu5Acomp1comb), LIST(Stu5Argb2comb), LIST(Stu5Acomp2comb),
-          LIST(Stu5Ahdmicomb), LIST(Stu5Avidcomb), LIST(Stu5Asvidcomb), LIST(Stu5Acompcomb),
-          LIST(Stu5Amiucomb), LIST(Stu5HdmiaudioComb), nullptr, LIST(CombMonitoroutRgb1),
-          LIST(CombMonitoroutComputer1), LIST(CombMonitoroutRgb2), LIST(CombMonitoroutComputer2),
-          LIST(CombMonitoroutHdmi), LIST(CombMonitoroutComponent), LIST(CombMonitoroutSvideo),
-          LIST(CombMonitoroutVideo), LIST(CombMonitoroutMiu), LIST(CombMonitoroutStandby)});
-}
+TEST_HANDLERS(CSetupType5TabDlg, 4, BUTTON(Stu5Btnatks), BUTTON(Stu5Btksvneg), BUTTON(Stu5Btksvpos),
+              BUTTON(Stu5Btkshneg), BUTTON(Stu5Btkshpos), LIST(Stu5Wspcomb), LIST(Stu5Mircomb),
+              BUTTON(Stu5Btvolneg), BUTTON(Stu5Btvolpos), LIST(Stu5Speakercomb),
+              BUTTON(DzoomDecBtn), BUTTON(DzoomIncBtn), BUTTON(DshiftUpBtn), BUTTON(DshiftDownBtn),
+              BUTTON(DshiftLeftBtn), BUTTON(DshiftRightBtn), nullptr, BUTTON(Stu5Btreset),
+              // The right column.
+              LIST(Stu5Argb1comb), LIST(Stu5Acomp1comb), LIST(Stu5Argb2comb), LIST(Stu5Acomp2comb),
+              LIST(Stu5Ahdmicomb), LIST(Stu5Avidcomb), LIST(Stu5Asvidcomb), LIST(Stu5Acompcomb),
+              LIST(Stu5Amiucomb), LIST(Stu5HdmiaudioComb), nullptr, LIST(CombMonitoroutRgb1),
+              LIST(CombMonitoroutComputer1), LIST(CombMonitoroutRgb2),
+              LIST(CombMonitoroutComputer2), LIST(CombMonitoroutHdmi),
+              LIST(CombMonitoroutComponent), LIST(CombMonitoroutSvideo), LIST(CombMonitoroutVideo),
+              LIST(CombMonitoroutMiu), LIST(CombMonitoroutStandby))
 
-TEST(NamedHandlers, Audio5) {
-  using Page = CAudioType5Dlg;
-  ExpectOwnControls<Page>(
-      5, {BUTTON(Aud5Btnvolneg), BUTTON(Aud5Btnvolpos), BUTTON(Aud5Btntreneg),
-          BUTTON(Aud5Btntrepos), BUTTON(Aud5Btnbasneg), BUTTON(Aud5Btnbaspos),
-          // Lists.
-          LIST(Aud5Srswcomb), LIST(Aud5Spekcomb), LIST(Aud5Argb1comb), LIST(Aud5Acomp1comb),
-          LIST(Aud5Argb2comb), LIST(Aud5Acomp2comb), LIST(Aud5Am1dcomb), LIST(Aud5Ahdmicomb),
-          LIST(Aud5Avidcomb), LIST(Aud5Asvidcomb), LIST(Aud5Acompcomb), LIST(Aud5Amiucomb),
-          LIST(Aud5Aoutstbcomb), LIST(Aud5Hdmiaudiocomb)});
-}
+TEST_HANDLERS(CAudioType5Dlg, 5, BUTTON(Aud5Btnvolneg), BUTTON(Aud5Btnvolpos),
+              BUTTON(Aud5Btntreneg), BUTTON(Aud5Btntrepos), BUTTON(Aud5Btnbasneg),
+              BUTTON(Aud5Btnbaspos),
+              // Lists.
+              LIST(Aud5Srswcomb), LIST(Aud5Spekcomb), LIST(Aud5Argb1comb), LIST(Aud5Acomp1comb),
+              LIST(Aud5Argb2comb), LIST(Aud5Acomp2comb), LIST(Aud5Am1dcomb), LIST(Aud5Ahdmicomb),
+              LIST(Aud5Avidcomb), LIST(Aud5Asvidcomb), LIST(Aud5Acompcomb), LIST(Aud5Amiucomb),
+              LIST(Aud5Aoutstbcomb), LIST(Aud5Hdmiaudiocomb))
 
-TEST(NamedHandlers, OptionType5) {
-  using Page = COption5TabDlg;
-  ExpectOwnControls<Page>(
-      6, {LIST(Opt5Atseacomb), LIST(Opt5Atkscomb), LIST(Opt5Atoncomb), BUTTON(Opt5Btnatoffneg),
-          BUTTON(Opt5Btnatoffpos), LIST(Opt5Mybtn1comb), LIST(Opt5Mybtn2comb), nullptr, nullptr,
-          LIST(Oth4CcdisplayComb), LIST(Oth4CcmodeComb), LIST(Oth4CcchannelComb)});
-}
+TEST_HANDLERS(COption5TabDlg, 6, LIST(Opt5Atseacomb), LIST(Opt5Atkscomb), LIST(Opt5Atoncomb),
+              BUTTON(Opt5Btnatoffneg), BUTTON(Opt5Btnatoffpos), LIST(Opt5Mybtn1comb),
+              LIST(Opt5Mybtn2comb), nullptr, nullptr, LIST(Oth4CcdisplayComb), LIST(Oth4CcmodeComb),
+              LIST(Oth4CcchannelComb))
 
-TEST(NamedHandlers, Service) {
-  using Page = CServiceDlg;
-  ExpectOwnControls<Page>(
-      0, {LIST(SvcAtadjenbcomb), BUTTON(SvcIrfrontchk), BUTTON(SvcIrrearchk), BUTTON(SvcIrtopchk),
-          LIST(SvcIrfreqncomb), LIST(SvcIrfreqhcomb), LIST(SvcFocuslockcomb)});
-}
+TEST_HANDLERS(CServiceDlg, 0, LIST(SvcAtadjenbcomb), BUTTON(SvcIrfrontchk), BUTTON(SvcIrrearchk),
+              BUTTON(SvcIrtopchk), LIST(SvcIrfreqncomb), LIST(SvcIrfreqhcomb),
+              LIST(SvcFocuslockcomb))
 
 }  // namespace

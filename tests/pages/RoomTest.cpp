@@ -142,9 +142,8 @@ TEST_P(ScreenSizeTest, NothingIsClippedOrOutOfReachAtAnyFontSize) {
 std::vector<std::string> Locales() {
   if (!qEnvironmentVariableIsSet("TEST_LANGUAGES")) return {"en_US.UTF-8", "zh_CN.UTF-8"};
   std::vector<std::string> locales;
-  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders())) {
+  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders()))
     locales.push_back(LocaleOf(language.id));
-  }
   return locales;
 }
 

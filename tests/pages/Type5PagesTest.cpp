@@ -35,20 +35,14 @@ struct Type5Page : OpenDialog {
   MessageBoxes boxes;
 };
 
-TEST(Input5, CaptionsAreLocalizedEvenForAModelWithoutRows) {
+TEST(Input5, CaptionsAreLocalizedWithoutRowsAndNeverGreyed) {
   EXPECT_EQ(Type5Page(kInputTab, 47).driver.Text(20500), "Progressive");
-}
-
-TEST(Input5, TheCaptionOfAnUnreadableListIsNotGreyed) {
   Type5Page page(kInputTab, 54, {{"GetProgressive", -1}});
   EXPECT_FALSE(page.driver.Item<QWidget>(20294).isEnabled());
   for (const int caption : {20500, 20508})
     EXPECT_TRUE(page.driver.Item<QWidget>(caption).isEnabled());
   static_cast<CInputType5Dlg&>(page.Page()).Init();
   EXPECT_FALSE(page.projector.Take().empty());
-}
-
-TEST(Input5, VideoFormatsHavePositions) {
   EXPECT_EQ(CInputType5Dlg::VideoFmtToIdx(7), 6);
   EXPECT_EQ(CInputType5Dlg::VideoFmtToIdx(-1), -1) << "the table's end is none of its values";
 }

@@ -31,9 +31,8 @@ TEST_F(AccessTest, AListHasItsDropDownAndThatHasTheEntries) {
   EXPECT_EQ(list.indexOfChild(&dropDown), 0);
   EXPECT_TRUE(list.indexOfChild(&one) == -1 && dropDown.indexOfChild(&list) == -1);
   EXPECT_EQ(list.child(1), nullptr);
-  for (const int position : {0, 1, 2}) {
+  for (const int position : {0, 1, 2})
     EXPECT_EQ(dropDown.indexOfChild(dropDown.child(position)), position);
-  }
   EXPECT_EQ(one.text(QAccessible::Name), QStringLiteral("One"));
   EXPECT_TRUE(list.state().hasPopup && list.state().expandable);
   EXPECT_TRUE(one.text(QAccessible::Value).isEmpty());

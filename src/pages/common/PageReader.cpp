@@ -22,6 +22,42 @@ bool ShowsSetting(const RowView& row) {
          !std::holds_alternative<PopUpRow>(row.Row());
 }
 
+// A setting may be kept for each input source although reading it names none.
+bool IsOfCurrentSourceOnly(const RowView& row) {
+  const auto* value = std::get_if<ValueRow>(&row.Row());
+  return value != nullptr && value->ofCurrentSourceOnly;
+}
+
+// Only a wanted value needs to know the source of such a setting.
+bool WantsSource(const RowView& row) {
+  const WantedSettings* wanted = row.Host().Dialog().Context().Wanted();
+  return row.memory.present && IsOfCurrentSourceOnly(row) && wanted != nullptr &&
+         wanted->Names(KeyOf(row.Row()));
+}
+
+void FindSourceOfWanted(RowView& row) {
+  const SettingsDialog& dialog = row.Host().Dialog();
+  if (IsOfCurrentSourceOnly(row)) row.memory.source.reset();  // it may have changed
+  if (!WantsSource(row)) return;
+  row.memory.source = AskSource(*dialog.projector, OfSource::Current, dialog.Model().ModelCode);
+  row.Host().ShowNotes(row);
+}
+
+// How many commands a reading sends if each row that depends on a source sends one.
+int CountReads(const PageReader::Rows& rows, const ModelData& model) {
+  int count = 0;
+  OfSource asked = OfSource::None;
+  for (const auto& row : rows) {
+    if (!row->memory.present) continue;
+    const OfSource of = SourceOf(row->Row());
+    if (of != OfSource::None && std::exchange(asked, of) != of) {
+      count += static_cast<int>(SourceQuestions(of).size());
+    }
+    count += of != OfSource::None || ReadingOf(row->Row(), model);
+  }
+  return count;
+}
+
 }  // namespace
 
 PageReader::PageReader(const PageTable& table, RowHost& host, const Rows& rows)
@@ -51,23 +87,14 @@ PageReader::Reading::~Reading() {
   if (isAnswered) reader_.sinceRead_.start();
 }
 
+void PageReader::Restart() {
+  notes_.Clear();
+  sinceRead_.invalidate();
+}
+
 void PageReader::MarkUnread() {
   for (const auto& row : rows_) row->memory.unread = row->memory.present && ShowsSetting(*row);
   if (veil_ != nullptr) UpdateVeil();
-}
-
-int PageReader::CountReads() const {
-  int count = 0;
-  OfSource asked = OfSource::None;
-  for (const auto& row : rows_) {
-    if (!row->memory.present) continue;
-    const OfSource of = SourceOf(row->Row());
-    if (of != OfSource::None && std::exchange(asked, of) != of) {
-      count += static_cast<int>(SourceQuestions(of).size());
-    }
-    count += of != OfSource::None || ReadingOf(row->Row(), host_.Dialog().Model());
-  }
-  return count;
 }
 
 // The reads from row `first` on that can be announced together. They end with the question for a
@@ -119,22 +146,13 @@ void PageReader::ReadAll() {
     if (projector.IsAbandoned()) return;
   }
   for (const auto& row : rows_) row->OnPageRead();
-  FindSourceOfWanted();
+  for (const auto& row : rows_) FindSourceOfWanted(*row);
 }
 
-// A setting may be kept for each input source although reading it names none. Only a wanted value
-// needs to know the source.
-void PageReader::FindSourceOfWanted() {
-  const WantedSettings* wanted = host_.Dialog().Context().Wanted();
-  if (wanted == nullptr) return;
-  for (const auto& row : rows_) {
-    const auto* value = std::get_if<ValueRow>(&row->Row());
-    if (!row->memory.present || value == nullptr || !value->ofCurrentSourceOnly) continue;
-    if (!wanted->Names(value->key)) continue;
-    row->memory.source =
-        AskSource(Projector(), OfSource::Current, host_.Dialog().Model().ModelCode);
-    notes_.Show(*row);
-  }
+bool PageReader::LacksSourceOfWanted() const {
+  return std::ranges::any_of(rows_, [](const auto& row) {
+    return row->memory.isKnown && !row->memory.source && WantsSource(*row);
+  });
 }
 
 void PageReader::ShowNotes() {
@@ -198,7 +216,7 @@ QString PageReader::WaitingText() const {
   if (readings_ == 0) return CatalogString(kListCategory, ListText::Waiting);
   const int next = Projector().Sent().commands - sentBefore_.commands + 1;
   return CatalogString(kListCategory, ListText::Reading, std::int64_t{next},
-                       std::int64_t{std::max(next, CountReads())});
+                       std::int64_t{std::max(next, CountReads(rows_, host_.Dialog().Model()))});
 }
 
 void PageReader::ShowWaiting(bool waiting) {

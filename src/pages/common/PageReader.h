@@ -57,24 +57,28 @@ class PageReader {
   /// The progress of the reading, as a text for the user.
   QString WaitingText() const;
 
+  /// Forgets the marks and the time of the last reading, because the dialog has made new controls.
+  void Restart();
+
   RowNotes& Notes() { return notes_; }
   /// Shows the notes of all rows anew, because the wanted values have changed.
   void ShowNotes();
+  /// Whether a wanted value cannot be compared before the page is read again, because it belongs to
+  /// an input source that the last reading did not ask for.
+  bool LacksSourceOfWanted() const;
   /// How many rows have another value than the wanted one.
   int Differences() const;
   /// The same for rows that were not read, with the values that the host has last seen.
   int DifferencesWhenSeen() const;
-  /// The time since the last reading that was complete and answered; nothing before the first one.
+  /// The time since the last reading that was complete and answered; nothing before the first one
+  /// since the dialog was created.
   std::optional<std::chrono::milliseconds> SinceRead() const;
 
  private:
   CPjtInterface& Projector() const;
-  /// How many commands a reading sends if each row that depends on a source sends one.
-  int CountReads() const;
   std::vector<PjtCommand> ReadsFrom(std::size_t first, OfSource known, Source source) const;
   void Read(RowView& row, Source source, const CPjtInterface::Tally& before);
   void UpdateVeil();
-  void FindSourceOfWanted();
 
   RowHost& host_;
   const Rows& rows_;

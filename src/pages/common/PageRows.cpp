@@ -96,8 +96,10 @@ void PageRows::RefillLists(const ModelData& before) {
   for (const auto& row : views_) {
     const auto* list = std::get_if<ListRow>(&row->Row());
     if (list == nullptr || list->entries.Of(before) == list->entries.Of(model)) continue;
+    auto& entries = host_.Dialog().Item<CComboBox>(list->control);
+    entries.hidePopup();  // the user might choose another entry than the one seen
     row->Prepare();
-    host_.Dialog().Item<CComboBox>(list->control).UpdateWidth();
+    entries.UpdateWidth();
   }
 }
 

@@ -56,7 +56,7 @@ const NotificationMap& RowDialog::Notifications() const {
 
 void RowDialog::DoDataExchange() {
   resets_.Clear();
-  reader_.Notes().Clear();
+  reader_.Restart();
   rows_.Bind();
 }
 

@@ -49,12 +49,14 @@ void PicturePage::OnCbnSelchangePicCctComb() {
 
 void PicturePage::OnBnClickedPicGammaBtn() {
   CGammaDlg dialog(hideResets_, nullptr);
+  dialog.BelongTo(window());
   dialog.projector = projector;
   dialog.DoModal();
 }
 
 void PicturePage::OnBnClickedPicColorBtn() {
   CColorDlg dialog(hideResets_, nullptr);
+  dialog.BelongTo(window());
   dialog.projector = projector;
   dialog.DoModal();
 }

@@ -179,14 +179,14 @@ void SearchDriver::Start() {
 
 void SearchDriver::LookUpNames() {
   const std::set<std::string> names(options_.hostNames.begin(), options_.hostNames.end());
-  lookUps_ = names.size();
-  lookUpEnd_.setRemainingTime(options_.lookUps);
+  lookUps_.underWay = names.size();
+  lookUps_.end.setRemainingTime(options_.lookUps);
   for (const std::string& name : names) {
     QHostInfo::lookupHost(QString::fromStdString(name), &context_,
                           [this, name](const QHostInfo& found) {
-                            --lookUps_;
+                            --lookUps_.underWay;
                             for (const QHostAddress& address : found.addresses()) {
-                              hostNames_[address].push_back(name);
+                              lookUps_.names[address].push_back(name);
                             }
                           });
   }
@@ -225,7 +225,7 @@ void SearchDriver::Enqueue(const QHostAddress& address, const std::string& mac) 
 }
 
 void SearchDriver::BeginVisits() {
-  if (lookUps_ > 0 && !lookUpEnd_.hasExpired()) return;
+  if (lookUps_.underWay > 0 && !lookUps_.end.hasExpired()) return;
   constexpr double kMilliseconds = 1000;
   allowance_ = std::min(allowance_ + options_.perSecond * kPace / kMilliseconds,
                         std::max(1.0, options_.perSecond * kPace / kMilliseconds));
@@ -248,7 +248,7 @@ void SearchDriver::End(Visit* visit) {
   ++done_;
   if (kept->Inquiry().HasFound()) {
     FoundProjector found = kept->Inquiry().Found();
-    found.hostNames = hostNames_.value(QHostAddress(QString::fromStdString(found.address)));
+    found.hostNames = lookUps_.names.value(QHostAddress(QString::fromStdString(found.address)));
     onFound_(found);
   }
   QTimer::singleShot(0, &context_, [kept] {});

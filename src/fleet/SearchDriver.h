@@ -90,9 +90,11 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
   std::unique_ptr<QUdpSocket> datagrams_;
   std::deque<FoundProjector> waiting_;
   QSet<QHostAddress> known_;
-  QHash<QHostAddress, std::vector<std::string>> hostNames_;
-  std::size_t lookUps_ = 0;  // under way
-  QDeadlineTimer lookUpEnd_;
+  struct LookUps {
+    std::size_t underWay = 0;
+    QDeadlineTimer end{};
+    QHash<QHostAddress, std::vector<std::string>> names{};
+  } lookUps_;
   std::vector<std::unique_ptr<Visit>> visits_;
   double allowance_ = 0;  // connections that may begin now
   std::size_t done_ = 0;

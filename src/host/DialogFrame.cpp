@@ -39,6 +39,7 @@ void DialogFrame::FitToPages(const Parts& parts) {
   wholeSize_ = {width, height};
   dialog_.setMinimumSize(wholeSize_ / 3);
   dialog_.resize(FittedToScreen(dialog_, wholeSize_));
+  Place(parts);  // a dialog that is created again keeps its size
 }
 
 void DialogFrame::Place(const Parts& parts) const {

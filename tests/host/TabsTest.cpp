@@ -188,12 +188,14 @@ TEST(Keyboard, CyclesThroughTheTabsAndClosesTheDialogButNeverHidesItsPage) {
   EXPECT_EQ(tabs.currentIndex(), tabs.count() - 1);
   press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(tabs.currentIndex(), tabs.count() - 2);
+  const QRect close = dialog.GetDlgItem(1)->geometry();
   QTest::mouseClick(dialog.GetDlgItem(1), Qt::LeftButton);
   for (const auto& [key, modifiers, onPage] : {std::tuple{Qt::Key_Return, Qt::NoModifier, false},
                                                {Qt::Key_C, Qt::AltModifier, true},
                                                {Qt::Key_Escape, Qt::NoModifier, true}}) {
     SCOPED_TRACE(key);
     ASSERT_TRUE(dialog.Create());
+    EXPECT_EQ(dialog.GetDlgItem(1)->geometry(), close);
     Activate(dialog);
     open.SelectTab(1);
     (onPage ? open.Page().GetDlgItem(20142) : dialog.GetDlgItem(1))->setFocus();

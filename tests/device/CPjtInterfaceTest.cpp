@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <tuple>
-#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -144,7 +143,7 @@ TEST(CPjtInterfaceTest, AbandonsOnlyWhatWaits) {
     EXPECT_TRUE(p.Abandon());
   };
   EXPECT_EQ(p.SetColor(1), 1);
-  EXPECT_EQ(std::pair(channel->abandoned, next->abandoned), std::pair(2, 1));
+  EXPECT_EQ(std::tuple(channel->abandoned, next->abandoned), std::tuple(2, 1));
 }
 
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <utility>
+#include <vector>
 
 #include "device/Connect.h"
 #include "device/DropException.h"
@@ -38,7 +39,8 @@ void Guarded(const auto& act) {
 }  // namespace
 
 struct CPjtInterface::Traffic {
-  int waiting = 0;
+  /// The channel of each waiting command, the innermost last; the object may have another by now.
+  std::vector<std::shared_ptr<ProjectorChannel>> waiting;
   int abandoned = 0;
   Tally sent;
 };
@@ -109,9 +111,9 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
   PjtReply reply{.result = RefusedResult(command.operation), .answered = false, .unsent = true};
   if (channel && !cutOff_ && traffic->abandoned == 0) {
     reply.unsent = false;
-    ++traffic->waiting;
+    traffic->waiting.push_back(channel);
     Guarded([&] { reply = channel->Execute(command); });
-    --traffic->waiting;
+    traffic->waiting.pop_back();
   }
   ++traffic->sent.commands;
   traffic->sent.unanswered += !reply.answered && traffic->abandoned == 0;
@@ -126,12 +128,13 @@ PjtReply CPjtInterface::Execute(const PjtCommand& command) const {
 std::shared_ptr<const void> CPjtInterface::Abandon() {
   const std::shared_ptr<Traffic> traffic = traffic_.now;
   ++traffic->abandoned;
-  if (IsWaiting() && channel_) Guarded([this] { channel_->Abandon(); });
+  const auto waiting = traffic->waiting;  // a channel of the host may run anything
+  for (const auto& channel : waiting) Guarded([&] { channel->Abandon(); });
   return {traffic.get(), [traffic](const void*) { --traffic->abandoned; }};
 }
 
 bool CPjtInterface::IsAbandoned() const { return traffic_.now->abandoned > 0; }
-bool CPjtInterface::IsWaiting() const { return traffic_.now->waiting > 0; }
+bool CPjtInterface::IsWaiting() const { return !traffic_.now->waiting.empty(); }
 CPjtInterface::Tally CPjtInterface::Sent() const { return traffic_.now->sent; }
 
 void CPjtInterface::AllowRetry() {

@@ -30,7 +30,9 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   ~CPjtInterface();
 
   /// Sets the host's channel, which replaces the object's own, whether it is set before or after
-  /// the connection parameters. Null removes the channel until `CopyData` is called again.
+  /// the connection parameters. Null removes the channel until `CopyData` is called again. A
+  /// command that waits in the channel before keeps waiting for its reply; `Abandon` ends that wait
+  /// too.
   void SetChannel(std::shared_ptr<AdvancedControl::ProjectorChannel> channel);
   const std::shared_ptr<AdvancedControl::ProjectorChannel>& Channel() const { return channel_; }
 
@@ -149,9 +151,9 @@ class PROJECTOR_COMMON_EXPORT CPjtInterface {
   /// Announces to the channel which reads are about to follow, in this order.
   void Announce(std::span<const AdvancedControl::PjtCommand> reads) const;
 
-  /// Abandons the work under way: the waiting command ends at once, and as long as the returned
-  /// object lives, every command is unanswered without being sent. The returned object may outlive
-  /// this one. Called from inside the event loop of a waiting command.
+  /// Abandons the work under way: the waiting command ends at once, whichever channel it waits in,
+  /// and as long as the returned object lives, every command is unanswered without being sent. The
+  /// returned object may outlive this one. Called from inside the event loop of a waiting command.
   [[nodiscard]] std::shared_ptr<const void> Abandon();
   bool IsAbandoned() const;
   /// Whether a command of this object is under way.

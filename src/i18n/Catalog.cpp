@@ -175,7 +175,9 @@ int LoadCatalog() {
 
 int LoadCatalog(std::span<const std::string> folders) {
   ReleaseCatalog();
-  const bool chinese = SystemLanguageId() == kChineseSimplified || MarkerExists(kChineseMarker);
+  const std::uint32_t language = SystemLanguageId();
+  const bool chinese = language == kChineseSimplified || language == kChineseSingapore ||
+                       MarkerExists(kChineseMarker);
   const char* module = chinese ? "mcschn.dll" : "mcdll.dll";
   Problem().clear();
   std::string looked;

@@ -23,7 +23,8 @@ constexpr std::uint32_t MessageId(int category, int number) {
 }
 
 /// Loads the catalog module of the system language in place of any loaded before: "mcschn.dll" for
-/// Simplified Chinese or if the current directory contains a file "GETSCH", else "mcdll.dll".
+/// Simplified Chinese (2052 and 4100) or if the current directory contains a file "GETSCH", else
+/// "mcdll.dll".
 ///
 /// The module is the first file of that name beside this library, beside the application, in
 /// "../share/advanced-control" or "../../share/advanced-control" from this library, in the

@@ -18,7 +18,6 @@ namespace {
 constexpr std::uint32_t kPrimary = 0x3FF;  // the part of an identifier that leaves out the region
 constexpr std::uint32_t kChinesePrimary = 0x04;
 constexpr std::uint32_t kChineseTraditional = 1028;
-constexpr std::uint32_t kChineseSingapore = 4100;
 
 using Buffer = std::array<char, ULOC_FULLNAME_CAPACITY>;
 

@@ -29,8 +29,8 @@ PROJECTOR_SETTINGS_EXPORT std::vector<CatalogLanguage> CatalogLanguages(
 
 /// The identifier of the language that the user calls `text`: a tag or the name of a locale ("de",
 /// "zh-TW", "pt_BR.UTF-8"), a name of the language ("Deutsch", "german"), or an identifier
-/// ("1031"). Regions that the modules do not list get the language itself, so "en-GB" is 1033 and
-/// "zh-SG" is 2052. Nothing if none of `languages` is meant. Any thread.
+/// ("1031"). Regions that the modules do not list get the language itself, so "en-GB" is 1033.
+/// Nothing if none of `languages` is meant. Any thread.
 PROJECTOR_SETTINGS_EXPORT std::optional<std::uint32_t> FindLanguage(
     std::span<const CatalogLanguage> languages, std::string_view text);
 

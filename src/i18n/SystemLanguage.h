@@ -12,6 +12,7 @@ namespace AdvancedControl {
 /// Language identifiers that the catalog treats specially.
 inline constexpr std::uint32_t kEnglishUnitedStates = 1033;
 inline constexpr std::uint32_t kChineseSimplified = 2052;
+inline constexpr std::uint32_t kChineseSingapore = 4100;  ///< Simplified too.
 
 /// The languages made from English to test programs: "qps-ploc" has accents and longer texts, and
 /// "qps-plocm" is for windows that run from right to left.

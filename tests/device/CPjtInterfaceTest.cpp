@@ -132,14 +132,18 @@ TEST(CPjtInterfaceTest, EveryFormBuildsItsCommandAndInterpretsItsReply) {
 
 TEST(CPjtInterfaceTest, AbandonsOnlyWhatWaits) {
   CPjtInterface p;
-  const auto channel = std::make_shared<OneReply>();
+  const auto channel = std::make_shared<OneReply>(), next = std::make_shared<OneReply>();
   p.SetChannel(channel);
   EXPECT_TRUE(p.Abandon() && channel->abandoned == 0);
+  next->meanwhile = [&] { EXPECT_TRUE(p.Abandon()) << "both wait"; };
   channel->meanwhile = [&] {
+    p.SetChannel(next);
+    EXPECT_EQ(p.SetColor(2), 1);
     p.SetChannel(nullptr);
     EXPECT_TRUE(p.Abandon());
   };
   EXPECT_EQ(p.SetColor(1), 1);
+  EXPECT_EQ(std::tuple(channel->abandoned, next->abandoned), std::tuple(2, 1));
 }
 
 TEST(CPjtInterfaceTest, HostDataIsBoundedAndMayBeNull) {

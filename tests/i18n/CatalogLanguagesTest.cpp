@@ -37,6 +37,9 @@ TEST(CatalogLanguages, AreFoundByWhatPeopleCallThemAndHaveALocale) {
   });
   EXPECT_FALSE(FindLanguage(languages, "x\xFF"));
   EXPECT_FALSE(FindLanguage(std::span(languages).first(1), "zh-HK"));
+  std::vector<CatalogLanguage> files = languages;
+  for (CatalogLanguage& file : files) file.regions = {file.id};
+  EXPECT_EQ(FindLanguage(files, "zh-SG"), kChineseSimplified) << "Singapore writes as China does";
   EXPECT_EQ(LocaleOf(kPseudo), "qps_PLOC.UTF-8");
   EXPECT_EQ(LocaleOf(kPseudoMirrored), "qps_PLOCM.UTF-8");
   EXPECT_TRUE(IsRightToLeft(kPseudoMirrored) && !IsRightToLeft(kPseudo));

@@ -105,7 +105,7 @@ TEST_F(CatalogTest, ChoosesTheModule) {
   };
   expectLoaded("", "english");
   expectLoaded("zh_TW", "english");
-  expectLoaded("zh_CN", "chinese");
+  for (const char* locale : {"zh_CN", "zh_SG"}) expectLoaded(locale, "chinese");
   Touch("GETENG");
   expectLoaded("zh_CN", "chinese");
   expectLoaded("en_US", "english");

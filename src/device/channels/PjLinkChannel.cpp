@@ -106,9 +106,9 @@ std::optional<SourceList> PjLinkChannel::Inputs() { return inquiry_.Report(); }
 bool PjLinkChannel::UseIdleTime() {
   const auto question = inquiry_.NextQuestion(Clock::now());
   if (!question || state_ != ConnectionState::Connected) return false;
-  if (inquiry_.Take(Ask(*question), Clock::now())) return inquiry_.Inputs().Next().has_value();
+  inquiry_.Take(Ask(*question), Clock::now());
   state_ = ConnectionState::Connected;  // no command has failed
-  return false;
+  return inquiry_.NextQuestion(Clock::now()).has_value();
 }
 
 bool PjLinkChannel::TendConnection(std::chrono::milliseconds unused) {

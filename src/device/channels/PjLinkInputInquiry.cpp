@@ -4,6 +4,12 @@
 
 namespace AdvancedControl {
 
+namespace {
+
+constexpr int kMostUnanswered = 2;  // names
+
+}  // namespace
+
 std::optional<SourceList> PjLinkInputInquiry::Report() {
   isWanted_ = true;
   const std::lock_guard lock(mutex_);
@@ -14,21 +20,40 @@ std::optional<PjLinkQuestion> PjLinkInputInquiry::NextQuestion(SessionTime now) 
   return isWanted_ && now >= nextTry_ ? inputs_.Next() : std::nullopt;
 }
 
-bool PjLinkInputInquiry::Take(const PjLinkResult& result, SessionTime now) {
+void PjLinkInputInquiry::Take(const PjLinkResult& result, SessionTime now) {
   if (!inputs_.Take(result)) {
-    nextTry_ = now + pause_;
-    pause_ = std::min(2 * pause_, longestPause_);
-    return false;
+    const bool isAway = result.kind == PjLinkResult::Kind::Lost && !result.wasAsked;
+    if (isAway || !inputs_.IsListKnown()) return Pause(now);
+    SkipName(result.kind);
   }
-  if (!inputs_.Next()) {
+  if (inputs_.Next()) return;
+  Publish();
+  if (skipped_.isAnyRefused && skipped_.unanswered == 0) {
+    inputs_.AskNamesAgain();
+    skipped_ = {};
+    Pause(now);
+  } else {
     pause_ = firstPause_;
-    Publish();
   }
-  return true;
+}
+
+void PjLinkInputInquiry::SkipName(PjLinkResult::Kind reason) {
+  inputs_.SkipName();
+  if (reason == PjLinkResult::Kind::NotNow) {
+    skipped_.isAnyRefused = true;
+  } else {
+    ++skipped_.unanswered;
+  }
+  while (skipped_.unanswered >= kMostUnanswered && inputs_.Next()) inputs_.SkipName();
+}
+
+void PjLinkInputInquiry::Pause(SessionTime now) {
+  nextTry_ = now + pause_;
+  pause_ = std::min(2 * pause_, longestPause_);
 }
 
 std::vector<PjLinkInput> PjLinkInputInquiry::AllInputs() const {
-  return inputs_.Next() ? std::vector<PjLinkInput>() : inputs_.Known();
+  return skipped_.unanswered > 0 || inputs_.Next() ? std::vector<PjLinkInput>() : inputs_.Known();
 }
 
 void PjLinkInputInquiry::Remember(const std::vector<PjLinkInput>& inputs,
@@ -42,6 +67,7 @@ void PjLinkInputInquiry::Remember(const std::vector<PjLinkInput>& inputs,
 void PjLinkInputInquiry::CheckClass(std::optional<char> protocolClass) {
   if (!rememberedClass_ || !protocolClass || protocolClass == rememberedClass_) return;
   inputs_.Forget();
+  skipped_ = {};
   rememberedClass_.reset();
 }
 

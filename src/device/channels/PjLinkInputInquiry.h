@@ -17,6 +17,12 @@ namespace AdvancedControl {
 /// Learns the inputs of a projector while its channel is idle, one question at a time, once
 /// somebody wants to know them. After a failure it pauses; the pause doubles with each further
 /// failure. Use from one thread at a time; `Report` from any thread.
+///
+/// A name that the projector does not tell keeps no input back: that input is reported by kind and
+/// number. If the projector said that it cannot tell it now, as in standby, all names are asked for
+/// again after a pause, since that costs a short exchange for each. If it did not answer, asking
+/// costs time-outs, which a command may have to wait for: then no name is asked for again, and
+/// after two such names no further one.
 class PjLinkInputInquiry {
  public:
   PjLinkInputInquiry(std::chrono::milliseconds firstPause, std::chrono::milliseconds longestPause)
@@ -26,11 +32,11 @@ class PjLinkInputInquiry {
   std::optional<SourceList> Report();
   /// The question to ask now; nothing if there is none, or not yet.
   std::optional<PjLinkQuestion> NextQuestion(SessionTime now) const;
-  /// Takes the result of that question. False if it was a failure.
-  bool Take(const PjLinkResult& result, SessionTime now);
+  /// Takes the result of that question.
+  void Take(const PjLinkResult& result, SessionTime now);
 
   PjLinkInputs& Inputs() { return inputs_; }
-  /// The inputs if all are known, otherwise none.
+  /// The inputs if all are known with their names, otherwise none.
   std::vector<PjLinkInput> AllInputs() const;
   /// Uses what an earlier session learnt of the projector: all inputs, or none, and the class.
   void Remember(const std::vector<PjLinkInput>& inputs, std::optional<char> protocolClass);
@@ -39,6 +45,8 @@ class PjLinkInputInquiry {
   void CheckClass(std::optional<char> protocolClass);
 
  private:
+  void SkipName(PjLinkResult::Kind reason);
+  void Pause(SessionTime now);
   void Publish();
 
   const std::chrono::milliseconds firstPause_;
@@ -48,6 +56,11 @@ class PjLinkInputInquiry {
   std::optional<char> rememberedClass_;
   std::chrono::milliseconds pause_ = firstPause_;
   SessionTime nextTry_{};
+  /// Names that the projector did not tell.
+  struct Skipped {
+    bool isAnyRefused = false;  ///< It cannot tell one of them now.
+    int unanswered = 0;
+  } skipped_;
   std::mutex mutex_;
   std::optional<SourceList> reported_;  ///< Protected by the mutex.
 };

@@ -40,8 +40,11 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   std::optional<PjLinkQuestion> Next() const;
   /// Takes the result of that question. False if it has to be repeated.
   bool Take(const PjLinkResult& result);
-  /// Skips the name that `Next` asks for, until `Forget`. Does nothing if it asks for no name.
+  /// Skips the name that `Next` asks for, until `AskNamesAgain` or `Forget`. Does nothing if it
+  /// asks for no name.
   void SkipName();
+  /// Lets `Next` ask for all names again.
+  void AskNamesAgain() { inputs_.clear(); }
   bool IsListKnown() const { return !codes_.empty(); }
   /// Asks everything that is not known; `ask` returns the result of a question. What it could not
   /// learn is named by kind and number, or missing.

@@ -18,7 +18,7 @@ std::string Printable(const std::string& text) {
 
 PjLinkResult ResultOf(const PjLinkAnswer& answer) {
   using Kind = PjLinkResult::Kind;
-  if (!answer.parameter) return {};
+  if (!answer.parameter) return {.wasAsked = answer.sent};
   if (!PjLink::IsError(*answer.parameter)) return {Kind::Text, Printable(*answer.parameter)};
   return {PjLink::SameWord(*answer.parameter, PjLink::kNotNow) ? Kind::NotNow : Kind::None};
 }

@@ -27,6 +27,9 @@ struct PjLinkResult {
 
   Kind kind = Kind::Lost;
   std::string text{};  ///< UTF-8, without control characters.
+  /// Of a lost answer: the projector has accepted a connection, and still did not answer. False if
+  /// it could not be asked.
+  bool wasAsked = false;
 };
 
 PjLinkResult ResultOf(const PjLinkAnswer& answer);

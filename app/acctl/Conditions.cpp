@@ -57,10 +57,9 @@ bool IsEqual(const Condition& condition, const ValueTexts& texts, const ModelSet
              int value, std::optional<PowerState> power) {
   const std::string code = texts.Code(setting, value, power);
   if (code == condition.value) return true;
-  const bool isNumber = setting.kind == ModelSetting::Kind::Number;
-  const auto typed =
-      texts.Parse(setting, isNumber && condition.value.starts_with('-') ? '=' + condition.value
-                                                                        : condition.value);
+  // A value below zero, not a step.
+  const bool isBelowZero = condition.value.starts_with('-');
+  const auto typed = texts.Parse(setting, isBelowZero ? '=' + condition.value : condition.value);
   if (!typed) return texts.Shown().IsNamed(setting, value, condition.value);  // as others may be
   return !typed->relative && texts.Code(setting, typed->amount) == code;
 }

@@ -1,17 +1,19 @@
 #include "fleet/ProfileCsv.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <utility>
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include "fleet/CsvCells.h"
 #include "fleet/CsvColumn.h"
+#include "fleet/CsvConnection.h"
 #include "fleet/ExportedCell.h"
 #include "fleet/OneLine.h"
 #include "fleet/ProfileEdits.h"
@@ -21,27 +23,18 @@ namespace AdvancedControl {
 
 namespace {
 
-struct ProfileCsv {
-  Q_DECLARE_TR_FUNCTIONS(ProfileCsv)
-};
+constexpr QLatin1String kSerial("serial:");
 
-/// Thrown for a row that cannot be taken.
-struct WrongRow {
-  QString reason;
-};
-
-/// The cells of a row by their meaning; an empty cell changes nothing. Several columns may be tags.
-using Cells = std::map<CsvColumn, QStringList>;
-
-QString One(const Cells& cells, CsvColumn column) {
-  const auto found = cells.find(column);
-  return found == cells.end() ? QString() : found->second.first();
+/// "serial:NUMBER" for "serial:MAKER/NUMBER"; empty for any other identity.
+QString WithoutMaker(const QString& identity) {
+  const QString number = identity.section(QLatin1Char('/'), 1);
+  return identity.startsWith(kSerial) && !number.isEmpty() ? kSerial + number : QString();
 }
 
-QString Identity(const Cells& cells) {
+QString Identity(const CsvCells& cells) {
   if (QString identity = One(cells, CsvColumn::Identity); !identity.isEmpty()) return identity;
   if (const QString serial = One(cells, CsvColumn::Serial); !serial.isEmpty()) {
-    return QStringLiteral("serial:") + serial;
+    return kSerial + serial;
   }
   QString mac = One(cells, CsvColumn::Mac).toLower();
   if (mac.isEmpty()) return {};
@@ -53,100 +46,29 @@ QString Identity(const Cells& cells) {
   return QStringLiteral("mac:") + mac;
 }
 
-std::optional<QString> LinkOf(const QString& text) {
-  const QString word = text.toLower();
-  if (word == QLatin1String("tcp") || word == QLatin1String("wire"))
-    return QStringLiteral("network");
-  for (const char* link : {"pjlink", "network", "serial", "simulated"}) {
-    if (word == QLatin1String(link)) return word;
-  }
-  return std::nullopt;
-}
-
-struct Reached {
-  QString link;
-  ProfileConnection connection;
-};
-
-// A serial port has none to add.
-bool HasPort(const QString& host) {
-  if (host.startsWith(QLatin1Char('/'))) return true;
-  if (host.startsWith(QLatin1Char('['))) return host.contains(QLatin1String("]:"));
-  return host.count(QLatin1Char(':')) == 1;
-}
-
-QString WithPort(const QString& host, const QString& port) {
-  const bool isIpv6 = host.contains(QLatin1Char(':')) && !host.startsWith(QLatin1Char('['));
-  return (isIpv6 ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2")).arg(host, port);
-}
-
-// An address as people write it, with its port in it or in a column of its own.
-Reached Reach(const Cells& cells) {
-  const QString address = One(cells, CsvColumn::Address);
-  const QString port = One(cells, CsvColumn::Port);
-  QString link;
-  if (const QString text = One(cells, CsvColumn::Link); !text.isEmpty()) {
-    const auto known = LinkOf(text);
-    if (!known) throw WrongRow{ProfileCsv::tr("\"%1\" is not a kind of link").arg(text)};
-    link = *known;
-  }
-  static const QRegularExpression kScheme(QStringLiteral("^[a-z]+://"));
-  QString scheme = kScheme.match(address).captured();
-  if (scheme.isEmpty() && link == QLatin1String("pjlink")) scheme = QStringLiteral("pjlink://");
-  if (scheme.isEmpty() && link == QLatin1String("network")) scheme = QStringLiteral("tcp://");
-  QString host = kScheme.match(address).hasMatch() ? address.sliced(scheme.size()) : address;
-  if (!port.isEmpty() && !HasPort(host)) host = WithPort(host, port);
-  const QString text = scheme + host;
-  const ProjectorAddress parsed =
-      ParseAddress(text.toStdString(), One(cells, CsvColumn::Password).toStdString());
-  if (const auto* error = std::get_if<AddressError>(&parsed)) {
-    throw WrongRow{QString::fromStdString(error->text)};
-  }
-  Reached reached;
-  if (const auto* pjLink = std::get_if<PjLinkAddress>(&parsed)) {
-    reached.link = QStringLiteral("pjlink");
-    reached.connection = {
-        .address = pjLink->host, .port = pjLink->port, .secret = pjLink->password};
-  } else if (const auto* tcp = std::get_if<TcpAddress>(&parsed)) {
-    reached.link = QStringLiteral("network");
-    reached.connection = {.address = tcp->host, .port = tcp->port};
-  } else {
-    const auto& serial = std::get<SerialAddress>(parsed);
-    reached.link = QStringLiteral("serial");
-    reached.connection = {.isNetwork = false, .address = serial.device, .baud = serial.baud};
-  }
-  if (link == QLatin1String("simulated")) reached.link = link;
-  return reached;
-}
-
 /// The cells that differ from what the projector has now, whatever it has inherited or from a tag.
-/// Where it is counts as one: what is not given of it stays.
-Cells News(Cells cells, const FleetProfile& present) {
-  constexpr CsvColumn kWhere[] = {CsvColumn::Address, CsvColumn::Port, CsvColumn::Link,
-                                  CsvColumn::Password};
-  const auto isNew = [&](CsvColumn column) {
-    return cells.contains(column) && One(cells, column) != ExportedCell(present, column);
-  };
-  const bool isElsewhere = std::ranges::any_of(kWhere, isNew);
-  if (isElsewhere && !cells.contains(CsvColumn::Address)) {
-    // Another link usually has another port.
-    if (!isNew(CsvColumn::Link)) {
-      cells.try_emplace(CsvColumn::Port, ExportedCell(present, CsvColumn::Port));
-    }
-    cells.try_emplace(CsvColumn::Link, ExportedCell(present, CsvColumn::Link));
-    // A serial port has none of this.
-    const bool isNetwork = present.connection.isNetwork;
-    cells.emplace(CsvColumn::Address,
-                  isNetwork ? ExportedCell(present, CsvColumn::Address) : QString());
-  }
+CsvCells News(CsvCells cells, const FleetProfile& present) {
+  CompleteConnection(cells, present);
   const bool hasFamily = cells.contains(CsvColumn::Family);
   std::erase_if(cells, [&](const auto& cell) {
     const auto& [column, texts] = cell;
-    if (std::ranges::count(kWhere, column) > 0) return !isElsewhere;
+    if (IsOfConnection(column)) return false;
     const bool isSame = texts.size() == 1 && texts.first() == ExportedCell(present, column);
     return isSame && column != CsvColumn::Identity && !(column == CsvColumn::Model && hasFamily);
   });
   return cells;
+}
+
+/// Returns false if an earlier column has said it already. Tags and notes add up.
+bool AddCell(CsvColumn column, const QString& text, CsvCells& cells) {
+  QStringList& texts = cells[column];
+  if (texts.isEmpty() || column == CsvColumn::Tags) {
+    texts.append(text);
+    return true;
+  }
+  if (column != CsvColumn::Notes) return false;
+  texts.first() += QLatin1Char(' ') + text;
+  return true;
 }
 
 /// Takes rows into a profile file.
@@ -155,10 +77,8 @@ class Importer {
   explicit Importer(const QByteArray& profiles)
       : edits_(profiles),
         checker_(profiles),
+        present_(ParseProfileList(profiles, {}).profiles),
         families_(QJsonDocument::fromJson(profiles).object()["families"].toObject()) {
-    for (FleetProfile& profile : ParseProfileList(profiles, {}).profiles) {
-      present_.emplace_back(std::move(profile));
-    }
     const QJsonArray entries = QJsonDocument::fromJson(profiles).object()["projectors"].toArray();
     for (const auto& entry : entries) Remember(entry.toObject());
   }
@@ -169,39 +89,46 @@ class Importer {
   void Remember(const QJsonObject& entry) {
     byName_.emplace(entry["name"].toString(), entries_.size());
     if (entry.contains("identity")) {
-      byIdentity_.emplace(entry["identity"].toString(), entries_.size());
+      const QString identity = entry["identity"].toString();
+      byIdentity_.emplace(identity, entries_.size());
+      if (const QString bare = WithoutMaker(identity); !bare.isEmpty()) {
+        byNumber_.emplace(bare, entries_.size());
+      }
     }
     entries_.push_back(entry);
   }
   std::optional<std::size_t> Find(const QString& identity, const QString& name) const;
-  JsonEdit::Members MembersOf(const Cells& cells, bool isNew) const;
-  void SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const;
-  bool Take(Cells cells);
+  JsonEdit::Members MembersOf(const CsvCells& cells, bool isNew) const;
+  void SetModel(const CsvCells& cells, bool isNew, JsonEdit::Members& members) const;
+  bool Take(CsvCells cells);
 
   ProfileEdits edits_;
   ProfileChecker checker_;
+  std::vector<FleetProfile> present_;  ///< Of the entries.
   const QJsonObject families_;
   std::vector<QJsonObject> entries_;
-  std::vector<std::optional<FleetProfile>> present_;  ///< Of entries that no row has changed yet.
   std::map<QString, std::size_t> byName_;
   std::map<QString, std::size_t> byIdentity_;
+  std::multimap<QString, std::size_t> byNumber_;  ///< By the identity without its maker.
 };
 
 std::optional<std::size_t> Importer::Find(const QString& identity, const QString& name) const {
   if (const auto found = byIdentity_.find(identity); found != byIdentity_.end()) {
     return found->second;
   }
+  const auto [first, end] = byNumber_.equal_range(identity);
+  if (std::distance(first, end) == 1) return first->second;
   const auto found = byName_.find(name);
   if (found == byName_.end()) return std::nullopt;
   const QString other = entries_[found->second]["identity"].toString();
-  if (!identity.isEmpty() && !other.isEmpty()) {
+  if (!identity.isEmpty() && !other.isEmpty() && identity != WithoutMaker(other)) {
     throw WrongRow{ProfileCsv::tr("\"%1\" is the name of another projector, with the identity %2")
                        .arg(name, other)};
   }
   return found->second;
 }
 
-void Importer::SetModel(const Cells& cells, bool isNew, JsonEdit::Members& members) const {
+void Importer::SetModel(const CsvCells& cells, bool isNew, JsonEdit::Members& members) const {
   QString family = One(cells, CsvColumn::Family);
   const QString model = One(cells, CsvColumn::Model);
   for (auto known = families_.begin(); family.isEmpty() && known != families_.end(); ++known) {
@@ -217,7 +144,7 @@ void Importer::SetModel(const Cells& cells, bool isNew, JsonEdit::Members& membe
   members.push_back({"modelCode", 0});
 }
 
-JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
+JsonEdit::Members Importer::MembersOf(const CsvCells& cells, bool isNew) const {
   JsonEdit::Members members;
   const auto tell = [&members](const char* key, const QString& text) {
     if (!text.isEmpty()) members.push_back({key, text});
@@ -226,7 +153,7 @@ JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
   tell("identity", Identity(cells));
   SetModel(cells, isNew, members);
   if (cells.contains(CsvColumn::Address)) {
-    const Reached reached = Reach(cells);
+    const CsvConnection reached = ConnectionOf(cells);
     members.push_back({"link", reached.link});
     members.push_back({"connection", ConnectionValue(reached.connection)});
   }
@@ -251,10 +178,14 @@ JsonEdit::Members Importer::MembersOf(const Cells& cells, bool isNew) const {
 }
 
 // Whether the projector is new.
-bool Importer::Take(Cells cells) {
+bool Importer::Take(CsvCells cells) {
   const auto known = Find(Identity(cells), One(cells, CsvColumn::Name));
-  if (known && *known < present_.size() && present_[*known]) {
-    cells = News(std::move(cells), *present_[*known]);
+  if (known) {
+    const QString identity = entries_[*known].value("identity").toString();
+    if (!identity.isEmpty() && WithoutMaker(identity) == Identity(cells)) {
+      cells[CsvColumn::Identity] = {identity};
+    }
+    cells = News(std::move(cells), present_[*known]);
   }
   const JsonEdit::Members members = MembersOf(cells, !known);
   QJsonObject entry = known ? entries_[*known] : QJsonObject();
@@ -267,7 +198,8 @@ bool Importer::Take(Cells cells) {
     network["secret"] = before["secret"];
     entry[key] = QJsonObject{{"network", network}};
   }
-  if (const QString wrong = checker_.Check(entry); !wrong.isEmpty()) throw WrongRow{wrong};
+  FleetProfile now;
+  if (const QString wrong = checker_.Check(entry, now); !wrong.isEmpty()) throw WrongRow{wrong};
   const QString newName = entry["name"].toString();
   const auto named = byName_.find(newName);
   if (named != byName_.end() && named->second != known) {
@@ -276,6 +208,7 @@ bool Importer::Take(Cells cells) {
   if (!known) {
     edits_.Add(WithIdentity(members));
     Remember(entry);
+    present_.push_back(std::move(now));
     return true;
   }
   JsonEdit::Members changed;
@@ -285,7 +218,7 @@ bool Importer::Take(Cells cells) {
     }
   }
   edits_.Change(*known, changed);
-  if (!changed.empty() && *known < present_.size()) present_[*known].reset();
+  if (!changed.empty()) present_[*known] = std::move(now);
   byName_.erase(entries_[*known]["name"].toString());
   byName_.emplace(newName, *known);
   if (entry.contains("identity")) byIdentity_.emplace(entry["identity"].toString(), *known);
@@ -296,22 +229,26 @@ bool Importer::Take(Cells cells) {
 CsvImport Importer::Import(const CsvTable& table) {
   CsvImport result{.text = {}, .faults = table.faults};
   std::vector<std::optional<CsvColumn>> columns;
+  std::vector<bool> isUnused;
   for (const QString& heading : table.header) {
     columns.push_back(CsvColumnOf(heading));
-    if (!columns.back() && !heading.isEmpty()) result.unused.append(heading);
+    isUnused.push_back(!columns.back() && !heading.isEmpty());
   }
   for (const CsvRow& row : table.rows) {
-    Cells cells;
-    for (qsizetype i = 0; i < row.cells.size(); ++i) {
-      const auto column = columns[static_cast<std::size_t>(i)];
-      const QString text = OneLine(row.cells[i]);
-      if (column && !text.isEmpty()) cells[*column].append(text);
+    CsvCells cells;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(row.cells.size()); ++i) {
+      const QString text = OneLine(row.cells[static_cast<qsizetype>(i)]);
+      if (!columns[i] || text.isEmpty()) continue;
+      if (!AddCell(*columns[i], text, cells)) isUnused[i] = true;
     }
     try {
       ++(Take(std::move(cells)) ? result.added : result.changed);
     } catch (const WrongRow& wrong) {
       result.faults.push_back({row.line, wrong.reason});
     }
+  }
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (isUnused[i]) result.unused.append(table.header[static_cast<qsizetype>(i)]);
   }
   std::ranges::stable_sort(result.faults, {}, &CsvFault::line);
   result.text = edits_.Text();

@@ -283,9 +283,9 @@ ProfileChecker::ProfileChecker(const QByteArray& text)
 
 ProfileChecker::~ProfileChecker() = default;
 
-QString ProfileChecker::Check(const QJsonObject& entry) {
+QString ProfileChecker::Check(const QJsonObject& entry, FleetProfile& profile) {
   try {
-    reader_->Read(entry, {});
+    profile = reader_->Read(entry, {});
     return {};
   } catch (const WrongValue& wrong) {
     return wrong.path.isEmpty() ? wrong.message : wrong.path + QStringLiteral(": ") + wrong.message;

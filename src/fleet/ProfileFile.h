@@ -48,8 +48,9 @@ class PROJECTOR_FLEET_EXPORT ProfileChecker {
   ProfileChecker(const ProfileChecker&) = delete;
   ProfileChecker& operator=(const ProfileChecker&) = delete;
 
-  /// One line with the fault; empty if there is none. Does not compare the entry with others.
-  QString Check(const QJsonObject& entry);
+  /// One line with the fault; empty if there is none, and `profile` is then the entry's profile,
+  /// without what its tags add. Does not compare the entry with others.
+  QString Check(const QJsonObject& entry, FleetProfile& profile);
 
  private:
   class Reader;

@@ -15,6 +15,7 @@
 #include "device/ModelData.h"
 #include "fleet/OneLine.h"
 #include "fleet/ProfileEdits.h"
+#include "fleet/ProfileFile.h"
 
 namespace AdvancedControl {
 
@@ -34,6 +35,11 @@ QString SerialIdentity(const FoundProjector& found) {
   const bool isNumber = found.serial.find_first_not_of("0 -") != std::string::npos;
   const std::string whole = found.maker + '/' + found.serial;
   return isNumber && whole.size() <= kLongest ? Text("serial:" + whole) : QString();
+}
+
+/// The identity that a table of serial numbers gives, which does not know makers.
+QString BareIdentity(const FoundProjector& found) {
+  return SerialIdentity(found).isEmpty() ? QString() : Text("serial:" + found.serial);
 }
 
 /// Takes projectors into a profile file, one after the other.
@@ -57,6 +63,7 @@ class Taker {
   ProfileEdits edits_;
   QJsonObject families_;
   std::vector<QJsonObject> entries_;
+  std::vector<ProjectorLink> links_;  // of the entries, also if inherited
   std::map<QString, std::size_t> byIdentity_;
   std::map<QString, std::size_t> byAddress_;
   std::set<QString> names_;
@@ -93,11 +100,15 @@ Taker::Taker(const QByteArray& profiles, const std::vector<FoundProjector>& foun
                        entries_.size());
     entries_.push_back(entry);
   }
+  for (const FleetProfile& profile : ParseProfileList(profiles, {}).profiles) {
+    links_.push_back(profile.link);
+  }
   std::map<QString, std::string> serials;
   for (const FoundProjector& projector : found) {
-    const QString serial = SerialIdentity(projector);
-    const auto [first, isNew] = serials.emplace(serial, projector.address);
-    if (!isNew && first->second != projector.address) sharedSerials_.insert(serial);
+    for (const QString& serial : {SerialIdentity(projector), BareIdentity(projector)}) {
+      const auto [first, isNew] = serials.emplace(serial, projector.address);
+      if (!isNew && first->second != projector.address) sharedSerials_.insert(serial);
+    }
   }
 }
 
@@ -116,6 +127,11 @@ std::optional<std::size_t> Taker::Find(const FoundProjector& found,
       return known->second;
     }
   }
+  const QString bare = BareIdentity(found);
+  if (!bare.isEmpty() && !sharedSerials_.contains(bare)) {
+    const auto known = byIdentity_.find(bare);
+    if (known != byIdentity_.end()) return known->second;
+  }
   auto there = byAddress_.find(AddressKey(Text(found.address), found.port));
   for (const std::string& name : found.hostNames) {
     if (there != byAddress_.end()) break;
@@ -125,11 +141,12 @@ std::optional<std::size_t> Taker::Find(const FoundProjector& found,
   // A projector with another identity of the same kind is a different one, even at the same
   // address. Identities of different kinds (a serial number, a MAC, a made-up one) cannot be
   // compared.
-  const QString kind =
-      entries_[there->second]["identity"].toString().section(QLatin1Char(':'), 0, 0);
-  const bool isOther = std::ranges::any_of(identities, [&](const QString& identity) {
-    return identity.section(QLatin1Char(':'), 0, 0) == kind;
-  });
+  const QString present = entries_[there->second]["identity"].toString();
+  const QString kind = present.section(QLatin1Char(':'), 0, 0);
+  const bool isOther =
+      present != bare && std::ranges::any_of(identities, [&](const QString& identity) {
+        return identity.section(QLatin1Char(':'), 0, 0) == kind;
+      });
   return isOther ? std::nullopt : std::optional(there->second);
 }
 
@@ -149,13 +166,15 @@ void Taker::Update(std::size_t profile, const FoundProjector& found,
   }
   QJsonObject connection = entry["connection"].toObject();
   QJsonObject network = connection["network"].toObject();
+  // What was found is the port of PJLink.
+  const int port = links_[profile] == ProjectorLink::PjLink ? found.port : network["port"].toInt();
   const bool isElsewhere = AddressKey(network["address"].toString(), network["port"].toInt()) !=
-                           AddressKey(Text(found.address), found.port);
+                           AddressKey(Text(found.address), port);
   // A host name follows the projector by itself.
   const bool isNumeric = !QHostAddress(network["address"].toString()).isNull();
   if (isElsewhere && isNumeric) {
     network["address"] = Text(found.address);
-    network["port"] = found.port;
+    network["port"] = port;
     connection["network"] = network;
     members.push_back({"connection", connection});
     result_.moved.append(entry["name"].toString());
@@ -209,6 +228,7 @@ void Taker::Add(const FoundProjector& found, const QStringList& identities) {
   QJsonObject entry;
   for (const JsonEdit::Member& member : members) entry[member.key] = member.value;
   entries_.push_back(entry);
+  links_.push_back(ProjectorLink::PjLink);
   result_.added.append(name);
   hasChanged_ = true;
 }

@@ -27,9 +27,10 @@ PROJECTOR_FLEET_EXPORT std::vector<std::string> HostNamesOf(
     const std::vector<FleetProfile>& profiles);
 
 /// Adds found projectors to the text of a valid profile file, or to `ProfileEdits::kNoProfiles`. If
-/// a profile has the identity of a found projector, it gets its address. If a profile without an
-/// identity has its address or host name, it gets the identity. Otherwise a profile is added.
-/// `password` is the password of the search.
+/// a profile has the identity of a found projector, or `serial:` with its serial number, it gets
+/// its address, and on PJLink its port. If a profile without an identity has its address or host
+/// name, it gets the identity. Otherwise a profile is added. `password` is the password of the
+/// search.
 PROJECTOR_FLEET_EXPORT TakenProjectors TakeFound(const QByteArray& profiles,
                                                  const std::vector<FoundProjector>& found,
                                                  const std::string& password);

@@ -22,6 +22,10 @@ Rank RankOf(const ModelSetting& setting) {
   return setting.kind == ModelSetting::Kind::Choice ? Rank::Choice : Rank::Number;
 }
 
+bool IsNumber(const RestoredSetting& restored) {
+  return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
+}
+
 bool IsSame(const SavedSetting& one, const SavedSetting& other) {
   return one.key == other.key && one.source == other.source;
 }

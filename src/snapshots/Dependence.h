@@ -16,6 +16,9 @@ enum class Rank : std::uint8_t { Source, Choice, Number };
 
 Rank RankOf(const ModelSetting& setting);
 
+/// False for a setting that the model does not have, because others may depend on such a setting.
+bool IsNumber(const RestoredSetting& restored);
+
 /// Whether both are the same setting, for the same input source.
 bool IsSame(const SavedSetting& one, const SavedSetting& other);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "snapshots/Dependence.h"
 
@@ -16,11 +17,6 @@ Outcome InitialOutcome(const ModelSettings& model, const ModelSetting* setting,
   const bool isAllowed =
       setting->Allows(saved.value) && (!saved.source || model.HasSource(*setting, *saved.source));
   return isAllowed ? Outcome::NotReached : Outcome::NotAllowed;
-}
-
-/// False for a setting that the model does not have, because others may depend on such a setting.
-bool IsNumber(const RestoredSetting& restored) {
-  return restored.setting != nullptr && RankOf(*restored.setting) == Rank::Number;
 }
 
 /// The outcome of a change if another value is read back, derived from the commands sent in
@@ -122,7 +118,14 @@ void Restoration::Send(const SettingTexts& texts, const Progress& progress,
                          .step = progress.step};
   const SendOptions options{texts, careful, keep};
   SendBeforehand(options);
-  if (!HasOpen()) Confirm(SendSettings(options), careful);
+  if (!HasOpen()) {
+    Group sent = SendSettings(options);
+    const SentSettings all = SentInOrder();
+    std::erase_if(sent, [&all](const RestoredSetting* restored) {
+      return restored->outcome == Outcome::Changed && !MayHaveChanged(*restored, all);
+    });
+    Confirm(sent, careful);
+  }
   RereadAffected(careful);
   if (turns_ > 0) keep();
 }
@@ -154,25 +157,57 @@ Restoration::Group Restoration::SendSettings(const SendOptions& options) {
   };
   // Choices are sent twice, because some are modes, on which choices sent before may depend.
   for (const Rank rank : {Rank::Source, Rank::Choice, Rank::Choice, Rank::Number}) {
-    const Group group = SettingsWhere([rank](const RestoredSetting& restored) {
-      const bool wasRead =
-          restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::Differs;
-      return wasRead && RankOf(*restored.setting) == rank;
-    });
+    const auto ofRank = [this, rank](bool wereSent) {
+      return SettingsWhere([rank, wereSent](const RestoredSetting& restored) {
+        const bool wasRead =
+            restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::Differs;
+        return (wereSent ? restored.turn > 0 : wasRead) && RankOf(*restored.setting) == rank;
+      });
+    };
+    Group group = ofRank(false);
     Read(group, options.progress);
     if (rank == Rank::Number) {
       send(group);
       continue;
     }
+    Group again = ofRank(true);
+    ConfirmEarlier(again, options.progress);
+    group.insert(group.end(), again.begin(), again.end());
+    std::ranges::sort(group);  // pointers, in the snapshot's order
     for (RestoredSetting* restored : group) {
-      if (restored->outcome != Outcome::Differs) continue;
-      Read(Group{restored}, options.progress);
-      send({restored});
+      if (restored->turn > 0) {
+        SendAgain(*restored, options);
+      } else if (restored->outcome == Outcome::Differs) {
+        Read(Group{restored}, options.progress);
+        send({restored});
+      }
       if (restored->IsOpen()) Confirm({restored}, options.progress);
       if (restored->IsOpen()) return sent;
     }
   }
   return sent;
+}
+
+/// Reads back those of the group that were not sent last, as a later one may have changed them.
+void Restoration::ConfirmEarlier(Group group, const Progress& progress) {
+  std::erase_if(group, [this](const RestoredSetting* restored) {
+    return restored->turn == turns_ || restored->asOf == turns_;
+  });
+  if (!group.empty() && progress.goesOn()) Confirm(group, progress);
+}
+
+/// Sends a choice for the second time if a later one has changed it.
+void Restoration::SendAgain(RestoredSetting& restored, const SendOptions& options) {
+  ConfirmEarlier({&restored}, options.progress);
+  if (!restored.now || restored.outcome == Outcome::Changed) return;
+  const RestoredSetting first = restored;
+  sentFirst_.push_back(first);
+  sentFirst_.back().now.reset();  // `Undo` has what it is in the end from `restored`
+  restored.before = std::exchange(restored.now, std::nullopt);
+  restored.outcome = Outcome::Differs;
+  if (!SendTogether({&restored}, options).empty()) return;
+  restored = first;
+  sentFirst_.pop_back();
 }
 
 /// Sends the settings of the group that differ. They must not depend on each other. Returns those
@@ -274,53 +309,6 @@ std::vector<const RestoredSetting*> Restoration::SentInOrder() const {
   }
   std::ranges::sort(sent, {}, &RestoredSetting::turn);
   return sent;
-}
-
-Snapshot Restoration::Undo(const std::string& projector, const SettingTexts& texts) const {
-  Snapshot snapshot = EmptySnapshot(projector, model_.Model());
-  const auto add = [&](std::vector<SavedSetting>& list, const RestoredSetting& restored,
-                       int value) {
-    list.push_back(
-        {restored.saved.key, value, texts.Value(*restored.setting, value), restored.saved.source});
-  };
-  const SentSettings sent = SentInOrder();
-  for (const RestoredSetting& restored : settings_) {
-    if (!restored.first) continue;
-    const bool isUntouched =
-        restored.outcome == Outcome::AlreadySo || restored.outcome == Outcome::NotReached;
-    const bool isSo = restored.first == restored.saved.value;
-    if (isUntouched && isSo && !MayHaveChanged(restored, sent)) continue;
-    add(snapshot.settings, restored, *restored.first);
-  }
-  const auto first = std::ranges::find_if_not(
-      sent, [](const RestoredSetting* restored) { return IsNumber(*restored); });
-  const bool isAllAtFirst = first == sent.end() || std::next(first) == sent.end();
-  if (isAllAtFirst && beforehand_.empty()) return snapshot;
-  // The user may choose another source or mode before undoing. Under modes that were set later, the
-  // value of a choice is known only if it was read back.
-  for (const RestoredSetting* restored : sent) {
-    if (restored->isBeforehand || IsNumber(*restored) || restored->IsOpen()) continue;
-    if (restored->now || restored->setting->SelectsInput()) {
-      add(snapshot.beforehand, *restored, restored->now.value_or(restored->saved.value));
-    }
-  }
-  for (auto last = sent.rbegin(); last != sent.rend(); ++last) {
-    add(snapshot.beforehand, **last, *(*last)->before);
-  }
-  return snapshot;
-}
-
-// What the second one replaced may belong to a source or mode that the first one had set. It is
-// therefore restored before the values from before the first.
-Snapshot UndoOfBoth(const Snapshot& earlier, const Snapshot& later, const ModelSettings& model) {
-  std::vector<SavedSetting> settings = later.settings;
-  std::ranges::stable_sort(
-      settings, {}, [&model](const SavedSetting& saved) { return RankOf(*model.Find(saved.key)); });
-  Snapshot both = earlier;
-  both.beforehand = later.beforehand;
-  for (const auto& list : {settings, earlier.beforehand})
-    both.beforehand.insert(both.beforehand.end(), list.begin(), list.end());
-  return both;
 }
 
 }  // namespace AdvancedControl

@@ -60,6 +60,8 @@ class PROJECTOR_SETTINGS_EXPORT Restoration {
   void SendBeforehand(const SendOptions& options);
   Group SendSettings(const SendOptions& options);
   Group SendTogether(const Group& group, const SendOptions& options);
+  void ConfirmEarlier(Group group, const Progress& progress);
+  void SendAgain(RestoredSetting& restored, const SendOptions& options);
   void Confirm(const Group& sent, const Progress& progress);
   /// Reads again what may have changed since it was read, or records that its value is unknown.
   void RereadAffected(const Progress& progress);
@@ -70,6 +72,7 @@ class PROJECTOR_SETTINGS_EXPORT Restoration {
   CPjtInterface& connection_;
   std::vector<RestoredSetting> beforehand_;
   std::vector<RestoredSetting> settings_;
+  std::vector<RestoredSetting> sentFirst_;  ///< What was sent twice, as it was the first time.
   int turns_ = 0;
 };
 

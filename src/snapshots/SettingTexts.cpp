@@ -188,26 +188,34 @@ bool SettingTexts::Is(const ListEntry& entry, std::string_view text,
   });
 }
 
-std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
-                                              std::string_view text) const {
+std::optional<int> SettingTexts::ParseEntry(const ModelSetting& setting,
+                                            std::string_view text) const {
   for (const std::span<const std::uint32_t> languages : {std::span(likely_), std::span(others_)}) {
     for (const ListEntry& entry : setting.entries) {
       const bool isIt = IsNameShared(setting, entry) ? SameText(Entry(setting, entry), text)
                                                      : Is(entry, text, languages);
-      if (isIt) return TypedValue{entry.value};
+      if (isIt) return entry.value;
     }
   }
   const auto isPlainName = [&](const ListEntry& entry) { return HasPlainName(entry, text); };
   if (std::ranges::count_if(setting.entries, isPlainName) == 1) {
-    return TypedValue{std::ranges::find_if(setting.entries, isPlainName)->value};
+    return std::ranges::find_if(setting.entries, isPlainName)->value;
   }
-  if (setting.IsPower() && Is(ListEntry(ListText::PowerStandby), text, likely_))
-    return TypedValue{kStandby};
-  const bool absolute = text.starts_with('=');
-  const bool relative = text.starts_with('+') || text.starts_with('-');
-  const auto number = Number(absolute ? text.substr(1) : text);
+  if (setting.IsPower() && Is(ListEntry(ListText::PowerStandby), text, likely_)) return kStandby;
+  return {};
+}
+
+// A step comes first, because the entries of some lists are numbers.
+std::optional<TypedValue> SettingTexts::Parse(const ModelSetting& setting,
+                                              std::string_view text) const {
+  const bool isAbsolute = text.starts_with('=');
+  if (isAbsolute) text.remove_prefix(1);
+  const auto number = Number(text);
+  const bool isStep = !isAbsolute && (text.starts_with('+') || text.starts_with('-'));
+  if (number && isStep) return TypedValue{*number, true};
+  if (const auto value = ParseEntry(setting, text)) return TypedValue{*value};
   if (!number) return {};
-  return TypedValue{relative ? *number : *number + setting.bias, relative};
+  return TypedValue{*number + setting.bias};
 }
 
 std::optional<int> Resolve(const ModelSetting& setting, const TypedValue& typed,

@@ -58,15 +58,18 @@ class PROJECTOR_SETTINGS_EXPORT SettingTexts {
   std::string Values(const ModelSetting& setting) const;
 
   /// Parses what the user typed: a number as it is shown, "=-3" for one below zero; a step, "+3" or
-  /// "-3"; or an entry of a list. An entry is given by its text in any language and case, by that
-  /// text without the number in parentheses that makes it unique, or by its device value. If a text
-  /// means different entries in different languages, this language, English and Chinese have
-  /// precedence. Nothing for any other text, or for a name that several entries have.
+  /// "-3"; or an entry of a list, "=-3" if it is a number below zero. An entry is given by its text
+  /// in any language and case, by that text without the number in parentheses that makes it unique,
+  /// or by its device value. If a text means different entries in different languages, this
+  /// language, English and Chinese have precedence. Nothing for any other text, or for a name that
+  /// several entries have.
   std::optional<TypedValue> Parse(const ModelSetting& setting, std::string_view text) const;
 
  private:
   std::string Text(int category, int number, int value = 0) const;
   std::string Entry(const ListEntry& entry) const;
+  /// The device value of the entry that a text means.
+  std::optional<int> ParseEntry(const ModelSetting& setting, std::string_view text) const;
   bool Is(const ListEntry& entry, std::string_view text,
           std::span<const std::uint32_t> languages) const;
 

@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "settings/Range.h"
 #include "snapshots/Snapshot.h"
 
 namespace {
@@ -35,6 +36,12 @@ constexpr int kVersion = 1;
 constexpr qsizetype kMaximumBytes = qsizetype{4} << 20;
 constexpr int kMaximumSettings = 10'000;
 constexpr qsizetype kMaximumText = 1024;
+/// Device values have 16 bits, signed or not.
+constexpr Range kDeviceValues{std::numeric_limits<std::int16_t>::min(),
+                              std::numeric_limits<std::uint16_t>::max()};
+/// A profile may give a model any such number.
+constexpr Range kModelNumbers{std::numeric_limits<std::int32_t>::min(),
+                              std::numeric_limits<std::int32_t>::max()};
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
@@ -47,18 +54,16 @@ QString Found(const QJsonValue& value) {
 }
 
 int Integer(const QJsonObject& object, const QString& key, const QString& place,
-            const QString& of = {}) {
-  constexpr int kLeast = std::numeric_limits<std::int16_t>::min();
-  constexpr int kMost = std::numeric_limits<std::uint16_t>::max();
+            const Range& range = kDeviceValues, const QString& of = {}) {
   if (!object.contains(key)) {
     throw WrongSnapshot{place + key, WrongSnapshot::tr("a whole number is missing here"), of};
   }
   const double number = object[key].toDouble(0.5);
-  if (number != std::trunc(number) || number < kLeast || number > kMost) {
+  if (number != std::trunc(number) || number < range.minimum || number > range.maximum) {
     throw WrongSnapshot{place + key,
                         WrongSnapshot::tr("must be a whole number from %1 to %2, and is %3")
-                            .arg(kLeast)
-                            .arg(kMost)
+                            .arg(range.minimum)
+                            .arg(range.maximum)
                             .arg(Found(object[key])),
                         of};
   }
@@ -95,10 +100,10 @@ std::vector<SavedSetting> Settings(const QJsonObject& file, const QString& membe
     const QJsonObject entry = Object(array[i], place.chopped(1));
     SavedSetting& setting = settings.emplace_back();
     setting.key = Text(entry, "key", place);
-    setting.value = Integer(entry, "value", place, Wide(setting.key));
+    setting.value = Integer(entry, "value", place, kDeviceValues, Wide(setting.key));
     setting.text = entry["text"].toString().toStdString();
     if (entry.contains("source")) {
-      setting.source = Integer(entry, "source", place, Wide(setting.key));
+      setting.source = Integer(entry, "source", place, kDeviceValues, Wide(setting.key));
     }
   }
   return settings;
@@ -114,8 +119,8 @@ Snapshot Parse(const QJsonObject& file) {
   const QJsonObject model = Object(file["model"], "model");
   Snapshot snapshot{.projector = file["projector"].toString().toStdString(),
                     .model = model["name"].toString().toStdString(),
-                    .dialogType = Integer(model, "dialogType", "model."),
-                    .modelCode = Integer(model, "modelCode", "model."),
+                    .dialogType = Integer(model, "dialogType", "model.", kModelNumbers),
+                    .modelCode = Integer(model, "modelCode", "model.", kModelNumbers),
                     .time = file["time"].toString().toStdString(),
                     .settings = {}};
   snapshot.settings = Settings(file, "settings");

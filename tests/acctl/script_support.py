@@ -56,12 +56,12 @@ def check_sum(content):
     return rest ^ 0xFFFF
 
 
-def write_rooms(path):
+def write_rooms(path, rooms=ROOMS):
     profiles = json.loads((PROGRAMS / "projectors.json").read_text())
     known = {profile["name"]: profile for profile in profiles["projectors"]}
     profiles["projectors"] = [{**known[model], "name": name, "tags": tags, "identity": "id:" + name,
                                "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}
-                              for name, (model, tags) in ROOMS.items()]
+                              for name, (model, tags) in rooms.items()]
     path.write_text(json.dumps(profiles))
 
 

@@ -9,7 +9,7 @@ import signal
 import socket
 import time
 
-from script_support import PROGRAMS, RGB1, RGB2, VALIDATOR, Building, WireProjector, free_port
+from script_support import PROGRAMS, RGB1, RGB2, VALIDATOR, Building, WireProjector, free_port, write_rooms
 
 ALL = "@building-3"
 
@@ -100,6 +100,23 @@ class Runs(Building):
         undo = self.json("undo", "--list")["runs"][-1]
         self.check(["undo", undo["run"]], 0, "2 changed")
         self.assertEqual(self.value(ALL, "contrast"), ["2"] * 3)
+
+    def test_a_run_with_a_large_model_code_is_undone(self):
+        rooms = json.loads((self.folder / "rooms.json").read_text())
+        rooms["projectors"][0]["modelCode"] = 70000
+        (self.folder / "rooms.json").write_text(json.dumps(rooms))
+        self.start_simulator()
+        self.check(["set", ALL, "brightness=5"], 0, "0  ->  5")
+        self.check(["undo", "last", "Seminar 1"], 0, "5  ->  0")
+        self.check(["undo"], 0, "^Lecture hall .* 5  ->  0$")
+
+    def test_a_list_of_numbers_is_set_and_stepped_like_a_number(self):
+        write_rooms(self.folder / "rooms.json", {"Foyer": ("Projector 1-1", [])})
+        self.start_simulator()
+        gain = "picture.custom-user-r"
+        self.check(["set", "Foyer", f"{gain}=-3", f"{gain}-=2", gain, "+1"], 0, "0 +->  -3\n.*  -> +-5\n.*  -> +-4$")
+        self.check(["list", "--brief", "--where", f"{gain}=-4"], 0, "^Foyer$")
+        self.check(["set", "Foyer", gain, "=-40"], 2, errors="'=-40' is not one of")
 
     def test_undoing_an_undo_goes_to_the_same_address(self):
         projector = self.start_projector(WireProjector)

@@ -44,7 +44,9 @@ TEST(Profile, HasWhatTheFleetKnowsOfAProjector) {
   EXPECT_FALSE(JsonLines::FaultOf(R"([[],{"a":1},[1,2]])", {.bytes = 18, .values = 8}));
   EXPECT_EQ(JsonLines::FaultOf(R"([[],{"a":1},[1,2]])", {.values = 7})->offset, 14);
   EXPECT_EQ(JsonLines::FaultOf("{},[]" + QByteArray("{[").repeated(9), {})->offset, 21);
-  EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}), "name: must be a text that is not empty");
+  FleetProfile none;
+  EXPECT_EQ(ProfileChecker(kFile).Check({{"name", 1}}, none),
+            "name: must be a text that is not empty");
 }
 
 // With a mark where an unknown key would be.

@@ -165,6 +165,7 @@ TEST(SearchProfiles, TakeWhatIsFoundAsRecorded) {
                        .serial = cells.value(2).toStdString()});
       if (flag == "moved port") found.back().port = 4400;
       if (flag == "inputs") found.back().inputs = {{31, "HDMI"}, {32, "HDMI"}};
+      if (flag.startsWith("maker ")) found.back().maker = flag.mid(6).toStdString();
       if (flag.startsWith("host ")) found.back().hostNames = {flag.mid(5).toStdString()};
       found.back().needsPassword = flag == "locked";
       continue;

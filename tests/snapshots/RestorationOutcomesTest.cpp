@@ -170,12 +170,14 @@ TEST(Restoration, ASettingOfAnotherSourceIsNotAffected) {
 
 TEST(Restoration, UndoHoldsWhatHasChanged) {
   const SavedSetting input{"other.input-source", 4, ""}, gamma{"picture.gamma", 16, ""};
+  const SavedSetting iris{"picture.active-iris", 16, ""};
   const SavedSetting tint{"picture.tint", 131, ""}, contrast{"picture.contrast", 130, ""};
   const struct {
     std::vector<SavedSetting> wanted;
     std::string settings, beforehand;
     int changes = 1000;
     std::vector<Memory> memories{};
+    int again = 0;  // how many are sent twice
   } cases[] = {
       {{tint}, "picture.tint=128;", ""},
       // The other gamma has the wanted tint.
@@ -191,6 +193,17 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
        "picture.gamma=32;picture.tint=128;picture.contrast=128;",
        "picture.gamma=16;picture.tint=128;picture.gamma=32;",
        2},
+      {{gamma, iris},
+       "picture.gamma=32;picture.active-iris=0;",
+       "picture.gamma=16;picture.active-iris=16;picture.active-iris=0;picture.gamma=32;"},
+      // Each iris has a gamma.
+      {.wanted = {gamma, iris},
+       .settings = "picture.gamma=32;picture.active-iris=0;",
+       .beforehand = "picture.active-iris=16;picture.gamma=16;picture.gamma=33;"
+                     "picture.active-iris=0;picture.gamma=32;",
+       .memories =
+           {{{SettingId::ActiveIris}, {SettingId::Gamma}, {0}, {{{0}, {32}}, {{16}, {33}}}}},
+       .again = 1},
       {{input, gamma},
        "other.input-source=0;picture.gamma=32;",
        "other.input-source=4;picture.gamma=16;picture.gamma=32;other.input-source=0;"},
@@ -207,6 +220,7 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
     for (const SettingId id : {SettingId::Tint, SettingId::Contrast})
       target.channel->projector.SetValue(id, 128);
     target.channel->projector.SetValue(SettingId::Gamma, 32);
+    target.channel->projector.SetValue(SettingId::ActiveIris, 0);
     target.channel->memories = one.memories;
     const Snapshot wanted = Wanted(one.wanted);
     const Restoration restoration =
@@ -214,6 +228,11 @@ TEST(Restoration, UndoHoldsWhatHasChanged) {
     const Snapshot undo = restoration.Undo("", Texts());
     EXPECT_EQ(list(undo.settings), one.settings);
     EXPECT_EQ(list(undo.beforehand), one.beforehand);
+    EXPECT_EQ(target.channel->sent,
+              one.again + std::ranges::count_if(restoration.Settings(), [](const auto& restored) {
+                return restored.turn > 0;
+              }));
+    EXPECT_EQ(restoration.Count(Refused), 0);
     const int reads = target.channel->count + target.script->scripted - target.channel->sent;
     EXPECT_EQ(target.channel->announced, reads) << "so that they are sent at once";
     Snapshot kept;

@@ -1,6 +1,7 @@
 // Snapshot files, typed values of settings, and repeated commands.
 
 #include <gmock/gmock.h>
+#include <limits>
 
 #include "app/profiles/SettingsFile.h"
 #include "settings/CatalogNumbers.h"
@@ -83,6 +84,8 @@ TEST(Snapshot, IsReadAsWrittenAndRefusedIfInvalid) {
   ConnectedProjector target(Profiles().front());
   Snapshot snapshot = target.Take();
   snapshot.isUndo = true;
+  snapshot.dialogType = std::numeric_limits<int>::min();
+  snapshot.modelCode = std::numeric_limits<int>::max();
   snapshot.settings[0].key = std::string(1022, 'k') + " k";  // the longest; the outermost values
   snapshot.settings[0].value = -32768;
   snapshot.settings[1].value = 65535;
@@ -132,12 +135,13 @@ TEST(Snapshot, StopsOnRequest) {
             3U);
 }
 
-// Two entries of a name, one without a name, one of the catalog, and one that the catalog lacks.
+// Two entries of a name, one without a name, one of the catalog, one that the catalog lacks, and a
+// number.
 ModelSetting HostsList() {
   using Kind = ModelSetting::Kind;
   ModelSetting list{.key = "input.hosts-list", .kind = Kind::Choice, .bias = 2, .entries = {}};
   list.entries = {{"HDMI", 31}, {"HDMI", 32}, {"VGA (1)", 1}, {"", 7}, {ListText::SwitchOff, 0},
-                  {9999, 8}};
+                  {9999, 8},    {"-3", 125}};
   return list;
 }
 

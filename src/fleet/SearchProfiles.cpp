@@ -55,12 +55,14 @@ class Taker {
   std::optional<std::size_t> Find(const FoundProjector& found, const QStringList& identities) const;
   void Update(std::size_t profile, const FoundProjector& found, const QStringList& identities);
   void Add(const FoundProjector& found, const QStringList& identities);
+  QString FamilyOf(const FoundProjector& found);
   QString FreeName(const FoundProjector& found) const;
   QJsonValue NetworkOf(const FoundProjector& found) const;
 
   const QByteArray original_;
   const std::string password_;
   ProfileEdits edits_;
+  ProfileChecker checker_;
   QJsonObject families_;
   std::vector<QJsonObject> entries_;
   std::vector<ProjectorLink> links_;  // of the entries, also if inherited
@@ -88,7 +90,10 @@ std::string KeptPassword(std::string password) {
 
 Taker::Taker(const QByteArray& profiles, const std::vector<FoundProjector>& found,
              std::string password)
-    : original_(profiles), password_(KeptPassword(std::move(password))), edits_(profiles) {
+    : original_(profiles),
+      password_(KeptPassword(std::move(password))),
+      edits_(profiles),
+      checker_(profiles) {
   const QJsonObject file = QJsonDocument::fromJson(profiles).object();
   families_ = file["families"].toObject();
   for (const auto& value : file["projectors"].toArray()) {
@@ -196,15 +201,23 @@ QString Taker::FreeName(const FoundProjector& found) const {
   return free;
 }
 
+/// A family of the model that lacks nothing; otherwise nothing.
+QString Taker::FamilyOf(const FoundProjector& found) {
+  if (found.model.empty()) return {};
+  for (auto known = families_.begin(); known != families_.end(); ++known) {
+    const QJsonObject entry{{"name", "?"}, {"like", known.key()}, {"connection", NetworkOf(found)}};
+    const bool isOfModel = known->toObject()["model"].toString() == Text(found.model);
+    if (FleetProfile profile; isOfModel && checker_.Check(entry, profile).isEmpty())
+      return known.key();
+  }
+  return {};
+}
+
 void Taker::Add(const FoundProjector& found, const QStringList& identities) {
   const QString name = FreeName(found);
   const QString identity = identities.isEmpty() ? Text(MakeIdentity()) : identities.first();
   JsonEdit::Members members{{"name", name}, {"identity", identity}};
-  QString family;
-  for (auto known = families_.begin(); known != families_.end(); ++known) {
-    if (known->toObject()["model"].toString() == Text(found.model)) family = known.key();
-  }
-  if (!family.isEmpty() && !found.model.empty()) {
+  if (const QString family = FamilyOf(found); !family.isEmpty()) {
     members.push_back({"like", family});
   } else {
     members.push_back(

@@ -3502,6 +3502,14 @@ a minus in front takes a tag away:</source>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>projektor „%1“ neexistuje</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: projektory se čtou z %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 už existuje a tento program jej nezapsal</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

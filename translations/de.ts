@@ -3456,6 +3456,14 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>es gibt keinen Projektor „%1“</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: aus %1 werden die Projektoren gelesen</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 ist schon da, und dieses Programm hat es nicht geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

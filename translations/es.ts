@@ -3456,6 +3456,14 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>no existe el proyector «%1»</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: los proyectores se leen de %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 ya existe y este programa no lo ha escrito</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

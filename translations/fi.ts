@@ -3456,6 +3456,14 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>projektoria ”%1” ei ole</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: projektorit luetaan tiedostosta %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 on jo olemassa, eikä tämä ohjelma ole kirjoittanut sitä</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

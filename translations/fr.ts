@@ -3456,6 +3456,14 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>le projecteur «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles&#xa0;: les projecteurs sont lus dans %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles&#xa0;: %1 existe déjà et n’a pas été écrit par ce programme</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

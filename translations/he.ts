@@ -3456,6 +3456,14 @@ a minus in front takes a tag away:</source>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>אין מקרן &quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: המקרנים נקראים מתוך %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 כבר קיים, ותוכנית זו לא כתבה אותו</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

@@ -3410,6 +3410,14 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>nincs „%1” nevű projektor</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: a projektorok innen olvashatók be: %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 már létezik, és nem ez a program írta</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

@@ -3456,6 +3456,14 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>il proiettore «%1» non esiste</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: i proiettori vengono letti da %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 esiste già e non è stato scritto da questo programma</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

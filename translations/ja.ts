@@ -3410,6 +3410,14 @@ a minus in front takes a tag away:</source>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>プロジェクター「%1」はありません</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: プロジェクターは %1 から読み取られます</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 はすでにあり、このプログラムが書き込んだものではありません</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

@@ -3456,6 +3456,14 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>er is geen projector ‘%1’</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: de projectoren worden uit %1 gelezen</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 bestaat al en is niet door dit programma geschreven</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

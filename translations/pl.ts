@@ -3502,6 +3502,14 @@ minus przed tagiem go usuwa:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>nie ma projektora „%1”</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: projektory są odczytywane z %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 już istnieje i nie został zapisany przez ten program</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

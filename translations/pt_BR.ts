@@ -3456,6 +3456,14 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>não há o projetor “%1”</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: os projetores são lidos de %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 já existe e não foi gravado por este programa</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

@@ -3502,6 +3502,14 @@ a minus in front takes a tag away:</source>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>нет проектора «%1»</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: проекторы читаются из %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 уже существует и записан не этой программой</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

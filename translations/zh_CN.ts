@@ -3410,6 +3410,14 @@ a minus in front takes a tag away:</source>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>没有投影机“%1”</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles：投影机是从 %1 读取的</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles：%1 已存在，且不是由本程序写入的</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

@@ -3410,6 +3410,14 @@ a minus in front takes a tag away:</source>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>沒有投影機「%1」</translation>
     </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles：投影機是從 %1 讀取的</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles：%1 已存在，且不是由本程式寫入的</translation>
+    </message>
 </context>
 <context>
     <name>SimulatorArguments</name>

@@ -23,6 +23,7 @@
 namespace {
 
 constexpr int kWrongUse = 2;
+constexpr int kRestart = 128 + SIGHUP;  // as if the signal had ended it; the service begins anew
 
 int Fail(const QString& message) {
   Log(message);
@@ -39,13 +40,24 @@ int SignalFile() {
   return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
-void TakeSignals(int file, Bridge& bridge) {
+/// Ends the program with a failure, so that the service starts it again with the present profiles.
+/// Goes on if these are wrong.
+void Restart(const Options& options) {
+  const QString error = ReadProfileList(options.profiles).error;
+  Log(error.isEmpty() ? QStringLiteral("a signal asks for a restart")
+                      : "goes on with the earlier projectors: " + error);
+  if (error.isEmpty()) QCoreApplication::exit(kRestart);
+}
+
+void TakeSignals(int file, const Options& options, Bridge& bridge) {
   signalfd_siginfo signal{};
   while (read(file, &signal, sizeof signal) == sizeof signal) {
     if (signal.ssi_signo == SIGUSR1) {
       bridge.SwitchCommands(false);
     } else if (signal.ssi_signo == SIGUSR2) {
       bridge.SwitchCommands(true);
+    } else if (signal.ssi_signo == SIGHUP) {
+      Restart(options);
     } else {
       QCoreApplication::quit();
     }
@@ -70,7 +82,7 @@ int Run(const Options& options, int signals) {
   if (const QString error = bridge.Start(); !error.isEmpty()) return Fail(error);
   const QSocketNotifier signalled(signals, QSocketNotifier::Read);
   QObject::connect(&signalled, &QSocketNotifier::activated, qApp,
-                   [&bridge, signals] { TakeSignals(signals, bridge); });
+                   [&] { TakeSignals(signals, options, bridge); });
   return QCoreApplication::exec();
 }
 

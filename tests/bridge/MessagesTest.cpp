@@ -144,9 +144,7 @@ TEST_F(DiscoveryOf, ControlsFollowTheKindsOfTheRows) {
       }
       for (const QString& payload : payloads) {
         if (topic.isEmpty()) break;
-        EXPECT_EQ(
-            CheckCommand({setting, payload.toStdString()}, settings, Texts(), KeyRules({"*"})),
-            QString())
+        EXPECT_EQ(CheckCommand({setting, payload}, settings, Texts(), KeyRules({"*"})), QString())
             << NameOf(info) << ' ' << setting;
       }
     }
@@ -200,7 +198,7 @@ class Desk : public testing::Test {
       {.find = [this](const QByteArray& id, auto&) { return id == "x" ? &profile_ : nullptr; },
        .run =
            [this](std::size_t, const Command& command) {
-             said_ = "run " + command.key + '=' + command.value;
+             said_ = "run " + command.key + '=' + TypedValueOf(command);
              return true;
            },
        .answer =
@@ -209,6 +207,8 @@ class Desk : public testing::Test {
              EXPECT_FALSE(answer.isRetained);
              const QJsonObject json = Json(answer.payload);
              said_ = (json["outcome"].toString() + ": " + json["reason"].toString()).toStdString();
+             if (!json["value"].isString())
+               said_ += " of " + json["value"].toVariant().toString().toStdString();
              if (json.contains("id"))
                said_ += " #" + json["id"].toVariant().toString().toStdString();
            }}};
@@ -257,17 +257,17 @@ TEST_F(Desk, LimitsAndSwitches) {
 }
 
 TEST_F(Desk, TellsEveryOutcome) {
-  const Command command{"picture.brightness", "3", "a"};
+  const Command command{"picture.brightness", -3, "a"};
   const auto finish = [&](WorkOutcome outcome, bool isAsleep) {
-    desk_.Finish("x", command, {.outcome = outcome, .reason = "why"}, isAsleep);
+    desk_.Finish("x", command, {.outcome = outcome, .reason = "not '=-3'"}, isAsleep);
     return said_;
   };
-  EXPECT_EQ(finish(WorkOutcome::Done, false), "accepted: why #a");
-  EXPECT_EQ(finish(WorkOutcome::Pending, true), "pending: why #a");
-  EXPECT_EQ(finish(WorkOutcome::Refused, false), "refused: why #a");
-  EXPECT_EQ(finish(WorkOutcome::Refused, true), "standby: why #a");
-  EXPECT_EQ(finish(WorkOutcome::NoAnswer, true), "no-answer: why #a");
-  EXPECT_EQ(finish(WorkOutcome::Stopped, false), "stopped: why #a");
+  EXPECT_EQ(finish(WorkOutcome::Done, false), "accepted: not '-3' of -3 #a");
+  EXPECT_EQ(finish(WorkOutcome::Pending, true), "pending: not '-3' of -3 #a");
+  EXPECT_EQ(finish(WorkOutcome::Refused, false), "refused: not '-3' of -3 #a");
+  EXPECT_EQ(finish(WorkOutcome::Refused, true), "standby: not '-3' of -3 #a");
+  EXPECT_EQ(finish(WorkOutcome::NoAnswer, true), "no-answer: not '-3' of -3 #a");
+  EXPECT_EQ(finish(WorkOutcome::Stopped, false), "stopped: not '-3' of -3 #a");
 }
 
 }  // namespace

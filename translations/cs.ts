@@ -1327,6 +1327,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>texty v jazyce „%1“ nejsou k dispozici</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>žádný projektor nemá štítek „%1“</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

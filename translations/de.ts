@@ -1307,6 +1307,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>es gibt keine Texte in „%1“</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>kein Projektor hat das Schlagwort „%1“</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

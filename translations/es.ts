@@ -1307,6 +1307,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>no hay textos en «%1»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>ningún proyector tiene la etiqueta «%1»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1307,6 +1307,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>kielelle ”%1” ei ole tekstejä</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>millään projektorilla ei ole tunnistetta ”%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

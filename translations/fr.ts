@@ -1307,6 +1307,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>il n’y a pas de textes en «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>aucun projecteur n’a l’étiquette «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1307,6 +1307,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>אין טקסטים ב־&quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>לאף מקרן אין התגית &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1287,6 +1287,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>nincsenek szövegek ezen a nyelven: „%1”</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>egyik projektoron sincs rajta a(z) „%1” címke</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1307,6 +1307,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>non ci sono testi in «%1»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>nessun proiettore ha l’etichetta «%1»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1287,6 +1287,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>「%1」のテキストはありません</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>タグ「%1」を持つプロジェクターはありません</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1287,6 +1287,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>‘%1’의 텍스트가 없습니다</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>태그 ‘%1’이(가) 있는 프로젝터가 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1307,6 +1307,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>er zijn geen teksten in ‘%1’</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>geen projector heeft het label ‘%1’</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

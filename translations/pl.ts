@@ -1327,6 +1327,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>brak tekstów w języku „%1”</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>żaden projektor nie ma tagu „%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

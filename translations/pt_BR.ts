@@ -1307,6 +1307,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>não há textos em “%1”</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>nenhum projetor tem a etiqueta “%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1327,6 +1327,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>нет текстов на языке «%1»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>ни у одного проектора нет тега «%1»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

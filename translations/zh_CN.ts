@@ -1287,6 +1287,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>“%1”中没有文本</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>没有投影机带有标签“%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

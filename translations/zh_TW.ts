@@ -1287,6 +1287,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>沒有「%1」的文字</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>沒有投影機具有標籤「%1」</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <new>
+#include <string>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -12,6 +14,7 @@
 #include "app/bridge/Bridge.h"
 #include "app/bridge/Broker.h"
 #include "app/bridge/Log.h"
+#include "app/bridge/OptionReading.h"
 #include "app/bridge/Options.h"
 #include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
@@ -40,10 +43,25 @@ int SignalFile() {
   return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
+/// Reads the file, in which each tag of the share must occur.
+ProfileList ReadProfiles(const Options& options) {
+  ProfileList list = ReadProfileList(options.profiles);
+  for (const std::string& tag : options.share.tags) {
+    const auto hasIt = [&tag](const FleetProfile& profile) {
+      return std::ranges::find(profile.tags, tag) != profile.tags.end();
+    };
+    if (!list.error.isEmpty() || std::ranges::any_of(list.profiles, hasIt)) continue;
+    list.error =
+        "--tag: " +
+        BridgeOptions::tr("no projector has the tag '%1'").arg(QString::fromStdString(tag));
+  }
+  return list;
+}
+
 /// Ends the program with a failure, so that the service starts it again with the present profiles.
 /// Goes on if these are wrong.
 void Restart(const Options& options) {
-  const QString error = ReadProfileList(options.profiles).error;
+  const QString error = ReadProfiles(options).error;
   Log(error.isEmpty() ? QStringLiteral("a signal asks for a restart")
                       : "goes on with the earlier projectors: " + error);
   if (error.isEmpty()) QCoreApplication::exit(kRestart);
@@ -72,7 +90,7 @@ int End(int code) {
 }
 
 int Run(const Options& options, int signals) {
-  ProfileList profiles = ReadProfileList(options.profiles);
+  ProfileList profiles = ReadProfiles(options);
   if (!profiles.error.isEmpty()) return Fail(profiles.error);
   RaiseDescriptorLimit();
   InstallTranslations(options.language);  // also of the names in discovery messages

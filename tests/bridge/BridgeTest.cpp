@@ -292,6 +292,12 @@ TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {
       {{"--profiles", profiles_, "--broker", "h", "--ca-file", "/none"}, "cannot read /none"},
       {{"--profiles", profiles_, "--commands-per-minute", "0"}, "is not a number"},
       {{"--profiles", profiles_, "--listen", "none", "--text-file", "/none/x"}, "/none/x"},
+      {{"--profiles", profiles_, "--tag", "Building 1", "--tag", "Hall"}, "--tag: no projector"},
+      {{"--profiles", profiles_, "--share", "2/2", "--listen", "none", "--text-file", "/none/x"},
+       "no projector belongs"},
+      {{"--profiles", QFileInfo(BRIDGE_PROGRAM).dir().filePath("projectors.json"), "--listen",
+        "none", "--text-file", "/none/x"},
+       "only simulated projectors"},
       {{"everything"}, "unexpected argument"},
   };
   for (const auto& [arguments, text] : cases) {

@@ -1327,6 +1327,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>texty v jazyce „%1“ nejsou k dispozici</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>žádný projektor nemá štítek „%1“</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3501,6 +3505,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>projektor „%1“ neexistuje</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: projektory se čtou z %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 už existuje a tento program jej nezapsal</translation>
     </message>
 </context>
 <context>

@@ -1307,6 +1307,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>es gibt keine Texte in „%1“</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>kein Projektor hat das Schlagwort „%1“</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>es gibt keinen Projektor „%1“</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: aus %1 werden die Projektoren gelesen</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 ist schon da, und dieses Programm hat es nicht geschrieben</translation>
     </message>
 </context>
 <context>

@@ -1307,6 +1307,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>no hay textos en «%1»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>ningún proyector tiene la etiqueta «%1»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ un signo menos delante quita una etiqueta:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>no existe el proyector «%1»</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: los proyectores se leen de %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 ya existe y este programa no lo ha escrito</translation>
     </message>
 </context>
 <context>

@@ -1307,6 +1307,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>kielelle ”%1” ei ole tekstejä</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>millään projektorilla ei ole tunnistetta ”%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ miinus edessä poistaa tunnisteen:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>projektoria ”%1” ei ole</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: projektorit luetaan tiedostosta %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 on jo olemassa, eikä tämä ohjelma ole kirjoittanut sitä</translation>
     </message>
 </context>
 <context>

@@ -1307,6 +1307,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>il n’y a pas de textes en «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>aucun projecteur n’a l’étiquette «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>le projecteur «&#xa0;%1&#xa0;» n’existe pas</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles&#xa0;: les projecteurs sont lus dans %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles&#xa0;: %1 existe déjà et n’a pas été écrit par ce programme</translation>
     </message>
 </context>
 <context>

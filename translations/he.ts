@@ -1307,6 +1307,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>אין טקסטים ב־&quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>לאף מקרן אין התגית &quot;%1&quot;</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>אין מקרן &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: המקרנים נקראים מתוך %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 כבר קיים, ותוכנית זו לא כתבה אותו</translation>
     </message>
 </context>
 <context>

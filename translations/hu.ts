@@ -1287,6 +1287,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>nincsenek szövegek ezen a nyelven: „%1”</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>egyik projektoron sincs rajta a(z) „%1” címke</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3409,6 +3413,14 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>nincs „%1” nevű projektor</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: a projektorok innen olvashatók be: %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 már létezik, és nem ez a program írta</translation>
     </message>
 </context>
 <context>

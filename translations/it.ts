@@ -1307,6 +1307,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>non ci sono testi in «%1»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>nessun proiettore ha l’etichetta «%1»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>il proiettore «%1» non esiste</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: i proiettori vengono letti da %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 esiste già e non è stato scritto da questo programma</translation>
     </message>
 </context>
 <context>

@@ -1287,6 +1287,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>「%1」のテキストはありません</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>タグ「%1」を持つプロジェクターはありません</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3409,6 +3413,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>プロジェクター「%1」はありません</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: プロジェクターは %1 から読み取られます</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 はすでにあり、このプログラムが書き込んだものではありません</translation>
     </message>
 </context>
 <context>

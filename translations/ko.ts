@@ -1287,6 +1287,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>‘%1’의 텍스트가 없습니다</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>태그 ‘%1’이(가) 있는 프로젝터가 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3409,6 +3413,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>프로젝터 ‘%1’이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: 프로젝터를 %1에서 읽습니다</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1은(는) 이미 있으며 이 프로그램이 쓴 파일이 아닙니다</translation>
     </message>
 </context>
 <context>

@@ -1307,6 +1307,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>er zijn geen teksten in ‘%1’</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>geen projector heeft het label ‘%1’</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ een minteken ervoor neemt een label weg:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>er is geen projector ‘%1’</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: de projectoren worden uit %1 gelezen</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 bestaat al en is niet door dit programma geschreven</translation>
     </message>
 </context>
 <context>

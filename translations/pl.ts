@@ -1327,6 +1327,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>brak tekstów w języku „%1”</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>żaden projektor nie ma tagu „%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3501,6 +3505,14 @@ minus przed tagiem go usuwa:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>nie ma projektora „%1”</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: projektory są odczytywane z %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 już istnieje i nie został zapisany przez ten program</translation>
     </message>
 </context>
 <context>

@@ -1307,6 +1307,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>não há textos em “%1”</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>nenhum projetor tem a etiqueta “%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3455,6 +3459,14 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>não há o projetor “%1”</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: os projetores são lidos de %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 já existe e não foi gravado por este programa</translation>
     </message>
 </context>
 <context>

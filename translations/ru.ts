@@ -1327,6 +1327,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>нет текстов на языке «%1»</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>ни у одного проектора нет тега «%1»</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3501,6 +3505,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>нет проектора «%1»</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles: проекторы читаются из %1</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles: %1 уже существует и записан не этой программой</translation>
     </message>
 </context>
 <context>

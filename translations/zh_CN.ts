@@ -1287,6 +1287,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>“%1”中没有文本</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>没有投影机带有标签“%1”</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3409,6 +3413,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>没有投影机“%1”</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles：投影机是从 %1 读取的</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles：%1 已存在，且不是由本程序写入的</translation>
     </message>
 </context>
 <context>

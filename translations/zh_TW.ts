@@ -1287,6 +1287,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>there are no texts in &apos;%1&apos;</source>
         <translation>沒有「%1」的文字</translation>
     </message>
+    <message>
+        <source>no projector has the tag &apos;%1&apos;</source>
+        <translation>沒有投影機具有標籤「%1」</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3409,6 +3413,14 @@ a minus in front takes a tag away:</source>
     <message>
         <source>there is no projector &apos;%1&apos;</source>
         <translation>沒有投影機「%1」</translation>
+    </message>
+    <message>
+        <source>--write-profiles: the projectors are read from %1</source>
+        <translation>--write-profiles：投影機是從 %1 讀取的</translation>
+    </message>
+    <message>
+        <source>--write-profiles: %1 exists, and this program has not written it</source>
+        <translation>--write-profiles：%1 已存在，且不是由本程式寫入的</translation>
     </message>
 </context>
 <context>

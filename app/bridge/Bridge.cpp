@@ -60,8 +60,11 @@ Bridge::Bridge(const Options& options, std::vector<FleetProfile> profiles,
 
 QString Bridge::Start() {
   if (!projectors_.Error().isEmpty()) return projectors_.Error();
-  if (projectors_.Count() == 0)
-    Log(QStringLiteral("the share has no projector that is not simulated"));
+  if (projectors_.Count() == 0) {
+    Log(projectors_.Simulated() == 0
+            ? QStringLiteral("no projector belongs to the share")
+            : QStringLiteral("the share has only simulated projectors, which are not watched"));
+  }
   if (options_.listens) {
     const QString error = metrics_.Listen(options_.listenAddress, options_.listenPort);
     if (!error.isEmpty()) return "--listen: " + error;

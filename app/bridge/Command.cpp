@@ -11,19 +11,14 @@ namespace {
 constexpr qsizetype kLongestTag = 100;
 
 ParsedCommand Wrong(const QString& error, const QJsonValue& tag = {}) {
-  return {.command = {.key = {}, .value = {}, .tag = tag}, .error = error};
+  return {.command = {.key = {}, .value = QString(), .tag = tag}, .error = error};
 }
 
-/// The value in the form that a person would type. A number is absolute, below zero too.
-std::optional<std::string> ValueText(const QJsonValue& value) {
+bool IsValue(const QJsonValue& value) {
   constexpr double kMost = 1e6;
-  if (value.isString()) return value.toString().toStdString();
-  if (value.isBool()) return value.toBool() ? "1" : "0";
   const double number = value.toDouble(NAN);
-  if (std::abs(number) <= kMost && number == std::floor(number)) {
-    return '=' + std::to_string(static_cast<int>(number));
-  }
-  return {};
+  return value.isString() || value.isBool() ||
+         (std::abs(number) <= kMost && number == std::floor(number));
 }
 
 ParsedCommand ParseJson(const QByteArray& payload) {
@@ -44,11 +39,11 @@ ParsedCommand ParseJson(const QByteArray& payload) {
     }
   }
   if (json["key"].toString().isEmpty()) return Wrong(QStringLiteral("\"key\" is missing"), tag);
-  const auto value = ValueText(json["value"]);
-  if (!value) {
+  if (!IsValue(json["value"])) {
     return Wrong(QStringLiteral("\"value\" is no text, whole number, true or false"), tag);
   }
-  return {.command = {.key = json["key"].toString().toStdString(), .value = *value, .tag = tag}};
+  return {
+      .command = {.key = json["key"].toString().toStdString(), .value = json["value"], .tag = tag}};
 }
 
 std::optional<bool> PowerIn(const std::string& value) {
@@ -58,8 +53,10 @@ std::optional<bool> PowerIn(const std::string& value) {
   return {};
 }
 
-QString Quoted(const std::string& text) {
-  return '\'' + QString::fromStdString(text).left(kLongestTag) + '\'';
+QString Quoted(const QString& text) { return '\'' + text.left(kLongestTag) + '\''; }
+
+QString QuotedValueOf(const Command& command) {
+  return Quoted(command.value.toVariant().toString());
 }
 
 }  // namespace
@@ -73,18 +70,25 @@ ParsedCommand ParseCommand(const QByteArray& key, const QByteArray& payload) {
   if (text.contains(QChar::ReplacementCharacter) || text.contains(QChar::Null)) {
     return Wrong(QStringLiteral("the value is no text in UTF-8"));
   }
-  return {.command = {.key = key.toStdString(), .value = text.trimmed().toStdString()}};
+  return {.command = {.key = key.toStdString(), .value = text.trimmed()}};
+}
+
+std::string TypedValueOf(const Command& command) {
+  if (command.value.isBool()) return command.value.toBool() ? "1" : "0";
+  const QString text = command.value.toVariant().toString();
+  return (command.value.isDouble() ? '=' + text : text).toStdString();
 }
 
 QString CheckCommand(const Command& command, const ModelSettings& settings,
                      const SettingTexts& texts, const KeyRules& rules) {
-  const QString key = Quoted(command.key);
+  const QString key = Quoted(QString::fromStdString(command.key));
   const bool isPower = command.key == kPowerKey;
   const ModelSetting* const setting = settings.Find(command.key);
   if (!isPower && setting == nullptr) return "the model has no setting " + key;
   if (!rules.Allows(command.key)) return key + " may not be commanded";
   if (isPower) {
-    return PowerIn(command.value) ? QString() : QStringLiteral("the power is on or standby");
+    return PowerIn(TypedValueOf(command)) ? QString()
+                                          : QStringLiteral("the power is on or standby");
   }
 
   using Kind = ModelSetting::Kind;
@@ -93,28 +97,31 @@ QString CheckCommand(const Command& command, const ModelSettings& settings,
   // The inputs of a PJLink projector are only known after asking it.
   if (setting->SelectsInput() && setting->entries.empty()) return {};
   if (!isAction && !setting->changeable) return key + " cannot be set";
-  const auto typed = texts.Parse(*setting, command.value);
+  const auto typed = texts.Parse(*setting, TypedValueOf(command));
   const bool isOffered = typed && (isAction ? PositionOf(setting->entries, typed->amount) >= 0
                                             : typed->relative || Resolve(*setting, *typed, {}));
   if (isOffered) return {};
-  return Quoted(command.value) +
+  return QuotedValueOf(command) +
          " is not one of: " + QString::fromStdString(texts.Values(*setting));
 }
 
 FleetWork WorkOf(const Command& command) {
-  if (command.key == kPowerKey) return SwitchPower{PowerIn(command.value).value_or(false)};
-  return SetSetting{command.key, command.value};
+  if (command.key == kPowerKey) return SwitchPower{PowerIn(TypedValueOf(command)).value_or(false)};
+  return SetSetting{command.key, TypedValueOf(command)};
 }
 
 QByteArray AnswerMessage(const Command& command, const std::string& outcome,
                          const std::string& reason) {
-  const auto text = [](const std::string& utf8) {
-    return QString::fromStdString(utf8).left(kLongestTag);
-  };
-  QJsonObject json{{"key", text(command.key)},
-                   {"value", text(command.value)},
+  const auto shortened = [](const QString& text) { return text.left(kLongestTag); };
+  const QJsonValue& value = command.value;
+  QJsonObject json{{"key", shortened(QString::fromStdString(command.key))},
+                   {"value", value.isString() ? shortened(value.toString()) : value},
                    {"outcome", QString::fromStdString(outcome)}};
-  if (!reason.empty()) json["reason"] = QString::fromStdString(reason);
+  if (!reason.empty()) {
+    // It may name the value as it was passed on.
+    const QString typed = Quoted(QString::fromStdString(TypedValueOf(command)));
+    json["reason"] = QString::fromStdString(reason).replace(typed, QuotedValueOf(command));
+  }
   if (!command.tag.isUndefined() && !command.tag.isNull()) json["id"] = command.tag;
   return QJsonDocument(json).toJson(QJsonDocument::Compact);
 }

@@ -13,8 +13,8 @@
 /// A change that the sender of a command asks for.
 struct Command {
   std::string key{};
-  std::string value{};  ///< As a person types it; see `SettingTexts::Parse`.
-  QJsonValue tag{};     ///< The sender's name for the command, which the answer repeats.
+  QJsonValue value{};  ///< As it was sent: a text, a whole number, true or false.
+  QJsonValue tag{};    ///< The sender's name for the command, which the answer repeats.
 };
 
 struct ParsedCommand {
@@ -27,6 +27,9 @@ inline constexpr qsizetype kLongestCommand = 4096;  ///< Bytes.
 /// Reads a command: with a key the payload is the value; without one it is JSON with the members
 /// "key", "value" and, if wanted, "id". The payload may be anything.
 ParsedCommand ParseCommand(const QByteArray& key, const QByteArray& payload);
+
+/// The value as a person types it; see `SettingTexts::Parse`. A number is absolute, below zero too.
+std::string TypedValueOf(const Command& command);
 
 /// Says what is wrong with a command for a projector with these settings, without asking the
 /// projector: one line; empty when all is well.

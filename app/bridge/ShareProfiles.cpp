@@ -15,7 +15,11 @@ std::optional<std::size_t> Found(const auto& map, const std::string& key) {
 
 ShareProfiles::ShareProfiles(std::vector<FleetProfile> profiles, const Share& share) {
   for (FleetProfile& profile : profiles) {
-    if (profile.link == ProjectorLink::Simulated || !share.Has(profile)) continue;
+    if (!share.Has(profile)) continue;
+    if (profile.link == ProjectorLink::Simulated) {
+      ++simulated_;
+      continue;
+    }
     const std::size_t index = profiles_.size();
     const std::string identity = FleetIdOf(profile);
     ids_.push_back(TopicLevel(identity));

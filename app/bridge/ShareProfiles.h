@@ -20,6 +20,8 @@ class ShareProfiles {
   /// An error about two projectors whose identities have the same topic; empty if there is none.
   const QString& Error() const { return error_; }
   std::size_t Count() const { return profiles_.size(); }
+  /// How many were left out.
+  std::size_t Simulated() const { return simulated_; }
   const std::vector<FleetProfile>& All() const { return profiles_; }
   const FleetProfile& Profile(std::size_t projector) const { return profiles_[projector]; }
   /// The identity as a level of a topic.
@@ -30,6 +32,7 @@ class ShareProfiles {
 
  private:
   QString error_;
+  std::size_t simulated_ = 0;
   std::vector<FleetProfile> profiles_;
   std::vector<QByteArray> ids_;
   std::unordered_map<std::string, std::size_t> ofIdentity_;

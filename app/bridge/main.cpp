@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <new>
+#include <string>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -12,6 +14,7 @@
 #include "app/bridge/Bridge.h"
 #include "app/bridge/Broker.h"
 #include "app/bridge/Log.h"
+#include "app/bridge/OptionReading.h"
 #include "app/bridge/Options.h"
 #include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
@@ -23,6 +26,7 @@
 namespace {
 
 constexpr int kWrongUse = 2;
+constexpr int kRestart = 128 + SIGHUP;  // as if the signal had ended it; the service begins anew
 
 int Fail(const QString& message) {
   Log(message);
@@ -39,13 +43,39 @@ int SignalFile() {
   return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
-void TakeSignals(int file, Bridge& bridge) {
+/// Reads the file, in which each tag of the share must occur.
+ProfileList ReadProfiles(const Options& options) {
+  ProfileList list = ReadProfileList(options.profiles);
+  for (const std::string& tag : options.share.tags) {
+    const auto hasIt = [&tag](const FleetProfile& profile) {
+      return std::ranges::find(profile.tags, tag) != profile.tags.end();
+    };
+    if (!list.error.isEmpty() || std::ranges::any_of(list.profiles, hasIt)) continue;
+    list.error =
+        "--tag: " +
+        BridgeOptions::tr("no projector has the tag '%1'").arg(QString::fromStdString(tag));
+  }
+  return list;
+}
+
+/// Ends the program with a failure, so that the service starts it again with the present profiles.
+/// Goes on if these are wrong.
+void Restart(const Options& options) {
+  const QString error = ReadProfiles(options).error;
+  Log(error.isEmpty() ? QStringLiteral("a signal asks for a restart")
+                      : "goes on with the earlier projectors: " + error);
+  if (error.isEmpty()) QCoreApplication::exit(kRestart);
+}
+
+void TakeSignals(int file, const Options& options, Bridge& bridge) {
   signalfd_siginfo signal{};
   while (read(file, &signal, sizeof signal) == sizeof signal) {
     if (signal.ssi_signo == SIGUSR1) {
       bridge.SwitchCommands(false);
     } else if (signal.ssi_signo == SIGUSR2) {
       bridge.SwitchCommands(true);
+    } else if (signal.ssi_signo == SIGHUP) {
+      Restart(options);
     } else {
       QCoreApplication::quit();
     }
@@ -60,7 +90,7 @@ int End(int code) {
 }
 
 int Run(const Options& options, int signals) {
-  ProfileList profiles = ReadProfileList(options.profiles);
+  ProfileList profiles = ReadProfiles(options);
   if (!profiles.error.isEmpty()) return Fail(profiles.error);
   RaiseDescriptorLimit();
   InstallTranslations(options.language);  // also of the names in discovery messages
@@ -70,7 +100,7 @@ int Run(const Options& options, int signals) {
   if (const QString error = bridge.Start(); !error.isEmpty()) return Fail(error);
   const QSocketNotifier signalled(signals, QSocketNotifier::Read);
   QObject::connect(&signalled, &QSocketNotifier::activated, qApp,
-                   [&bridge, signals] { TakeSignals(signals, bridge); });
+                   [&] { TakeSignals(signals, options, bridge); });
   return QCoreApplication::exec();
 }
 

@@ -2,6 +2,7 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <new>
 #include <optional>
 #include <sys/signalfd.h>
@@ -11,6 +12,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QHostAddress>
 #include <QSocketNotifier>
 
 #include "app/profiles/DescriptorLimit.h"
@@ -21,6 +24,7 @@
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/ServedProjectors.h"
 #include "app/simulator/fleet/FleetService.h"
+#include "fleet/ProfileFile.h"
 #include "i18n/SystemLanguage.h"
 
 namespace {
@@ -67,6 +71,37 @@ std::optional<QString> Choose(std::vector<FleetProfile>& profiles, const QString
   return std::nullopt;
 }
 
+// Whether this program, with the same --address, writes such entries.
+bool IsServed(const FleetProfile& profile, const QHostAddress& served) {
+  const std::string& place = profile.connection.address;
+  if (profile.link == ProjectorLink::Serial) return place.starts_with("/dev/pts/");
+  const QHostAddress address(QString::fromStdString(place));
+  return profile.link != ProjectorLink::Simulated && (address.isLoopback() || address == served);
+}
+
+// Says why the file of --write-profiles must not be replaced: it may have the only copy of
+// somebody's work. Empty if it may.
+QString RefuseToReplace(const Arguments& arguments) {
+  const QString& file = arguments.writeProfiles;
+  if (!QFileInfo(file).isFile()) return {};  // a pipe, or nothing yet
+  const auto path = [](const QString& name) {
+    return std::filesystem::path(QFile::encodeName(name).toStdString());
+  };
+  std::error_code fault;
+  if (std::filesystem::equivalent(path(file), path(ProfileFile(arguments)), fault)) {
+    return Program::tr("--write-profiles: the projectors are read from %1").arg(file);
+  }
+  const ProfileFileText present = ReadProfileText(file);
+  if (!present.error.isEmpty()) return present.error;
+  if (present.text.isEmpty()) return {};
+  const ProfileList list = ParseProfileList(present.text, file);
+  const auto isServed = [&arguments](const FleetProfile& profile) {
+    return IsServed(profile, arguments.service.address);
+  };
+  if (list.error.isEmpty() && std::ranges::all_of(list.profiles, isServed)) return {};
+  return Program::tr("--write-profiles: %1 exists, and this program has not written it").arg(file);
+}
+
 // Writes the profiles, prints the addresses, and serves until a signal ends the program.
 template <typename Projectors>
 int Serve(Projectors& projectors, const Arguments& arguments, int endingSignals) {
@@ -99,6 +134,7 @@ int Run(const Arguments& arguments, int endingSignals) {
   if (const auto unknown = Choose(contents.profiles, arguments.projectors)) {
     return Fail(Program::tr("there is no projector '%1'").arg(*unknown));
   }
+  if (const QString error = RefuseToReplace(arguments); !error.isEmpty()) return Fail(error);
   if (arguments.fleet) {
     RaiseDescriptorLimit();
     FleetService fleet(std::move(contents.profiles), *arguments.fleet);

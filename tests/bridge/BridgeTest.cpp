@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <gmock/gmock.h>
 #include <memory>
 #include <set>
@@ -259,7 +260,14 @@ TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {
   const QString file = folder_.filePath("projectors.prom");
   const auto bridge = Bridge({"--text-file", file});
   EXPECT_TRUE(Soon([&] { return Contents(file).count("\nprojector_up{") == 5; }));
-  bridge->Stop();
+  // It is started again after this, unless the profiles are wrong by now.
+  const QByteArray profiles = Contents(profiles_);
+  Write(profiles_, "[");
+  kill(static_cast<pid_t>(bridge->Id()), SIGHUP);
+  ASSERT_TRUE(bridge->Says("goes on with the earlier projectors: "));
+  Write(profiles_, profiles);
+  kill(static_cast<pid_t>(bridge->Id()), SIGHUP);
+  EXPECT_EQ(bridge->ExitCode(), 129);
   EXPECT_EQ(QDir(folder_.path()).entryList({"*.prom"}), QStringList()) << "served for ever";
 }
 
@@ -284,6 +292,12 @@ TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {
       {{"--profiles", profiles_, "--broker", "h", "--ca-file", "/none"}, "cannot read /none"},
       {{"--profiles", profiles_, "--commands-per-minute", "0"}, "is not a number"},
       {{"--profiles", profiles_, "--listen", "none", "--text-file", "/none/x"}, "/none/x"},
+      {{"--profiles", profiles_, "--tag", "Building 1", "--tag", "Hall"}, "--tag: no projector"},
+      {{"--profiles", profiles_, "--share", "2/2", "--listen", "none", "--text-file", "/none/x"},
+       "no projector belongs"},
+      {{"--profiles", QFileInfo(BRIDGE_PROGRAM).dir().filePath("projectors.json"), "--listen",
+        "none", "--text-file", "/none/x"},
+       "only simulated projectors"},
       {{"everything"}, "unexpected argument"},
   };
   for (const auto& [arguments, text] : cases) {

@@ -33,6 +33,8 @@ class Daemon {
 
   void Stop() { process_.terminate(), Wait(); }
   void Kill() { process_.kill(), Wait(); }
+  /// Waits until it ends by itself.
+  int ExitCode() { return Wait(), process_.exitCode(); }
   qint64 Id() const { return process_.processId(); }
   bool Runs() const { return process_.state() == QProcess::Running; }
   /// All that it has said so far.

@@ -1,5 +1,7 @@
 // A bridge's fleet, and how it finds out what differs from a snapshot.
 
+#include <atomic>
+
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -13,6 +15,8 @@
 
 namespace {
 
+using namespace std::chrono_literals;
+
 TEST(DriftCheck, TellsHowManySettingsDiffer) {
   Served served;
   FleetProfile hall = ProfileOf("Hall", SimulatedModelData());
@@ -23,7 +27,7 @@ TEST(DriftCheck, TellsHowManySettingsDiffer) {
   simulated.link = ProjectorLink::Simulated;
   int changes = 0;
   const ShareProfiles projectors({hall, simulated}, {});
-  BridgeFleet fleet(projectors, {}, [&](std::size_t) { ++changes; });
+  BridgeFleet fleet(projectors, {.interval = 20ms}, [&](std::size_t) { ++changes; });
   ASSERT_EQ(projectors.Count(), 1U) << "without what is simulated";
   EXPECT_EQ(projectors.FindName("Hall"), 0U);
   EXPECT_FALSE(projectors.FindName("No"));
@@ -38,8 +42,16 @@ TEST(DriftCheck, TellsHowManySettingsDiffer) {
   }
   Write(folder.filePath("good.json"), WriteSnapshot(snapshot));
   DriftCheck check(fleet, Texts(), folder.path());
-  check.Start(std::chrono::milliseconds(1));
-  EXPECT_TRUE(Soon([&] { return fleet.State(0).drift == 2; }));
+  std::atomic<int> tries = 0;
+  const AddressHold::Observer observer([&](auto&, bool isHeld) { tries += isHeld ? 0 : 1; });
+  served.device->SetFault(PjtOperation::Get, {.kind = Fault::Kind::FailRead});
+  ASSERT_TRUE(served.device->Execute({PjtOperation::SetPowerOff}).answered);
+  check.Start(1ms);
+  fleet.SetAsking(true);
+  EXPECT_TRUE(Soon([&] { return tries == 1; }));
+  served.device->Clear();
+  EXPECT_TRUE(served.device->Execute({PjtOperation::SetPowerOn}).answered);
+  EXPECT_TRUE(Soon([&] { return fleet.State(0).drift == 2; })) << "as soon as it is seen on";
   std::optional<AddressHold> hold(std::in_place, PlaceOf(TargetOf(hall)));
   const auto waits = [&] { return AddressHold::LengthOfLine(PlaceOf(TargetOf(hall))) == 2; };
   check.PutOff();
@@ -49,7 +61,7 @@ TEST(DriftCheck, TellsHowManySettingsDiffer) {
   EXPECT_TRUE(Soon([&] { return !waits(); })) << "it ends";
   hold.reset();
 
-  fleet.SetAsking(true);
+  fleet.SetAsking(false);
   EXPECT_TRUE(Soon([&] { return fleet.States()[0].state.power && changes > 0; }));
   fleet.Observe();
   fleet.Observe();

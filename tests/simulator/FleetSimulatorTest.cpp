@@ -5,8 +5,10 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <tuple>
 
 #include <QTcpSocket>
+#include <QTemporaryDir>
 #include <QUdpSocket>
 
 #include "tests/support/Programs.h"
@@ -194,6 +196,33 @@ TEST_F(FleetSimulator, AnswersASearchWhereItHasMoved) {
   EXPECT_EQ(Ask(AddressOf(one), "%1CLSS ?"), "-");
   EXPECT_EQ(answer(QHostAddress("127.64.9.9")), itself);
   EXPECT_EQ(Control(number + " address 127.64.0.1"), "error: another projector has 127.64.0.1");
+}
+
+TEST(WrittenProfiles, ReplaceNothingElse) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("real.json");
+  const QString link = folder.filePath("link");
+  const QStringList arguments{"--projector", "Projector 5-30", "--serial", "--write-profiles",
+                              file};
+  Write(file, "");
+  for (int i = 0; i < 2; ++i) const SimulatorProcess replaces(arguments);
+  const QByteArray written = Contents(file);
+  ASSERT_TRUE(QFile::link(file, link));
+  using Case = std::tuple<const char*, const char*, QStringList, const char*>;
+  for (const auto& [from, to, more, told] :
+       {Case{"127.0.0.1", "192.0.2.7", {}, "this program has not written it"},
+        Case{"127.0.0.1", "192.0.2.7", {"--address", "192.0.2.7"}, "port 0"},
+        Case{"/dev/pts", "/dev", {}, "this program has not written it"},
+        Case{"pjlink", "simulated", {}, "this program has not written it"},
+        Case{"{", "[", {}, "this program has not written it"},
+        Case{"{", "{", {"--profiles", link}, "the projectors are read from"}}) {
+    const QByteArray text = QByteArray(written).replace(from, to);
+    Write(file, text);
+    const Outcome refused = ::Run(SIMULATOR_PROGRAM, arguments + more);
+    EXPECT_EQ(refused.exitCode, 2) << to;
+    EXPECT_THAT(refused.errors, HasSubstr(told));
+    EXPECT_EQ(Contents(file), text);
+  }
 }
 
 }  // namespace

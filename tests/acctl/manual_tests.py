@@ -40,6 +40,16 @@ class LookingUp(Building):
         port = str(self.pjlink[0]["connection"]["network"]["port"])
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "1 added, 0 moved, 0 known")
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
+        # It is switched though nothing is known of its model.
+        bare = ["--profiles", "found.json"]
+        self.check([*bare, "save", "*", "bare.json"], 0, " 4 settings saved ")
+        self.check([*bare, "set", "*", "power=on", "input=rgb2", "blank=on", "mute=on", "freeze=on"], 0, "RGB1 +->  RGB2$")
+        self.check([*bare, "diff", "*", "bare.json"], 0, " 4 different$")
+        self.check([*bare, "undo"], 0, " 4 changed$")
+        self.check([*bare, "diff", "*", "bare.json"], 0, " 4 already so$")
+        self.check([*bare, "set", "*", "contrast=1"], 2, errors="contrast: this model has no such setting$")
+        for shown in (["settings", "*", "--for", "set"], ["explain", "input"], ["complete", "set", "*", "input="]):
+            self.check([*bare, *shown], 0, "RGB2|rgb2")
         # It has the same address with a host's name.
         found = (self.folder / "found.json").read_text()
         (self.folder / "found.json").write_text(re.sub('"identity": "[^"]*", ', "", found).replace("127.0.0.1", "localhost"))

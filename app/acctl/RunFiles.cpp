@@ -7,8 +7,10 @@
 #include <QFileInfo>
 
 #include "app/acctl/Message.h"
+#include "app/acctl/Printer.h"
 #include "app/acctl/Selection.h"
 #include "app/profiles/PresetFolder.h"
+#include "fleet/MakeVisit.h"
 #include "fleet/WholeFile.h"
 
 namespace {
@@ -198,4 +200,29 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
         {ProblemCode::NoSuchProjector,
          Message(Acctl::tr("%1: is no longer in the profile file"), snapshot->projector)});
   }
+}
+
+UndoId UndoIdOf(const FleetProfile& profile) {
+  UndoId known{FleetIdOf(profile)};
+  if (!profile.identity.empty() || profile.link == ProjectorLink::Simulated) return known;
+  const auto [host, port] = PlaceOf(TargetOf(profile));
+  const bool isIpv6 = host.find(':') != std::string::npos;
+  known.place = isIpv6 ? '[' + host + ']' : host;
+  if (port != 0) known.place += ':' + std::to_string(port);
+  return known;
+}
+
+void LeaveOutOthers(const RecordedRun& run, Projectors& projectors, std::vector<Problem>& left) {
+  std::erase_if(projectors, [&](const FleetProfile* profile) {
+    const UndoId present = UndoIdOf(*profile);
+    const auto changed = run.places.find(present.id);
+    if (changed == run.places.end() || changed->second == present.place) return false;
+    const auto named = [profile](const std::string& place) {
+      return place.empty() ? ShownName(profile->name, true) : profile->name + " (" + place + ')';
+    };
+    left.push_back({ProblemCode::NoSuchProjector,
+                    Message(Acctl::tr("%1: undoes a change of %2; --force applies it to %3"),
+                            run.path, named(changed->second), named(present.place))});
+    return true;
+  });
 }

@@ -16,6 +16,33 @@ class Undoing(Building):
             self.assertEqual(projector.brightness[RGB1], brightness)
         self.assertEqual(self.value("Lecture hall", "brightness"), ["0"])
 
+    def test_a_projector_of_the_same_name_at_another_address_is_left_alone(self):
+        first, second = (self.start_projector(WireProjector) for _ in range(2))
+        room = json.loads((self.folder / "served.json").read_text())["projectors"][0]
+        del room["identity"]
+        profiles = json.loads((self.folder / "served.json").read_text())
+        for site, host, projector in (("a", "localhost", first), ("A", "LOCALHOST", first), ("b", "localhost", second)):
+            place = {"network": {"address": host, "port": projector.port}}
+            profiles["projectors"] = [{**room, "connection": place}]
+            (self.folder / f"{site}.json").write_text(json.dumps(profiles))
+        self.check(["--profiles", "a.json", "set", "Lecture hall", "brightness=3"], 0, "0  ->  3$")
+        moved = f"Lecture hall \\(localhost:{first.port}\\); --force applies it to Lecture hall \\(localhost:{second.port}\\)$"
+        for words in ([], ["last", "Lecture hall"], ["--dry-run"]):
+            self.check(["--profiles", "b.json", "undo", *words], 1, errors=moved)
+        self.check(["--profiles", "rooms.json", "undo"], 1, errors="is no longer in the profile file")
+        self.assertEqual((second.brightness[RGB1], self.json("undo", "--list")["runs"][0]["isUndone"]), (128, False))
+        self.check(["--profiles", "A.json", "undo"], 0, "3  ->  0$")
+        run = self.json("undo", "--list")["runs"][0]["run"]
+        for brightness, words in ((5, ["--force"]), (6, ["--connect", second.address])):
+            second.brightness[RGB1] = 128 + brightness
+            self.check(["--profiles", "b.json", "undo", run, *words], 0, f"{brightness}  ->  0$")
+        # Undo files of older versions do not say where the projector was.
+        self.acctl("--profiles", "a.json", "set", "Lecture hall", "brightness=7")
+        file = max((self.folder / "state/advanced-control/undo").iterdir())
+        file.write_text(file.read_text().replace('"place"', '"was"'))
+        second.brightness[RGB1] = 135
+        self.check(["--profiles", "b.json", "undo"], 0, "7  ->  0$")
+
     def test_a_part_of_a_run_is_undone_by_name_or_state(self):
         self.acctl("set", "Seminar 2", "power=standby", "--wait", "60s")
         self.acctl("set", "*", "brightness=5")

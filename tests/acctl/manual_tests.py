@@ -54,6 +54,10 @@ class LookingUp(Building):
         found = (self.folder / "found.json").read_text()
         (self.folder / "found.json").write_text(re.sub('"identity": "[^"]*", ', "", found).replace("127.0.0.1", "localhost"))
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
+        for text in ("{nonsense", "[]"):
+            (self.folder / "wrong.json").write_text(text)
+            for words in (["list"], ["import", "new.csv"], ["find", "127.0.0.1", "--add", "wrong.json"]):
+                self.check(["--profiles", "wrong.json", *words], 2, errors="^acctl: wrong.json:1")
         waits = ["flock", ".", "timeout", "-s", "KILL", "1"]  # as somebody else is changing a file
         self.run_program(*waits, "acctl", "find", "127.0.0.1", "--port", port, "--add", "late.json")
         self.assertFalse((self.folder / "late.json").exists())

@@ -34,6 +34,16 @@ std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
                  file.projector, (*other)->name);
 }
 
+/// What is wrong with a file that could not be read as one of settings. An undo file of a whole run
+/// is for another command.
+std::string ErrorOf(const SettingsFileContents& file) {
+  const std::string error = file.error.toStdString();
+  if (file.name.isEmpty() || !QFileInfo(file.name).isFile()) return error;
+  const RecordedRun run = ReadRun(file.name);
+  if (!run.error.isEmpty() || run.undo.empty()) return error;
+  return error + "; " + Message(Acctl::tr("use: %1"), "acctl undo " + file.name.toStdString());
+}
+
 /// Takes the settings that --only means, and checks that there are some for each pattern.
 std::string CheckOnly(const Arguments& arguments, SettingsFileContents& contents) {
   Snapshot& snapshot = contents.snapshot;
@@ -54,7 +64,7 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
   const QDir folder(Wide(arguments.file));
   for (const QString& name : folder.entryList({"*.json"}, QDir::Files, QDir::Name)) {
     SettingsFileContents contents = ReadSettingsFile(folder.filePath(name));
-    if (!contents.error.isEmpty()) return contents.error.toStdString();
+    if (!contents.error.isEmpty()) return ErrorOf(contents);
     const std::string projector = contents.snapshot.projector;
     const std::string path = contents.name.toStdString();
     if (FindProfile(profiles, projector) == nullptr) {
@@ -127,7 +137,7 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
                      : Message(Acctl::tr("name the projectors to which the file is applied"));
   }
   files.common = ReadSettingsFile(file);
-  if (!files.common.error.isEmpty()) return files.common.error.toStdString();
+  if (!files.common.error.isEmpty()) return ErrorOf(files.common);
   std::string error = CheckOnly(arguments, files.common);
   return error.empty() ? CheckUndo(arguments, files.common.snapshot, projectors) : error;
 }

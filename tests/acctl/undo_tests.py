@@ -116,6 +116,8 @@ class Undoing(Building):
         before = job.read_text()
         self.check(["undo", "job.undo"], 0, "2 changed")
         self.assertEqual(job.read_text(), before)
+        for file in (job, run):
+            self.check(["apply", str(file), "Office"], 2, errors=f"{file.name}:.*; use: acctl undo .*{file.name}$")
         job.write_text(' {"undoOfJob": [{"id": "a\\nb", "snapshot": {}}]}')
         self.assertEqual(self.acctl("undo", "job.undo").stderr.count("\n"), 1)
         # What is undone and cannot be recorded is reported with an exit code of its own.

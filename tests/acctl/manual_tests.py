@@ -128,6 +128,16 @@ class Manual(Building):
                     run = self.run_program("bash", "-euo", "pipefail", "-c", block, ACCTL_INTERVAL="0.1")
                     self.assertEqual((run.returncode, "no such" in run.stderr), (0, False), run.stderr + run.stdout)
 
+    def test_every_command_of_the_first_page_works(self):
+        shutil.copy(PROGRAMS / "projectors.json", self.folder / "rooms.json")
+        self.start_simulator()
+        lines = re.findall("^    (acctl .*)$", (SOURCES / "README.md").read_text(), re.MULTILINE)
+        self.assertGreater(len(lines), 5)
+        for line in lines:
+            with self.subTest(line=line):
+                run = self.run_program("bash", "-c", line)
+                self.assertEqual((run.returncode, run.stdout == ""), (0, False), run.stderr)
+
 
 class Integrations(Building):
     def test_the_monitoring_plugin_has_the_usual_exit_codes(self):

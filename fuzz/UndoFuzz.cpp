@@ -16,10 +16,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   QByteArray written = HeaderLine(run);
   for (const auto& [id, snapshot] : run.undo) {
     Check(!id.empty() && snapshot != nullptr);
-    written += ChangeLine(id, *snapshot);
+    const auto place = run.places.find(id);
+    written += ChangeLine({id, place == run.places.end() ? "" : place->second}, *snapshot);
   }
   const RecordedRun again = ParseRun(written, run.path);
   Check(again.error.isEmpty() && again.undo.size() == run.undo.size());
+  Check(again.places == run.places);
   for (const auto& [id, snapshot] : run.undo) Check(*again.undo.at(id) == *snapshot);
   if (run.isOfJob) return 0;
   const RecordedRun undone = ParseRun(text + UndoneLine(), run.path);

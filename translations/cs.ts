@@ -444,8 +444,8 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>přeskočit, co je v souboru FILE chybné, místo neodeslání ničeho</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: i soubor pro vrácení z jiného projektoru; save: přepsat jakýkoli soubor</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: i soubor pro vrácení z jiného projektoru; save: přepsat jakýkoli soubor</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -441,8 +441,8 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Falsches in FILE überspringen, statt nichts zu senden</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: auch die Undo-Datei eines anderen Projektors; save: jede Datei ersetzen</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: auch die Undo-Datei eines anderen Projektors; save: jede Datei ersetzen</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -441,8 +441,8 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>omitir lo incorrecto de FILE en lugar de no enviar nada</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: también el archivo para deshacer de otro proyector; save: sustituir cualquier archivo</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: también el archivo para deshacer de otro proyector; save: sustituir cualquier archivo</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

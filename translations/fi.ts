@@ -441,8 +441,8 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>ohita tiedoston FILE virheet sen sijaan, ettei mitään lähetetä</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: myös toisen projektorin kumoamistiedosto; save: korvaa mikä tahansa tiedosto</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: myös toisen projektorin kumoamistiedosto; save: korvaa mikä tahansa tiedosto</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -441,8 +441,8 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>ignorer ce qui est incorrect dans FILE au lieu de ne rien envoyer</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply&#xa0;: aussi le fichier d’annulation d’un autre projecteur&#xa0;; save&#xa0;: remplacer n’importe quel fichier</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo&#xa0;: aussi le fichier d’annulation d’un autre projecteur&#xa0;; save&#xa0;: remplacer n’importe quel fichier</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

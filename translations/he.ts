@@ -441,8 +441,8 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>דילוג על השגוי ב־FILE במקום לא לשלוח דבר</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: גם קובץ ביטול של מקרן אחר; save: החלפת כל קובץ</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: גם קובץ ביטול של מקרן אחר; save: החלפת כל קובץ</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

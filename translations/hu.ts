@@ -438,8 +438,8 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>kihagyja a FILE hibás részeit, ahelyett hogy semmit sem küldene</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: más projektor visszavonási fájlja is; save: bármely fájl felülírása</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: más projektor visszavonási fájlja is; save: bármely fájl felülírása</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -441,8 +441,8 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>ignora ciò che è errato in FILE invece di non inviare nulla</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: anche il file di annullamento di un altro proiettore; save: sostituisci qualsiasi file</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: anche il file di annullamento di un altro proiettore; save: sostituisci qualsiasi file</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

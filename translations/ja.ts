@@ -438,8 +438,8 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>FILE に誤りがあっても送信を中止せず、その部分を飛ばす</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: 別のプロジェクターの復元用ファイルも使用。save: どのファイルでも置き換える</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply、undo: 別のプロジェクターの復元用ファイルも使用。save: どのファイルでも置き換える</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -438,8 +438,8 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>FILE에 잘못이 있어도 전송을 중단하지 않고 그 부분만 건너뜀</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: 다른 프로젝터의 실행 취소 파일도 사용. save: 어떤 파일이든 바꿈</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: 다른 프로젝터의 실행 취소 파일도 사용. save: 어떤 파일이든 바꿈</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

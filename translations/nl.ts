@@ -441,8 +441,8 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>overslaan wat fout is in FILE in plaats van niets te sturen</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: ook het herstelbestand van een andere projector; save: elk bestand vervangen</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: ook het herstelbestand van een andere projector; save: elk bestand vervangen</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -444,8 +444,8 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>pomija błędne pozycje w FILE, zamiast nie wysyłać niczego</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: także plik cofania innego projektora; save: zastępuje dowolny plik</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: także plik cofania innego projektora; save: zastępuje dowolny plik</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -441,8 +441,8 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>ignorar o que está errado em FILE em vez de não enviar nada</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: também o arquivo de desfazer de outro projetor; save: substituir qualquer arquivo</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: também o arquivo de desfazer de outro projetor; save: substituir qualquer arquivo</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

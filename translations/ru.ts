@@ -444,8 +444,8 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>пропустить неверное в FILE, вместо того чтобы ничего не отправлять</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply: и файл отмены другого проектора; save: заменять любой файл</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply, undo: и файл отмены другого проектора; save: заменять любой файл</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -438,8 +438,8 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>跳过 FILE 中的错误，而不是什么都不发送</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply：也可用另一台投影机的撤消文件；save：替换任何文件</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply、undo：也可用另一台投影机的撤消文件；save：替换任何文件</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -438,8 +438,8 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>略過 FILE 中的錯誤，而不是什麼都不傳送</translation>
     </message>
     <message>
-        <source>apply: also the undo file of another projector; save: replace any file</source>
-        <translation>apply：也接受另一台投影機的復原檔；save：取代任何檔案</translation>
+        <source>apply, undo: also the undo file of another projector; save: replace any file</source>
+        <translation>apply、undo：也接受另一台投影機的復原檔；save：取代任何檔案</translation>
     </message>
     <message>
         <source>list the runs that can be undone</source>

@@ -19,13 +19,14 @@ std::optional<Change> ChangeOf(const Work& work, const Target& target, const std
     report.Add({code, std::move(text), key, {}, ExitCode::WrongUse});
     return std::nullopt;
   };
+  const bool isUnknown = setting != nullptr && target.LacksEntries(*setting);
+  if (setting != nullptr && !isUnknown && !kSet.isPossible(*setting))
+    return fail(ProblemCode::NotPossible, Message(Acctl::tr(kSet.refusal)));
   if (setting == nullptr || !target.Carries(kSet, *setting)) {
     report.Add(LackOf(key, setting != nullptr, work.isForSeveral));
     return {};
   }
-  if (target.LacksEntries(*setting)) return {};
-  if (!kSet.isPossible(*setting))
-    return fail(ProblemCode::NotPossible, Message(Acctl::tr(kSet.refusal)));
+  if (isUnknown) return {};
   const auto typed = work.texts.Parse(*setting, word);
   if (!typed || (!typed->relative && !setting->Allows(typed->amount))) {
     return fail(ProblemCode::OutOfRange, Message(Acctl::tr("'%1' is not one of: %2"), word,

@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "app/acctl/Message.h"
+#include "app/acctl/ModelCache.h"
 #include "app/acctl/Selection.h"
 #include "app/acctl/Uses.h"
 #include "fleet/JsonLines.h"
@@ -59,28 +60,30 @@ std::string Possible(const SettingTexts& texts, const ModelSetting& setting) {
   return values;
 }
 
-/// The model that the file was saved from, if a profile has that model; preferably a profile with
-/// the file's name.
-std::optional<ModelSettings> ModelOf(const Snapshot& file,
-                                     const std::vector<FleetProfile>& profiles) {
+/// The profile of the projector that the file was saved from, or else one of its model; null if no
+/// profile has that model.
+const FleetProfile* OwnProfile(const Snapshot& file, const std::vector<FleetProfile>& profiles) {
   const FleetProfile* found = nullptr;
+  int best = 0;
   for (const FleetProfile& profile : profiles) {
     const CModelInfo2& model = profile.model->info;
     if (model.DialogType != file.dialogType || model.ModelCode != file.modelCode) continue;
-    if (found == nullptr || model.ModelName == file.model) found = &profile;
+    const int likeness = profile.name == file.projector ? 3 : model.ModelName == file.model ? 2 : 1;
+    if (likeness > best) found = &profile;
+    best = std::max(best, likeness);
   }
-  if (found == nullptr) return {};
-  return ModelSettings(found->model->data);
+  return found;
 }
 
-/// A setting of the file, as the projector's model and the file's own model define it.
+/// A setting of the file, as the projector's model and the file's own model define it. Models of
+/// the same kind may have other inputs.
 class Entry {
  public:
   Entry(const SettingTexts& texts, const SavedSetting& saved, const ModelSettings& model,
-        const ModelSettings* own)
+        const ModelSettings& own)
       : texts_(texts), saved_(saved) {
     Add(model);
-    if (own != nullptr) Add(*own);
+    if (&own != &model) Add(own);
   }
 
   bool IsKnown() const { return !forms_.empty(); }
@@ -99,9 +102,8 @@ class Entry {
   }
 
   std::string ValueMistake() const {
-    if (!IsKnown() || std::ranges::any_of(forms_, [this](const Form& f) { return Passes(f); })) {
-      return {};
-    }
+    const auto passes = [this](const Form& form) { return Passes(form); };
+    if (!IsKnown() || isOpen_ || std::ranges::any_of(forms_, passes)) return {};
     return Message(Acctl::tr("value %1 is not possible; possible are %2"), saved_.value,
                    Possible(texts_, *forms_.front().setting));
   }
@@ -118,7 +120,8 @@ class Entry {
       return (isName && !isOfOther && inputs == InputNames::OfProjector) ||
              texts_.IsShownAs(*form.setting, saved_.value, saved_.text);
     };
-    if (saved_.text.empty() || !IsKnown() || std::ranges::any_of(forms_, isSo)) return {};
+    const bool isChecked = !saved_.text.empty() && IsKnown() && !isOpen_;
+    if (!isChecked || std::ranges::any_of(forms_, isSo)) return {};
     const ModelSetting& setting = *forms_.front().setting;
     return Message(
         Acctl::tr("text \"%1\" is not that of value %2, which is \"%3\"; change both, or "
@@ -134,7 +137,9 @@ class Entry {
 
   void Add(const ModelSettings& model) {
     const ModelSetting* const setting = model.Find(saved_.key);
-    if (setting != nullptr && setting->Restorable()) forms_.push_back({&model, setting});
+    if (setting == nullptr) return;
+    if (setting->Restorable()) forms_.push_back({&model, setting});
+    isOpen_ = isOpen_ || (setting->SelectsInput() && setting->entries.empty());
   }
   // A projector may report a value that its list lacks. It is then saved with its number as text.
   bool Passes(const Form& form) const {
@@ -146,17 +151,19 @@ class Entry {
   const SettingTexts& texts_;
   const SavedSetting& saved_;
   std::vector<Form> forms_;
+  bool isOpen_ = false;  ///< Only one of the projectors knows the values.
 };
 
 }  // namespace
 
 std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents& contents,
-                                    const ModelSettings& model, InputNames inputs) {
+                                    const std::string& projector, const ModelSettings& model,
+                                    InputNames inputs) {
   constexpr std::size_t kMost = 20;
   const Snapshot& file = contents.snapshot;
-  const bool isOwn = model.Model().DialogType == file.dialogType &&  //
-                     model.Model().ModelCode == file.modelCode;
-  const auto other = isOwn ? std::nullopt : ModelOf(file, work.profiles);
+  const FleetProfile* const profile = OwnProfile(file, work.profiles);
+  const bool isOwn = profile != nullptr && profile->name == projector;
+  const auto own = profile != nullptr && !isOwn ? work.models->Share(*profile) : nullptr;
   std::vector<std::string> mistakes;
   const JsonLines lines(contents.text);
   const auto add = [&](const SavedSetting& saved, const QString& path, const std::string& what) {
@@ -173,8 +180,8 @@ std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents
       return;
     }
     // What the file's model allows is unknown if there is no such model.
-    if (!isOwn && !other) return;
-    const Entry entry(work.texts.Shown(), saved, model, other ? &*other : nullptr);
+    if (profile == nullptr) return;
+    const Entry entry(work.texts.Shown(), saved, model, own ? *own : model);
     add(saved, path + ".source", entry.SourceMistake());
     if (!add(saved, path + ".value", entry.ValueMistake())) {
       add(saved, path + ".text", entry.TextMistake(inputs));
@@ -193,7 +200,7 @@ std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents
 Report CheckFile(const Work& work, const ProjectorAccess& projector) {
   Report report;
   if (work.arguments.lenient || !projector.ReportsInputs()) return report;
-  for (std::string& mistake : MistakesIn(work, work.files.Of(projector.Name()),
+  for (std::string& mistake : MistakesIn(work, work.files.Of(projector.Name()), projector.Name(),
                                          projector.Settings(), InputNames::OfProjector)) {
     report.Add({.code = ProblemCode::WrongFile,
                 .text = std::move(mistake),

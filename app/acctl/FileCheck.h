@@ -13,9 +13,10 @@ enum class InputNames { OfProfile, OfProjector };
 
 /// Mistakes in a file of settings for a projector of `model`, one line each with file, line and
 /// key. Only settings that take part are checked. It is no mistake if `model` lacks a setting of a
-/// file of another model, or does not allow its value.
+/// file of another projector, or does not allow its value.
 std::vector<std::string> MistakesIn(const Work& work, const SettingsFileContents& contents,
-                                    const ModelSettings& model, InputNames inputs);
+                                    const std::string& projector, const ModelSettings& model,
+                                    InputNames inputs);
 
 /// Checks the file for a projector that reports its inputs itself; for any other this was done
 /// before.

@@ -204,9 +204,9 @@ std::vector<OptionForm> MakeOptions() {
        .of = {Command::Diff, Command::Apply}},
       {.name = "force",
        .help = QT_TRANSLATE_NOOP(
-           "Acctl", "apply: also the undo file of another projector; save: replace any file"),
+           "Acctl", "apply, undo: also the undo file of another projector; save: replace any file"),
        .take = [](A& a, Text) { return a.force = true; },
-       .of = {Command::Save, Command::Apply}},
+       .of = {Command::Save, Command::Apply, Command::Undo}},
       {.name = "list",
        .help = QT_TRANSLATE_NOOP("Acctl", "list the runs that can be undone"),
        .take = [](A& a, Text) { return a.list = true; },

@@ -66,7 +66,7 @@ std::vector<std::string> FileMistakes(const Work& work, const Projectors& projec
     if (std::ranges::find(checked, pair) != checked.end()) continue;
     checked.push_back(pair);
     for (std::string& mistake :
-         MistakesIn(work, *pair.second, *pair.first, InputNames::OfProfile)) {
+         MistakesIn(work, *pair.second, profile->name, *pair.first, InputNames::OfProfile)) {
       if (std::ranges::find(mistakes, mistake) == mistakes.end()) {
         mistakes.push_back(std::move(mistake));
       }

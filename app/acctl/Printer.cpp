@@ -95,6 +95,14 @@ void Printer::AddText(const std::string& name, bool isSimulated, const std::stri
   Write(lines);
 }
 
+void Printer::AddNewLines(std::string_view text) {
+  while (!text.empty()) {
+    const std::size_t size = std::min(text.find('\n'), text.size() - 1) + 1;
+    if (const auto [line, isNew] = lines_.emplace(text.substr(0, size)); isNew) Write(*line);
+    text.remove_prefix(size);
+  }
+}
+
 void Printer::AddLines(const QJsonObject& entry) {
   const char* const records = RecordsOf(arguments_.command);
   if (records == nullptr) {
@@ -138,6 +146,8 @@ void Printer::Add(const std::string& name, bool isSimulated, const Report& repor
   const bool isFile = arguments_.command == Command::Save && arguments_.file == "-";
   if (isFile) {
     Write(report.text);
+  } else if (arguments_.format == Format::Text && arguments_.brief) {
+    AddNewLines(report.text);
   } else if (arguments_.format == Format::Text) {
     AddText(name, isSimulated, report.text);
   } else if (arguments_.format == Format::Json) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -38,6 +39,8 @@ class Printer {
 
  private:
   void AddText(const std::string& name, bool isSimulated, const std::string& text);
+  /// Prints the lines that were not printed yet.
+  void AddNewLines(std::string_view text);
   void AddLines(const QJsonObject& entry);
   void AddValues(const QJsonObject& entry);
   void Write(std::string_view text);
@@ -46,6 +49,7 @@ class Printer {
   const int nameWidth_;
   QJsonArray projectors_;
   QJsonArray errors_;
+  std::set<std::string> lines_;
   bool isBegun_ = false;
   bool isPrinted_ = true;
 };

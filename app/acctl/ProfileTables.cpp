@@ -46,6 +46,12 @@ ProfileFileText ReadOrBegin(const std::string& path) {
   return file;
 }
 
+int FailWrong(const Arguments& arguments, const QString& error) {
+  return ReportError(
+      arguments,
+      {.code = ProblemCode::WrongUse, .text = error.toStdString(), .exitCode = ExitCode::WrongUse});
+}
+
 QJsonObject Describe(const FoundProjector& found) {
   QJsonObject json{{"address", Wide(found.address)}, {"port", found.port}};
   const auto add = [&json](const char* member, const std::string& text) {
@@ -60,11 +66,10 @@ QJsonObject Describe(const FoundProjector& found) {
   return json;
 }
 
-QString AddFound(const Arguments& arguments, const std::vector<FoundProjector>& found,
-                 const std::string& password, QJsonObject& result, std::string& text) {
-  const ProfileLock lock(Wide(arguments.file));
-  const ProfileFileText file = ReadOrBegin(arguments.file);
-  if (!file.error.isEmpty()) return file.error;
+/// `file` is what the profile file has now.
+QString AddFound(const Arguments& arguments, const ProfileFileText& file,
+                 const std::vector<FoundProjector>& found, const std::string& password,
+                 QJsonObject& result, std::string& text) {
   const TakenProjectors taken = TakeFound(file.text, found, password);
   result["added"] = QJsonArray::fromStringList(taken.added);
   result["moved"] = QJsonArray::fromStringList(taken.moved);
@@ -88,16 +93,13 @@ int Find(const Arguments& arguments, const std::string& password) {
     QStringList words;
     for (const std::string& word : arguments.words) words += Wide(word);
     SearchRange range = ParseSearchRange(words.join(' '));
-    if (!range.error.isEmpty()) {
-      return ReportError(arguments, {.code = ProblemCode::WrongUse,
-                                     .text = range.error.toStdString(),
-                                     .exitCode = ExitCode::WrongUse});
-    }
+    if (!range.error.isEmpty()) return FailWrong(arguments, range.error);
     options.addresses = std::move(range.addresses);
   }
   if (!arguments.file.empty()) {
-    const QByteArray profiles = ReadOrBegin(arguments.file).text;
-    options.hostNames = HostNamesOf(ParseProfileList(profiles, Wide(arguments.file)).profiles);
+    const ProfileFileText file = ReadOrBegin(arguments.file);
+    if (!file.error.isEmpty()) return FailWrong(arguments, file.error);
+    options.hostNames = HostNamesOf(ParseProfileList(file.text, Wide(arguments.file)).profiles);
   }
   if (arguments.connecting.port != 0) options.port = arguments.connecting.port;
   std::vector<FoundProjector> found;
@@ -139,7 +141,10 @@ int Find(const Arguments& arguments, const std::string& password) {
   std::string text = table.Text();
   // What is missing may have the serial number of another, which is then no identity.
   if (!arguments.file.empty() && signal == 0) {
-    const QString error = AddFound(arguments, found, password, result, text);
+    const ProfileLock lock(Wide(arguments.file));
+    const ProfileFileText file = ReadOrBegin(arguments.file);  // others may have changed it
+    if (!file.error.isEmpty()) return FailWrong(arguments, file.error);
+    const QString error = AddFound(arguments, file, found, password, result, text);
     if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   }
   return Finish(arguments, text, result, code);
@@ -157,11 +162,10 @@ int Import(const Arguments& arguments) {
   const ProfileLock lock(Wide(arguments.profiles));
   WatchSignals();
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
-  const QString unread = csv.error.isEmpty()
-                             ? QString()
-                             : Acctl::tr("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
-  for (const QString& error : {file.error, unread}) {
-    if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
+  if (!file.error.isEmpty()) return FailWrong(arguments, file.error);
+  if (!csv.error.isEmpty()) {
+    const QString error = Acctl::tr("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
+    return ReportError(arguments, {ProblemCode::File, error.toStdString()});
   }
   const CsvImport import = ImportCsv(file.text, csv.bytes);
   QString error = import.error;

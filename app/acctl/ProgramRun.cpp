@@ -124,6 +124,8 @@ std::string ProgramRun::PrepareUndo() {
   recorded_.address = arguments_.connecting.address;
   TakeRun(undone_, profiles_, projectors_, files_, left_);
   if (!arguments_.projectors.empty()) error = LimitUndo();
+  const bool isThere = arguments_.force || !arguments_.connecting.address.empty();
+  if (!isThere) LeaveOutOthers(undone_, projectors_, left_);
   arguments_.lenient = true;
   return error;
 }
@@ -249,7 +251,9 @@ int ProgramRun::RunOnProjectors(const ValueTexts& texts) {
   });
   if (needsSimulator) work.served = FindServed(Wide(arguments_.profiles));
   for (const FleetProfile* profile : projectors_) {
-    if (!IsSimulatedHere(*profile, work)) work.undoIds[profile->name] = FleetIdOf(*profile);
+    if (IsSimulatedHere(*profile, work)) continue;
+    UndoId& known = work.undoIds[profile->name] = UndoIdOf(*profile);
+    if (!arguments_.connecting.address.empty()) known.place.clear();
   }
   if (arguments_.command == Command::Diff || arguments_.command == Command::Apply) {
     const auto mistakes = FileMistakes(work, projectors_, models_);

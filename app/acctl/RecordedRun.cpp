@@ -31,6 +31,8 @@ bool TakeLine(const QJsonObject& json, RecordedRun& run) {
   const auto read = ReadSnapshot(QJsonDocument(json["snapshot"].toObject()).toJson());
   const std::string id = json["id"].toString().toStdString();
   if (id.empty() || !read.error.isEmpty()) return false;
+  const std::string place = json["place"].toString().toStdString();
+  if (!place.empty()) run.places[id] = place;
   run.undo[id] = std::make_shared<const Snapshot>(read.snapshot);
   return true;
 }
@@ -71,9 +73,11 @@ QByteArray HeaderLine(const RecordedRun& run) {
   return LineOf(line);
 }
 
-QByteArray ChangeLine(const std::string& id, const Snapshot& undo) {
-  return LineOf(
-      {{"id", Wide(id)}, {"snapshot", QJsonDocument::fromJson(WriteSnapshot(undo)).object()}});
+QByteArray ChangeLine(const UndoId& projector, const Snapshot& undo) {
+  QJsonObject line{{"id", Wide(projector.id)},
+                   {"snapshot", QJsonDocument::fromJson(WriteSnapshot(undo)).object()}};
+  if (!projector.place.empty()) line["place"] = Wide(projector.place);
+  return LineOf(line);
 }
 
 QByteArray UndoneLine() {

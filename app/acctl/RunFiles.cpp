@@ -7,8 +7,10 @@
 #include <QFileInfo>
 
 #include "app/acctl/Message.h"
+#include "app/acctl/Printer.h"
 #include "app/acctl/Selection.h"
 #include "app/profiles/PresetFolder.h"
+#include "fleet/MakeVisit.h"
 #include "fleet/WholeFile.h"
 
 namespace {
@@ -32,6 +34,16 @@ std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
                  file.projector, (*other)->name);
 }
 
+/// What is wrong with a file that could not be read as one of settings. An undo file of a whole run
+/// is for another command.
+std::string ErrorOf(const SettingsFileContents& file) {
+  const std::string error = file.error.toStdString();
+  if (file.name.isEmpty() || !QFileInfo(file.name).isFile()) return error;
+  const RecordedRun run = ReadRun(file.name);
+  if (!run.error.isEmpty() || run.undo.empty()) return error;
+  return error + "; " + Message(Acctl::tr("use: %1"), "acctl undo " + file.name.toStdString());
+}
+
 /// Takes the settings that --only means, and checks that there are some for each pattern.
 std::string CheckOnly(const Arguments& arguments, SettingsFileContents& contents) {
   Snapshot& snapshot = contents.snapshot;
@@ -52,7 +64,7 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
   const QDir folder(Wide(arguments.file));
   for (const QString& name : folder.entryList({"*.json"}, QDir::Files, QDir::Name)) {
     SettingsFileContents contents = ReadSettingsFile(folder.filePath(name));
-    if (!contents.error.isEmpty()) return contents.error.toStdString();
+    if (!contents.error.isEmpty()) return ErrorOf(contents);
     const std::string projector = contents.snapshot.projector;
     const std::string path = contents.name.toStdString();
     if (FindProfile(profiles, projector) == nullptr) {
@@ -125,7 +137,7 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
                      : Message(Acctl::tr("name the projectors to which the file is applied"));
   }
   files.common = ReadSettingsFile(file);
-  if (!files.common.error.isEmpty()) return files.common.error.toStdString();
+  if (!files.common.error.isEmpty()) return ErrorOf(files.common);
   std::string error = CheckOnly(arguments, files.common);
   return error.empty() ? CheckUndo(arguments, files.common.snapshot, projectors) : error;
 }
@@ -198,4 +210,29 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
         {ProblemCode::NoSuchProjector,
          Message(Acctl::tr("%1: is no longer in the profile file"), snapshot->projector)});
   }
+}
+
+UndoId UndoIdOf(const FleetProfile& profile) {
+  UndoId known{FleetIdOf(profile)};
+  if (!profile.identity.empty() || profile.link == ProjectorLink::Simulated) return known;
+  const auto [host, port] = PlaceOf(TargetOf(profile));
+  const bool isIpv6 = host.find(':') != std::string::npos;
+  known.place = isIpv6 ? '[' + host + ']' : host;
+  if (port != 0) known.place += ':' + std::to_string(port);
+  return known;
+}
+
+void LeaveOutOthers(const RecordedRun& run, Projectors& projectors, std::vector<Problem>& left) {
+  std::erase_if(projectors, [&](const FleetProfile* profile) {
+    const UndoId present = UndoIdOf(*profile);
+    const auto changed = run.places.find(present.id);
+    if (changed == run.places.end() || changed->second == present.place) return false;
+    const auto named = [profile](const std::string& place) {
+      return place.empty() ? ShownName(profile->name, true) : profile->name + " (" + place + ')';
+    };
+    left.push_back({ProblemCode::NoSuchProjector,
+                    Message(Acctl::tr("%1: undoes a change of %2; --force applies it to %3"),
+                            run.path, named(changed->second), named(present.place))});
+    return true;
+  });
 }

@@ -33,5 +33,12 @@ std::string ChooseRun(const Arguments& arguments, RecordedRun& run);
 void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
              Projectors& projectors, SettingsFiles& files, std::vector<Problem>& left);
 
+/// What undo files know a projector by.
+UndoId UndoIdOf(const FleetProfile& profile);
+
+/// Leaves out projectors that the run may not have changed, because it changed one of their name
+/// at another address. `left` gets a line for each.
+void LeaveOutOthers(const RecordedRun& run, Projectors& projectors, std::vector<Problem>& left);
+
 /// The folder for undo files.
 QString UndoFolderOf(const Arguments& arguments);

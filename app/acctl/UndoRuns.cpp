@@ -86,10 +86,10 @@ UndoRecorder::~UndoRecorder() {
   if (file_ >= 0) close(file_);
 }
 
-bool UndoRecorder::Keep(const std::string& id, const Snapshot& undo) {
+bool UndoRecorder::Keep(const UndoId& projector, const Snapshot& undo) {
   Snapshot kept = undo;
   kept.isUndo = true;
-  const QByteArray line = ChangeLine(id, kept);
+  const QByteArray line = ChangeLine(projector, kept);
   const std::lock_guard lock(mutex_);
   return file_ < 0 ? Create(line) : Append(line);
 }

@@ -30,9 +30,8 @@ class UndoRecorder {
   UndoRecorder(const UndoRecorder&) = delete;
   UndoRecorder& operator=(const UndoRecorder&) = delete;
 
-  /// Keeps what a change of the projector with the identity `id` replaces. Returns whether it is on
-  /// the disk.
-  bool Keep(const std::string& id, const Snapshot& undo);
+  /// Keeps what a change of the projector replaces. Returns whether it is on the disk.
+  bool Keep(const UndoId& projector, const Snapshot& undo);
   /// Makes the file of a run that changes what cannot be restored, so that `undo` does not take an
   /// earlier run for the last one.
   void KeepRun();

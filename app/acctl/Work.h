@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/acctl/Arguments.h"
+#include "app/acctl/RecordedRun.h"
 #include "app/acctl/Report.h"
 #include "app/acctl/ValueCodes.h"
 #include "app/profiles/SettingsFile.h"
@@ -40,7 +41,7 @@ struct Work {
   std::map<std::string, std::string> paths{};  ///< The file to save each projector in, by name.
   /// What tells a projector from others in undo files, by name. Those that this program simulates
   /// itself are missing, since no change of them lasts.
-  std::map<std::string, std::string> undoIds{};
+  std::map<std::string, UndoId> undoIds{};
   std::vector<std::string> conditionKeys{};  ///< The settings that --where and --until compare.
   ServedAddresses served{};                  ///< Of simulated projectors, by name.
   std::string password{};                    ///< Of PJLink projectors whose profile has none.

@@ -45,11 +45,13 @@ QString At(const QString& path, const QString& key) {
 
 QString At(const QString& path, int index) { return path + QStringLiteral("[%1]").arg(index); }
 
-void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known) {
+void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known,
+               const QString& shown) {
   for (auto member = object.begin(); member != object.end(); ++member) {
     if (!known.contains(member.key()) && !member.key().startsWith(QLatin1String("x-"))) {
       throw WrongValue{At(path, member.key()),
-                       ProfileFile::tr("unknown key; known are %1").arg(known.join(", "))};
+                       ProfileFile::tr("unknown key; known are %1")
+                           .arg(shown.isEmpty() ? known.join(", ") : shown)};
     }
   }
 }
@@ -171,8 +173,11 @@ std::string Address(const QJsonValue& value, const QString& path) {
   return address;
 }
 
+const QStringList kNetworkKeys{"address", "port", "secret"};
+const QStringList kSerialKeys{"port", "baud", "device"};
+
 ProfileConnection Network(const QJsonObject& parameters, const QString& path) {
-  CheckKeys(parameters, path, {"address", "port", "secret"});
+  CheckKeys(parameters, path, kNetworkKeys);
   ProfileConnection network;
   network.port = Integer(parameters["port"], At(path, "port"), 1, kMaximumPort);
   network.address = Address(parameters["address"], At(path, "address"));
@@ -183,7 +188,7 @@ ProfileConnection Network(const QJsonObject& parameters, const QString& path) {
 }
 
 ProfileConnection Serial(const QJsonObject& parameters, const QString& path) {
-  CheckKeys(parameters, path, {"port", "baud", "device"});
+  CheckKeys(parameters, path, kSerialKeys);
   ProfileConnection serial{.isNetwork = false};
   // A path needs no number beside it.
   if (parameters.contains("port") || !parameters.contains("device")) {
@@ -197,7 +202,10 @@ ProfileConnection Serial(const QJsonObject& parameters, const QString& path) {
 }
 
 ProfileConnection Connection(const QJsonObject& connection, const QString& path) {
-  CheckKeys(connection, path, {"network", "serial"});
+  // Their own keys are often written beside them.
+  const QString kinds = QStringLiteral("network (%1), serial (%2)");
+  CheckKeys(connection, path, {"network", "serial"},
+            kinds.arg(kNetworkKeys.join(", "), kSerialKeys.join(", ")));
   const bool isNetwork = connection.contains("network");
   if (isNetwork == connection.contains("serial")) {
     throw WrongValue{path, ProfileFile::tr("must have either \"network\" or \"serial\"")};

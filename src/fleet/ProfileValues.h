@@ -41,8 +41,10 @@ QString At(const QString& path, int index);
 
 // Each of these throws `WrongValue` if the value at `path` is not as described.
 
-/// An object's keys are all among the known ones, or begin with "x-".
-void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known);
+/// An object's keys are all among the known ones, or begin with "x-". The error names these, or
+/// `shown` instead.
+void CheckKeys(const QJsonObject& object, const QString& path, const QStringList& known,
+               const QString& shown = {});
 QJsonObject Object(const QJsonValue& value, const QString& path);
 /// Of no more than `capacity` elements.
 QJsonArray Array(const QJsonValue& value, const QString& path, int capacity);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "device/CommandCode.h"
+#include "settings/CatalogNumbers.h"
 #include "settings/PageTables.h"
 #include "settings/RowParts.h"
 
@@ -100,7 +101,10 @@ bool ModelSetting::Allows(int value) const {
 ModelSettings::ModelSettings(ModelData model)
     : model_(std::make_shared<const ModelData>(std::move(model))) {
   Add(kStatusRows, Caption::TabStatus);
-  for (const PageTab& tab : TabsOf(model_->DialogType, model_->ModelCode)) {
+  const auto tabs = TabsOf(model_->DialogType, model_->ModelCode);
+  // Nobody knows the pages of such a model; these settings are those of every projector.
+  if (tabs.empty()) Add(kOtherRows, Caption::TabOther);
+  for (const PageTab& tab : tabs) {
     Add(TableOf(tab.page), tab.caption);
     for (const PagePopUp& popUp : PopUpsOf(tab.page, *model_)) Add(*popUp.table, tab.caption);
   }

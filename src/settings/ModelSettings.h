@@ -65,7 +65,9 @@ struct SourcedSetting {
 PROJECTOR_SETTINGS_EXPORT std::vector<std::string_view> AllKeys();
 
 /// All settings of a model in the order of its pages; those of a pop-up follow those of the page
-/// that opens it. Call it from the thread on which the connection's channel may be called.
+/// that opens it. A model of an unknown page set has those of the status page, and power, input,
+/// blank, mute and freeze, which every projector has. Call it from the thread on which the
+/// connection's channel may be called.
 class PROJECTOR_SETTINGS_EXPORT ModelSettings {
  public:
   explicit ModelSettings(ModelData model);

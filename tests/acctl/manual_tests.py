@@ -40,10 +40,24 @@ class LookingUp(Building):
         port = str(self.pjlink[0]["connection"]["network"]["port"])
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "1 added, 0 moved, 0 known")
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
+        # It is switched though nothing is known of its model.
+        bare = ["--profiles", "found.json"]
+        self.check([*bare, "save", "*", "bare.json"], 0, " 4 settings saved ")
+        self.check([*bare, "set", "*", "power=on", "input=rgb2", "blank=on", "mute=on", "freeze=on"], 0, "RGB1 +->  RGB2$")
+        self.check([*bare, "diff", "*", "bare.json"], 0, " 4 different$")
+        self.check([*bare, "undo"], 0, " 4 changed$")
+        self.check([*bare, "diff", "*", "bare.json"], 0, " 4 already so$")
+        self.check([*bare, "set", "*", "contrast=1"], 2, errors="contrast: this model has no such setting$")
+        for shown in (["settings", "*", "--for", "set"], ["explain", "input"], ["complete", "set", "*", "input="]):
+            self.check([*bare, *shown], 0, "RGB2|rgb2")
         # It has the same address with a host's name.
         found = (self.folder / "found.json").read_text()
         (self.folder / "found.json").write_text(re.sub('"identity": "[^"]*", ', "", found).replace("127.0.0.1", "localhost"))
         self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
+        for text in ("{nonsense", "[]"):
+            (self.folder / "wrong.json").write_text(text)
+            for words in (["list"], ["import", "new.csv"], ["find", "127.0.0.1", "--add", "wrong.json"]):
+                self.check(["--profiles", "wrong.json", *words], 2, errors="^acctl: wrong.json:1")
         waits = ["flock", ".", "timeout", "-s", "KILL", "1"]  # as somebody else is changing a file
         self.run_program(*waits, "acctl", "find", "127.0.0.1", "--port", port, "--add", "late.json")
         self.assertFalse((self.folder / "late.json").exists())
@@ -109,9 +123,20 @@ class Manual(Building):
             blocks = re.findall(r"^```sh\n(.*?)^```", page.read_text(), re.DOTALL | re.MULTILINE)
             self.assertTrue(blocks)
             for block in blocks:
+                block = re.sub("(?m)^acctl watch (?!.*--until).*$", r"\g<0> --wait 0.1", block)  # else it never ends
                 with self.subTest(page=page.name, block=block):
                     run = self.run_program("bash", "-euo", "pipefail", "-c", block, ACCTL_INTERVAL="0.1")
                     self.assertEqual((run.returncode, "no such" in run.stderr), (0, False), run.stderr + run.stdout)
+
+    def test_every_command_of_the_first_page_works(self):
+        shutil.copy(PROGRAMS / "projectors.json", self.folder / "rooms.json")
+        self.start_simulator()
+        lines = re.findall("^    (acctl .*)$", (SOURCES / "README.md").read_text(), re.MULTILINE)
+        self.assertGreater(len(lines), 5)
+        for line in lines:
+            with self.subTest(line=line):
+                run = self.run_program("bash", "-c", line)
+                self.assertEqual((run.returncode, run.stdout == ""), (0, False), run.stderr)
 
 
 class Integrations(Building):

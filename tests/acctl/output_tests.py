@@ -47,6 +47,14 @@ class Output(Building):
         self.assertEqual({name: value[name] for name in ("name", "alias", "shown", "code")},
                          {"name": "Office", "alias": "contrast", "shown": -1, "code": "-1"})
 
+    def test_keys_are_printed_once_for_scripts(self):
+        run = self.check(["settings", "*", "--brief"], 0, "^main.contrast$")
+        keys = run.stdout.splitlines()
+        self.assertEqual(len(set(keys)), len(keys))
+        self.assertLess({"picture.contrast", "main.contrast", "status.power"}, set(keys))
+        self.assertFalse([key for key in keys if " " in key])
+        self.check(["settings", "Office", "contrast", "--brief"], 0, "^main.contrast\n$")
+
     def test_texts_are_in_the_users_language_and_those_for_programs_are_english(self):
         wrong = ["get", "Lecture hall", "smell"]
         chinese = {"LC_ALL": "zh_CN.UTF-8"}

@@ -185,6 +185,9 @@ class Building(unittest.TestCase):
     def acctl(self, *words, text=None, **environment):
         return self.run_program(PROGRAMS / "acctl", *words, text=text, **environment)
 
+    def value(self, *words):
+        return self.acctl("get", *words, "-o", "value").stdout.split()
+
     def start(self, *words):
         program = subprocess.Popen([PROGRAMS / "acctl", *words], cwd=self.folder, env=self.environment, text=True,
                                    stdout=subprocess.PIPE, stderr=subprocess.PIPE)

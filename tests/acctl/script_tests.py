@@ -1,4 +1,4 @@
-"""acctl on many projectors, as scripts use it: selecting, saving and undoing."""
+"""acctl on many projectors, as scripts use it: selecting, changing and saving."""
 
 import itertools
 import json
@@ -9,7 +9,7 @@ import signal
 import socket
 import time
 
-from script_support import PROGRAMS, RGB1, RGB2, VALIDATOR, Building, WireProjector, free_port, write_rooms
+from script_support import PROGRAMS, Building, WireProjector, free_port, write_rooms
 
 ALL = "@building-3"
 
@@ -77,9 +77,6 @@ class Choosing(Building):
 
 
 class Runs(Building):
-    def value(self, *words):
-        return self.acctl("get", *words, "-o", "value").stdout.split()
-
     def test_a_whole_run_is_saved_applied_and_undone(self):
         self.assertEqual(self.acctl("save", ALL, "-o", "saved").returncode, 0)
         self.assertEqual(sorted(file.name for file in (self.folder / "saved").iterdir()),
@@ -101,15 +98,6 @@ class Runs(Building):
         self.check(["undo", undo["run"]], 0, "2 changed")
         self.assertEqual(self.value(ALL, "contrast"), ["2"] * 3)
 
-    def test_a_run_with_a_large_model_code_is_undone(self):
-        rooms = json.loads((self.folder / "rooms.json").read_text())
-        rooms["projectors"][0]["modelCode"] = 70000
-        (self.folder / "rooms.json").write_text(json.dumps(rooms))
-        self.start_simulator()
-        self.check(["set", ALL, "brightness=5"], 0, "0  ->  5")
-        self.check(["undo", "last", "Seminar 1"], 0, "5  ->  0")
-        self.check(["undo"], 0, "^Lecture hall .* 5  ->  0$")
-
     def test_a_list_of_numbers_is_set_and_stepped_like_a_number(self):
         write_rooms(self.folder / "rooms.json", {"Foyer": ("Projector 1-1", [])})
         self.start_simulator()
@@ -117,40 +105,6 @@ class Runs(Building):
         self.check(["set", "Foyer", f"{gain}=-3", f"{gain}-=2", gain, "+1"], 0, "0 +->  -3\n.*  -> +-5\n.*  -> +-4$")
         self.check(["list", "--brief", "--where", f"{gain}=-4"], 0, "^Foyer$")
         self.check(["set", "Foyer", gain, "=-40"], 2, errors="'=-40' is not one of")
-
-    def test_undoing_an_undo_goes_to_the_same_address(self):
-        projector = self.start_projector(WireProjector)
-        self.check(["set", "Lecture hall", "brightness=5", "--connect", projector.address], 0, "0  ->  5")
-        for brightness in (128, 133):
-            self.check(["undo", self.json("undo", "--list")["runs"][-1]["run"]], 0, "1 changed")
-            self.assertEqual(projector.brightness[RGB1], brightness)
-        self.assertEqual(self.value("Lecture hall", "brightness"), ["0"])
-
-    def test_a_part_of_a_run_is_undone_by_name_or_state(self):
-        self.acctl("set", "Seminar 2", "power=standby", "--wait", "60s")
-        self.acctl("set", "*", "brightness=5")
-        self.check(["undo", "--where", "power=standby"], 0, "^Seminar 2 .*changed")
-        self.check(["undo", "last", "Off*"], 0, "^Office .*changed")
-        self.assertEqual(self.value("*", "brightness"), ["5", "5", "0", "0"])
-        self.check(["undo"], 0, "^Lecture hall .*changed")
-        self.assertEqual(self.value("*", "brightness"), ["0"] * 4)
-        self.acctl("set", "Office", "brightness=5")
-        self.check(["undo", "last", "Seminar*"], 2, errors="the run has changed none of these projectors")
-
-    def test_a_reset_is_undone_except_for_hours(self):
-        self.acctl("set", "Lecture hall", "tint=7")
-        self.check(["reset", "Lecture hall", "tint", "status.lamp-time"], 0, " 0 h\n.* 0$",
-                   "status.lamp-time: this cannot be undone")
-        self.assertEqual(self.value("Lecture hall", "tint"), ["0"])
-        self.check(["undo"], 0, "tint .* 0  ->  7$")
-
-    def test_a_last_run_that_cannot_be_undone_is_not_passed_over(self):
-        for words in (["reset", "Office", "status.lamp-time"], ["set", "Office", "power=standby", "--wait", "60s"]):
-            self.acctl("set", "Office", "contrast+=1")
-            self.assertEqual(self.acctl(*words).returncode, 0)
-            runs = self.json("undo", "--list")["runs"]
-            self.assertEqual([run["projectors"] for run in runs[-2:]], [1, 0])
-            self.check(["undo"], 2, errors=runs[-1]["run"] + ".*there is nothing to undo; name an earlier run")
 
     def test_what_follows_a_power_on_waits_for_it(self):
         self.start_simulator("--fleet", "1", "--link", "pjlink", "--warm-up", "3", "--cool-down", "0")
@@ -194,88 +148,6 @@ class Runs(Building):
         for words in (["apply", "-", "Office"], ["set", "Office", "--from", "-"], ["import", "-"]):
             self.assertEqual(self.run_program("bash", "-c", ended, "", *words).returncode, 128 + signal.SIGTERM, words)
 
-    def test_old_undo_files_are_removed(self):
-        undo = self.folder / "state/advanced-control/undo"
-        undo.mkdir(parents=True)
-        (undo / "notes.txt").write_text("not ours")
-        (undo / ".advanced-control-0123456789abcdef").write_text("of a run that was killed")
-        for days, left in ((30, 1), (2, 2), (0, 3), (1, 1)):  # 0 keeps all
-            self.acctl("set", "Office", "brightness+=1", ACCTL_UNDO_DAYS=str(days))
-            self.assertEqual(len(self.json("undo", "--list")["runs"]), left, days)
-            for file in undo.iterdir():
-                os.utime(file, (time.time() - 1.5 * 86400,) * 2)
-        self.assertEqual(len(list(undo.iterdir())), 2, "notes.txt and the last run")
-        self.assertTrue((undo / "notes.txt").exists())
-
-    def test_a_run_that_cannot_be_read_is_never_passed_over(self):
-        for brightness in ("5", "6"):
-            self.acctl("set", "Office", "brightness=" + brightness)
-        undo = self.folder / "state/advanced-control/undo"
-        earlier, last = sorted(undo.iterdir())
-        whole = last.read_text()
-        header, line = whole.splitlines()
-        for damaged, error in (("", "illegal value"), (whole[:-9] + "\n", ":2: not a line"),
-                               (whole.replace(":1}", ":2}"), ":1: not a line"), (whole.replace(line, "[" * 9999), ":2: not"),
-                               (whole.replace('"id"', '"no"'), ":2: not"), (whole.replace("snapshot", "shot"), ":2: not")):
-            last.write_text(damaged)
-            self.check(["undo"], 2, errors=f"{last.name}.*{error}.*; name an earlier run")
-            self.check(["undo", last.stem], 2, errors=error)
-            self.check(["undo", "--list"], 1, earlier.stem + ".*set Office brightness=5\n$", errors=error)
-        VALIDATOR.validate(self.json("undo", "--list", code=1))
-        # A run that was killed while it wrote a line is undone, and stays in the list.
-        last.write_text(whole + line[:40])
-        self.check(["undo"], 0, "6  ->  5")
-        self.assertTrue(self.json("undo", "--list")["runs"][1]["isUndone"])
-        self.check(["undo"], 0, "5  ->  0")
-        self.check(["undo"], 2, errors="there is no run to undo")
-
-    def test_an_undo_of_the_host_application_is_not_written_to(self):
-        self.acctl("set", "Office", "brightness=5", "contrast=2")
-        run = next((self.folder / "state/advanced-control/undo").iterdir())
-        not_compared = r"main.contrast .* \?  ->  0\n.* \?  ->  0\nOffice  2 not compared$"
-        self.check(["undo", "--dry-run"], 0, not_compared)
-        (self.folder / "undo.json").write_text(json.dumps(json.loads(run.read_text().splitlines()[-1])["snapshot"]))
-        self.check(["diff", "Office", "undo.json", "--exit-code"], 2, not_compared)
-        job = self.folder / "job.undo"
-        job.write_text(json.dumps({"undoOfJob": [json.loads(run.read_text().splitlines()[-1])]}, indent=1))
-        before = job.read_text()
-        self.check(["undo", "job.undo"], 0, "2 changed")
-        self.assertEqual(job.read_text(), before)
-        job.write_text(' {"undoOfJob": [{"id": "a\\nb", "snapshot": {}}]}')
-        self.assertEqual(self.acctl("undo", "job.undo").stderr.count("\n"), 1)
-        # What is undone and cannot be recorded is reported with an exit code of its own.
-        pipe = self.acctl("undo", "/dev/stdin", "-o", "json", text=run.read_text())
-        self.assertEqual((pipe.returncode, json.loads(pipe.stdout)["errors"][0]["code"]), (1, "file"))
-        self.assertIn("cannot record in /dev/stdin that it is undone", pipe.stderr)
-
-    def test_what_was_set_for_a_new_input_is_undone_for_it(self):
-        before = self.acctl("get", "Lecture hall", "-o", "tsv").stdout
-        self.check(["set", "Lecture hall", "input=rgb2", "volume=7", "brightness=4", "input=rgb1", "volume=9"], 0, "->")
-        self.check(["undo"], 0, "changed")
-        self.assertEqual(self.acctl("get", "Lecture hall", "-o", "tsv").stdout, before)
-        self.acctl("set", "Lecture hall", "input=rgb2")
-        self.assertEqual(self.value("Lecture hall", "volume"),
-                         [line.split("\t")[4] for line in before.splitlines() if "\taudio.volume\t" in line])
-
-    def test_what_follows_a_change_of_input_is_undone_for_the_input_that_it_was_made_for(self):
-        for refusals, words, code, output, errors in (
-                (1, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "input-source: refused, it is RGB1$"),
-                (9, ["input=rgb2", "brightness=7"], 1, "0 +->  7$", "refused"),  # still when it is undone
-                (0, ["contrast=1", "input=rgb2", "brightness+=3", "contrast+=1"], 0, "12 +->  15\n.* 1 +->  2$", ""),
-                (0, ["input=rgb2", "brightness=0"], 0, "12 +->  0$", ""),
-                (0, ["input=rgb2", "brightness+=31"], 1, "->  RGB2$", "brightness: '\+31' from 12 is not one of"),
-                (0, ["brightness=1", "input=rgb2", "input-=1", "brightness-=1"], 0, " 1 +->  0$", "")):
-            with self.subTest(refusals=refusals, words=words):
-                projector = self.start_projector(WireProjector)
-                projector.refusals = refusals
-                self.check(["set", "Lecture hall", *words, "--connect", projector.address], code, output, errors)
-                self.check(["undo"], 0, "^Lecture hall .*[0-9] changed$")
-                self.assertEqual((projector.input, projector.brightness, projector.others[0x2004]),
-                                 (RGB1, {RGB1: 128, RGB2: 140}, 128))
-        projector.commands, projector.lost = 0, range(5, 99)  # from the value that brightness has then
-        self.check(["set", "Lecture hall", "input=rgb2", "brightness+=3", "--connect", projector.address, "--timeout", "0.2"],
-                   3, "->  RGB2$", "brightness: no answer$")
-
     def test_folders_know_their_projectors(self):
         self.acctl("save", "Seminar*", "-o", "saved")
         self.check(["apply", "saved", "Office", "Seminar 1"], 1, "^Seminar 1 .*already so",
@@ -285,6 +157,26 @@ class Runs(Building):
         shutil.copy(self.folder / "saved/other.json", self.folder / "saved/twice.json")
         self.check(["apply", "saved"], 2, errors="is also of Seminar 2")
         self.check(["apply", "sav"], 2, errors="sav: there is no such file or folder")
+
+    def test_a_file_of_one_is_for_all_of_its_model_whatever_inputs_they_have(self):
+        served = json.loads((self.folder / "served.json").read_text())
+        old, new = served["projectors"][0], next(entry for entry in self.pjlink if entry["name"].startswith("Lecture"))
+        inputs = [{"name": "HDMI", "value": 31}]
+        served["projectors"] = [{**new, "mySources": inputs}, {**new, "name": "Asked", "identity": "id:x", "mySources": []},
+                                {**old, "name": "Fewer", "identity": "id:y", "mySources": inputs}, old]
+        (self.folder / "served.json").write_text(json.dumps(served))
+        self.check(["save", "Lecture hall", "old.json"], 0, " settings saved ")
+        skipped = "skipped, this model does not take it: .*other.input-source"
+        for name, is_by_pjlink in ((new["name"], True), ("Asked", True), ("Fewer", False)):
+            run = self.check(["apply", "old.json", name, "--dry-run"], 0, "already so", skipped)
+            self.assertEqual("PJLink does not have them" in run.stderr, is_by_pjlink)
+        self.check(["save", "Asked", "asked.json"], 0, " settings saved ")
+        self.check(["diff", "*", "asked.json"], 0, "already so", "Lecture hall: " + skipped)
+        # What neither of them has is a mistake still.
+        old = self.folder / "old.json"
+        old.write_text(old.read_text().replace('"source": 0,', '"source": 99,'))
+        for name in (new["name"], "Fewer", "Lecture hall"):
+            self.check(["diff", name, "old.json"], 2, errors="audio.volume: source 99 does not exist")
 
     def test_presets_are_found_by_name(self):
         presets = self.folder / "data/advanced-control/presets"

@@ -91,7 +91,7 @@ void UsualActions::Set(const Choice& choice) {
                 .question = choice.question(static_cast<int>(rows.size())),
                 .parts = {}};
   for (const ProjectorRow* row : rows) {
-    FleetTarget target = settings_.WithKnownModel(watch_.TargetOf(row->profile));
+    FleetTarget target = watch_.TargetOf(row->profile);
     const std::string own = choice.key.empty() ? settings_.InputKey(target.model) : choice.key;
     if (own.empty() || !settings_.Has(target.model, own)) {
       plan.missing.push_back(target.id);
@@ -113,7 +113,7 @@ void UsualActions::FillInputs(QMenu& menu) {
     if (!name.empty() && std::ranges::find(names, name) == names.end()) names.push_back(name);
   };
   for (const ProjectorRow* row : selected_()) {
-    const auto model = settings_.WithKnownModel(watch_.TargetOf(row->profile)).model;
+    const auto model = watch_.TargetOf(row->profile).model;
     if (const ModelSetting* input = settings_.Of(model).Input()) {
       for (const ListEntry& entry : input->entries) add(work_.Texts().Entry(*input, entry));
     }

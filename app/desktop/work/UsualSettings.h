@@ -11,9 +11,6 @@
 /// The settings of models for everyday changes.
 class UsualSettings {
  public:
-  /// If nobody knows the model of a projector on PJLink, its usual settings are those of any model:
-  /// the protocol has no others.
-  FleetTarget WithKnownModel(FleetTarget target);
   /// The key with which the model's input source is chosen; empty if it has none.
   std::string InputKey(const std::shared_ptr<const ModelData>& model);
   /// Whether the model has a setting of this key that can be changed.
@@ -24,5 +21,4 @@ class UsualSettings {
   using Model = std::shared_ptr<const ModelData>;
 
   std::map<Model, ModelSettings> models_;
-  std::map<Model, Model> usual_;  // used instead of an unknown model
 };

@@ -266,7 +266,7 @@ std::vector<std::string> HostNamesOf(const std::vector<FleetProfile>& profiles) 
   std::vector<std::string> names;
   for (const FleetProfile& profile : profiles) {
     const ProfileConnection& connection = profile.connection;
-    const bool isName = QHostAddress(Text(connection.address)).isNull();
+    const bool isName = QHostAddress(QString::fromStdString(connection.address)).isNull();
     if (connection.isNetwork && isName) names.push_back(connection.address);
   }
   return names;

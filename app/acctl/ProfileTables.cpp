@@ -96,12 +96,13 @@ int Find(const Arguments& arguments, const std::string& password) {
     if (!range.error.isEmpty()) return FailWrong(arguments, range.error);
     options.addresses = std::move(range.addresses);
   }
+  if (arguments.connecting.port != 0) options.port = arguments.connecting.port;
   if (!arguments.file.empty()) {
     const ProfileFileText file = ReadOrBegin(arguments.file);
     if (!file.error.isEmpty()) return FailWrong(arguments, file.error);
-    options.hostNames = HostNamesOf(ParseProfileList(file.text, Wide(arguments.file)).profiles);
+    options.hostNames =
+        HostNamesOf(ParseProfileList(file.text, Wide(arguments.file)).profiles, options.port);
   }
-  if (arguments.connecting.port != 0) options.port = arguments.connecting.port;
   std::vector<FoundProjector> found;
   QEventLoop loop;
   SearchDriver search(

@@ -37,7 +37,7 @@ std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
 /// What is wrong with a file that could not be read as one of settings. An undo file of a whole run
 /// is for another command.
 std::string ErrorOf(const SettingsFileContents& file) {
-  const std::string error = file.error.toStdString();
+  std::string error = file.error.toStdString();
   if (file.name.isEmpty() || !QFileInfo(file.name).isFile()) return error;
   const RecordedRun run = ReadRun(file.name);
   if (!run.error.isEmpty() || run.undo.empty()) return error;

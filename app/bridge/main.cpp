@@ -67,14 +67,14 @@ void Restart(const Options& options) {
   if (error.isEmpty()) QCoreApplication::exit(kRestart);
 }
 
-void TakeSignals(int file, const Options& options, Bridge& bridge) {
+void TakeSignals(int file, bool isInTerminal, const Options& options, Bridge& bridge) {
   signalfd_siginfo signal{};
   while (read(file, &signal, sizeof signal) == sizeof signal) {
     if (signal.ssi_signo == SIGUSR1) {
       bridge.SwitchCommands(false);
     } else if (signal.ssi_signo == SIGUSR2) {
       bridge.SwitchCommands(true);
-    } else if (signal.ssi_signo == SIGHUP) {
+    } else if (signal.ssi_signo == SIGHUP && !isInTerminal) {  // else the terminal was closed
       Restart(options);
     } else {
       QCoreApplication::quit();
@@ -100,7 +100,9 @@ int Run(const Options& options, int signals) {
   if (const QString error = bridge.Start(); !error.isEmpty()) return Fail(error);
   const QSocketNotifier signalled(signals, QSocketNotifier::Read);
   QObject::connect(&signalled, &QSocketNotifier::activated, qApp,
-                   [&] { TakeSignals(signals, options, bridge); });
+                   [&, isInTerminal = isatty(STDERR_FILENO) == 1] {
+                     TakeSignals(signals, isInTerminal, options, bridge);
+                   });
   return QCoreApplication::exec();
 }
 

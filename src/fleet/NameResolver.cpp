@@ -33,13 +33,15 @@ std::vector<SocketAddress> AddressesOf(const std::string& name) {
 
 /// What one resolver wants, and what was found for it.
 struct NameResolver::Client {
-  ~Client() { close(wakes); }
+  ~Client() {
+    if (wakes != kNoFile) close(wakes);
+  }
 
   // Protected by the mutex of the lookups.
   std::deque<std::pair<std::uint32_t, std::string>> wanted{};
   std::vector<Found> found{};
   bool ends = false;
-  int wakes = -1;
+  int wakes = kNoFile;
 };
 
 /// The threads that look names up, and the resolvers that wait for them. The resolvers take turns.
@@ -70,6 +72,7 @@ struct NameResolver::Lookups {
       auto addresses = AddressesOf(name);
       lock.lock();
       client->found.push_back({asker, std::move(name), std::move(addresses)});
+      if (client->wakes == kNoFile) continue;
       const std::uint64_t one = 1;
       static_cast<void>(!write(client->wakes, &one, sizeof one));
     }
@@ -77,7 +80,7 @@ struct NameResolver::Lookups {
 };
 
 NameResolver::NameResolver(int wakes) : client_(std::make_shared<Client>()) {
-  client_->wakes = dup(wakes);
+  if (wakes != kNoFile) client_->wakes = dup(wakes);
 }
 
 NameResolver::~NameResolver() {

@@ -21,7 +21,9 @@ class NameResolver {
     std::vector<SocketAddress> addresses;  ///< Without a port; empty where there is no such name.
   };
 
-  /// After each lookup the event file `wakes`, which is duplicated, becomes readable.
+  static constexpr int kNoFile = -1;
+  /// After each lookup the event file `wakes`, which is duplicated, becomes readable, unless it is
+  /// `kNoFile`.
   explicit NameResolver(int wakes);
   ~NameResolver();
   NameResolver(const NameResolver&) = delete;

@@ -2,14 +2,18 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
+#include <string_view>
 #include <utility>
 
-#include <QHostInfo>
+#include <QDeadlineTimer>
 #include <QTcpSocket>
 
+#include "device/ConnectionState.h"
 #include "fleet/AddressHold.h"
 #include "fleet/MakeVisit.h"
+#include "fleet/NameResolver.h"
 
 namespace AdvancedControl {
 
@@ -46,6 +50,34 @@ std::vector<QHostAddress> NetworkBroadcasts() {
   }
   return BroadcastsOf(networks);
 }
+
+/// The host names that are looked up while projectors are asked, and the projectors that wait for
+/// the end of it.
+struct SearchDriver::LookUps {
+  explicit LookUps(const SearchOptions& options)
+      : pause(options.lookUps), missing(options.hostNames.begin(), options.hostNames.end()) {
+    for (const std::string& name : missing) resolver.LookUp(0, name);
+    end.setRemainingTime(pause);
+  }
+
+  void Take() {
+    for (const NameResolver::Found& found : resolver.Take()) {
+      missing.erase(found.name);
+      end.setRemainingTime(pause);
+      for (const SocketAddress& address : found.addresses) {
+        names[TextOf(address)].push_back(found.name);
+      }
+    }
+  }
+  bool IsOver() const { return missing.empty() || end.hasExpired(); }
+
+  const std::chrono::milliseconds pause;
+  std::set<std::string> missing;
+  std::map<std::string, std::vector<std::string>> names{};  // by address
+  std::vector<FoundProjector> held{};
+  NameResolver resolver{NameResolver::kNoFile};
+  QDeadlineTimer end;
+};
 
 /// One inquiry with its connection.
 class SearchDriver::Visit {
@@ -151,7 +183,8 @@ SearchDriver::SearchDriver(SearchOptions options,
                            std::function<void()> onFinished)
     : options_(std::move(options)),
       onFound_(std::move(onFound)),
-      onFinished_(std::move(onFinished)) {
+      onFinished_(std::move(onFinished)),
+      lookUps_(std::make_unique<LookUps>(options_)) {
   QObject::connect(&pace_, &QTimer::timeout, &context_, [this] { BeginVisits(); });
   listening_.setSingleShot(true);
 }
@@ -159,7 +192,6 @@ SearchDriver::SearchDriver(SearchOptions options,
 SearchDriver::~SearchDriver() = default;
 
 void SearchDriver::Start() {
-  LookUpNames();
   for (const QHostAddress& address : options_.addresses) Enqueue(address, {});
   if (!options_.broadcasts.empty()) {
     datagrams_ = std::make_unique<QUdpSocket>();
@@ -175,21 +207,6 @@ void SearchDriver::Start() {
     QTimer::singleShot(kSecondBroadcast, &context_, [this] { Broadcast(); });
   }
   pace_.start(kPace);
-}
-
-void SearchDriver::LookUpNames() {
-  const std::set<std::string> names(options_.hostNames.begin(), options_.hostNames.end());
-  lookUps_.underWay = names.size();
-  lookUps_.end.setRemainingTime(options_.lookUps);
-  for (const std::string& name : names) {
-    QHostInfo::lookupHost(QString::fromStdString(name), &context_,
-                          [this, name](const QHostInfo& found) {
-                            --lookUps_.underWay;
-                            for (const QHostAddress& address : found.addresses()) {
-                              lookUps_.names[address].push_back(name);
-                            }
-                          });
-  }
 }
 
 void SearchDriver::Broadcast() {
@@ -225,7 +242,8 @@ void SearchDriver::Enqueue(const QHostAddress& address, const std::string& mac) 
 }
 
 void SearchDriver::BeginVisits() {
-  if (lookUps_.underWay > 0 && !lookUps_.end.hasExpired()) return;
+  lookUps_->Take();
+  ReportFound();
   constexpr double kMilliseconds = 1000;
   allowance_ = std::min(allowance_ + options_.perSecond * kPace / kMilliseconds,
                         std::max(1.0, options_.perSecond * kPace / kMilliseconds));
@@ -235,7 +253,12 @@ void SearchDriver::BeginVisits() {
     visits_.push_back(std::make_unique<Visit>(*this, std::move(waiting_.front())));
     waiting_.pop_front();
   }
-  if (!waiting_.empty() || !visits_.empty() || listening_.isActive()) return;
+  const bool isAsking = !waiting_.empty() || !visits_.empty() || listening_.isActive();
+  if (isAsking || !lookUps_->IsOver()) return;
+  if (!lookUps_->missing.empty()) {
+    problem_ = QString::fromStdString(*lookUps_->missing.begin() + ": ") +
+               ConnectionStateText(ConnectionState::NameUnknown).data();
+  }
   pace_.stop();
   onFinished_();
 }
@@ -247,11 +270,20 @@ void SearchDriver::End(Visit* visit) {
   visits_.erase(ended);
   ++done_;
   if (kept->Inquiry().HasFound()) {
-    FoundProjector found = kept->Inquiry().Found();
-    found.hostNames = lookUps_.names.value(QHostAddress(QString::fromStdString(found.address)));
-    onFound_(found);
+    lookUps_->held.push_back(kept->Inquiry().Found());
+    ReportFound();
   }
   QTimer::singleShot(0, &context_, [kept] {});
+}
+
+void SearchDriver::ReportFound() {
+  if (!lookUps_->IsOver()) return;
+  for (FoundProjector& found : std::exchange(lookUps_->held, {})) {
+    if (const auto names = lookUps_->names.find(found.address); names != lookUps_->names.end()) {
+      found.hostNames = names->second;
+    }
+    onFound_(found);
+  }
 }
 
 }  // namespace AdvancedControl

@@ -9,8 +9,6 @@
 #include <string>
 #include <vector>
 
-#include <QDeadlineTimer>
-#include <QHash>
 #include <QHostAddress>
 #include <QList>
 #include <QNetworkInterface>
@@ -38,7 +36,8 @@ struct SearchOptions {
   int atOnce = 64;                          ///< Most connections at the same time.
   int perSecond = 200;                      ///< Most connections begun in a second.
   std::chrono::milliseconds answers{3000};  ///< Answers to the broadcast are taken for this time.
-  std::chrono::milliseconds lookUps{3000};  ///< Host names are waited for this long.
+  /// How long the look-up of the next host name is waited for.
+  std::chrono::milliseconds lookUps{10000};
   PjLinkLimits limits{.connect = std::chrono::milliseconds(1500)};
 };
 
@@ -68,18 +67,20 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
   /// The number of addresses asked so far, and of all addresses known so far.
   std::size_t Done() const { return done_; }
   std::size_t Count() const { return static_cast<std::size_t>(known_.size()); }
-  /// One line if the broadcast could not be sent or its answers not received; otherwise empty.
+  /// One line if the broadcast could not be sent, its answers not received or a host name not
+  /// looked up; otherwise empty.
   const QString& Problem() const { return problem_; }
 
  private:
   class Visit;
+  struct LookUps;
 
-  void LookUpNames();
   void Broadcast();
   void TakeAnswers();
   void Enqueue(const QHostAddress& address, const std::string& mac);
   void BeginVisits();
   void End(Visit* visit);
+  void ReportFound();
 
   const SearchOptions options_;
   const std::function<void(const FoundProjector&)> onFound_;
@@ -90,11 +91,7 @@ class PROJECTOR_FLEET_EXPORT SearchDriver final {
   std::unique_ptr<QUdpSocket> datagrams_;
   std::deque<FoundProjector> waiting_;
   QSet<QHostAddress> known_;
-  struct LookUps {
-    std::size_t underWay = 0;
-    QDeadlineTimer end{};
-    QHash<QHostAddress, std::vector<std::string>> names{};
-  } lookUps_;
+  std::unique_ptr<LookUps> lookUps_;
   std::vector<std::unique_ptr<Visit>> visits_;
   double allowance_ = 0;  // connections that may begin now
   std::size_t done_ = 0;

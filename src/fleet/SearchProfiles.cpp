@@ -262,12 +262,14 @@ TakenProjectors Taker::Result() && {
 
 }  // namespace
 
-std::vector<std::string> HostNamesOf(const std::vector<FleetProfile>& profiles) {
+std::vector<std::string> HostNamesOf(const std::vector<FleetProfile>& profiles,
+                                     std::uint16_t port) {
   std::vector<std::string> names;
   for (const FleetProfile& profile : profiles) {
     const ProfileConnection& connection = profile.connection;
     const bool isName = QHostAddress(QString::fromStdString(connection.address)).isNull();
-    if (connection.isNetwork && isName) names.push_back(connection.address);
+    if (connection.isNetwork && connection.port == port && isName)
+      names.push_back(connection.address);
   }
   return names;
 }

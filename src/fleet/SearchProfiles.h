@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -22,9 +23,9 @@ struct TakenProjectors {
   std::size_t known = 0;  ///< Number of known projectors whose address has not changed.
 };
 
-/// The host names in the profiles, for `SearchOptions::hostNames`.
+/// The host names of profiles with this port, for `SearchOptions::hostNames`.
 PROJECTOR_FLEET_EXPORT std::vector<std::string> HostNamesOf(
-    const std::vector<FleetProfile>& profiles);
+    const std::vector<FleetProfile>& profiles, std::uint16_t port);
 
 /// Adds found projectors to the text of a valid profile file, or to `ProfileEdits::kNoProfiles`. If
 /// a profile has the identity of a found projector, or `serial:` with its serial number, it gets

@@ -68,7 +68,8 @@ SearchDialog::SearchDialog(const std::vector<FleetProfile>& known, QWidget* pare
 SearchDialog::~SearchDialog() = default;
 
 void SearchDialog::Begin() {
-  SearchOptions options{.hostNames = HostNamesOf(known_), .password = Password()};
+  SearchOptions options{.password = Password()};
+  options.hostNames = HostNamesOf(known_, options.port);
   if (addresses_->text().trimmed().isEmpty()) {
     options.broadcasts = NetworkBroadcasts();
   } else {

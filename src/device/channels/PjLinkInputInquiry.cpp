@@ -28,9 +28,8 @@ void PjLinkInputInquiry::Take(const PjLinkResult& result, SessionTime now) {
   }
   if (inputs_.Next()) return;
   Publish();
-  if (skipped_.isAnyRefused && skipped_.unanswered == 0) {
-    inputs_.AskNamesAgain();
-    skipped_ = {};
+  if (inputs_.IsAnySkipped() && unanswered_ == 0) {
+    inputs_.AskSkippedAgain();
     Pause(now);
   } else {
     pause_ = firstPause_;
@@ -39,12 +38,8 @@ void PjLinkInputInquiry::Take(const PjLinkResult& result, SessionTime now) {
 
 void PjLinkInputInquiry::SkipName(PjLinkResult::Kind reason) {
   inputs_.SkipName();
-  if (reason == PjLinkResult::Kind::NotNow) {
-    skipped_.isAnyRefused = true;
-  } else {
-    ++skipped_.unanswered;
-  }
-  while (skipped_.unanswered >= kMostUnanswered && inputs_.Next()) inputs_.SkipName();
+  if (reason != PjLinkResult::Kind::NotNow) ++unanswered_;
+  while (unanswered_ >= kMostUnanswered && inputs_.Next()) inputs_.SkipName();
 }
 
 void PjLinkInputInquiry::Pause(SessionTime now) {
@@ -53,7 +48,7 @@ void PjLinkInputInquiry::Pause(SessionTime now) {
 }
 
 std::vector<PjLinkInput> PjLinkInputInquiry::AllInputs() const {
-  return skipped_.unanswered > 0 || inputs_.Next() ? std::vector<PjLinkInput>() : inputs_.Known();
+  return unanswered_ > 0 || inputs_.Next() ? std::vector<PjLinkInput>() : inputs_.Known();
 }
 
 void PjLinkInputInquiry::Remember(const std::vector<PjLinkInput>& inputs,
@@ -67,7 +62,7 @@ void PjLinkInputInquiry::Remember(const std::vector<PjLinkInput>& inputs,
 void PjLinkInputInquiry::CheckClass(std::optional<char> protocolClass) {
   if (!rememberedClass_ || !protocolClass || protocolClass == rememberedClass_) return;
   inputs_.Forget();
-  skipped_ = {};
+  unanswered_ = 0;
   rememberedClass_.reset();
 }
 

@@ -19,10 +19,12 @@ namespace AdvancedControl {
 /// failure. Use from one thread at a time; `Report` from any thread.
 ///
 /// A name that the projector does not tell keeps no input back: that input is reported by kind and
-/// number. If the projector said that it cannot tell it now, as in standby, all names are asked for
-/// again after a pause, since that costs a short exchange for each. If it did not answer, asking
-/// costs time-outs, which a command may have to wait for: then no name is asked for again, and
-/// after two such names no further one.
+/// number. If the projector said that it cannot tell it now, as in standby, that name is asked for
+/// again after a pause, since that costs a short exchange. If it did not answer, asking costs
+/// time-outs, which a command may have to wait for: then no name is asked for again, and after two
+/// such names no further one. A name that was told stays.
+///
+/// The channel asks only after a command that was answered, so that a pause lasts until then.
 class PjLinkInputInquiry {
  public:
   PjLinkInputInquiry(std::chrono::milliseconds firstPause, std::chrono::milliseconds longestPause)
@@ -56,11 +58,7 @@ class PjLinkInputInquiry {
   std::optional<char> rememberedClass_;
   std::chrono::milliseconds pause_ = firstPause_;
   SessionTime nextTry_{};
-  /// Names that the projector did not tell.
-  struct Skipped {
-    bool isAnyRefused = false;  ///< It cannot tell one of them now.
-    int unanswered = 0;
-  } skipped_;
+  int unanswered_ = 0;  ///< Names that were skipped since the projector did not answer.
   std::mutex mutex_;
   std::optional<SourceList> reported_;  ///< Protected by the mutex.
 };

@@ -56,12 +56,15 @@ bool PjLinkInputs::Take(const PjLinkResult& result) {
     codes_ = PjLink::InputCodes(result.text);
     return !codes_.empty();
   }
-  AddNext(result.text);
+  NameNext(result.text);
   return true;
 }
 
 void PjLinkInputs::SkipName() {
-  if (IsListKnown()) AddNext({});
+  const auto code = IsListKnown() ? NextCode() : std::nullopt;
+  if (!code) return;
+  NameNext({});
+  skipped_.push_back(*PjLink::InputNumber(*code));
 }
 
 PjLinkInputs::Asked PjLinkInputs::AskForAll(
@@ -73,7 +76,7 @@ PjLinkInputs::Asked PjLinkInputs::AskForAll(
     asked.isComplete = false;
     asked.isLost = asked.isLost || result.kind == PjLinkResult::Kind::Lost;
     if (!IsListKnown()) break;
-    AddNext({});
+    SkipName();
   }
   return asked;
 }
@@ -84,6 +87,8 @@ void PjLinkInputs::Remember(std::vector<PjLinkInput> inputs) {
     if (auto code = PjLink::InputCode(input.number)) codes_.push_back(std::move(*code));
   }
   inputs_ = std::move(inputs);
+  skipped_.clear();
+  again_ = 0;
 }
 
 std::optional<PjLinkQuestion> PjLinkInputs::NameOf(int number) {
@@ -100,17 +105,28 @@ PjLinkInput PjLinkInputs::Named(int number, const std::string& name) {
 
 /// The input to ask for next; nothing if all are known.
 std::optional<std::string> PjLinkInputs::NextCode() const {
+  if (again_ > 0) return PjLink::InputCode(skipped_.front());
   if (inputs_.size() < std::min(codes_.size(), kMostInputs)) return codes_[inputs_.size()];
   const auto isPlaying = [this](const PjLinkInput& input) { return input.number == present_; };
   return std::ranges::any_of(inputs_, isPlaying) ? std::nullopt : PjLink::InputCode(present_);
 }
 
-/// Adds the input that `Next` asks for, if any.
-void PjLinkInputs::AddNext(const std::string& name) {
+/// Adds the input that `Next` asks for, if any, or names it if it was skipped before.
+void PjLinkInputs::NameNext(const std::string& name) {
   const auto code = NextCode();
   if (!code) return;
-  if (inputs_.size() == kMostInputs) inputs_.pop_back();
-  inputs_.push_back(Named(*PjLink::InputNumber(*code), name));
+  const PjLinkInput input = Named(*PjLink::InputNumber(*code), name);
+  if (again_ > 0) {
+    --again_;
+    skipped_.erase(skipped_.begin());
+    std::ranges::replace(inputs_, input.number, input, &PjLinkInput::number);
+    return;
+  }
+  if (inputs_.size() == kMostInputs) {
+    std::erase(skipped_, inputs_.back().number);
+    inputs_.pop_back();
+  }
+  inputs_.push_back(input);
 }
 
 }  // namespace AdvancedControl

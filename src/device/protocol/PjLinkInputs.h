@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -40,11 +41,12 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
   std::optional<PjLinkQuestion> Next() const;
   /// Takes the result of that question. False if it has to be repeated.
   bool Take(const PjLinkResult& result);
-  /// Skips the name that `Next` asks for, until `AskNamesAgain` or `Forget`. Does nothing if it
-  /// asks for no name.
+  /// Skips the name that `Next` asks for, until `AskSkippedAgain` or `Forget`: until then the input
+  /// is named by kind and number. Does nothing if `Next` asks for no name.
   void SkipName();
-  /// Lets `Next` ask for all names again.
-  void AskNamesAgain() { inputs_.clear(); }
+  bool IsAnySkipped() const { return !skipped_.empty(); }
+  /// Lets `Next` ask for the skipped names again. All other names stay.
+  void AskSkippedAgain() { again_ = skipped_.size(); }
   bool IsListKnown() const { return !codes_.empty(); }
   /// Asks everything that is not known; `ask` returns the result of a question. What it could not
   /// learn is named by kind and number, or missing.
@@ -68,12 +70,14 @@ class PROJECTOR_COMMON_EXPORT PjLinkInputs {
 
  private:
   std::optional<std::string> NextCode() const;
-  void AddNext(const std::string& name);
+  void NameNext(const std::string& name);
 
   std::vector<std::string> codes_;
   std::vector<PjLinkInput>
-      inputs_;       ///< In the order of `codes_`, then the present input if it is beyond them.
-  int present_ = 0;  ///< 0 if unknown.
+      inputs_;  ///< In the order of `codes_`, then the present input if it is beyond them.
+  std::vector<std::int32_t> skipped_;  ///< The numbers of those whose names were skipped.
+  std::size_t again_ = 0;              ///< So many of them, from the first, are asked for again.
+  int present_ = 0;                    ///< 0 if unknown.
 };
 
 }  // namespace AdvancedControl

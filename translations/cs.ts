@@ -542,6 +542,10 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>zadejte soubor profilů pomocí --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>nepoužité sloupce: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>přidáno: %1, známo: %2, chybných: %3</translation>
@@ -3964,8 +3968,8 @@ a minus in front takes a tag away:</source>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Neznámé sloupce: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Nepoužité sloupce: %1</translation>
     </message>
 </context>
 <context>

@@ -539,6 +539,10 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>bitte die Profildatei mit --profiles nennen</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>nicht verwendete Spalten: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 hinzugefügt, %2 bekannt, %3 falsch</translation>
@@ -3914,8 +3918,8 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Unbekannte Spalten: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Nicht verwendete Spalten: %1</translation>
     </message>
 </context>
 <context>

@@ -539,6 +539,10 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>indique el archivo de perfiles con --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>columnas no utilizadas: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 añadidos, %2 conocidos, %3 incorrectos</translation>
@@ -3914,8 +3918,8 @@ un signo menos delante quita una etiqueta:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Columnas desconocidas: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Columnas no utilizadas: %1</translation>
     </message>
 </context>
 <context>

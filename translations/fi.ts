@@ -539,6 +539,10 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>anna profiilitiedosto valitsimella --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>käyttämättömät sarakkeet: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 lisätty, %2 tunnettiin jo, %3 virheellistä</translation>
@@ -3914,8 +3918,8 @@ miinus edessä poistaa tunnisteen:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Tuntemattomat sarakkeet: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Käyttämättömät sarakkeet: %1</translation>
     </message>
 </context>
 <context>

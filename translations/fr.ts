@@ -539,6 +539,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>indiquez le fichier de profils avec --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>colonnes non utilisées&#xa0;: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 ajoutés, %2 connus, %3 incorrects</translation>
@@ -3914,8 +3918,8 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Colonnes inconnues&#xa0;: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Colonnes non utilisées&#xa0;: %1</translation>
     </message>
 </context>
 <context>

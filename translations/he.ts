@@ -539,6 +539,10 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>יש לציין את קובץ הפרופילים באמצעות --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>עמודות שלא נעשה בהן שימוש: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 נוספו, %2 כבר מוכרים, %3 שגויים</translation>
@@ -3914,8 +3918,8 @@ a minus in front takes a tag away:</source>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>עמודות לא מוכרות: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>עמודות שלא נעשה בהן שימוש: %1</translation>
     </message>
 </context>
 <context>

@@ -536,6 +536,10 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>adja meg a profilfájlt a --profiles kapcsolóval</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>nem használt oszlopok: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 hozzáadva, %2 ismert, %3 hibás</translation>
@@ -3864,8 +3868,8 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Ismeretlen oszlopok: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Nem használt oszlopok: %1</translation>
     </message>
 </context>
 <context>

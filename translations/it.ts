@@ -539,6 +539,10 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>indicare il file dei profili con --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>colonne non usate: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 aggiunti, %2 già noti, %3 errati</translation>
@@ -3914,8 +3918,8 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Colonne sconosciute: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Colonne non usate: %1</translation>
     </message>
 </context>
 <context>

@@ -536,6 +536,10 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>--profiles でプロファイルを指定してください</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>使われない列: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>追加 %1、登録済み %2、誤り %3</translation>
@@ -3864,8 +3868,8 @@ a minus in front takes a tag away:</source>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>不明な列: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>使われない列: %1</translation>
     </message>
 </context>
 <context>

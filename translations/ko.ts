@@ -536,6 +536,10 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>--profiles로 프로필 파일을 지정하십시오</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>사용되지 않은 열: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>추가 %1, 이미 있음 %2, 잘못됨 %3</translation>
@@ -3864,8 +3868,8 @@ a minus in front takes a tag away:</source>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>알 수 없는 열: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>사용되지 않은 열: %1</translation>
     </message>
 </context>
 <context>

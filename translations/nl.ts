@@ -539,6 +539,10 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>noem het profielbestand met --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>niet gebruikte kolommen: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 toegevoegd, %2 bekend, %3 fout</translation>
@@ -3914,8 +3918,8 @@ een minteken ervoor neemt een label weg:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Onbekende kolommen: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Niet gebruikte kolommen: %1</translation>
     </message>
 </context>
 <context>

@@ -542,6 +542,10 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>wskaż plik profili opcją --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>nieużyte kolumny: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>dodano: %1, już znane: %2, błędne: %3</translation>
@@ -3964,8 +3968,8 @@ minus przed tagiem go usuwa:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Nieznane kolumny: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Nieużyte kolumny: %1</translation>
     </message>
 </context>
 <context>

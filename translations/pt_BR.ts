@@ -539,6 +539,10 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>indique o arquivo de perfis com --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>colunas não usadas: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>%1 adicionados, %2 conhecidos, %3 errados</translation>
@@ -3914,8 +3918,8 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Colunas desconhecidas: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Colunas não usadas: %1</translation>
     </message>
 </context>
 <context>

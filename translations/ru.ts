@@ -542,6 +542,10 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>укажите файл профилей в --profiles</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>неиспользованные столбцы: %1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>добавлено: %1, уже известно: %2, с ошибками: %3</translation>
@@ -3964,8 +3968,8 @@ a minus in front takes a tag away:</source>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>Неизвестные столбцы: %1</translation>
+        <source>Columns not used: %1</source>
+        <translation>Неиспользованные столбцы: %1</translation>
     </message>
 </context>
 <context>

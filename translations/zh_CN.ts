@@ -536,6 +536,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>请用 --profiles 指定配置文件</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>未使用的列：%1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>添加 %1 台，已知 %2 台，错误 %3 行</translation>
@@ -3864,8 +3868,8 @@ a minus in front takes a tag away:</source>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>未知的列：%1</translation>
+        <source>Columns not used: %1</source>
+        <translation>未使用的列：%1</translation>
     </message>
 </context>
 <context>

@@ -536,6 +536,10 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>請用 --profiles 指定描述檔</translation>
     </message>
     <message>
+        <source>columns not used: %1</source>
+        <translation>未使用的欄：%1</translation>
+    </message>
+    <message>
         <source>%1 added, %2 known, %3 wrong</source>
         <extracomment>Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.</extracomment>
         <translation>新增 %1 台，原已有 %2 台，錯誤 %3 列</translation>
@@ -3864,8 +3868,8 @@ a minus in front takes a tag away:</source>
         </translation>
     </message>
     <message>
-        <source>Unknown columns: %1</source>
-        <translation>未知的欄：%1</translation>
+        <source>Columns not used: %1</source>
+        <translation>未使用的欄：%1</translation>
     </message>
 </context>
 <context>

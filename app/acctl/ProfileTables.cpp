@@ -183,6 +183,10 @@ int Import(const Arguments& arguments) {
     faults.append(QJsonObject{{"line", fault.line}, {"text", fault.reason}});
     errors.append(QJsonObject{{"code", ProblemCode::WrongFile}, {"text", Wide(text)}});
   }
+  if (!import.unused.isEmpty()) {
+    const QString unused = Acctl::tr("columns not used: %1").arg(import.unused.join(", "));
+    Complain(arguments.file + ": " + unused.toStdString());
+  }
   //: Numbers of projectors in a table: new ones, those that the file has already, and wrong rows.
   const std::string text = Message(Acctl::tr("%1 added, %2 known, %3 wrong"), import.added,
                                    import.changed, import.faults.size()) +

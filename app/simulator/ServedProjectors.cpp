@@ -7,6 +7,7 @@
 
 #include "app/profiles/ProjectorAccess.h"
 #include "app/simulator/PseudoTerminal.h"
+#include "app/simulator/WrittenMark.h"
 #include "device/ModelDataIntake.h"
 #include "simulator/SimulatedProjector.h"
 
@@ -128,6 +129,7 @@ QByteArray ServedProjectors::Profiles(const QByteArray& original) const {
   for (const Service& service : services_) names.append(QString::fromStdString(service.name));
   for (const auto& value : file["projectors"].toArray()) {
     QJsonObject entry = value.toObject();
+    MarkWritten(entry);
     const QString name = entry["name"].toString();
     const auto service = std::ranges::find(services_, name.toStdString(), &Service::name);
     if (service == services_.end()) continue;

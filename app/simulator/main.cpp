@@ -13,7 +13,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHostAddress>
 #include <QSocketNotifier>
 
 #include "app/profiles/DescriptorLimit.h"
@@ -23,6 +22,7 @@
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/ServedProjectors.h"
+#include "app/simulator/WrittenMark.h"
 #include "app/simulator/fleet/FleetService.h"
 #include "fleet/ProfileFile.h"
 #include "i18n/SystemLanguage.h"
@@ -71,14 +71,6 @@ std::optional<QString> Choose(std::vector<FleetProfile>& profiles, const QString
   return std::nullopt;
 }
 
-// Whether this program, with the same --address, writes such entries.
-bool IsServed(const FleetProfile& profile, const QHostAddress& served) {
-  const std::string& place = profile.connection.address;
-  if (profile.link == ProjectorLink::Serial) return place.starts_with("/dev/pts/");
-  const QHostAddress address(QString::fromStdString(place));
-  return profile.link != ProjectorLink::Simulated && (address.isLoopback() || address == served);
-}
-
 // Says why the file of --write-profiles must not be replaced: it may have the only copy of
 // somebody's work. Empty if it may.
 QString RefuseToReplace(const Arguments& arguments) {
@@ -93,12 +85,7 @@ QString RefuseToReplace(const Arguments& arguments) {
   }
   const ProfileFileText present = ReadProfileText(file);
   if (!present.error.isEmpty()) return present.error;
-  if (present.text.isEmpty()) return {};
-  const ProfileList list = ParseProfileList(present.text, file);
-  const auto isServed = [&arguments](const FleetProfile& profile) {
-    return IsServed(profile, arguments.service.address);
-  };
-  if (list.error.isEmpty() && std::ranges::all_of(list.profiles, isServed)) return {};
+  if (present.text.isEmpty() || IsWritten(present.text)) return {};
   return Program::tr("--write-profiles: %1 exists, and this program has not written it").arg(file);
 }
 

@@ -32,6 +32,17 @@ QString SchemeOf(const QString& address) {
   return kScheme.match(address).captured();
 }
 
+// Empty if the link does not say it.
+QString SchemeFor(const QString& link) {
+  if (link == QLatin1String("pjlink")) return QStringLiteral("pjlink://");
+  if (link == QLatin1String("network")) return QStringLiteral("tcp://");
+  return link == QLatin1String("serial") ? QStringLiteral("serial://") : QString();
+}
+
+bool IsSerial(const QString& address) {
+  return address.startsWith(QLatin1Char('/')) || SchemeOf(address) == QLatin1String("serial://");
+}
+
 // A serial port has none to add.
 bool HasPort(const QString& host) {
   if (host.startsWith(QLatin1Char('/'))) return true;
@@ -59,11 +70,9 @@ CsvConnection ConnectionOf(const CsvCells& cells) {
     if (!known) throw WrongRow{ProfileCsv::tr("\"%1\" is not a kind of link").arg(text)};
     link = *known;
   }
-  const QString given = SchemeOf(address);
-  QString scheme = given;
-  if (scheme.isEmpty() && link == QLatin1String("pjlink")) scheme = QStringLiteral("pjlink://");
-  if (scheme.isEmpty() && link == QLatin1String("network")) scheme = QStringLiteral("tcp://");
-  QString host = address.sliced(given.size());
+  // What contradicts the link is refused as a part of the address.
+  const QString scheme = SchemeFor(link).isEmpty() ? SchemeOf(address) : SchemeFor(link);
+  QString host = address.startsWith(scheme) ? address.sliced(scheme.size()) : address;
   if (!port.isEmpty() && !HasPort(host)) host = WithPort(host, port);
   const QString text = scheme + host;
   const ProjectorAddress parsed =
@@ -99,7 +108,11 @@ void CompleteConnection(CsvCells& cells, const FleetProfile& present) {
   }
   const QString address = One(cells, CsvColumn::Address);
   const bool isNetwork = present.connection.isNetwork;
-  const bool isHost = SchemeOf(address).isEmpty() && !address.startsWith(QLatin1Char('/'));
+  if (!isNetwork && IsSerial(address) && present.connection.baud != 0 &&
+      !address.contains(QLatin1Char('?'))) {
+    cells[CsvColumn::Address] = {QStringLiteral("%1?%2").arg(address).arg(present.connection.baud)};
+  }
+  const bool isHost = SchemeOf(address).isEmpty() && !IsSerial(address);
   if (!address.isEmpty() && !(isNetwork && isHost)) return;
   // Another link usually has another port.
   if (!isNew(CsvColumn::Link)) {

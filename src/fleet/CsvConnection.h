@@ -18,12 +18,12 @@ struct CsvConnection {
 bool IsOfConnection(CsvColumn column);
 
 /// Reads an address as people write it, with its port in it or in a column of its own. Throws
-/// `WrongRow`.
+/// `WrongRow`, also if the link is not one of the address.
 CsvConnection ConnectionOf(const CsvCells& cells);
 
 /// Adds what a row does not say of a projector's connection but stays so: the link if it has only a
-/// new host, and its port too unless the link is new. If the row has nothing new of the connection,
-/// removes all cells of it.
+/// new host, and its port too unless the link is new; the speed if it has only a new serial port.
+/// If the row has nothing new of the connection, removes all cells of it.
 void CompleteConnection(CsvCells& cells, const FleetProfile& present);
 
 }  // namespace AdvancedControl

@@ -26,8 +26,9 @@ class LookingUp(Building):
     def test_profiles_come_and_go_as_tables(self):
         csv = self.acctl("export", "@hall").stdout
         self.assertIn("Lecture hall", csv)
-        (self.folder / "new.csv").write_text("name,address,tags\nA,192.0.2.7,x\nB,nonsense:nonsense:1,y\n")
-        self.check(["--profiles", "new.json", "import", "new.csv"], 1, "^1 added, 0 known, 1 wrong", "new.csv:3: ")
+        (self.folder / "new.csv").write_text("name,address,tags,IP,Bought\nA,192.0.2.7,x,h\nB,nonsense:nonsense:1,y\n")
+        self.check(["--profiles", "new.json", "import", "new.csv"], 1, "^1 added, 0 known, 1 wrong",
+                   "new.csv:3: .*\nacctl: new.csv: columns not used: IP, Bought\n")
         faults = self.json("--profiles", "new.json", "import", "new.csv", code=1)["errors"]
         self.assertEqual([(fault["code"], fault["text"][:9]) for fault in faults], [("wrong-file", "new.csv:3")])
         self.check(["--profiles", "new.json", "list", "@x", "--brief"], 0, "^A\n$")

@@ -321,15 +321,16 @@ TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {
   ShippedWindow window;
   const QString file = window.folder.filePath("t.csv");
   const auto before = Rows(window).size();
-  QByteArray table("name,address\n");
+  QByteArray table("name,address,IP\n");
   for (int i = 0; i < 20; ++i)
-    table += "Room " + QByteArray::number(i) + (i % 2 == 0 ? ",192.0.2.1\n" : ",192.0.2.1:x\n");
+    table += "Room " + QByteArray::number(i) + (i % 2 == 0 ? ",192.0.2.1,h\n" : ",192.0.2.1:x\n");
   Write(file, table);
   window.findChild<TransferActions*>()->ImportFile(file);
   auto& said = Modal<QMessageBox>();
   EXPECT_EQ(said.text(), "10 projectors added · 0 already known · 10 rows not taken");
   EXPECT_EQ(said.informativeText().count("Line "), 10);
   EXPECT_TRUE(said.informativeText().startsWith("Line 3: "));
+  EXPECT_TRUE(said.informativeText().endsWith("\nColumns not used: IP"));
   said.close();
   EXPECT_EQ(Rows(window).size(), before + 10);
   Find<QAction>(window, "Undo Import Table").trigger();

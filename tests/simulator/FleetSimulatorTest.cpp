@@ -202,18 +202,18 @@ TEST(WrittenProfiles, ReplaceNothingElse) {
   const QTemporaryDir folder;
   const QString file = folder.filePath("real.json");
   const QString link = folder.filePath("link");
-  const QStringList arguments{"--projector", "Projector 5-30", "--serial", "--write-profiles",
-                              file};
+  const QStringList arguments{"--projector", "Projector 5-30", "--write-profiles", file};
   Write(file, "");
-  for (int i = 0; i < 2; ++i) const SimulatorProcess replaces(arguments);
+  const QStringList ways[] = {{"--serial"}, {"--address", "0.0.0.0"}, {"--fleet", "2"}, {}};
+  for (const QStringList& more : ways) const SimulatorProcess replaces(arguments + more);
   const QByteArray written = Contents(file);
   ASSERT_TRUE(QFile::link(file, link));
   using Case = std::tuple<const char*, const char*, QStringList, const char*>;
   for (const auto& [from, to, more, told] :
-       {Case{"127.0.0.1", "192.0.2.7", {}, "this program has not written it"},
-        Case{"127.0.0.1", "192.0.2.7", {"--address", "192.0.2.7"}, "port 0"},
-        Case{"/dev/pts", "/dev", {}, "this program has not written it"},
-        Case{"pjlink", "simulated", {}, "this program has not written it"},
+       {Case{"-simulator\"", "\"", {}, "this program has not written it"},
+        Case{"\"projectors\": [", "\"projectors\": [{}, ", {}, "this program has not written it"},
+        Case{"\"projectors\"", "\"x-\"", {}, "this program has not written it"},
+        Case{"0.0.1", "0.0.2", {"--address", "192.0.2.7"}, "port 0"},
         Case{"{", "[", {}, "this program has not written it"},
         Case{"{", "{", {"--profiles", link}, "the projectors are read from"}}) {
     const QByteArray text = QByteArray(written).replace(from, to);

@@ -84,7 +84,7 @@ void TransferActions::ImportFile(const QString& path) {
   for (const CsvFault& fault : imported.faults)
     faults += tr("Line %1: %2").arg(fault.line).arg(fault.reason);
   if (!imported.unused.isEmpty())
-    faults += tr("Unknown columns: %1").arg(imported.unused.join(QLatin1String(", ")));
+    faults += tr("Columns not used: %1").arg(imported.unused.join(QLatin1String(", ")));
   if (!faults.isEmpty()) {
     box->setIcon(QMessageBox::Warning);
     box->setInformativeText(

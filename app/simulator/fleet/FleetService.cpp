@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include "app/simulator/WrittenMark.h"
 #include "fleet/ProfileFile.h"
 #include "fleet/WholeFile.h"
 
@@ -73,6 +74,7 @@ QByteArray FleetService::Profiles(const QByteArray& original) const {
     if (isPjLink && !options_.server.password.empty()) {
       network["secret"] = QString::fromStdString(options_.server.password);
     }
+    MarkWritten(entry);
     entry["name"] = QString::fromStdString(projector.name);
     entry["link"] = isPjLink ? QStringLiteral("pjlink") : QStringLiteral("network");
     entry["connection"] = QJsonObject{{"network", network}};

@@ -58,6 +58,8 @@ int CDialog::DoModal() {
   const QPointer<CDialog> self(this);
   BorrowOwner();
   const Busy ownerBusy(Owner());
+  const Qt::WindowModality before = windowModality();
+  modalityBefore_ = before;
   setWindowModality(Owner() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
   setResult(Rejected);
   if (!CreateShown([this] { CentreOnOwner(); })) return -1;
@@ -65,6 +67,7 @@ int CDialog::DoModal() {
   // The dialog may have been closed while its first page was being read.
   const int result = IsCreated() ? exec() : QDialog::result();
   if (self == nullptr) return Rejected;
+  setWindowModality(before);  // exec() makes a dialog that was opened again modal
   ReturnOwner();
   if (Openings() != opening) return result;  // a host was told of the end and opened it again
   hide();
@@ -151,4 +154,7 @@ void CDialog::setVisible(bool visible) {
   } else {
     QWidget::setVisible(visible);  // NOLINT(bugprone-parent-virtual-call)
   }
+  if (visible || !modalityBefore_) return;
+  setWindowModality(*modalityBefore_);  // before the host is told of the end
+  modalityBefore_.reset();
 }

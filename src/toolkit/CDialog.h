@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QPointer>
 
@@ -73,4 +74,5 @@ class ADVANCED_CONTROL_EXPORT CDialog : public AdvancedControl::OwnedDialog {
   QPointer<AdvancedControl::FocusRing> focusRing_;  // only of a window
   bool named_ = false;  // whether the controls have names for assistive technologies
   std::function<void()> showUnread_;
+  std::optional<Qt::WindowModality> modalityBefore_;  // while it runs modally
 };

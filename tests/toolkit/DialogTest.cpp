@@ -151,12 +151,16 @@ TEST_F(DialogTest, RunsModallySeveralTimes) {
 TEST_F(DialogTest, CanBeOpenedAgainWhenItsHostIsToldOfTheEnd) {
   auto owner = std::make_unique<QWidget>();
   dialog.BelongTo(owner.get());
-  QObject::connect(&dialog, &QDialog::accepted, owner.get(), [this] { dialog.CreateShown(); });
+  QObject::connect(&dialog, &QDialog::accepted, owner.get(), [this] {
+    EXPECT_FALSE(dialog.isModal());
+    dialog.CreateShown();
+  });
   dialog.accept();
   EXPECT_TRUE(dialog.isVisible() && dialog.destroyed == 1);
   QTimer::singleShot(0, &dialog, &QDialog::accept);
   EXPECT_EQ(dialog.DoModal(), QDialog::Accepted);
   EXPECT_TRUE(dialog.isVisible() && dialog.destroyed == 3);
+  EXPECT_FALSE(dialog.isModal()) << "it was opened beside its host's windows";
   owner.reset();
   EXPECT_TRUE(!dialog.isVisible() && dialog.destroyed == 4);
 }

@@ -32,7 +32,10 @@ FleetService::FleetService(std::vector<FleetProfile> profiles, const FleetOption
   const auto faults = Distribute(options_.faults, Count(), options_.projectors.seed);
   for (std::size_t i = 0; i < faults.size(); ++i) SetFault(i, faults[i]);
   QObject::connect(&changing_, &QTimer::timeout, &changing_, [this, due = 0.0]() mutable {
-    for (due += options_.changes * kChangesEvery / 1000.0; due >= 1; --due) {
+    due += options_.changes * kChangesEvery / 1000.0;
+    const int whole = static_cast<int>(due);
+    due -= whole;
+    for (int i = 0; i < whole; ++i) {
       server_.Notices().SendChanges(
           projectors_.ChangeOne(Scrambled(options_.projectors.seed, ++changed_)));
     }

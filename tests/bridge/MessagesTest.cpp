@@ -22,7 +22,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-using testing::HasSubstr;
 
 QJsonObject Json(const QByteArray& text) { return QJsonDocument::fromJson(text).object(); }
 

@@ -98,7 +98,7 @@ class Entry {
       return Message(Acctl::tr("source %1: this is not kept for each source"), *saved_.source);
     }
     return Message(Acctl::tr("source %1 does not exist; there are %2"), *saved_.source,
-                   Possible(texts_, *model->Input()));
+                   Possible(texts_, model->Input()));
   }
 
   std::string ValueMistake() const {

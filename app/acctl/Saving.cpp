@@ -19,16 +19,16 @@ bool AddUnread(const Work& work, ProjectorAccess& projector, std::vector<std::st
   std::erase_if(unread, [&](const std::string& key) {
     return !isMeant(key) || !target.Carries(kSaved, *target.settings.Find(key));
   });
-  const ModelSetting* const input = target.settings.Input();
-  const bool isInputUnread = input != nullptr && target.LacksEntries(*input) && isMeant(input->key);
+  const ModelSetting& input = target.settings.Input();
+  const bool isInputUnread = target.LacksEntries(input) && isMeant(input.key);
   const auto power = unread.empty() && !isInputUnread ? std::nullopt : AskPower(projector);
   const bool rests = IsResting(power);
-  if (isInputUnread && rests) unread.emplace_back(input->key);
+  if (isInputUnread && rests) unread.emplace_back(input.key);
   ReportUnread(unread, power, Message(Acctl::tr("cannot be read now, and is left out")), report);
   if (isInputUnread && !rests) {
     report.Add({ProblemCode::InputsUnknown,
                 InputsNotRead(),
-                std::string(input->key),
+                std::string(input.key),
                 {},
                 ExitCode::NoAnswer});
   }

@@ -131,17 +131,15 @@ const ModelSetting* ModelSettings::Find(std::string_view key) const {
   return found == settings_.end() ? nullptr : &*found;
 }
 
-const ModelSetting* ModelSettings::Input() const {
-  const auto found = std::ranges::find_if(settings_, &ModelSetting::SelectsInput);
-  return found == settings_.end() ? nullptr : &*found;
+const ModelSetting& ModelSettings::Input() const {
+  return *std::ranges::find_if(settings_, &ModelSetting::SelectsInput);
 }
 
 bool ModelSettings::HasSource(const ModelSetting& setting, int source) const {
   if (setting.of == OfSource::None) return false;
   if (source == StandbySource(setting.of, model_->ModelCode)) return true;
-  const ModelSetting* const input = Input();
-  const bool hasInputs = input != nullptr && !input->entries.empty();
-  return !hasInputs || PositionOf(input->entries, source) >= 0;
+  const ModelSetting& input = Input();
+  return input.entries.empty() || PositionOf(input.entries, source) >= 0;
 }
 
 std::optional<int> ModelSettings::PresentSource(CPjtInterface& projector,

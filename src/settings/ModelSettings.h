@@ -77,8 +77,8 @@ class PROJECTOR_SETTINGS_EXPORT ModelSettings {
   /// The setting of this key, or null.
   const ModelSetting* Find(std::string_view key) const;
 
-  /// The setting that chooses the input source, or null.
-  const ModelSetting* Input() const;
+  /// The setting that chooses the input source. Every model has one.
+  const ModelSetting& Input() const;
   /// Whether a setting is kept for this source; true for any source if the model lists no inputs.
   bool HasSource(const ModelSetting& setting, int source) const;
   /// The source that a per-source setting belongs to now; nothing for any other setting, or if the

@@ -111,8 +111,7 @@ std::string SettingTexts::Name(const ModelSettings& model, const ModelSetting& s
 }
 
 std::string SettingTexts::Source(const ModelSettings& model, int source) const {
-  const ModelSetting* const input = model.Input();
-  return input != nullptr ? Value(*input, source) : std::to_string(source);
+  return Value(model.Input(), source);
 }
 
 std::string SettingTexts::Tab(const ModelSetting& setting) const {

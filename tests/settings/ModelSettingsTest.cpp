@@ -205,8 +205,8 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
   EXPECT_FALSE(has(listed, "audio.volume", 4) || has(other, "audio.volume", 15));
   EXPECT_FALSE(has(listed, "audio.speaker", 3));
   EXPECT_TRUE(has(open, "audio.volume", 4)) << "the model does not list its inputs";
-  EXPECT_FALSE(ModelSettings(MakeModelData(MakeModel(0, 49))).Input()->changeable);
-  EXPECT_EQ(listed.Input()->key, "other.input-source");
+  EXPECT_FALSE(ModelSettings(MakeModelData(MakeModel(0, 49))).Input().changeable);
+  EXPECT_EQ(listed.Input().key, "other.input-source");
   EXPECT_TRUE(ModelSettings(MakeModelData(MakeModel(4, 0))).Find("setup.volume")->IsPerSource());
   for (int model = 49; model <= 54; ++model) {
     EXPECT_EQ(StandbySource(OfSource::Playing, model), 15) << model;

@@ -114,9 +114,8 @@ void UsualActions::FillInputs(QMenu& menu) {
   };
   for (const ProjectorRow* row : selected_()) {
     const auto model = watch_.TargetOf(row->profile).model;
-    if (const ModelSetting* input = settings_.Of(model).Input()) {
-      for (const ListEntry& entry : input->entries) add(work_.Texts().Entry(*input, entry));
-    }
+    const ModelSetting& input = settings_.Of(model).Input();
+    for (const ListEntry& entry : input.entries) add(work_.Texts().Entry(input, entry));
     if (row->state.source && !row->state.source->name.empty())
       add(StateTexts::Source(row->state).toStdString());
   }

@@ -7,8 +7,7 @@ const ModelSettings& UsualSettings::Of(const std::shared_ptr<const ModelData>& m
 }
 
 std::string UsualSettings::InputKey(const std::shared_ptr<const ModelData>& model) {
-  const ModelSetting* const input = Of(model).Input();
-  return input == nullptr ? std::string() : std::string(input->key);
+  return std::string(Of(model).Input().key);
 }
 
 bool UsualSettings::Has(const std::shared_ptr<const ModelData>& model, const std::string& key) {

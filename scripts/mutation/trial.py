@@ -23,7 +23,7 @@ UNREACHED = "no test reaches it"
 def run(program, arguments, folder, libraries, variables, limit, processor=None):
     """Runs a program in a new folder: what it printed, or None if it did not end; and its result."""
     home = Path(tempfile.mkdtemp(dir=folder))
-    environment = os.environ | {"QT_QPA_PLATFORM": "offscreen", "XDG_CACHE_HOME": str(home),
+    environment = os.environ | {"QT_QPA_PLATFORM": "offscreen", "XDG_CACHE_HOME": str(home), "TMPDIR": str(home),
                                 "LD_LIBRARY_PATH": str(libraries)} | variables
 
     def bound():  # what a mutant may take before it counts as noticed

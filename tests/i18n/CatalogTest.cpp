@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <QString>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
@@ -35,15 +36,12 @@ class CatalogTest : public testing::Test {
  protected:
   CatalogTest() {
     for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) unsetenv(name);
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-    fs::current_path(folder_);
+    fs::current_path(folder_.path().toStdString());
   }
 
   ~CatalogTest() override {
     ReleaseCatalog();
     fs::current_path(home_);
-    fs::remove_all(folder_);
   }
 
   static void SetLocale(const char* locale) { setenv("LC_ALL", locale, 1); }
@@ -69,7 +67,7 @@ class CatalogTest : public testing::Test {
 
  private:
   const fs::path home_ = fs::current_path();
-  const fs::path folder_ = fs::path(testing::TempDir()) / "catalog_test";
+  const QTemporaryDir folder_;
 };
 
 TEST_F(CatalogTest, SystemLanguage) {
@@ -141,8 +139,9 @@ TEST_F(CatalogTest, LoadsTheFirstFileOrNoneIfItIsDamagedAndSaysWhy) {
   // The previous catalog must be released too.
   EXPECT_FALSE(IsCatalogLoaded());
   EXPECT_EQ(CatalogText(4, 1), kNoCatalog);
-  // The administrator may read every file.
+  // The administrator may read every file, and others must reach it.
   fs::permissions("empty/mcdll.dll", fs::perms::none);
+  fs::permissions(".", fs::perms(0711));
   const bool isAdministrator = setresuid(65534, 65534, 0) == 0;
   expectFailure(folders, "empty/mcdll.dll is refused: Permission denied");
   EXPECT_TRUE(!isAdministrator || setresuid(0, 0, 0) == 0);

@@ -8,6 +8,7 @@
 #include <tuple>
 #include <vector>
 
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "i18n/MessageTable.h"
@@ -270,10 +271,9 @@ TEST(MessageTable, SharedBytesDoNotMultiply) {
 }
 
 TEST(MessageTable, ReadsOnlyRegularFiles) {
-  const fs::path folder = fs::path(testing::TempDir()) / "message_table_test";
-  fs::remove_all(folder);
-  fs::create_directories(folder / "directory");
-  const auto path = [&](const char* name) { return (folder / name).string(); };
+  const QTemporaryDir folder;
+  const auto path = [&](const char* name) { return folder.filePath(name).toStdString(); };
+  fs::create_directory(path("directory"));
   // Truncating a mapped file would crash the program.
   const TestModule good({{1033, {{1, std::vector(20000, Ansi(std::string(100, 'x')))}}}});
   good.Save(path("good"));
@@ -302,7 +302,6 @@ TEST(MessageTable, ReadsOnlyRegularFiles) {
     EXPECT_FALSE(MessageTable::Read(path(name))) << name;
   }
   EXPECT_FALSE(MessageTable::Read("/dev/zero"));
-  fs::remove_all(folder);
 }
 
 }  // namespace

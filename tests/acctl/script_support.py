@@ -4,6 +4,7 @@ import json
 import os
 import re
 import shutil
+import signal
 import socket
 import socketserver
 import struct
@@ -177,6 +178,7 @@ class Building(unittest.TestCase):
         simulator.terminate()
         simulator.wait()
         simulator.stdout.close()
+        self.assertIn(simulator.returncode, (0, -signal.SIGKILL), "how the simulator ends")
 
     def run_program(self, *command, text=None, **environment):
         return subprocess.run(command, cwd=self.folder, env={**self.environment, **environment}, text=True, input=text,

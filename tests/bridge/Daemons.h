@@ -21,7 +21,7 @@ inline QString ProgramPath(const QString& name) {
   return found.isEmpty() ? "/usr/sbin/" + name : found;
 }
 
-/// A process that is stopped with this object.
+/// A process that is stopped with this object. It must end well, and not before.
 class Daemon {
  public:
   Daemon(const QString& program, const QStringList& arguments) {
@@ -31,10 +31,19 @@ class Daemon {
   }
   ~Daemon() { Stop(); }
 
-  void Stop() { process_.terminate(), Wait(); }
+  void Stop() {
+    if (mayHaveEnded_) return;
+    EXPECT_TRUE(Runs()) << "it has ended by itself";
+    process_.terminate();
+    EXPECT_EQ(ExitCode(), 0) << Said().data();
+    EXPECT_FALSE(Said().contains("Sanitizer")) << Said().data();
+  }
   void Kill() { process_.kill(), Wait(); }
-  /// Waits until it ends by itself.
-  int ExitCode() { return Wait(), process_.exitCode(); }
+  /// Waits until it ends by itself; −1 if a signal ends it.
+  int ExitCode() {
+    Wait();
+    return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+  }
   qint64 Id() const { return process_.processId(); }
   bool Runs() const { return process_.state() == QProcess::Running; }
   /// All that it has said so far.
@@ -49,11 +58,12 @@ class Daemon {
 
  private:
   void Wait() {
-    if (!Runs()) return;
-    EXPECT_TRUE(process_.waitForFinished(60'000));
+    mayHaveEnded_ = true;
+    EXPECT_TRUE(!Runs() || process_.waitForFinished(60'000));
   }
 
   QProcess process_;
+  bool mayHaveEnded_ = false;
   QByteArray said_;
 };
 

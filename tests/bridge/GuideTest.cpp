@@ -98,10 +98,10 @@ TEST(Guide, LeadsToAMailAndToTheAllClear) {
            }) &&
            said.contains(text);
   };
-  // Nothing is installed here, but it must be there; and all ends with the shell.
+  // Nothing is installed here, but it must be there; and all ends with the shell, and well.
   shell.write(
       "set -eu\n"
-      "trap 'kill $(jobs -p); wait' EXIT\n"
+      "trap 'for one in $(jobs -p); do kill $one; wait $one || exit 1; done' EXIT\n"
       "sudo() { dpkg-query -W \"${@:3}\"; }\n");
   for (std::size_t i = 0; i < blocks.size(); ++i) {
     shell.write(blocks[i] + "\necho \"done $((" + QByteArray::number(quint64{i}) + "))\"\n");

@@ -29,6 +29,8 @@ class Kills(Rig):
     def kill(self, program):
         program.send_signal(signal.SIGKILL)
         program.wait()
+        if program.returncode not in (0, -signal.SIGKILL):
+            raise Found(f"{program.args} ends with {program.returncode}")
         self.kills += 1
 
     def wait_at_random(self):

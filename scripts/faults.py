@@ -22,7 +22,7 @@ import time
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
-from rig import LONGEST, PROJECTOR, Found, Rig, free_port
+from rig import LONGEST, PROJECTOR, Found, Rig, free_port, is_ready
 
 HOWS = ("allocation", "error", "cut", "interrupt")
 CODES = (0, 1, 2, 3)
@@ -125,9 +125,7 @@ class Faults(Rig):
             [self.programs / "advanced-control-simulator", "--projector", PROJECTOR, "--port", str(port),
              "--write-profiles", file], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, errors="replace",
             env=environment)
-        while (line := simulator.stdout.readline().strip()) != "ready" and line:
-            continue
-        if line:
+        if is_ready(simulator):
             arguments = ["--connect", f"tcp://127.0.0.1:{port}", "--timeout", "1", "status", PROJECTOR]
             served = 0  # of three clients, one of which the fault may hit
             for _ in range(3):

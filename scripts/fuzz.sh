@@ -19,8 +19,8 @@ mkdir -p build/fuzz/findings
 fuzz() {
   local target="$1" log="build/fuzz/$1.log"
   mkdir -p "build/fuzz/corpus/$target"
-  if ! "build/$preset/bin/fuzz-$target" -max_total_time="$seconds" -timeout=5 -rss_limit_mb=1024 \
-    -max_len=8192 -artifact_prefix="build/fuzz/findings/$target-" "build/fuzz/corpus/$target" \
+  if ! timeout $((seconds + 600)) "build/$preset/bin/fuzz-$target" -max_total_time="$seconds" -timeout=5 \
+    -rss_limit_mb=1024 -max_len=8192 -artifact_prefix="build/fuzz/findings/$target-" "build/fuzz/corpus/$target" \
     "fuzz/corpus/$target" >"$log" 2>&1; then
     tail -n 60 "$log" >&2
     echo "scripts/fuzz.sh: $target: see $log" >&2

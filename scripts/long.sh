@@ -39,6 +39,7 @@ done
 preset="${PRESET:-asan}"
 bin="build/$preset/bin"
 share=$((seconds / 4))
+longest=$((share + 600))  # until a program counts as hanging
 logs=build/long
 findings=()
 commit=$(git rev-parse --short HEAD)
@@ -48,7 +49,7 @@ mkdir -p "$logs"
 
 # further <part> <command line>: what only succeeds or fails.
 further() {
-  bash -euo pipefail -c "$2" >"$logs/$1.log" 2>&1 || findings+=("$1: $2; see $logs/$1.log")
+  timeout 6h bash -euo pipefail -c "$2" >"$logs/$1.log" 2>&1 || findings+=("$1: $2; see $logs/$1.log")
 }
 
 run_fuzzing() {
@@ -60,7 +61,7 @@ run_fuzzing() {
 # walk <program> <prefix of its variables> <actions of each of its tests>
 walk() {
   local variables=("$2_SEED=$seed" "$2_ACTIONS=$3")
-  env "${variables[@]}" "$bin/$1" >"$logs/$1.log" 2>&1 || {
+  timeout "$longest" env "${variables[@]}" "$bin/$1" >"$logs/$1.log" 2>&1 || {
     findings+=("walks: ${variables[*]} $bin/$1; see $logs/$1.log")
     return 1
   }
@@ -78,13 +79,13 @@ run_walks() {
 
 run_kills() {
   local seed=$RANDOM
-  kills=$(scripts/kills.py "$bin" "$share" "$seed" 2>"$logs/kills.log") ||
+  kills=$(timeout "$longest" scripts/kills.py "$bin" "$share" "$seed" 2>"$logs/kills.log") ||
     findings+=("kills: scripts/kills.py $bin $share $seed; see $logs/kills.log")
   kills=${kills:-0}
 }
 
 run_faults() {
-  faults=$(scripts/faults.py build/check "$share" $RANDOM 2>"$logs/faults.log") ||
+  faults=$(timeout "$longest" scripts/faults.py build/check "$share" $RANDOM 2>"$logs/faults.log") ||
     findings+=("faults: $(tail -n 1 "$logs/faults.log"); see $logs/faults.log")
   faults=${faults%% *} faults=${faults:-0}  # "12 of 3456 points"
 }

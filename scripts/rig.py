@@ -3,9 +3,11 @@
 import json
 import os
 import shutil
+import signal
 import socket
 import subprocess
 import tempfile
+import threading
 from pathlib import Path
 
 PROJECTOR = "Projector 5-30"
@@ -34,6 +36,20 @@ def free_port(count=2):
     return port
 
 
+def is_ready(program):
+    """Waits until it says so; False if it ends before."""
+    limit = threading.Timer(LONGEST, program.kill)
+    limit.start()
+    try:
+        if any(line.strip() == "ready" for line in program.stdout):
+            return True
+        if program.wait() == -signal.SIGKILL:
+            raise Found("it hangs")
+        return False
+    finally:
+        limit.cancel()
+
+
 class Rig:
     """good.json has the projector's settings at first, changed.json others."""
 
@@ -56,9 +72,8 @@ class Rig:
         self.simulator = subprocess.Popen(
             [self.programs / "advanced-control-simulator", "--projector", PROJECTOR, "--port", str(self.port),
              "--write-profiles", self.profiles], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-        while (line := self.simulator.stdout.readline().strip()) != "ready":
-            if not line:
-                raise Found("the simulator does not start")
+        if not is_ready(self.simulator):
+            raise Found("the simulator does not start")
 
     def stop(self):
         self.simulator.kill()

@@ -113,7 +113,7 @@ def of_few_units(mutants, units, least):
 
 
 def choose(arguments, units, links):
-    """The chosen mutants, and the files that they are in."""
+    """The chosen mutants, the files that they are in, and of how many they are a sample."""
     listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "src", "app"],
                             cwd=ROOT, capture_output=True, text=True, check=True).stdout.split()
     lines = changed_lines(arguments.changed) if arguments.changed else None
@@ -130,12 +130,13 @@ def choose(arguments, units, links):
                if (lines is None or mutant.line in lines[mutant.file])
                and (not arguments.kinds or mutant.kind in arguments.kinds)
                and (not arguments.only or mutant.id in arguments.only)]
+    count = len(mutants)
     if arguments.sample and arguments.seconds:
         mutants = of_few_units(mutants, units, 2 * arguments.sample)
     if arguments.sample and arguments.sample < len(mutants):
         mutants = random.Random(arguments.seed).sample(mutants, arguments.sample)
     chosen = {mutant.file for mutant in mutants}
-    return mutants, [source for source in sources if source.name in chosen]
+    return mutants, [source for source in sources if source.name in chosen], count
 
 
 def digest(file):
@@ -272,8 +273,8 @@ class Run:
 
 
 def report(mutants, results, equivalents, isWhole):
-    """Prints what is known of the mutants; `isWhole` if all suites were used. Returns how many of them were killed, and how
-    many lived."""
+    """Prints what is known of the mutants; `isWhole` if all suites were used. Returns how many of them were killed, how many
+    lived, and how many were not tried."""
     scores, alive = defaultdict(Counter), []
     for mutant in mutants:
         result = results.find(mutant)
@@ -294,16 +295,18 @@ def report(mutants, results, equivalents, isWhole):
         tried = score["killed"] + score["alive"]
         share = f"{100 * score['killed'] / tried:9.0f} %" if tried else ""
         print(f"{folder:20}" + "".join(f"{score[column]:11}" for column in columns) + share)
-    return sum(score["killed"] for score in scores.values()), len(alive)
+    total = sum(scores.values(), Counter())
+    return total["killed"], total["alive"], total["open"] + total["unreached"]
 
 
-def is_enough(killed, alive, share, isSample):
-    """Whether the share may be killed of all."""
+def is_enough(killed, alive, left, percent):
+    """Whether so many may be killed of all, also of those that are left. If just so many are, one of a hundred samples
+    must have as few killed; if none is left, this sample is the only one."""
     tried = killed + alive
-    if not isSample:
-        return killed >= share * tried
-    chance = sum(math.comb(tried, count) * share ** count * (1 - share) ** (tried - count) for count in range(killed + 1))
-    return chance >= 0.01
+    good = math.ceil(percent * (tried + left) / 100)
+    bad = tried + left - good
+    samples = sum(math.comb(good, count) * math.comb(bad, tried - count) for count in range(killed + 1))
+    return 100 * samples >= math.comb(tried + left, tried)
 
 
 def main():
@@ -312,7 +315,7 @@ def main():
         shield_devices()
     WORK.mkdir(parents=True, exist_ok=True)
     units, links = read_units(ROOT, ROOT / arguments.build), Links(ROOT / arguments.build)
-    mutants, sources = choose(arguments, units, links)
+    mutants, sources, count = choose(arguments, units, links)
     if arguments.list:
         for mutant in mutants:
             print(f"{mutant.id}  {one_line(mutant.before)}  ->  {one_line(mutant.after) or 'nothing'}")
@@ -331,8 +334,8 @@ def main():
     if wanted:
         random.Random(arguments.seed).shuffle(wanted)  # an interrupted run is a sample, too
         Run(units, links, sources, results, arguments).all(wanted)
-    killed, alive = report(mutants, results, equivalents, not arguments.suites and not arguments.seconds)
-    return 0 if is_enough(killed, alive, arguments.least / 100, bool(arguments.sample)) else 1
+    killed, alive, left = report(mutants, results, equivalents, not arguments.suites and not arguments.seconds)
+    return 0 if is_enough(killed, alive, left + count - len(mutants), arguments.least) else 1
 
 
 if __name__ == "__main__":

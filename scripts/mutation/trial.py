@@ -94,17 +94,16 @@ class Reach:
         if left <= 0:
             return None
         print(f"recording what {suite.name} reaches", flush=True)
-        record.unlink(missing_ok=True)
+        part = self.folder / f"{suite.name}.part"  # until it is whole
+        part.unlink(missing_ok=True)
         reached.write_bytes(bytes(self.size))
         told, result = run(suite, [], self.folder, suite.parent,
-                           {"MUTANTS_REACHED": str(reached), "MUTANTS_RECORD": str(record)}, min(left, 1800))
+                           {"MUTANTS_REACHED": str(reached), "MUTANTS_RECORD": str(part)}, min(left, 1800))
         if told is None and left < 1800:
-            record.unlink(missing_ok=True)
             return None
-        if told is None or result < 0 or not record.exists():
-            record.unlink(missing_ok=True)
+        if told is None or result < 0 or not part.exists():
             raise SystemExit(f"{suite} does not run without a mutant: {result}\n{(told or '')[-2000:]}")
-        return record
+        return part.rename(record)
 
 
 class Trial:

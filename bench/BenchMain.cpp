@@ -1,4 +1,7 @@
+#include <algorithm>
 #include <cstdio>
+#include <memory>
+#include <vector>
 
 #include <QApplication>
 #include <QStyleFactory>
@@ -14,6 +17,22 @@ void DropDisplayRemarks(QtMsgType type, const QMessageLogContext& context, const
   std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
 }
 
+/// Shows what the options ask for, and remembers whether a benchmark has failed.
+class WatchingReporter : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context& context) override { return shown_->ReportContext(context); }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    hasFailed_ = hasFailed_ || std::ranges::any_of(runs, &Run::error_occurred);
+    shown_->ReportRuns(runs);
+  }
+  void Finalize() override { shown_->Finalize(); }
+  bool HasFailed() const { return hasFailed_; }
+
+ private:
+  const std::unique_ptr<BenchmarkReporter> shown_{benchmark::CreateDefaultDisplayReporter()};
+  bool hasFailed_ = false;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -27,7 +46,8 @@ int main(int argc, char** argv) {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
+  WatchingReporter reporter;
+  const auto count = benchmark::RunSpecifiedBenchmarks(&reporter);
   benchmark::Shutdown();
-  return 0;
+  return count > 0 && !reporter.HasFailed() ? 0 : 1;
 }

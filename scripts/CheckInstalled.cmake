@@ -68,7 +68,7 @@ endforeach()
 
 # The programs must be hardened, and must not search the current directory for libraries.
 foreach(built libAdvancedControl.so libProjectorFleet.so libProjectorSettings.so libProjectorCommon.so
-              advanced-control acctl advanced-control-simulator)
+              advanced-control acctl advanced-control-bridge advanced-control-simulator)
   execute_process(COMMAND readelf -Wd ${BUILD_DIR}/bin/${built} OUTPUT_VARIABLE dynamic
                   COMMAND_ERROR_IS_FATAL ANY)
   if(NOT dynamic MATCHES "BIND_NOW|Flags: NOW")

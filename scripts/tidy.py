@@ -70,7 +70,8 @@ def tidy(file, arguments, checks, *options):
 
 def read_alone(file, command):
     """What the compiler finds in the file."""
-    return subprocess.run([*command, "-fsyntax-only", file], cwd=ROOT, capture_output=True, text=True).stderr
+    found = subprocess.run([*command, "-fsyntax-only", file], cwd=ROOT, capture_output=True, text=True)
+    return found.stderr or (f"{file}: the compiler ended with {found.returncode}\n" if found.returncode else "")
 
 
 def tidy_together(number, files, commands, checks):
@@ -82,8 +83,9 @@ def tidy_together(number, files, commands, checks):
         if tidy(str(file), arguments, f"{checks},-bugprone-suspicious-include",
                 "--config-file=.clang-tidy").returncode == 0:
             return ""
-    alone = [tidy(name, commands[name][1:], checks) for name in files]
-    return "".join(found.stdout or found.stderr for found in alone if found.returncode != 0)
+    alone = {name: tidy(name, commands[name][1:], checks) for name in files}
+    return "".join(found.stdout or found.stderr or f"{name}: clang-tidy ended with {found.returncode}\n"
+                   for name, found in alone.items() if found.returncode != 0)
 
 
 def changed_since(commit, files):

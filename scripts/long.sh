@@ -15,7 +15,7 @@
 #   load       a bridge with ten thousand projectors
 #   bridges    bridges through failures, ten times
 #   sweeps     whether memory grows in a hundred sweeps of a fleet
-#   mutants    whether the tests notice four of five mutants of what was changed since the last run in the table
+#   mutants    whether the tests notice four of five mutants of what was changed since they last did
 #
 # The sanitizers watch the walks; PRESET=dev takes another build. What was found is said at the end, with what to run
 # to see it again, and ends the script with 1.
@@ -106,18 +106,19 @@ run_release() { further release "scripts/check-release.sh"; }
 run_load() { further load "scripts/bridge-load.py build/check/bin"; }
 run_bridges() { further bridges "$bin/bridge_program_tests --gtest_filter='BridgeProgram.*' --gtest_repeat=10"; }
 run_sweeps() {
-  further sweeps "build/check/bin/fleet-bench --benchmark_filter=ManySweeps 2>&1 | tee $logs/figures.log; ! grep 'ERROR OCCURRED' $logs/figures.log"
+  further sweeps "build/check/bin/fleet-bench --benchmark_filter=ManySweeps 2>&1 | tee $logs/figures.log; grep -q ManySweeps/ $logs/figures.log; ! grep 'ERROR OCCURRED' $logs/figures.log"
 }
 
 run_mutants() {
-  local last
-  last=$(awk -F'|' '/^\| 20/ { commit = $3 } END { gsub(/ /, "", commit); print commit }' docs/reliability.md)
-  git cat-file -e "$last" 2>/dev/null || last=HEAD~20
-  further mutants "scripts/mutate.py --changed $last --sample 40 --least 80"
+  local kept="$logs/mutants.commit" last
+  last=$(cat "$kept" 2>/dev/null) && git cat-file -e "$last" 2>/dev/null || last=HEAD~20
+  further mutants "scripts/mutate.py --changed $last --sample 40 --least 80 && echo $commit >$kept"
   sed -n '/^Alive/,$p' "$logs/mutants.log"
 }
 
-for build in "$preset" check; do
+builds="$preset check"
+[[ " $wanted " != *" mutants "* ]] || builds+=" dev"
+for build in $builds; do
   echo "Building (build/$build)"
   cmake --preset "$build" >/dev/null && cmake --build --preset "$build" || exit 1
 done

@@ -121,7 +121,12 @@ class Peer {
       // The other end is kept open so that the line survives while nobody else has it open.
       int line = -1, otherEnd = -1;
       if (transport == Transport::Serial) {
-        openpty(&line, &otherEnd, nullptr, nullptr, nullptr);
+        termios raw{};
+        cfmakeraw(&raw);
+        openpty(&line, &otherEnd, nullptr, &raw, nullptr);
+        // What came before is the head of a reply.
+        pollfd before{otherEnd, POLLIN, 0};
+        if (write(line, "\xA5\x5A\4\7", 4) == 4) poll(&before, 1, -1);
         std::filesystem::create_symlink(ttyname(otherEnd), Device());
       }
       finished_ = index;

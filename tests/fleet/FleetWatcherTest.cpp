@@ -99,6 +99,13 @@ class Played {
     auto& device = At().device;
     (device.states.contains(key_) ? device.states : device.facts)[key_] = value_;
   }
+  void TakeInputs() {
+    for (int i = 0; i < std::stoi(key_); ++i) {
+      At().device.states["INPT"] = {"123"[i / 26], static_cast<char>('A' + i % 26)};
+      fleet_->RunFor(60s);
+    }
+    At().device.TakeRequests();
+  }
   void Set(ProjectorAddress address) { fleet_->watcher.Set({id_, std::move(address)}); }
   void Notice() { fleet_->watcher.Events().Noticed({id_, key_, value_}); }
   void Learn() {
@@ -131,6 +138,7 @@ class Played {
       {"wrong", [&] { Set(AddressError()); }},
       {"remove", [&] { fleet_->watcher.Remove(id_); }},
       {"says", [&] { Says(); }},
+      {"inputs", [&] { TakeInputs(); }},
       {"busy", [&] { At().device.busyFor = Seconds(key_); }},
       {"answers", [&] { At().device.answers = Seconds(key_); }},
       {"hasty", [&] { At().device.CloseEachTime(Seconds(key_)); }},

@@ -13,6 +13,7 @@
 
 #include "tests/bridge/BridgeProgram.h"
 #include "tests/bridge/Subscriber.h"
+#include "tests/support/Record.h"
 
 namespace {
 
@@ -271,40 +272,18 @@ TEST_F(BridgeProgram, WritesATextFileAndNeedsNoBroker) {
   EXPECT_EQ(QDir(folder_.path()).entryList({"*.prom"}), QStringList()) << "served for ever";
 }
 
-TEST_F(BridgeProgram, SaysWhatIsWrongWithItsOptions) {
+TEST_F(BridgeProgram, AnswersWrongUseAsRecorded) {
   StartProjectors(1);
-  const QString empty = folder_.filePath("empty");
-  Write(empty, "\n");
-  const std::vector<std::pair<QStringList, const char*>> cases{
-      {{}, "--profiles is missing"},
-      {{"--profiles", empty}, "empty"},
-      {{"--profiles", profiles_, "--share", "3/2"}, "is not a share"},
-      {{"--profiles", profiles_, "--interval", "1"}, "is not a time"},
-      {{"--profiles", profiles_, "--listen", "everywhere"}, "is not a numeric address"},
-      {{"--profiles", profiles_, "--allow-commands", "*"}, "needs --broker"},
-      {{"--profiles", profiles_, "--broker", "h", "--allow-commands", "pic.*"}, "'pic.*' is no"},
-      {{"--profiles", profiles_, "--broker", ":1"}, "is not a host"},
-      {{"--profiles", profiles_, "--broker", "h:0"}, "is not a host"},
-      {{"--profiles", profiles_, "--broker", "h", "--mqtt", "4"}, "is neither 3 nor 5"},
-      {{"--profiles", profiles_, "--broker", "h", "--topic", "a/#"}, "is not a topic"},
-      {{"--profiles", profiles_, "--broker", "h", "--cert-file", "x"}, "need each other"},
-      {{"--profiles", profiles_, "--broker", "h", "--password-file", empty}, "is empty"},
-      {{"--profiles", profiles_, "--broker", "h", "--ca-file", "/none"}, "cannot read /none"},
-      {{"--profiles", profiles_, "--commands-per-minute", "0"}, "is not a number"},
-      {{"--profiles", profiles_, "--listen", "none", "--text-file", "/none/x"}, "/none/x"},
-      {{"--profiles", profiles_, "--tag", "Building 1", "--tag", "Hall"}, "--tag: no projector"},
-      {{"--profiles", profiles_, "--share", "2/2", "--listen", "none", "--text-file", "/none/x"},
-       "no projector belongs"},
-      {{"--profiles", QFileInfo(BRIDGE_PROGRAM).dir().filePath("projectors.json"), "--listen",
-        "none", "--text-file", "/none/x"},
-       "only simulated projectors"},
-      {{"everything"}, "unexpected argument"},
-  };
-  for (const auto& [arguments, text] : cases) {
-    const Outcome outcome = ::Run(BRIDGE_PROGRAM, arguments);
-    EXPECT_EQ(outcome.exitCode, 2) << arguments.join(' ').toStdString();
-    EXPECT_THAT(outcome.errors, HasSubstr(text));
-  }
+  Write(folder_.filePath("empty"), "\n");
+  ExpectAnswers(TEST_SOURCE_DIR "/bridge/WrongUses.txt", [this](const std::string& words) {
+    QString use = QString::fromStdString(words).replace("HERE", folder_.path());
+    use.replace("BUILT", QFileInfo(BRIDGE_PROGRAM).path());
+    const Outcome run = ::Run(BRIDGE_PROGRAM, QProcess::splitCommand(use));
+    EXPECT_EQ(run.output, "") << words;
+    EXPECT_EQ(run.exitCode, 2) << words;
+    const QString said = QString::fromStdString(run.errors).replace(folder_.path(), "HERE");
+    return said.trimmed().replace('\n', " | ").toStdString();
+  });
 }
 
 }  // namespace

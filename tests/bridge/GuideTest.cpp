@@ -116,7 +116,8 @@ TEST(Guide, LeadsToAMailAndToTheAllClear) {
   EXPECT_TRUE(said.contains("projector_up{projector=\"Projector 00001\"} 1")) << said.data();
   EXPECT_TRUE(said.contains("\"reachability\"")) << said.data();
   shell.write("exit\n");
-  EXPECT_EQ(Finish(shell).exitCode, 0);
+  const Outcome end = Finish(shell);
+  EXPECT_EQ(end.exitCode, 0) << end.output;
 }
 
 }  // namespace

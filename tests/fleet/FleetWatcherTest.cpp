@@ -81,8 +81,8 @@ class Played {
     const auto states = fleet_->states.States();
     for (const auto& [id, state] : std::map(states.begin(), states.end())) {
       const auto connection = static_cast<int>(state.connection);
-      const std::string words = Words(state) + " (" + std::to_string(connection) + ")";
-      if (std::exchange(told_[id], words) != words) text_ += "  " + id + ": " + words + '\n';
+      const std::string now = Words(state) + " (" + std::to_string(connection) + ")";
+      if (std::exchange(told_[id], now) != now) text_.append("  " + id + ": ").append(now + '\n');
     }
     for (auto& [host, it] : fleet_->projectors) {
       const std::pair now{it.connections.size(), it.open};

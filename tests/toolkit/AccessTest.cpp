@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QLineEdit>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/SampleDialog.h"
@@ -82,6 +83,8 @@ TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
   int start = -1, end = -1;
   list.textInterface()->attributes(0, &start, &end);
   EXPECT_EQ(list.textInterface()->text(start + 1, end - 1), QStringLiteral("n"));
+  list.textInterface()->selection(0, &start, &end);
+  EXPECT_TRUE(start == 0 && end == 0);
   QAccessibleInterface& two = *dropDown.child(2);
   Act(two, Actions::toggleAction());
   combo.setEnabled(false);
@@ -94,6 +97,9 @@ TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
     { const CDialog::Busy short_(&other); }
     Act(two, Actions::pressAction());
     driver.Choose(9, 2);
+    combo.view()->setCurrentIndex(combo.model()->index(2, 0));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Select})
+      QTest::keyClick(combo.view(), key);
     EXPECT_EQ(combo.currentIndex(), 1);
     combo.hidePopup();
   }

@@ -1,7 +1,10 @@
 #include <tuple>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPen>
+#include <QScreen>
+#include <QStyleOption>
 #include <QTest>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -12,6 +15,7 @@
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/Contrast.h"
 #include "toolkit/FocusPen.h"
+#include "toolkit/IsolatedText.h"
 
 namespace {
 
@@ -71,6 +75,7 @@ TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
       dying->deleteLater();
       QTest::qWait(5);
       ASSERT_NE(dying, nullptr) << "its handler is still running";
+      EXPECT_TRUE(dying->told.ends_with("leave; "));
     };
     running ? DialogDriver(*dying).Click(10) : dying->deleteLater();
     EXPECT_TRUE(Soon([&] { return dying == nullptr; }));
@@ -86,7 +91,7 @@ TEST_F(DialogTest, TheWheelNeedsTheFocus) {
   EXPECT_TRUE(driver.Wheel(4, 1));
   driver.Item<CSliderCtrl>(4).setValue(99);
   EXPECT_TRUE(driver.Wheel(4, 1)) << "also at the end";
-  EXPECT_EQ(dialog.scrolls.size(), 1U);
+  EXPECT_EQ(dialog.scrolls, std::vector{2});
   dialog.GetDlgItem(9)->setFocus();
   EXPECT_FALSE(driver.Wheel(9, -1));
   EXPECT_EQ(driver.Selected(9), 0) << "a closed list also needs Ctrl";
@@ -146,6 +151,10 @@ TEST_F(DialogTest, RunsModallySeveralTimes) {
     EXPECT_TRUE(modal.presses == run && modal.destroyed == run);
     EXPECT_EQ(modal.Owner(), run == 1 ? nullptr : &named);
   }
+  const QPointer<QWidget> dying = new QWidget;
+  modal.BelongTo(dying);
+  modal.whenMade = [&dying] { delete dying; };
+  EXPECT_EQ(modal.DoModal(), QDialog::Rejected) << "not the result of before";
 }
 
 TEST_F(DialogTest, CanBeOpenedAgainWhenItsHostIsToldOfTheEnd) {
@@ -207,9 +216,13 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
   const QPalette before = QApplication::palette();
   for (const QColor& color : {QColor(239, 239, 239), QColor(Qt::white), QColor(53, 53, 53)}) {
     dialog.setVisible(color.lightness() > 99);  // a hidden one looks right when it is shown
-    QApplication::setPalette(QPalette(color));
+    QPalette plain(color);
+    plain.setColor(QPalette::Highlight, color);
+    QApplication::setPalette(plain);
     QCoreApplication::processEvents();
     dialog.show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialog.screen()->grabWindow(dialog.winId()).toImage().pixelColor(1, 1), color);
     ASSERT_EQ(dialog.palette().color(QPalette::Window), color);
     for (const auto& [text, background] : {std::pair(QPalette::WindowText, QPalette::Window),
                                            {QPalette::ButtonText, QPalette::Button},
@@ -225,20 +238,38 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
   QApplication::setPalette(before);
 }
 
+struct DrawnList : CComboBox {
+  using CComboBox::initStyleOption;
+};
+
 TEST_F(DialogTest, AListIsAsWideAsItsLongestEntryUpToALimit) {
-  auto& longer = dialog.Item<CComboBox>(9);
-  for (const int letters : {20, 200}) {
-    longer.clear();
-    longer.Add(QString(letters, QLatin1Char('n')));
-    longer.UpdateWidth();
-    const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
-    EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
-    EXPECT_LT(longer.sizeHint().width(), 500);
+  for (const auto direction : {Qt::RightToLeft, Qt::LeftToRight}) {
+    QApplication::setLayoutDirection(direction);
+    const bool isolates = direction == Qt::RightToLeft;
+    DrawnList longer;
+    EXPECT_EQ(dynamic_cast<IsolatedTexts*>(longer.itemDelegate()) != nullptr, isolates);
+    for (const int letters : {20, 200}) {
+      longer.clear();
+      longer.Add(QString(letters, QLatin1Char('n')));
+      longer.Select(0);
+      longer.UpdateWidth();
+      const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
+      EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
+      EXPECT_LT(longer.sizeHint().width(), 500);
+      longer.resize(longer.sizeHint());
+      QStyleOptionComboBox option;
+      longer.initStyleOption(&option);
+      EXPECT_EQ(option.currentText.contains(u'…'), letters == 200);
+      EXPECT_EQ(option.currentText.startsWith(QChar(0x2068)), isolates);
+      longer.showPopup();
+      EXPECT_GE(longer.view()->viewport()->width(), needed) << "the open list shows it whole";
+    }
   }
 }
 
 TEST(Dialog, WithoutATemplateStaysEmpty) {
   CDialog dialog(12345);
+  EXPECT_DEATH(dialog.Item<QWidget>(1), "dialog 12345 has no control 1 ");
   EXPECT_TRUE(!dialog.Create() && dialog.DoModal() == -1);
   EXPECT_TRUE(dialog.GetDlgItem(1) == nullptr && !dialog.DialogSize().isValid());
 }
@@ -263,13 +294,27 @@ TEST_F(DialogTest, ItsHandlerMayCloseItTwiceButNotCreateIt) {
     dialog.reject();
     dialog.reject();
   };
+  dialog.told.clear();
   driver.Click(10);
+  EXPECT_EQ(dialog.told, "leave; idle, left; return; ");
   EXPECT_TRUE(!dialog.isVisible() && dialog.destroyed == 1 && dialog.Create());
 }
 
+TEST_F(DialogTest, WhatIsReleasedWhileAHandlerRunsIsStaleUnlessItIsAButton) {
+  dialog.told.clear();
+  for (const int id : {10, 4}) {
+    QTest::mousePress(dialog.GetDlgItem(id), Qt::LeftButton);
+    const CDialog::Busy handler(&dialog);
+    QTest::mouseRelease(dialog.GetDlgItem(id), Qt::LeftButton);
+  }
+  EXPECT_EQ(dialog.told, "idle; stale; idle; ");
+}
+
 TEST_F(DialogTest, ClosesTheModalWindowsAboveItAndNoOther) {
+  dialog.move(300, 200);
   SampleDialog popUp(&dialog);
   popUp.Open();
+  EXPECT_GT(popUp.x(), 200) << "above its owner";
   QDialog modeless(&dialog);
   modeless.show();
   QDialog hidden(&dialog);
@@ -292,7 +337,7 @@ TEST_F(DialogTest, WhatBelongsToAnOwnerEndsWithIt) {
   part->Open();
   part->setWindowFlags(Qt::Widget);
   SampleDialog open(owner), closed(owner), moved(owner);
-  const QPointer<SampleDialog> own = new SampleDialog(owner);
+  const QPointer own = new SampleDialog((SampleDialog(), owner));  // beside one without 'new'
   for (SampleDialog* window : {&open, &closed, &moved, own.data()}) window->Open();
   closed.reject();
   moved.setParent(nullptr, moved.windowFlags());

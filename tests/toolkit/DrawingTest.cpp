@@ -11,6 +11,10 @@
 #include <QFontDatabase>
 #include <QHelpEvent>
 #include <QLayout>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyleFactory>
 #include <QTabBar>
 #include <QTest>
 #include <QTextDocument>
@@ -74,8 +78,8 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   stage.resize(100, 560);
   std::ostringstream now;
   const auto record = [&](const char* name, int from, int to) {
-    QImage image(stage.size(), QImage::Format_RGB32);
-    stage.render(&image);
+    QCoreApplication::processEvents();
+    const QImage image = stage.screen()->grabWindow(stage.winId()).toImage();
     now << '\n' << name << '\n';
     for (int y = from; y < to; ++y) {
       std::string line;
@@ -84,17 +88,17 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     }
   };
 
-  Placed(new CurveView(&stage), 0, 0, 90, 60)
-      .Show({{.label = "ab", .hue = 0, .accepted = {{0, 0}, {1, .5}}, .values = {1, 2}},
-             {.label = "a", .hue = 120, .accepted = {{0, 0}, {1, .5}}, .values = {3, 4}},
-             {.hue = 240},
-             {.accepted = {{0, .5}, {.5, 1.2}, {1, 1}},
-              .tried = {{0, .5}, {.5, -.2}, {1, 1}},
-              .values = {5, 6, 7}}},
-            6);
+  auto& curve = Placed(new CurveView(&stage), 0, 0, 90, 60);
+  curve.Show({{.label = "ab", .hue = 0, .accepted = {{0, 0}, {1, .5}}, .values = {1, 2}},
+              {.label = "a", .hue = 120, .accepted = {{0, 0}, {1, .5}}, .values = {3, 4}},
+              {.hue = 240},
+              {.accepted = {{0, .5}, {.5, 1.2}, {1, 1}},
+               .tried = {{0, .5}, {.5, -.2}, {1, 1}},
+               .values = {5, 6, 7},
+               .movable = true}},
+             6);
   auto& dark = Placed(new CurveView(&stage), 0, 62, 60, 40);
   dark.setPalette(PaletteOf(Qt::white, Qt::black));
-  dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
   for (const auto& [y, text] :
        {std::pair{64, "abcd"}, {76, "abcdefghijk"}, {88, "\u200fabcdefghijk"}}) {
     auto& said = Placed(new AnnouncedLabel(text, &stage), 64, y, 24, 12);
@@ -102,13 +106,15 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     QApplication::sendEvent(&said, &help);
     EXPECT_EQ(QToolTip::text(), y == 64 ? QString() : Qt::convertFromPlainText(text));
   }
+  QStyle& windows = *QStyleFactory::create("windows");  // makes a handle as high as its slider
+  windows.setParent(&stage);
   const QString theme = QIcon::themeName();
   QIcon::setThemeName("none");
   for (const int i : {0, 1, 2, 3, 4}) {
     auto& mark = Placed(new StateLabel("ab", &stage), 0, 104 + 15 * i, 0, 0);
     if (i == 3) mark.setLayoutDirection(Qt::RightToLeft);
     mark.SetMark(static_cast<StateLabel::Mark>(i));
-    mark.SetShare(i == 4 ? std::nullopt : std::optional(.4 * i));
+    mark.SetShare(i == 4 ? std::nullopt : std::optional(.9));
     mark.adjustSize();
     auto& slider = Placed(new CSliderCtrl(&stage), 5, 270 + 27 * i, 80, 27);
     slider.SetRange(kSliders[i][0], kSliders[i][1], kSliders[i][3]);
@@ -116,6 +122,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider.setEnabled(i != 1);
     slider.setSliderDown(i == 3);
     slider.setLayoutDirection(i == 3 ? Qt::RightToLeft : Qt::LeftToRight);
+    if (i == 3) slider.setStyle(&windows);
     auto& field = Placed(new NumberField(&stage), 0, 200 + 10 * i, 99, 10);
     field.setFrame(false);
     if (i < 4) field.setText("123");
@@ -123,15 +130,26 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     field.SetUnit(i % 2 ? "ms" : "%", i == 3 ? "1234567890" : "123");
     if (i == 4) break;
     auto& icon = Placed(new QLabel(&stage), 25 * i, 180, 24, 20);
-    icon.setPixmap(ThemedIcon(static_cast<IconName>(i)).pixmap(icon.size()));
+    QPixmap drawn(icon.size());
+    drawn.fill(Qt::white);
+    QPainter painter(&drawn);
+    ThemedIcon(static_cast<IconName>(i)).paint(&painter, icon.rect());
+    EXPECT_TRUE(painter.transform().isIdentity()) << "as it was";
+    icon.setPixmap(drawn);
   }
   QIcon::setThemeName(theme);
   auto& tabs = Placed(new QTabBar(&stage), 0, 500, 200, 20);
   for (const char* text : {"one", "two"}) tabs.addTab(text);
-  Placed(new QWidget(&stage), 10, 410, 30, 8).setFocusPolicy(Qt::TabFocus);
+  auto& part = Placed(new QWidget(&stage), 3, 405, 60, 30);
+  Placed(new QWidget(&part), 7, 5, 30, 8).setFocusPolicy(Qt::TabFocus);
   FocusRing ring(stage);
+  stage.show();
+  EXPECT_FALSE(ring.isVisible());
   Activate(stage);
   EXPECT_FALSE(ring.isVisible());
+  QCoreApplication::processEvents();  // what changes now must be drawn again
+  dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
+  for (int i = 0; i < 4; ++i) stage.findChildren<StateLabel*>()[i]->SetShare(.4 * i);
   const auto sliders = stage.findChildren<CSliderCtrl*>();
   for (const auto& [slider, to, letters] : {std::tuple{sliders[0], 5, 2}, {sliders[2], 500, 15}}) {
     AttachDragBubble(*slider, [letters = letters](int) { return QString(letters, 'a'); });
@@ -139,7 +157,10 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider->DragTo(to);
   }
   const auto tabTo = [&stage](QWidget& to) {
-    for (int i = 0; i < 30 && !to.hasFocus(); ++i) QTest::keyClick(&stage, Qt::Key_Tab);
+    for (int i = 0; i < 30 && !to.hasFocus(); ++i) {
+      QTest::keyClick(&stage, Qt::Key_Tab);
+      QCoreApplication::processEvents();
+    }
     EXPECT_TRUE(to.hasFocus());
   };
   tabTo(*sliders[2]);
@@ -151,6 +172,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
          250, 406);
 
   tabTo(tabs);
+  EXPECT_EQ(stage.children().last(), &ring) << "above the bubbles";
   tabs.setCurrentIndex(1);
   for (const int y : {500, 495}) {
     tabs.move(0, y);
@@ -168,18 +190,36 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   stage.findChild<NumberField*>()->setFocus();
   tabs.setCurrentIndex(0);
   EXPECT_FALSE(ring.isVisible()) << "a field takes the focus of the mouse only";
+  std::vector<int> moves;
+  QObject::connect(&curve, &CurveView::Dragged, [&](int value) { moves.push_back(value); });
+  QObject::connect(&curve, &CurveView::Dropped, [&](int value) { moves.push_back(-value); });
+  const QPoint near = curve.PlaceOf({.74, 1.1}).toPoint();  // to two points
+  QTest::mousePress(&curve, Qt::LeftButton, {}, near);
+  QTest::mouseClick(&curve, Qt::RightButton, {}, near);
+  QTest::mouseMove(&curve, near + QPoint(0, 9));
+  QTest::mouseRelease(&curve, Qt::LeftButton, {}, near);
+  QTest::mouseClick(&curve, Qt::LeftButton, {}, near);
+  QTest::mousePress(&curve, Qt::RightButton, {}, near);
+  for (const auto& [at, shape] : {std::pair{near, Qt::SizeVerCursor}, {{}, Qt::ArrowCursor}}) {
+    QTest::mouseMove(&curve, at);
+    EXPECT_EQ(curve.cursor().shape(), shape);
+  }
+  EXPECT_EQ(moves, (std::vector{6, -6})) << "the nearest point, by the left button";
   delete sliders[0];
   sliders[2]->setEnabled(false);
   sliders[2]->setValue(1);
   EXPECT_FALSE(stage.findChildren<QLabel*>().last()->isVisible()) << "though its value changes";
   EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 12; })) << "no bubbles";
+  EXPECT_TRUE(Soon([&] { return stage.findChild<QWidget*>("flash") == nullptr; }));
   ExpectRecord(TEST_SOURCE_DIR "/toolkit/Drawings.txt", now.str());
 }
 
 struct KindsDialog : CDialog {
   using CDialog::CDialog;
   bool OnInitDialog() override {
+    GetDlgItem(29)->setFont(Blocks(99));  // whose row is absent
     ShowRow(27, false);
+    ShowNotice("A notice");
     delete findChild<AnnouncedLabel*>();
     PlaceBesideClose(*new AnnouncedLabel(QString(160, 'b'), this));
     return true;
@@ -211,6 +251,8 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
     shown.Item<QLabel>(19).setText("Better");
     shown.GetDlgItem(17)->setFont(Blocks(size + 8));
     QCoreApplication::processEvents();
+    shown.Item<StateLabel>(19).SetShare(.5);
+    QCoreApplication::processEvents();
     QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
     record << '\n'
            << name << ' ' << access.role() << ' ' << shown.windowTitle() << ' ' << shown.sizeHint()
@@ -227,7 +269,12 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       record << '\n';
       EXPECT_EQ(access.indexOfChild(&child), i);
     }
-    for (const int id : {5, 7, 19, 3, 23}) {
+    if (const auto* area = shown.findChild<QScrollArea*>()) {
+      record << area->widget()->sizeHint() << '\n';
+      for (const int id : {27, 99}) shown.Highlight(id);
+      EXPECT_EQ(shown.findChild<QWidget*>("flash"), nullptr) << "no visible control";
+    }
+    for (const int id : {5, 23, 19, 7, 3}) {
       QWidget& control = *shown.GetDlgItem(id);
       id == 19 ? shown.Highlight(id) : control.setFocus();
       EXPECT_EQ(control.visibleRegion().boundingRect(), control.rect()) << "scrolled to";

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -38,7 +39,7 @@ inline constexpr DialogTemplate kKindsTemplate{
 inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kKindsTemplate};
 inline constexpr ResourceModule kModule{kTemplates};
 
-struct SampleDialog : CDialog {
+struct SampleDialog : CDialog, HandlerWatch {
   explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
   const NotificationMap& Notifications() const override {
     static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),
@@ -56,6 +57,15 @@ struct SampleDialog : CDialog {
     if (whenDone) whenDone();
   }
   void OnDestroy() override { ++destroyed; }
+  bool OnInitDialog() override {
+    if (whenMade) whenMade();
+    return true;
+  }
+  HandlerWatch& Watch() override { return *this; }
+  void OnIdle(bool left) override { told += left ? "idle, left; " : "idle; "; }
+  void OnLeave() override { told += "leave; "; }
+  void OnReturn() override { told += "return; "; }
+  void OnStale() override { told += "stale; "; }
 
   void Open() {
     ASSERT_TRUE(Create());
@@ -66,7 +76,8 @@ struct SampleDialog : CDialog {
   int choices = 0;
   int destroyed = 0;
   std::vector<int> scrolls;
-  std::function<void()> whenDone;
+  std::function<void()> whenDone, whenMade;
+  std::string told;
 };
 
 struct DialogTest : testing::Test {

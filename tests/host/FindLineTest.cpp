@@ -36,9 +36,8 @@ struct Finding : testing::Test {
     EXPECT_TRUE(line.isVisible()) << text;
     QTest::keyClicks(open.Dialog().focusWidget(), QString::fromUtf8(text), {}, 1);
     QWidget* completions = line.completer()->popup();
-    for (const Qt::Key key : keys) {
+    for (const Qt::Key key : keys)
       QTest::keyClick(completions->isVisible() ? completions : &line, key);
-    }
     QTest::qWait(0);
   }
 };

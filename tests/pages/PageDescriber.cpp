@@ -27,9 +27,8 @@ class Outcomes {
   /// The cases in the order in which they were added.
   std::string Text(const std::string& before, const std::string& after) const {
     std::string text;
-    for (const auto& [names, outcome] : outcomes_) {
+    for (const auto& [names, outcome] : outcomes_)
       text.append(before).append(names).append(":").append(outcome).append(after);
-    }
     return text;
   }
 
@@ -112,9 +111,8 @@ class PageDescriber {
     const auto& slider = page_.Item<CSliderCtrl>(slider_);
     const int minimum = slider.minimum(), maximum = slider.maximum();
     std::string text = " ticks " + std::to_string(slider.tickInterval());
-    for (const int position : {minimum, maximum}) {
+    for (const int position : {minimum, maximum})
       text += ", " + std::to_string(position) + ':' + Log([&] { Drag(position); });
-    }
     return text + '\n' +
            Otherwise([&](bool refused) { Drag(refused ? (minimum + maximum) / 2 : minimum); });
   }
@@ -182,9 +180,8 @@ class PageDescriber {
     std::vector<Outcomes> shown(rows.size());
     const auto add = [&](const std::string& name) {
       refresh_();
-      for (std::size_t i = 0; i < rows.size(); ++i) {
+      for (std::size_t i = 0; i < rows.size(); ++i)
         shown[i].Add(name, Shown(rows[i]) + (name.ends_with("read") ? Note(rows[i]) : ""));
-      }
     };
     for (const std::int16_t value : kValues) {
       projector_.value = value;

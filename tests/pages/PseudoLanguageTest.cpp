@@ -43,9 +43,8 @@ void ExpectTranslated(const QWidget& window) {
     if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
       for (int i = 0; i < tabs->count(); ++i) texts += tabs->tabText(i);
     }
-    for (const QString& text : texts) {
+    for (const QString& text : texts)
       EXPECT_TRUE(IsTranslated(text)) << NameOf(*widget) << ": " << text.toStdString();
-    }
   }
 }
 

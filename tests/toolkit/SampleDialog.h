@@ -57,10 +57,6 @@ struct SampleDialog : CDialog, HandlerWatch {
     if (whenDone) whenDone();
   }
   void OnDestroy() override { ++destroyed; }
-  bool OnInitDialog() override {
-    if (whenMade) whenMade();
-    return true;
-  }
   HandlerWatch& Watch() override { return *this; }
   void OnIdle(bool left) override { told += left ? "idle, left; " : "idle; "; }
   void OnLeave() override { told += "leave; "; }
@@ -76,7 +72,7 @@ struct SampleDialog : CDialog, HandlerWatch {
   int choices = 0;
   int destroyed = 0;
   std::vector<int> scrolls;
-  std::function<void()> whenDone, whenMade;
+  std::function<void()> whenDone;
   std::string told;
 };
 

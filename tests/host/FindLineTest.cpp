@@ -109,7 +109,10 @@ TEST_F(Finding, StaysOpenWithoutAMatchAndEscClosesOnlyTheLine) {
     Find(text, {key});
     EXPECT_FALSE(line.isVisible() || completions->isVisible());
   }
-  EXPECT_TRUE(open.Dialog().isVisible());
+  Find("", {});
+  QFocusEvent menu(QEvent::FocusOut, Qt::PopupFocusReason);
+  QApplication::sendEvent(&line, &menu);
+  EXPECT_TRUE(line.isVisible() && open.Dialog().isVisible());
 }
 
 }  // namespace

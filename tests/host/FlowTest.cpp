@@ -135,6 +135,9 @@ TEST_F(FlowTest, SourcesThatAreReplacedDuringAWaitAreReadAfterIt) {
   const auto sent = projector_->Take();
   dialog_.DispTabScreen();
   EXPECT_GT(sent.size(), projector_->Take().size());
+  dialog_.reject();
+  dialog_.ReplaceSources({});
+  EXPECT_THAT(projector_->Take(), IsEmpty());
 }
 
 TEST_F(FlowTest, AReadingThatWasDueAtTheEndIsNotMadeAtTheNextOpening) {

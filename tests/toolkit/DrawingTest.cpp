@@ -8,10 +8,8 @@
 
 #include <QAccessible>
 #include <QDebug>
-#include <QFontDatabase>
 #include <QHelpEvent>
 #include <QLayout>
-#include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyleFactory>
@@ -21,6 +19,7 @@
 #include <QToolTip>
 #include <gtest/gtest.h>
 
+#include "tests/support/Blocks.h"
 #include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 #include "tests/toolkit/SampleDialog.h"
@@ -50,16 +49,6 @@ QPalette PaletteOf(const QColor& text, const QColor& behind) {
   palette.setColor(QPalette::Highlight, Qt::blue);
   palette.setColor(QPalette::ToolTipBase, Qt::green);
   return palette;
-}
-
-QFont Blocks(int size) {
-  static const int blocks =
-      QFontDatabase::addApplicationFont(TEST_SOURCE_DIR "/toolkit/Blocks.ttf");
-  QFont font(QFontDatabase::applicationFontFamilies(blocks));
-  font.setPixelSize(size);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  font.setStyleStrategy(QFont::NoSubpixelAntialias);
-  return font;
 }
 
 template <class Control>
@@ -106,11 +95,6 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     QApplication::sendEvent(&said, &help);
     EXPECT_EQ(QToolTip::text(), y == 64 ? QString() : Qt::convertFromPlainText(text));
   }
-  QStyle& windows = *QStyleFactory::create("windows");  // makes a handle as high as its slider
-  windows.setParent(&stage);
-  QPixmap icons(100, 20);
-  icons.fill(Qt::white);
-  QPainter painter(&icons);
   const QString theme = QIcon::themeName();
   QIcon::setThemeName("none");
   for (const int i : {0, 1, 2, 3, 4}) {
@@ -125,17 +109,19 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider.setEnabled(i != 1);
     slider.setSliderDown(i == 3);
     slider.setLayoutDirection(i == 3 ? Qt::RightToLeft : Qt::LeftToRight);
-    if (i == 3) slider.setStyle(&windows);
+    if (i == 3) slider.setStyleSheet("::handle:pressed { background: red; }");
+    if (i == 0) slider.setStyle(QStyleFactory::create("windows"));  // with a handle as high as it
+    if (i == 0) slider.style()->setParent(&slider);
     auto& field = Placed(new NumberField(&stage), 0, 200 + 10 * i, 99, 10);
     field.setFrame(false);
     if (i < 4) field.setText("123");
     field.setLayoutDirection(i < 2 ? Qt::LeftToRight : Qt::RightToLeft);
     field.SetUnit(i % 2 ? "ms" : "%", i == 3 ? "1234567890" : "123");
     if (i == 4) break;
-    ThemedIcon(static_cast<IconName>(i)).paint(&painter, 25 * i, 0, 24, 20);
+    auto& icon = Placed(new QLabel(&stage), 25 * i, 180, 24, 20);
+    icon.setPixmap(ThemedIcon(static_cast<IconName>(i)).pixmap(icon.size()));
   }
   QIcon::setThemeName(theme);
-  Placed(new QLabel(&stage), 0, 180, 100, 20).setPixmap(icons);
   auto& tabs = Placed(new QTabBar(&stage), 0, 500, 200, 20);
   for (const char* text : {"one", "two"}) tabs.addTab(text);
   auto& part = Placed(new QWidget(&stage), 3, 405, 60, 30);
@@ -154,10 +140,8 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider->DragTo(to);
   }
   const auto tabTo = [&stage](QWidget& to) {
-    for (int i = 0; i < 30 && !to.hasFocus(); ++i) {
+    for (int i = 0; i < 30 && !to.hasFocus(); ++i, QCoreApplication::processEvents())
       QTest::keyClick(&stage, Qt::Key_Tab);
-      QCoreApplication::processEvents();
-    }
     EXPECT_TRUE(to.hasFocus());
   };
   tabTo(*sliders[2]);
@@ -187,14 +171,17 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   tabs.setCurrentIndex(0);
   EXPECT_FALSE(ring.isVisible()) << "a field takes the focus of the mouse only";
   std::vector<int> moves;
-  QObject::connect(&curve, &CurveView::Dragged, [&](int value) { moves.push_back(value); });
+  QObject::connect(&curve, &CurveView::Dragged, [&](int value, double height) {
+    moves.push_back(value);
+    EXPECT_NEAR(height, .5, .03);
+  });
   QObject::connect(&curve, &CurveView::Dropped, [&](int value) { moves.push_back(-value); });
   const QPoint at = curve.PlaceOf({.69, 1.1}).toPoint();  // within reach of two points
   QTest::mouseMove(&curve, at);
   EXPECT_EQ(curve.cursor().shape(), Qt::SizeVerCursor);
   QTest::mousePress(&curve, Qt::LeftButton, {}, at);
   QTest::mouseClick(&curve, Qt::RightButton, {}, {9, 9});
-  QTest::mouseMove(&curve, at + QPoint(0, 9));
+  QTest::mouseMove(&curve, curve.PlaceOf({.69, .5}).toPoint());
   QTest::mouseRelease(&curve, Qt::LeftButton, {}, at);
   QTest::mouseClick(&curve, Qt::LeftButton, {}, at);
   EXPECT_EQ(moves, (std::vector{6, -6})) << "the nearest point, by the left button";
@@ -202,7 +189,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   sliders[2]->setEnabled(false);
   sliders[2]->setValue(1);
   EXPECT_FALSE(stage.findChildren<QLabel*>().last()->isVisible()) << "though its value changes";
-  EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 9; })) << "no bubbles";
+  EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 12; })) << "no bubbles";
   EXPECT_TRUE(Soon([&] { return stage.findChild<QWidget*>("flash") == nullptr; }));
   ExpectRecord(TEST_SOURCE_DIR "/toolkit/Drawings.txt", now.str());
 }
@@ -262,11 +249,9 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       record << '\n';
       EXPECT_EQ(access.indexOfChild(&child), i);
     }
-    if (const auto* area = shown.findChild<QScrollArea*>()) {
-      record << area->widget()->sizeHint() << '\n';
-      for (const int id : {27, 99}) shown.Highlight(id);
-      EXPECT_EQ(shown.findChild<QWidget*>("flash"), nullptr) << "no visible control";
-    }
+    if (auto* area = shown.findChild<QScrollArea*>()) record << area->widget()->sizeHint() << '\n';
+    for (const int id : {27, 99}) shown.Highlight(id);
+    EXPECT_EQ(shown.findChild<QWidget*>("flash"), nullptr) << "no visible control";
     for (const int id : {5, 23, 19, 7, 3}) {
       QWidget& control = *shown.GetDlgItem(id);
       id == 19 ? shown.Highlight(id) : control.setFocus();

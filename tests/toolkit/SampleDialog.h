@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -39,7 +38,8 @@ inline constexpr DialogTemplate kKindsTemplate{
 inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kKindsTemplate};
 inline constexpr ResourceModule kModule{kTemplates};
 
-struct SampleDialog : CDialog, HandlerWatch {
+struct SampleDialog : CDialog {
+  using CDialog::IsLeft;
   explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
   const NotificationMap& Notifications() const override {
     static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),
@@ -57,23 +57,15 @@ struct SampleDialog : CDialog, HandlerWatch {
     if (whenDone) whenDone();
   }
   void OnDestroy() override { ++destroyed; }
-  HandlerWatch& Watch() override { return *this; }
-  void OnIdle(bool left) override { told += left ? "idle, left; " : "idle; "; }
-  void OnLeave() override { told += "leave; "; }
-  void OnReturn() override { told += "return; "; }
-  void OnStale() override { told += "stale; "; }
 
   void Open() {
     ASSERT_TRUE(Create());
     Activate(*this);
   }
 
-  int presses = 0;
-  int choices = 0;
-  int destroyed = 0;
+  int presses = 0, choices = 0, destroyed = 0;
   std::vector<int> scrolls;
   std::function<void()> whenDone;
-  std::string told;
 };
 
 struct DialogTest : testing::Test {

@@ -47,7 +47,7 @@ char Sign(const QColor& color) {
 QPalette PaletteOf(const QColor& text, const QColor& behind) {
   QPalette palette(text, behind, behind, Qt::darkGray, Qt::darkGray, text, text, behind, behind);
   palette.setColor(QPalette::Highlight, Qt::blue);
-  palette.setColor(QPalette::ToolTipBase, Qt::green);
+  palette.setColor(QPalette::ToolTipBase, behind);
   return palette;
 }
 
@@ -64,6 +64,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   QWidget stage;
   stage.setFont(Blocks(10));
   stage.setPalette(PaletteOf(Qt::black, Qt::white));
+  QToolTip::setPalette(PaletteOf(Qt::black, Qt::green));
   stage.resize(100, 560);
   std::ostringstream now;
   const auto record = [&](const char* name, int from, int to) {
@@ -110,8 +111,9 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider.setSliderDown(i == 3);
     slider.setLayoutDirection(i == 3 ? Qt::RightToLeft : Qt::LeftToRight);
     if (i == 3) slider.setStyleSheet("::handle:pressed { background: red; }");
-    if (i == 0) slider.setStyle(QStyleFactory::create("windows"));  // with a handle as high as it
-    if (i == 0) slider.style()->setParent(&slider);
+    // A style with a handle as high as the slider.
+    if (i == 0)
+      slider.setStyle(QStyleFactory::create("windows")), slider.style()->setParent(&slider);
     auto& field = Placed(new NumberField(&stage), 0, 200 + 10 * i, 99, 10);
     field.setFrame(false);
     if (i < 4) field.setText("123");
@@ -144,7 +146,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
       QTest::keyClick(&stage, Qt::Key_Tab);
     EXPECT_TRUE(to.hasFocus());
   };
-  tabTo(*sliders[2]);
+  for (const int i : {3, 2}) tabTo(*sliders[i]);
   record("Three curves: two coincide, one is tried. One on black. Texts, two too long.", 0, 102);
   record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
   record("Icons: reset, refresh, information, stop.", 180, 200);

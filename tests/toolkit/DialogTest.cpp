@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPen>
-#include <QScreen>
 #include <QStyleOption>
 #include <QTest>
 #include <QWindow>
@@ -216,8 +215,6 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
     QApplication::setPalette(plain);
     QCoreApplication::processEvents();
     dialog.show();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(dialog.screen()->grabWindow(dialog.winId()).toImage().pixelColor(1, 1), color);
     ASSERT_EQ(dialog.palette().color(QPalette::Window), color);
     for (const auto& [text, background] : {std::pair(QPalette::WindowText, QPalette::Window),
                                            {QPalette::ButtonText, QPalette::Button},

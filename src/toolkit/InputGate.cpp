@@ -26,7 +26,7 @@ bool IsInput(const QEvent& event) {
     case QEvent::ShortcutOverride: {
       // With these an open list takes the entry.
       const int key = static_cast<const QKeyEvent&>(event).key();
-      return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Select;
+      return key == Qt::Key_Return || key == Qt::Key_Enter;
     }
     case QEvent::KeyPress:
       break;

@@ -36,8 +36,7 @@ QColor ColorOf(StateLabel::Mark mark, const QPalette& palette) {
 
 void StateLabel::SetMark(Mark mark) {
   mark_ = mark;
-  setIndent(fontMetrics().height());  // also measures it anew
-  update();
+  setIndent(fontMetrics().height());  // also measures and draws it anew
 }
 
 void StateLabel::SetShare(std::optional<double> share) {

@@ -83,8 +83,12 @@ TEST(Intake, WithoutNamesOfTheHostThoseOfTheProjectorAreUsedAsItReportsThem) {
     Open(dialog, model, projector);
     dialog.findChild<QTabBar*>()->setCurrentIndex(8);
     const auto inputs = [&dialog] { return DialogDriver(*dialog.ShownPage()).Entries(20103); };
-    EXPECT_EQ(inputs(), QStringList{name});
+    auto& list = dialog.ShownPage()->Item<CComboBox>(20103);
+    list.showPopup();
     AddSource(*projector->inputs, 4, "Camera");
+    QTest::qWait(600);
+    EXPECT_EQ(inputs(), QStringList{name}) << "while it is open";
+    list.hidePopup();
     AddSource(model.MySourceList, 1, "Video");
     EXPECT_TRUE(Soon([&, &then = then] { return inputs() == then; }));
     const int sent = dialog.Projector().Sent().commands;

@@ -97,9 +97,8 @@ class Host {
     projector->Pace(0ms);
     EXPECT_TRUE(owner_ == nullptr && waitedAtDeath_ == whileWaiting);
     EXPECT_EQ(projector->sent, sentAtDeath_) << "a command was sent afterwards";
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
+    for (const QWidget* window : QApplication::topLevelWidgets())
       EXPECT_FALSE(window->isVisible()) << window->metaObject()->className();
-    }
   }
 
  private:
@@ -122,9 +121,8 @@ TEST_P(OwnerTest, DiesWhileTheDialogIsInUse) {
   host.Prepare(*dialog);
   if (moment == Moment::Opening) host.DieWhileACommandWaits();
   if (modal) {
-    if (moment != Moment::Opening) {
+    if (moment != Moment::Opening)
       WhenIdle(*dialog, [&, moment = moment] { host.Die(*dialog, moment); });
-    }
     EXPECT_EQ(dialog->DoModal(), QDialog::Rejected);
   } else {
     dialog->Create();

@@ -27,9 +27,8 @@ class Outcomes {
   /// The cases in the order in which they were added.
   std::string Text(const std::string& before, const std::string& after) const {
     std::string text;
-    for (const auto& [names, outcome] : outcomes_) {
+    for (const auto& [names, outcome] : outcomes_)
       text.append(before).append(names).append(":").append(outcome).append(after);
-    }
     return text;
   }
 
@@ -65,9 +64,8 @@ class PageDescriber {
   std::string DescribeRow(const RowTemplate& row) {
     row_ = &row;
     helper_ = slider_ = 0;
-    for (const ControlTemplate& control : row.controls) {
+    for (const ControlTemplate& control : row.controls)
       if (control.kind == ControlKind::Slider) slider_ = control.id;
-    }
     std::string text;
     for (const ControlTemplate& control : row.controls) {
       if (control.kind == ControlKind::None) break;
@@ -82,9 +80,8 @@ class PageDescriber {
     using enum ControlKind;
     if (control.kind == Label) return (caption_ = caption) + '\n';
     // A row without a caption continues the one above.
-    if (control.kind == Text && row_->controls[0].id == control.id) {
+    if (control.kind == Text && row_->controls[0].id == control.id)
       return caption_ + ' ' + caption + '\n';
-    }
     if (control.kind == Combo) return "    list " + id + DescribeList(control.id);
     if (control.kind == Slider) return "    slider " + id + DescribeSlider();
     if (control.kind == Field) return "    field " + id + '\n' + DescribeReset(control.id);
@@ -112,9 +109,8 @@ class PageDescriber {
     const auto& slider = page_.Item<CSliderCtrl>(slider_);
     const int minimum = slider.minimum(), maximum = slider.maximum();
     std::string text = " ticks " + std::to_string(slider.tickInterval());
-    for (const int position : {minimum, maximum}) {
+    for (const int position : {minimum, maximum})
       text += ", " + std::to_string(position) + ':' + Log([&] { Drag(position); });
-    }
     return text + '\n' +
            Otherwise([&](bool refused) { Drag(refused ? (minimum + maximum) / 2 : minimum); });
   }
@@ -182,9 +178,8 @@ class PageDescriber {
     std::vector<Outcomes> shown(rows.size());
     const auto add = [&](const std::string& name) {
       refresh_();
-      for (std::size_t i = 0; i < rows.size(); ++i) {
+      for (std::size_t i = 0; i < rows.size(); ++i)
         shown[i].Add(name, Shown(rows[i]) + (name.ends_with("read") ? Note(rows[i]) : ""));
-      }
     };
     for (const std::int16_t value : kValues) {
       projector_.value = value;
@@ -214,10 +209,9 @@ class PageDescriber {
   std::string Told() const {
     const QString said = QString::fromStdString(Said(page_)).replace('#', '~');
     std::string told = said.isEmpty() ? "" : " says " + said.toStdString();
-    for (const int marked : Marked(page_)) {
+    for (const int marked : Marked(page_))
       if (std::ranges::find(row_->controls, marked, &ControlTemplate::id) != row_->controls.end())
         told += " !";
-    }
     return told;
   }
 
@@ -264,8 +258,7 @@ class PageDescriber {
   std::string caption_;  // of the last row with a caption
   const RowTemplate* row_ = nullptr;
   // Numbers of the row's other controls: the list that its button uses, and the slider.
-  int helper_ = 0;
-  int slider_ = 0;
+  int helper_ = 0, slider_ = 0;
 };
 
 }  // namespace

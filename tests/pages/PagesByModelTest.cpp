@@ -29,9 +29,8 @@ namespace {
 struct NumberedCatalog {
   NumberedCatalog() {
     TestBlock captions{MessageId(4, 0), {}};
-    for (int number = 0; number < 4400; ++number) {
+    for (int number = 0; number < 4400; ++number)
       captions.entries.push_back(Ansi('#' + std::to_string(number) + "\r\n"));
-    }
     TestBlock list{MessageId(5, 0), captions.entries};
     // Texts with an inserted text, and with an inserted number.
     list.entries[ListText::StatusValue] = Ansi("status %1\r\n");
@@ -74,9 +73,8 @@ void Add(Listing& listing, const std::string& file, const std::vector<std::strin
 constexpr int kWide = 4000;
 
 CModelInfo2 WithWideRanges(CModelInfo2 info) {
-  for (std::size_t i = 0; i < RangeIndex::Count; ++i) {
+  for (std::size_t i = 0; i < RangeIndex::Count; ++i)
     info.RangeText(i) = "-2000," + std::to_string(kWide - 2000 + static_cast<int>(i));
-  }
   return info;
 }
 
@@ -161,9 +159,8 @@ std::string WithTexts(const std::string& listing) {
   std::string text;
   for (std::size_t at = 0; at < listing.size(); ++at) {
     text += listing[at];
-    if (listing[at] != '#' || std::isdigit(static_cast<unsigned char>(listing[at + 1])) == 0) {
+    if (listing[at] != '#' || std::isdigit(static_cast<unsigned char>(listing[at + 1])) == 0)
       continue;
-    }
     const int number = std::stoi(listing.substr(at + 1, 5));
     text += std::to_string(number) + ' ' + CatalogText(kListCategory, number);
     at += std::to_string(number).size();

@@ -37,15 +37,12 @@ void ExpectTranslated(const QWidget& window) {
     if (!widget->isVisible()) continue;
     QStringList texts{widget->toolTip(), widget->accessibleName(),
                       widget->property("text").toString()};
-    if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
+    if (const auto* list = qobject_cast<const QComboBox*>(widget))
       for (int i = 0; i < list->count(); ++i) texts += list->itemText(i);
-    }
-    if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
+    if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
       for (int i = 0; i < tabs->count(); ++i) texts += tabs->tabText(i);
-    }
-    for (const QString& text : texts) {
+    for (const QString& text : texts)
       EXPECT_TRUE(IsTranslated(text)) << NameOf(*widget) << ": " << text.toStdString();
-    }
   }
 }
 

@@ -56,10 +56,9 @@ std::string Dimmed(const RowDialog& page) {
 // What its controls show.
 QStringList Shown(const CDialog& page) {
   QStringList shown;
-  for (const QWidget* control : page.findChildren<QWidget*>()) {
+  for (const QWidget* control : page.findChildren<QWidget*>())
     for (const char* what : {"enabled", "text", "currentIndex", "value", "checked"})
       if (control != VeilOf(page)) shown << control->property(what).toString();
-  }
   return shown;
 }
 

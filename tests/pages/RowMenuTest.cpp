@@ -111,11 +111,10 @@ TEST(RowMenu, ShowsTheUnitOfATypedNumberAndTextsThatCanBeRead) {
   OpenDialog open(FullModel(5, 51), 7);
   open.Dialog().SetProjectorName("Hall");
   const RowMenu menu(RowMenu::Row(), &open.Page());
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     EXPECT_GE(ContrastOf(menu.palette().color(QPalette::Disabled, role),
                          menu.palette().color(QPalette::Disabled, QPalette::Base)),
               3);
-  }
   EXPECT_TRUE(menu.actions().front()->isSeparator());
   const QPointer question = &Asked(open.Page(), kAutoOff);
   EXPECT_EQ(question->windowTitle(), QStringLiteral("Hall — Auto Off"));

@@ -40,9 +40,8 @@ void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable&
     }
   }
   for (const ModelSetting& setting : settings.All()) {
-    if (setting.row < table.rows.data() || setting.row >= table.rows.data() + table.rows.size()) {
+    if (setting.row < table.rows.data() || setting.row >= table.rows.data() + table.rows.size())
       continue;
-    }
     SCOPED_TRACE(setting.key);
     const int control = ControlOf(*setting.row);
     listed.insert(control);
@@ -65,9 +64,7 @@ void ExpectSame(const ModelSettings& settings, CDialog& dialog, const PageTable&
       const QWidget* const widget = dialog.GetDlgItem(control.id);
       using enum ControlKind;
       const bool sets = control.kind == Combo || control.kind == Slider || control.kind == Check;
-      if (sets && !widget->isHidden()) {
-        EXPECT_TRUE(listed.contains(control.id)) << NameOf(*widget);
-      }
+      if (sets && !widget->isHidden()) EXPECT_TRUE(listed.contains(control.id)) << NameOf(*widget);
     }
   }
 }

@@ -72,10 +72,9 @@ class RandomUser {
       Wheel(widget, Pick(2) == 0 ? 1 : -1);
     } else {
       QTest::keyClick(&widget, keys[Pick(std::size(keys))]);
-      if (QWidget* popup = QApplication::activePopupWidget()) {
+      if (QWidget* popup = QApplication::activePopupWidget())
         QTest::keyClick(popup->focusWidget() != nullptr ? popup->focusWidget() : popup,
                         Qt::Key_Enter);
-      }
       if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
     }
   }

@@ -102,9 +102,8 @@ TEST(Setup5, TheVolumeBelongsToTheCurrentInput) {
 
 TEST(Setup5, OnlyTheZoomButtonsRequireTheResultOne) {
   Type5Page page(kSetupTab, 44, {{"Get 0x300A", 95}, {"Get 0x300B", 131}});
-  for (const char* key : {"Get 0x300A", "Set 0x300A", "Dec 0x300A", "Get 0x300B", "Inc 0x300B"}) {
+  for (const char* key : {"Get 0x300A", "Set 0x300A", "Dec 0x300A", "Get 0x300B", "Inc 0x300B"})
     page.projector.AnswerResult(key, 2);
-  }
   page.driver.Click(20335);
   EXPECT_EQ(page.driver.Text(20144), "3");
   page.Page().InitDisp();
@@ -167,9 +166,8 @@ TEST(Audio5, ThePageIsEmptyAndUnlocalizedForOtherModels) {
     page.Audio().show();
     page.Audio().InitDisp();
     EXPECT_EQ(page.projector.Take(), Strings{});
-    for (const auto* child : page.Audio().findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    for (const auto* child : page.Audio().findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
       EXPECT_TRUE(child->isHidden());
-    }
     EXPECT_EQ(page.Audio().Item<QLabel>(20601).text(), "1;Volume\t\t:");
   }
 }
@@ -178,8 +176,7 @@ TEST(Audio5, ThePageIsEmptyAndUnlocalizedForOtherModels) {
 TEST(Audio5, TheFlagOfTheDigitalInputsDependsOnRowAndModel) {
   for (const int code : {30, 31, 41, 43, 46, 49, 50, 51, 52, 53, 54}) {
     Type5Page page(kAudioTab, code);
-    const bool m1d = code == 41 || code == 43;
-    const bool hdmi = m1d || code == 51 || code == 53 || code == 54;
+    const bool m1d = code == 41 || code == 43, hdmi = m1d || code == 51 || code == 53 || code == 54;
     for (const int list : {20359, kHdmi}) page.driver.Item<CComboBox>(list).Select(2);
     page.Audio().OnCbnSelchangeAud5Am1dcomb();
     page.Audio().OnCbnSelchangeAud5Ahdmicomb();

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QLineEdit>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "tests/toolkit/SampleDialog.h"
@@ -94,6 +95,7 @@ TEST_F(AccessTest, PressingAnEntryChoosesItAsAUserWouldOrNotAtAll) {
     { const CDialog::Busy short_(&other); }
     Act(two, Actions::pressAction());
     driver.Choose(9, 2);
+    QTest::keyClick(combo.view(), Qt::Key_Return);
     EXPECT_EQ(combo.currentIndex(), 1);
     combo.hidePopup();
   }

@@ -1,7 +1,9 @@
 #include <tuple>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPen>
+#include <QStyleOption>
 #include <QTest>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -12,6 +14,7 @@
 #include "toolkit/CSliderCtrl.h"
 #include "toolkit/Contrast.h"
 #include "toolkit/FocusPen.h"
+#include "toolkit/IsolatedText.h"
 
 namespace {
 
@@ -70,7 +73,7 @@ TEST_F(DialogTest, DeleteLaterWaitsForTheRunningHandler) {
     dying->whenDone = [&dying] {
       dying->deleteLater();
       QTest::qWait(5);
-      ASSERT_NE(dying, nullptr) << "its handler is still running";
+      ASSERT_TRUE(dying != nullptr && dying->IsLeft()) << "its handler is still running";
     };
     running ? DialogDriver(*dying).Click(10) : dying->deleteLater();
     EXPECT_TRUE(Soon([&] { return dying == nullptr; }));
@@ -86,7 +89,7 @@ TEST_F(DialogTest, TheWheelNeedsTheFocus) {
   EXPECT_TRUE(driver.Wheel(4, 1));
   driver.Item<CSliderCtrl>(4).setValue(99);
   EXPECT_TRUE(driver.Wheel(4, 1)) << "also at the end";
-  EXPECT_EQ(dialog.scrolls.size(), 1U);
+  EXPECT_EQ(dialog.scrolls, std::vector{2});
   dialog.GetDlgItem(9)->setFocus();
   EXPECT_FALSE(driver.Wheel(9, -1));
   EXPECT_EQ(driver.Selected(9), 0) << "a closed list also needs Ctrl";
@@ -207,7 +210,9 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
   const QPalette before = QApplication::palette();
   for (const QColor& color : {QColor(239, 239, 239), QColor(Qt::white), QColor(53, 53, 53)}) {
     dialog.setVisible(color.lightness() > 99);  // a hidden one looks right when it is shown
-    QApplication::setPalette(QPalette(color));
+    QPalette plain(color);
+    plain.setColor(QPalette::Highlight, color);
+    QApplication::setPalette(plain);
     QCoreApplication::processEvents();
     dialog.show();
     ASSERT_EQ(dialog.palette().color(QPalette::Window), color);
@@ -225,20 +230,37 @@ TEST_F(DialogTest, DisabledTextsAndTheFocusCanBeSeenWithAnyPalette) {
   QApplication::setPalette(before);
 }
 
+struct DrawnList : CComboBox {
+  using CComboBox::initStyleOption;
+};
+
 TEST_F(DialogTest, AListIsAsWideAsItsLongestEntryUpToALimit) {
-  auto& longer = dialog.Item<CComboBox>(9);
+  QApplication::setLayoutDirection(Qt::RightToLeft);
+  DrawnList longer;
+  longer.setStyleSheet("* { combobox-popup: 0; }");  // with it, Qt would widen the list
+  EXPECT_NE(dynamic_cast<IsolatedTexts*>(longer.itemDelegate()), nullptr);
   for (const int letters : {20, 200}) {
     longer.clear();
     longer.Add(QString(letters, QLatin1Char('n')));
+    longer.Select(0);
     longer.UpdateWidth();
     const int needed = longer.fontMetrics().horizontalAdvance(longer.itemText(0));
-    EXPECT_EQ(longer.sizeHint().width() > needed, letters == 20);
-    EXPECT_LT(longer.sizeHint().width(), 500);
+    longer.resize(longer.sizeHint());
+    EXPECT_EQ(longer.width() > needed, letters == 20);
+    EXPECT_LT(longer.width(), 500);
+    QStyleOptionComboBox option;
+    longer.initStyleOption(&option);
+    EXPECT_EQ(option.currentText.contains(u'…'), letters == 200);
+    EXPECT_TRUE(option.currentText.startsWith(QChar(0x2068)));
+    longer.showPopup();
+    EXPECT_GE(longer.view()->viewport()->width(), needed) << "shows it whole";
   }
+  QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST(Dialog, WithoutATemplateStaysEmpty) {
   CDialog dialog(12345);
+  EXPECT_DEATH(dialog.Item<QWidget>(1), "dialog 12345 has no control 1 ");
   EXPECT_TRUE(!dialog.Create() && dialog.DoModal() == -1);
   EXPECT_TRUE(dialog.GetDlgItem(1) == nullptr && !dialog.DialogSize().isValid());
 }
@@ -264,12 +286,14 @@ TEST_F(DialogTest, ItsHandlerMayCloseItTwiceButNotCreateIt) {
     dialog.reject();
   };
   driver.Click(10);
-  EXPECT_TRUE(!dialog.isVisible() && dialog.destroyed == 1 && dialog.Create());
+  EXPECT_TRUE(!dialog.isVisible() && !dialog.IsLeft() && dialog.destroyed == 1 && dialog.Create());
 }
 
 TEST_F(DialogTest, ClosesTheModalWindowsAboveItAndNoOther) {
+  dialog.move(300, 200);
   SampleDialog popUp(&dialog);
   popUp.Open();
+  EXPECT_GT(popUp.x(), 200) << "above its owner";
   QDialog modeless(&dialog);
   modeless.show();
   QDialog hidden(&dialog);
@@ -292,7 +316,7 @@ TEST_F(DialogTest, WhatBelongsToAnOwnerEndsWithIt) {
   part->Open();
   part->setWindowFlags(Qt::Widget);
   SampleDialog open(owner), closed(owner), moved(owner);
-  const QPointer<SampleDialog> own = new SampleDialog(owner);
+  const QPointer own = new SampleDialog((SampleDialog(), owner));  // beside one without 'new'
   for (SampleDialog* window : {&open, &closed, &moved, own.data()}) window->Open();
   closed.reject();
   moved.setParent(nullptr, moved.windowFlags());

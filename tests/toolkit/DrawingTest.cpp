@@ -8,15 +8,18 @@
 
 #include <QAccessible>
 #include <QDebug>
-#include <QFontDatabase>
 #include <QHelpEvent>
 #include <QLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyleFactory>
 #include <QTabBar>
 #include <QTest>
 #include <QTextDocument>
 #include <QToolTip>
 #include <gtest/gtest.h>
 
+#include "tests/support/Blocks.h"
 #include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 #include "tests/toolkit/SampleDialog.h"
@@ -44,18 +47,8 @@ char Sign(const QColor& color) {
 QPalette PaletteOf(const QColor& text, const QColor& behind) {
   QPalette palette(text, behind, behind, Qt::darkGray, Qt::darkGray, text, text, behind, behind);
   palette.setColor(QPalette::Highlight, Qt::blue);
-  palette.setColor(QPalette::ToolTipBase, Qt::green);
+  palette.setColor(QPalette::ToolTipBase, behind);
   return palette;
-}
-
-QFont Blocks(int size) {
-  static const int blocks =
-      QFontDatabase::addApplicationFont(TEST_SOURCE_DIR "/toolkit/Blocks.ttf");
-  QFont font(QFontDatabase::applicationFontFamilies(blocks));
-  font.setPixelSize(size);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  font.setStyleStrategy(QFont::NoSubpixelAntialias);
-  return font;
 }
 
 template <class Control>
@@ -71,11 +64,12 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   QWidget stage;
   stage.setFont(Blocks(10));
   stage.setPalette(PaletteOf(Qt::black, Qt::white));
+  QToolTip::setPalette(PaletteOf(Qt::black, Qt::green));
   stage.resize(100, 560);
   std::ostringstream now;
   const auto record = [&](const char* name, int from, int to) {
-    QImage image(stage.size(), QImage::Format_RGB32);
-    stage.render(&image);
+    QCoreApplication::processEvents();
+    const QImage image = stage.screen()->grabWindow(stage.winId()).toImage();
     now << '\n' << name << '\n';
     for (int y = from; y < to; ++y) {
       std::string line;
@@ -84,17 +78,17 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     }
   };
 
-  Placed(new CurveView(&stage), 0, 0, 90, 60)
-      .Show({{.label = "ab", .hue = 0, .accepted = {{0, 0}, {1, .5}}, .values = {1, 2}},
-             {.label = "a", .hue = 120, .accepted = {{0, 0}, {1, .5}}, .values = {3, 4}},
-             {.hue = 240},
-             {.accepted = {{0, .5}, {.5, 1.2}, {1, 1}},
-              .tried = {{0, .5}, {.5, -.2}, {1, 1}},
-              .values = {5, 6, 7}}},
-            6);
+  auto& curve = Placed(new CurveView(&stage), 0, 0, 90, 60);
+  curve.Show({{.label = "ab", .hue = 0, .accepted = {{0, 0}, {1, .5}}, .values = {1, 2}},
+              {.label = "a", .hue = 120, .accepted = {{0, 0}, {1, .5}}, .values = {3, 4}},
+              {.hue = 240},
+              {.accepted = {{0, .5}, {.5, 1.2}, {.9, 1}},
+               .tried = {{0, .5}, {.5, -.2}, {.9, 1}},
+               .values = {5, 6, 7},
+               .movable = true}},
+             6);
   auto& dark = Placed(new CurveView(&stage), 0, 62, 60, 40);
   dark.setPalette(PaletteOf(Qt::white, Qt::black));
-  dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
   for (const auto& [y, text] :
        {std::pair{64, "abcd"}, {76, "abcdefghijk"}, {88, "\u200fabcdefghijk"}}) {
     auto& said = Placed(new AnnouncedLabel(text, &stage), 64, y, 24, 12);
@@ -108,7 +102,7 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     auto& mark = Placed(new StateLabel("ab", &stage), 0, 104 + 15 * i, 0, 0);
     if (i == 3) mark.setLayoutDirection(Qt::RightToLeft);
     mark.SetMark(static_cast<StateLabel::Mark>(i));
-    mark.SetShare(i == 4 ? std::nullopt : std::optional(.4 * i));
+    mark.SetShare(i == 4 ? std::nullopt : std::optional(.9));
     mark.adjustSize();
     auto& slider = Placed(new CSliderCtrl(&stage), 5, 270 + 27 * i, 80, 27);
     slider.SetRange(kSliders[i][0], kSliders[i][1], kSliders[i][3]);
@@ -116,6 +110,10 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider.setEnabled(i != 1);
     slider.setSliderDown(i == 3);
     slider.setLayoutDirection(i == 3 ? Qt::RightToLeft : Qt::LeftToRight);
+    if (i == 3) slider.setStyleSheet("::handle:pressed { background: red; }");
+    // A style with a handle as high as the slider.
+    if (i == 0)
+      slider.setStyle(QStyleFactory::create("windows")), slider.style()->setParent(&slider);
     auto& field = Placed(new NumberField(&stage), 0, 200 + 10 * i, 99, 10);
     field.setFrame(false);
     if (i < 4) field.setText("123");
@@ -128,10 +126,15 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   QIcon::setThemeName(theme);
   auto& tabs = Placed(new QTabBar(&stage), 0, 500, 200, 20);
   for (const char* text : {"one", "two"}) tabs.addTab(text);
-  Placed(new QWidget(&stage), 10, 410, 30, 8).setFocusPolicy(Qt::TabFocus);
+  auto& part = Placed(new QWidget(&stage), 3, 405, 60, 30);
+  Placed(new QWidget(&part), 7, 5, 30, 8).setFocusPolicy(Qt::TabFocus);
   FocusRing ring(stage);
-  Activate(stage);
+  stage.show();
   EXPECT_FALSE(ring.isVisible());
+  Activate(stage);
+  QCoreApplication::processEvents();  // what changes now must be drawn again
+  dark.Show({{.hue = 0, .accepted = {{0, 1}, {1, 0}}}});
+  for (int i = 0; i < 4; ++i) stage.findChildren<StateLabel*>()[i]->SetShare(.4 * i);
   const auto sliders = stage.findChildren<CSliderCtrl*>();
   for (const auto& [slider, to, letters] : {std::tuple{sliders[0], 5, 2}, {sliders[2], 500, 15}}) {
     AttachDragBubble(*slider, [letters = letters](int) { return QString(letters, 'a'); });
@@ -139,10 +142,11 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
     slider->DragTo(to);
   }
   const auto tabTo = [&stage](QWidget& to) {
-    for (int i = 0; i < 30 && !to.hasFocus(); ++i) QTest::keyClick(&stage, Qt::Key_Tab);
+    for (int i = 0; i < 30 && !to.hasFocus(); ++i, QCoreApplication::processEvents())
+      QTest::keyClick(&stage, Qt::Key_Tab);
     EXPECT_TRUE(to.hasFocus());
   };
-  tabTo(*sliders[2]);
+  for (const int i : {3, 2}) tabTo(*sliders[i]);
   record("Three curves: two coincide, one is tried. One on black. Texts, two too long.", 0, 102);
   record("Marks: none, good, idle, attention from right to left, bad.", 104, 176);
   record("Icons: reset, refresh, information, stop.", 180, 200);
@@ -160,26 +164,43 @@ TEST_F(DialogTest, ControlsLookAsRecorded) {
   QTest::keyClick(&stage, Qt::Key_Tab);
   for (const int x : {10, 92}) Flash(stage, {x, 427, 30, 8});
   record("The focus. A place that is shown, and one at the edge.", 406, 440);
-  for (const QPoint at : {QPoint(60, 265), {20, 408}, {20, 426}}) {
-    EXPECT_EQ(stage.childAt(at), nullptr) << "does not take the mouse from others";
-  }
+  for (const QPoint at : {QPoint(60, 265), {20, 408}, {20, 426}})
+    EXPECT_TRUE(stage.childAt(at) == nullptr || stage.childAt(at) == &part) << "not for the mouse";
   QTest::mouseClick(sliders[4], Qt::LeftButton);
   EXPECT_TRUE(sliders[4]->hasFocus() && !ring.isVisible()) << "the ring is for keys";
   stage.findChild<NumberField*>()->setFocus();
   tabs.setCurrentIndex(0);
   EXPECT_FALSE(ring.isVisible()) << "a field takes the focus of the mouse only";
+  std::vector<int> moves;
+  QObject::connect(&curve, &CurveView::Dragged, [&](int value, double height) {
+    moves.push_back(value);
+    EXPECT_NEAR(height, .5, .03);
+  });
+  QObject::connect(&curve, &CurveView::Dropped, [&](int value) { moves.push_back(-value); });
+  const QPoint at = curve.PlaceOf({.69, 1.1}).toPoint();  // within reach of two points
+  QTest::mouseMove(&curve, at);
+  EXPECT_EQ(curve.cursor().shape(), Qt::SizeVerCursor);
+  QTest::mousePress(&curve, Qt::LeftButton, {}, at);
+  QTest::mouseClick(&curve, Qt::RightButton, {}, {9, 9});
+  QTest::mouseMove(&curve, curve.PlaceOf({.69, .5}).toPoint());
+  QTest::mouseRelease(&curve, Qt::LeftButton, {}, at);
+  QTest::mouseClick(&curve, Qt::LeftButton, {}, at);
+  EXPECT_EQ(moves, (std::vector{6, -6})) << "the nearest point, by the left button";
   delete sliders[0];
   sliders[2]->setEnabled(false);
   sliders[2]->setValue(1);
   EXPECT_FALSE(stage.findChildren<QLabel*>().last()->isVisible()) << "though its value changes";
   EXPECT_TRUE(Soon([&] { return stage.findChildren<QLabel*>().size() == 12; })) << "no bubbles";
+  EXPECT_TRUE(Soon([&] { return stage.findChild<QWidget*>("flash") == nullptr; }));
   ExpectRecord(TEST_SOURCE_DIR "/toolkit/Drawings.txt", now.str());
 }
 
 struct KindsDialog : CDialog {
   using CDialog::CDialog;
   bool OnInitDialog() override {
+    GetDlgItem(29)->setFont(Blocks(99));  // whose row is absent
     ShowRow(27, false);
+    ShowNotice("A notice");
     delete findChild<AnnouncedLabel*>();
     PlaceBesideClose(*new AnnouncedLabel(QString(160, 'b'), this));
     return true;
@@ -211,6 +232,8 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
     shown.Item<QLabel>(19).setText("Better");
     shown.GetDlgItem(17)->setFont(Blocks(size + 8));
     QCoreApplication::processEvents();
+    shown.Item<StateLabel>(19).SetShare(.5);
+    QCoreApplication::processEvents();
     QAccessibleInterface& access = *QAccessible::queryAccessibleInterface(&shown);
     record << '\n'
            << name << ' ' << access.role() << ' ' << shown.windowTitle() << ' ' << shown.sizeHint()
@@ -227,7 +250,10 @@ TEST_F(DialogTest, ControlsStandAndAreNamedAsRecorded) {
       record << '\n';
       EXPECT_EQ(access.indexOfChild(&child), i);
     }
-    for (const int id : {5, 7, 19, 3, 23}) {
+    if (auto* area = shown.findChild<QScrollArea*>()) record << area->widget()->sizeHint() << '\n';
+    for (const int id : {27, 99}) shown.Highlight(id);
+    EXPECT_EQ(shown.findChild<QWidget*>("flash"), nullptr) << "no visible control";
+    for (const int id : {5, 23, 19, 7, 3}) {
       QWidget& control = *shown.GetDlgItem(id);
       id == 19 ? shown.Highlight(id) : control.setFocus();
       EXPECT_EQ(control.visibleRegion().boundingRect(), control.rect()) << "scrolled to";

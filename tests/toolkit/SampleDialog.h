@@ -39,6 +39,7 @@ inline constexpr const DialogTemplate* kTemplates[] = {&kTemplate, &kKindsTempla
 inline constexpr ResourceModule kModule{kTemplates};
 
 struct SampleDialog : CDialog {
+  using CDialog::IsLeft;
   explicit SampleDialog(CWnd* owner = nullptr) : CDialog(900, owner) {}
   const NotificationMap& Notifications() const override {
     static const NotificationMap map{Clicked(10, &SampleDialog::OnDo),
@@ -62,9 +63,7 @@ struct SampleDialog : CDialog {
     Activate(*this);
   }
 
-  int presses = 0;
-  int choices = 0;
-  int destroyed = 0;
+  int presses = 0, choices = 0, destroyed = 0;
   std::vector<int> scrolls;
   std::function<void()> whenDone;
 };

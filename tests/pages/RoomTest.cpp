@@ -49,8 +49,9 @@ void ExpectNothingClipped(const CDialog& page) {
         EXPECT_FALSE(other->geometry().intersects(widget->geometry()))
             << NameOf(*widget) << " covers " << NameOf(*other);
       }
-      if (std::string_view(control.caption) == "→")
+      if (std::string_view(control.caption) == "→") {
         EXPECT_LT(visible.back()->x(), widget->x()) << "the arrows have changed places";
+      }
       visible.push_back(widget);
     }
   }
@@ -64,8 +65,9 @@ void ExpectInReach(CDialog& dialog) {
   const QSize screen = dialog.screen()->availableGeometry().size();
   EXPECT_EQ(dialog.size().boundedTo(screen), dialog.size());
   const auto* scroll = dialog.findChild<QScrollArea*>();
-  if (scroll != nullptr && scroll->widget()->height() > scroll->height())
+  if (scroll != nullptr && scroll->widget()->height() > scroll->height()) {
     EXPECT_GE(dialog.height(), screen.height() - 50) << "there is more room";
+  }
   const auto inSight = [&dialog](const QWidget& widget) {
     const QRect shown = widget.visibleRegion().boundingRect();
     return shown.height() == widget.height() && shown.width() >= std::min(widget.width(), 40) &&

@@ -122,7 +122,7 @@ TEST(ModelSettings, EverySettingOfEveryModelWorksOnTheSimulationAndHasAUniqueKey
 }
 
 // What is known of each setting without a projector, with the models for which it is so; then the
-// settings of pop-ups, for lists of other lengths and values.
+// settings that some lists of other lengths and values give.
 TEST(ModelSettings, AreDescribedAsRecorded) {
   constexpr const char* kKinds[] = {"number", "choice", "state", "action"};
   std::map<std::string, std::string> models;
@@ -155,10 +155,19 @@ TEST(ModelSettings, AreDescribedAsRecorded) {
     CModelInfo2 info = MakeModel(type, 1);
     for (int i = 0; i < count; ++i) AddEntry(info.GammaList, value, "");
     info.ColorTempList = info.GammaList;
+    for (const char* name : {"Loud", "Normal", "Bright"}) AddEntry(info.WhisperList, 0, name);
+    --info.WhisperList.count;
     now << "type " << type << ", value " << value << ", entries " << count << ':';
     const ModelSettings settings(MakeModelData(info));
-    for (const char* key : {"gamma.point-1", "color-temp.gain-r"})
-      if (settings.Find(key)) now << ' ' << key;
+    for (const char* key : {"gamma.point-1", "color-temp.gain-r", "setup.whisper"})
+      if (const auto* found = settings.Find(key)) now << ' ' << key << ' ' << found->entries.size();
+    now << '\n';
+  }
+  for (const CModelInfo2& info : EveryModel()) {
+    const ModelSettings settings(MakeModelData(MakeModel(info.DialogType, info.ModelCode)));
+    now << NameOf(info) << ", lists without entries that are not read:";
+    for (const ModelSetting& setting : settings.All())
+      if (setting.entries.empty() && !setting.readable) now << ' ' << setting.key;
     now << '\n';
   }
   ExpectRecord(TEST_SOURCE_DIR "/settings/Described.txt", now.str());
@@ -182,6 +191,15 @@ TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   const auto step = [&](int known) { return Step(projector, gain, true, 0, {-8, 8}, known); };
   EXPECT_TRUE(step(0).unchanged) << "0 is its answer";
   EXPECT_EQ(step(-1).value, gain.bias);
+  channel->AnswerResult("Get", 3);
+  const ModelSetting& zoom = *settings.Find("setup.d-zoom");
+  EXPECT_EQ(settings.Read(projector, zoom), 0);
+  EXPECT_FALSE(Step(projector, std::get<ValueRow>(*zoom.row), true, 0, {0, 9}, 0).value)
+      << "read as strictly as it is stepped";
+  channel->Refuse("Inc");
+  channel->TakeChanges();
+  settings.Change(projector, *settings.Find("setup.d-shift-v"), 2);
+  EXPECT_EQ(channel->TakeChanges().size(), 3) << "a refused step is tried again";
 }
 
 struct HearingProjector final : SimulatedProjector {
@@ -271,6 +289,18 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
       EXPECT_EQ(StepTo(10, 10 + 2 * sign, step, [] { return true; }), sent) << made;
       EXPECT_EQ(made, steps.size());
     }
+  }
+  for (const auto& [distance, refusals, steps, sent] :
+       {std::tuple(kMostSteps, 0, kMostSteps, Sent::Accepted),
+        {kMostSteps, 1, kMostSteps, Sent::Refused},
+        {kMostSteps + 1, 0, 0, Sent::Nothing}}) {
+    int made = 0;
+    const auto step = [&, refusals = refusals](bool, int now) -> Stepped {
+      const bool refused = made++ < refusals;
+      return {.refused = refused, .value = refused ? now : now + 1};
+    };
+    EXPECT_EQ(StepTo(9, 9 + distance, step, [] { return true; }), sent);
+    EXPECT_EQ(made, steps);
   }
 }
 

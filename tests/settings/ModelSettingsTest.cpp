@@ -174,7 +174,7 @@ TEST(ModelSettings, AreDescribedAsRecorded) {
 }
 
 TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
-  CModelInfo2 model = MakeModel(5, 49);
+  CModelInfo2 model = MakeModel(5, 44);
   AddEntry(model.ColorTempList, -1, "none");
   AddEntry(model.ColorTempList, 17, "custom");
   AddEntry(model.MyButtonList, -1, "none");

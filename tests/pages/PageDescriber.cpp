@@ -226,7 +226,10 @@ class PageDescriber {
     std::string note;
     for (const ControlTemplate& control : row.controls) {
       if (control.kind <= ControlKind::Colon || !note.empty()) continue;
-      note = page_.GetDlgItem(control.id)->toolTip().replace('#', '~').toStdString();
+      const QWidget& widget = *page_.GetDlgItem(control.id);
+      const QString described = widget.accessibleDescription();
+      note = widget.toolTip().replace('#', '~').toStdString();
+      if (described != widget.toolTip()) note += " described " + described.toStdString();
     }
     return note.empty() ? "" : " note " + note;
   }
@@ -235,9 +238,9 @@ class PageDescriber {
   std::string Shown(const RowTemplate& row) const {
     std::string shown;
     for (const ControlTemplate& control : row.controls) {
-      if (control.kind <= ControlKind::Colon) continue;
       const QWidget* widget = page_.GetDlgItem(control.id);
-      if (!widget->isVisible()) continue;
+      if (control.kind == ControlKind::Label && !widget->isEnabled()) shown += " grey";
+      if (control.kind <= ControlKind::Colon || !widget->isVisible()) continue;
       QString text = ShownBy(control, *widget);
       if (!widget->isEnabled()) text += "off";
       if (!text.isEmpty()) shown += ' ' + text.toStdString();

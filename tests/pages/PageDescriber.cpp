@@ -69,8 +69,7 @@ class PageDescriber {
       if (control.kind == ControlKind::Slider) slider_ = control.id;
     }
     std::string text;
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind == ControlKind::None) break;
+    for (const ControlTemplate& control : row.Present()) {
       if (page_.GetDlgItem(control.id)->isVisible()) text += DescribeControl(control);
     }
     return text;

@@ -120,16 +120,13 @@ std::vector<std::string> Ranges(CDialog& page, MoodyProjector& projector,
 // All controls of a page, also those that no model shows.
 std::string Controls(const DialogTemplate& page) {
   std::ostringstream text;
-  text << "template\n    " << page.width << ' ' << page.height << ' ' << page.rulerHeight << '\n';
+  text << "template\n    " << page.width << ' ' << page.height << ' ' << page.rulerHeight;
   for (const RowTemplate& row : page.rows) {
-    text << "   " << static_cast<int>(row.place);
+    text << "\n    " << static_cast<int>(row.place);
     for (const ControlTemplate& control : row.Present()) {
-      text << ' ' << static_cast<int>(control.kind) << ' ' << control.id << " \""
-           << control.caption;
-      for (const char* entry : control.entries) text << "\", \"" << entry;
-      text << '"';
+      text << ' ' << static_cast<int>(control.kind) << ' ' << control.id << ' ' << control.caption;
+      for (const char* entry : control.entries) text << '|' << entry;
     }
-    text << '\n';
   }
   return text.str();
 }

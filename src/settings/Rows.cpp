@@ -59,7 +59,6 @@ bool KeepsTemplate(const PageTable& table, int modelCode) {
 
 bool Has(const PageTable& table, std::size_t row, int modelCode) {
   if (!IsOn(table.rows[row], modelCode)) return false;
-  if (table.models.empty()) return true;
   const ModelRows* const own = RowsOf(table, modelCode);
   if (own != nullptr) return own->Has(row);
   return table.unlisted == Unlisted::AllRows || std::holds_alternative<ResetRow>(table.rows[row]);

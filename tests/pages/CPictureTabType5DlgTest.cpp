@@ -47,7 +47,14 @@ TEST_F(PictureTest, TheButtonAfterANumberDoesWhatTheListOfResetsDoes) {
   const QRect field = open.Page().GetDlgItem(20330)->geometry();
   EXPECT_EQ(contrast->geometry().left(), field.right() + 7);
   EXPECT_NEAR(contrast->geometry().center().y(), field.center().y(), 1);
+  open.Page().setLayoutDirection(Qt::RightToLeft);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(contrast->geometry().right(), open.Page().GetDlgItem(20330)->x() - 7);
   EXPECT_TRUE(hover(kIris).empty());
+  hover(kContrast);
+  QHoverEvent away(QEvent::HoverLeave, QPointF(), QPointF(), QPointF());
+  QApplication::sendEvent(&open.Page(), &away);
+  EXPECT_TRUE(visible().empty());
   QWidget* plus = open.Page().GetDlgItem(20139);
   plus->setFocus();
   EXPECT_EQ(visible(), std::vector{contrast});

@@ -64,7 +64,7 @@ TEST(StatusPage, PowerErrorAndLampHaveAMark) {
   const std::tuple<const char*, int, int, StateLabel::Mark> cases[] = {
       {"Get 0x6000", 0, 20008, Idle},         {"Get 0x6000", 1, 20008, Good},
       {"Get 0x6000", 2, 20008, Attention},    {"Get 0x6020", 0, 20010, Good},
-      {"Get 0x1090", 500, 20014, Good},       {"Get 0x1090", 1900, 20014, Attention},
+      {"Get 0x1090", 500, 20014, Good},       {"Get 0x1090", 1800, 20014, Attention},
       {"Get 0x1090", 2100, 20014, Attention}, {"Get 0x1090", 500, 20014, Good},
       {"Get 0x6020", 6, 20014, Attention},    {"Get 0x1090", 1900, 20014, Attention},
       {"Get 0x6020", 3, 20010, Bad},          {"Get 0x6020", 3, 20014, Bad}};

@@ -67,8 +67,7 @@ class PageDescriber {
     for (const ControlTemplate& control : row.controls)
       if (control.kind == ControlKind::Slider) slider_ = control.id;
     std::string text;
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind == ControlKind::None) break;
+    for (const ControlTemplate& control : row.Present()) {
       if (page_.GetDlgItem(control.id)->isVisible()) text += DescribeControl(control);
     }
     return text;
@@ -220,7 +219,10 @@ class PageDescriber {
     std::string note;
     for (const ControlTemplate& control : row.controls) {
       if (control.kind <= ControlKind::Colon || !note.empty()) continue;
-      note = page_.GetDlgItem(control.id)->toolTip().replace('#', '~').toStdString();
+      const QWidget& widget = *page_.GetDlgItem(control.id);
+      const QString described = widget.accessibleDescription();
+      note = widget.toolTip().replace('#', '~').toStdString();
+      if (described != widget.toolTip()) note += " described " + described.toStdString();
     }
     return note.empty() ? "" : " note " + note;
   }
@@ -229,9 +231,9 @@ class PageDescriber {
   std::string Shown(const RowTemplate& row) const {
     std::string shown;
     for (const ControlTemplate& control : row.controls) {
-      if (control.kind <= ControlKind::Colon) continue;
       const QWidget* widget = page_.GetDlgItem(control.id);
-      if (!widget->isVisible()) continue;
+      if (control.kind == ControlKind::Label && !widget->isEnabled()) shown += " grey";
+      if (control.kind <= ControlKind::Colon || !widget->isVisible()) continue;
       QString text = ShownBy(control, *widget);
       if (!widget->isEnabled()) text += "off";
       if (!text.isEmpty()) shown += ' ' + text.toStdString();

@@ -115,6 +115,20 @@ std::vector<std::string> Ranges(CDialog& page, MoodyProjector& projector,
   return parts;
 }
 
+// All controls of a page, also those that no model shows.
+std::string Controls(const DialogTemplate& page) {
+  std::ostringstream text;
+  text << "template\n    " << page.width << ' ' << page.height << ' ' << page.rulerHeight;
+  for (const RowTemplate& row : page.rows) {
+    text << "\n    " << static_cast<int>(row.place);
+    for (const ControlTemplate& control : row.Present()) {
+      text << ' ' << static_cast<int>(control.kind) << ' ' << control.id << ' ' << control.caption;
+      for (const char* entry : control.entries) text << '|' << entry;
+    }
+  }
+  return text.str();
+}
+
 // Names of the pages by template number.
 const std::map<int, std::string> kPageNames{
 #define PAGE(identifier, number, pageClass) {number, #identifier},
@@ -132,6 +146,7 @@ void AddPages(Listing& listing, const CModelInfo2& info, bool ranges) {
                        const std::function<void()>& refresh) {
     Add(listing, name,
         ranges ? Ranges(page, *projector, refresh) : DescribePage(page, *projector, refresh), info);
+    if (!ranges) Add(listing, name, {Controls(*page.Template())}, info);
   };
   auto* tabs = dialog.findChild<QTabBar*>();
   std::string captions = "captions and pages\n";

@@ -21,8 +21,7 @@ void ExpectControlsWellKnown(const CDialog& dialog) {
   std::set<int> numbers;
   for (const RowTemplate& row : dialog.Template()->rows) {
     SCOPED_TRACE(row.controls[0].caption);
-    for (const ControlTemplate& control : row.controls) {
-      if (control.kind == ControlKind::None) break;
+    for (const ControlTemplate& control : row.Present()) {
       EXPECT_TRUE(numbers.insert(control.id).second) << control.id;
       const bool slider = control.kind == ControlKind::Slider;
       if (slider || UserOperates(control.kind)) {

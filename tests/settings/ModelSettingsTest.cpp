@@ -122,7 +122,7 @@ TEST(ModelSettings, EverySettingOfEveryModelWorksOnTheSimulationAndHasAUniqueKey
 }
 
 // What is known of each setting without a projector, with the models for which it is so; then the
-// settings of pop-ups, for lists of other lengths and values.
+// settings that some lists of other lengths and values give.
 TEST(ModelSettings, AreDescribedAsRecorded) {
   constexpr const char* kKinds[] = {"number", "choice", "state", "action"};
   std::map<std::string, std::string> models;
@@ -141,31 +141,33 @@ TEST(ModelSettings, AreDescribedAsRecorded) {
       text << ", or " << setting.otherwise << '\n';
       models[text.str()] += ' ' + NameOf(info);
     }
+    const ModelSettings bare(MakeModelData(MakeModel(info.DialogType, info.ModelCode)));
+    for (const ModelSetting& setting : bare.All())
+      if (setting.entries.empty() && !setting.readable)
+        models["without entries not read: " + std::string(setting.key) + '\n'] +=
+            ' ' + NameOf(info);
   }
   std::ostringstream now;
   for (const auto& [text, of] : models) now << text << of << '\n';
-  for (const auto& [type, value, count] : {std::tuple(4, 99, 0),
-                                           {4, 99, 1},
-                                           {4, 99, 3},
-                                           {4, 99, 4},
-                                           {5, 16, 1},
-                                           {5, 17, 1},
-                                           {5, 21, 1},
-                                           {5, 22, 1}}) {
+  const auto record = [&now](int type, int value, int count) {
     CModelInfo2 info = MakeModel(type, 1);
     for (int i = 0; i < count; ++i) AddEntry(info.GammaList, value, "");
     info.ColorTempList = info.GammaList;
+    for (const char* name : {"Loud", "Normal", "Bright"}) AddEntry(info.WhisperList, 0, name);
+    --info.WhisperList.count;
     now << "type " << type << ", value " << value << ", entries " << count << ':';
     const ModelSettings settings(MakeModelData(info));
-    for (const char* key : {"gamma.point-1", "color-temp.gain-r"})
-      if (settings.Find(key)) now << ' ' << key;
+    for (const char* key : {"gamma.point-1", "color-temp.gain-r", "setup.whisper"})
+      if (const auto* found = settings.Find(key)) now << ' ' << key << ' ' << found->entries.size();
     now << '\n';
-  }
+  };
+  for (const int count : {0, 1, 3, 4}) record(4, 99, count);
+  for (const int value : {16, 17, 21, 22}) record(5, value, 1);
   ExpectRecord(TEST_SOURCE_DIR "/settings/Described.txt", now.str());
 }
 
 TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
-  CModelInfo2 model = MakeModel(5, 49);
+  CModelInfo2 model = MakeModel(5, 44);
   AddEntry(model.ColorTempList, -1, "none");
   AddEntry(model.ColorTempList, 17, "custom");
   AddEntry(model.MyButtonList, -1, "none");
@@ -182,6 +184,14 @@ TEST(ModelSettings, AnEntryWithTheValueMinusOneIsSentLikeAnyOther) {
   const auto step = [&](int known) { return Step(projector, gain, true, 0, {-8, 8}, known); };
   EXPECT_TRUE(step(0).unchanged) << "0 is its answer";
   EXPECT_EQ(step(-1).value, gain.bias);
+  channel->AnswerResult("Get", 3);
+  const auto& zoom = std::get<ValueRow>(*settings.Find("setup.d-zoom")->row);
+  EXPECT_FALSE(Step(projector, zoom, true, 0, {0, 9}, 0).value)
+      << "read as strictly as it is stepped";
+  channel->Refuse("Inc");
+  channel->TakeChanges();
+  settings.Change(projector, *settings.Find("setup.d-shift-v"), 2);
+  EXPECT_EQ(channel->TakeChanges().size(), 3) << "a refused step is tried again";
 }
 
 struct HearingProjector final : SimulatedProjector {
@@ -208,9 +218,8 @@ TEST(ModelSettings, ASettingOfASourceIsReadAndSentForTheSourceThatIsHeard) {
   EXPECT_FALSE(ModelSettings(MakeModelData(MakeModel(0, 49))).Input().changeable);
   EXPECT_EQ(listed.Input().key, "other.input-source");
   EXPECT_TRUE(ModelSettings(MakeModelData(MakeModel(4, 0))).Find("setup.volume")->IsPerSource());
-  for (int model = 49; model <= 54; ++model) {
+  for (int model = 49; model <= 54; ++model)
     EXPECT_EQ(StandbySource(OfSource::Playing, model), 15) << model;
-  }
 
   constexpr std::optional<int> kNone;
   const std::tuple<int, int, int, std::optional<int>> cases[] = {
@@ -271,6 +280,18 @@ TEST(StepTo, EndsAtTheValueOrWhenStepsComeNoNearer) {
       EXPECT_EQ(StepTo(10, 10 + 2 * sign, step, [] { return true; }), sent) << made;
       EXPECT_EQ(made, steps.size());
     }
+  }
+  for (const auto& [distance, refusals, steps, sent] :
+       {std::tuple(kMostSteps, 0, kMostSteps, Sent::Accepted),
+        {kMostSteps, 1, kMostSteps, Sent::Refused},
+        {kMostSteps + 1, 0, 0, Sent::Nothing}}) {
+    int made = 0;
+    const auto step = [&, refusals = refusals](bool, int now) -> Stepped {
+      const bool refused = made++ < refusals;
+      return {.refused = refused, .value = refused ? now : now + 1};
+    };
+    EXPECT_EQ(StepTo(9, 9 + distance, step, [] { return true; }), sent);
+    EXPECT_EQ(made, steps);
   }
 }
 

@@ -181,7 +181,7 @@ void MainWindow::ShowLastSeen(const std::string& id) {
 void MainWindow::ConnectAlerts() {
   alerts_->SetRules(AlertRules::Read(memory_.Settings()));
   connect(pane_, &ListPane::Counted, this, [this](const std::vector<ProjectorRow>& rows) {
-    alerts_->Look(rows, std::chrono::system_clock::now());
+    alerts_->Look(rows, std::chrono::steady_clock::now());
   });
   connect(alerts_, &AlertList::Changed, this, [this] { pane_->MarkAlerts(alerts_->Open()); });
   connect(alerts_, &AlertList::Activated, this, [this](const std::string& id) {

@@ -117,7 +117,7 @@ QString AlertList::TextOf(const Alert& alert, const ProjectorRow& row) const {
 }
 
 // Thousands of projectors may have alerts at the same time, so nothing here searches in a list.
-void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
+void AlertList::Look(const std::vector<ProjectorRow>& rows, SessionTime now) {
   const QString since = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
   bool hasChanged = false;
   QStringList raised;

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -315,6 +316,11 @@ TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
   EXPECT_EQ(look(second, 10, 0), 0U);
   EXPECT_EQ(look(second, 1950, 2), 2U) << "both have come back";
   EXPECT_EQ(said.size(), 2);
+  AlertList last;
+  const QSignalSpy told(&last, &AlertList::Changed);
+  last.RememberAcknowledged(first.Acknowledged());
+  look(last, 10, 0);
+  EXPECT_EQ(told.size(), 1) << "for who keeps the acknowledged ones";
 }
 
 TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QSessionManager>
 #include <QSettings>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -19,6 +20,7 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
+#include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/projectors/ByModel.h"
@@ -234,6 +236,27 @@ TEST(MainWindow, OpensTheDialogsOfTheSelectedUntilItIsClosed) {
   QTimer::singleShot(0, &window, [&] { openThree([&] { window.close(); }); });
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_FALSE(window.Dialog(0) || window.Dialog(1) || window.Dialog(2));
+}
+
+TEST(MainWindow, RemembersWhatMattersWithoutBeingClosed) {
+  const QTemporaryDir folder;
+  const QString other = folder.filePath("other.json");
+  QSettings settings(folder.filePath("s.ini"), QSettings::IniFormat);
+  MainWindow window(Shipped(folder), &settings);
+  window.show();
+  window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].hasAlert; }));
+  Find<QPushButton>(window, "Acknowledge All").click();
+  AnswerQuestionOf(Find<QAction>(window, "Save Profiles As"), [&other](QDialog& question) {
+    Q_EMIT qobject_cast<QFileDialog*>(&question)->fileSelected(other);
+  });
+  EXPECT_EQ(WindowMemory::LastProfiles(settings), other);
+  window.resize(700, 500);
+  QObject session;  // which nobody asks anything
+  Q_EMIT qApp->commitDataRequest(static_cast<QSessionManager&>(session));
+  const MainWindow next(Shipped(folder), &settings);
+  EXPECT_EQ(next.size(), QSize(700, 500));
+  EXPECT_EQ(next.findChild<AlertList*>()->Acknowledged().size(), 1);
 }
 
 TEST(ByModel, KeepsWhatBelongsToAModelAsLongAsTheModel) {

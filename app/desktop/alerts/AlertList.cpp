@@ -120,6 +120,7 @@ QString AlertList::TextOf(const Alert& alert, const ProjectorRow& row) const {
 void AlertList::Look(const std::vector<ProjectorRow>& rows, SessionTime now) {
   const QString since = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
   bool hasChanged = false;
+  const std::size_t earlier = earlier_.size();
   QStringList raised;
   ++looks_;
   for (const ProjectorRow& row : rows) {
@@ -139,7 +140,7 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, SessionTime now) {
     ForgetGone(row);
   }
   const auto isGone = [this](const auto& one) { return one.second.seen != looks_; };
-  hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged;
+  hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged || earlier_.size() != earlier;
   if (!hasChanged) return;
   Show();
   Q_EMIT Changed();

@@ -18,6 +18,7 @@
 #include "app/bridge/Options.h"
 #include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
+#include "app/profiles/SignalFile.h"
 #include "app/profiles/Translations.h"
 #include "fleet/ProfileFile.h"
 #include "i18n/Catalog.h"
@@ -31,16 +32,6 @@ constexpr int kRestart = 128 + SIGHUP;  // as if the signal had ended it; the se
 int Fail(const QString& message) {
   Log(message);
   return kWrongUse;
-}
-
-/// A file descriptor that reports the signals. To be called before any thread starts.
-int SignalFile() {
-  std::signal(SIGPIPE, SIG_IGN);
-  sigset_t signals;
-  sigemptyset(&signals);
-  for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGUSR1, SIGUSR2}) sigaddset(&signals, signal);
-  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-  return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
 /// Reads the file, in which each tag of the share must occur.
@@ -110,7 +101,8 @@ int Run(const Options& options, int signals) {
 
 int main(int argc, char* argv[]) {
   EndWhenOutOfMemory("advanced-control-bridge");
-  const int signals = SignalFile();
+  std::signal(SIGPIPE, SIG_IGN);
+  const int signals = SignalFile({SIGTERM, SIGINT, SIGHUP, SIGUSR1, SIGUSR2});
   const QCoreApplication application(argc, argv);
   const auto language = NamedLanguage(QCoreApplication::arguments());
   InstallTranslations(language.value_or(SystemLanguageId()));

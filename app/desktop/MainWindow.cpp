@@ -128,6 +128,7 @@ void MainWindow::Connect() {
   if (const std::string problem = CatalogProblem(); !problem.empty()) {
     statusBar()->addWidget(new QLabel(QString::fromStdString(problem)));
   }
+  connect(qApp, &QGuiApplication::commitDataRequest, this, &MainWindow::Remember);
   auto* status = new FleetSummary;
   statusBar()->addPermanentWidget(status);
   connect(pane_, &ListPane::Counted, status, &FleetSummary::Show);
@@ -181,9 +182,12 @@ void MainWindow::ShowLastSeen(const std::string& id) {
 void MainWindow::ConnectAlerts() {
   alerts_->SetRules(AlertRules::Read(memory_.Settings()));
   connect(pane_, &ListPane::Counted, this, [this](const std::vector<ProjectorRow>& rows) {
-    alerts_->Look(rows, std::chrono::system_clock::now());
+    alerts_->Look(rows, std::chrono::steady_clock::now());
   });
-  connect(alerts_, &AlertList::Changed, this, [this] { pane_->MarkAlerts(alerts_->Open()); });
+  connect(alerts_, &AlertList::Changed, this, [this] {
+    pane_->MarkAlerts(alerts_->Open());
+    memory_.StoreAcknowledged(*alerts_);
+  });
   connect(alerts_, &AlertList::Activated, this, [this](const std::string& id) {
     if (const int position = pane_->View().Model().Find(id); position >= 0)
       pane_->View().Select(position);
@@ -223,6 +227,7 @@ void MainWindow::ShowProfiles() {
   for (const auto& session : live_->SetProfiles(profiles_.Projectors())) dialogs_->Close(*session);
   dialogs_->UpdateAll();
   pane_->SetProfiles(profiles_.Projectors());
+  memory_.StoreFile(profiles_.FileName());
   TakeSelection();
   setWindowTitle(profiles_.HasFile()
                      ? tr("Advanced Control: %1").arg(QFileInfo(profiles_.FileName()).fileName())
@@ -274,8 +279,10 @@ void MainWindow::Demonstrate() {
     pane_->OfferRealOnes({editing_->Transfers().Find(), editing_->Projectors().Add()});
 }
 
+void MainWindow::Remember() const { memory_.Store(*this, *pane_, *log_); }
+
 void MainWindow::closeEvent(QCloseEvent* event) {
-  memory_.Store(*this, *pane_, *log_, *alerts_, profiles_.FileName());
+  Remember();
   // Abandons commands that wait. All event loops then end, also those of messages and pop-ups; the
   // dialogs are deleted with this window.
   dialogs_->RejectAll();

@@ -56,6 +56,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void Connect();
+  void Remember() const;
   /// What the last comparison saw of a projector, in its dialog if that is open.
   void ShowLastSeen(const std::string& id);
   void ConnectAlerts();
@@ -65,7 +66,7 @@ class MainWindow : public QMainWindow {
   void ShowPreferences();
 
   ProfileDocument profiles_;
-  const WindowMemory memory_;
+  WindowMemory memory_;
   CommandLog* log_;
   FaultPanel* faults_;
   AlertList* alerts_;

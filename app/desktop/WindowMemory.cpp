@@ -1,5 +1,7 @@
 #include "app/desktop/WindowMemory.h"
 
+#include <utility>
+
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QMainWindow>
@@ -30,7 +32,7 @@ constexpr const char* kProfilesKey = "window/profiles";
 }  // namespace
 
 WindowMemory::WindowMemory(QSettings* settings, const QString& firstFile)
-    : settings_(settings), firstFile_(firstFile) {}
+    : settings_(settings), file_(firstFile) {}
 
 // The first time, the window opens at the lower right, so that a dialog at the upper left covers
 // little of it.
@@ -56,19 +58,30 @@ void WindowMemory::Restore(QMainWindow& window, ListPane& pane, CommandLog& log,
               screen.bottom() + 1 - window.height() - kFrame.height());
 }
 
-void WindowMemory::Store(const QMainWindow& window, const ListPane& pane, const CommandLog& log,
-                         const AlertList& alerts, const QString& file) const {
+void WindowMemory::StoreAcknowledged(const AlertList& alerts) const {
+  if (settings_ == nullptr) return;
+  const QStringList acknowledged = alerts.Acknowledged();
+  if (settings_->value(kAcknowledgedKey).toStringList() != acknowledged)
+    settings_->setValue(kAcknowledgedKey, acknowledged);
+}
+
+void WindowMemory::StoreFile(const QString& file) {
+  if (file == std::exchange(file_, file) || settings_ == nullptr) return;
+  settings_->setValue(kProfilesKey, QFileInfo(file).absoluteFilePath());
+}
+
+void WindowMemory::Store(const QMainWindow& window, const ListPane& pane,
+                         const CommandLog& log) const {
   if (settings_ == nullptr) return;
   settings_->setValue(kGeometryKey, window.saveGeometry());
   settings_->setValue(kStateKey, window.saveState());
   settings_->setValue(kSidesKey, pane.SaveState());
   settings_->setValue(kProjectorColumnsKey, pane.View().Columns().saveState());
   settings_->setValue(kLogColumnsKey, log.Table().SaveColumns());
-  settings_->setValue(kAcknowledgedKey, alerts.Acknowledged());
   settings_->setValue(kFolderKey, LastFolder());
-  if (file != firstFile_) settings_->setValue(kProfilesKey, QFileInfo(file).absoluteFilePath());
   if (const ProjectorRow* current = pane.View().Current())
     settings_->setValue(kProjectorKey, QString::fromStdString(current->profile.name));
+  settings_->sync();  // a session that ends does not wait for the event loop
 }
 
 std::string WindowMemory::LastProjector() const {

@@ -21,9 +21,14 @@ class WindowMemory {
   QSettings* Settings() const { return settings_; }
 
   void Restore(QMainWindow& window, ListPane& pane, CommandLog& log, AlertList& alerts) const;
+
+  // What would be missed if the program did not end as it should is stored when it changes.
+
+  void StoreAcknowledged(const AlertList& alerts) const;
   /// `file` is the present profile file.
-  void Store(const QMainWindow& window, const ListPane& pane, const CommandLog& log,
-             const AlertList& alerts, const QString& file) const;
+  void StoreFile(const QString& file);
+  /// Everything else.
+  void Store(const QMainWindow& window, const ListPane& pane, const CommandLog& log) const;
 
   /// The name of the projector that was selected last.
   std::string LastProjector() const;
@@ -32,5 +37,5 @@ class WindowMemory {
 
  private:
   QSettings* settings_;
-  const QString firstFile_;
+  QString file_;  ///< Was stored, or need not be.
 };

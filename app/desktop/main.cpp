@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -10,6 +11,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QSettings>
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include "app/desktop/CommandLine.h"
@@ -22,6 +24,7 @@
 #include "app/desktop/profiles/ProfileFileActions.h"
 #include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
+#include "app/profiles/SignalFile.h"
 #include "app/profiles/Table.h"
 #include "app/profiles/Translations.h"
 #include "fleet/WholeFile.h"
@@ -126,7 +129,18 @@ int RunTour(const std::vector<FleetProfile>& profiles, const QString& folder) {
   return 0;
 }
 
-int RunWindow(Request request) {
+/// The signals that end the program. One that was ignored at the start stays so, as with nohup.
+std::vector<int> EndingSignals() {
+  std::vector<int> ending;
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    struct sigaction inherited {};
+    sigaction(signal, nullptr, &inherited);
+    if (inherited.sa_handler != SIG_IGN) ending.push_back(signal);
+  }
+  return ending;
+}
+
+int RunWindow(Request request, int signals) {
   const auto& [line, profiles, areShipped, wrongLast, opened] = request;
   QSettings settings(kName, kName);
   MainWindow window(profiles, &settings,
@@ -135,6 +149,11 @@ int RunWindow(Request request) {
   if (areShipped) window.Demonstrate();
   window.show();
   if (!wrongLast.isEmpty()) ShowError(window, ProfileFileActions::tr("Open Profiles"), wrongLast);
+  QSocketNotifier signalled(signals, QSocketNotifier::Read);
+  QObject::connect(&signalled, &QSocketNotifier::activated, &window, [&] {
+    signalled.setEnabled(false);
+    window.close();
+  });
   // The user may close the dialog and the window while the dialog is being read.
   if (!line.open.isEmpty()) {
     QTimer::singleShot(0, &window, [&] { window.OpenDialog(request.opened, request.line.tab); });
@@ -208,6 +227,8 @@ int Run(int argc, char* argv[]) {
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
+  const bool hasWindow = line.action == CommandLine::Action::Window;
+  const int signals = hasWindow ? SignalFile(EndingSignals()) : -1;
   const QApplication application(argc, argv);
   QGuiApplication::setDesktopFileName(kName);
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/advanced-control.png")));
@@ -226,7 +247,7 @@ int Run(int argc, char* argv[]) {
       return error.isEmpty() ? 0 : Fail(error);
     }
     default:
-      return RunWindow(std::move(request));
+      return RunWindow(std::move(request), signals);
   }
 }
 

@@ -6,8 +6,8 @@
 #include <QJsonDocument>
 
 #include "app/profiles/ProjectorAccess.h"
+#include "app/profiles/WrittenMark.h"
 #include "app/simulator/PseudoTerminal.h"
-#include "app/simulator/WrittenMark.h"
 #include "device/ModelDataIntake.h"
 #include "simulator/SimulatedProjector.h"
 

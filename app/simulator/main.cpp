@@ -5,8 +5,6 @@
 #include <filesystem>
 #include <new>
 #include <optional>
-#include <sys/signalfd.h>
-#include <unistd.h>
 #include <utility>
 
 #include <QCoreApplication>
@@ -17,12 +15,13 @@
 
 #include "app/profiles/DescriptorLimit.h"
 #include "app/profiles/OutOfMemory.h"
+#include "app/profiles/SignalFile.h"
 #include "app/profiles/SimulatorNotice.h"
 #include "app/profiles/Translations.h"
+#include "app/profiles/WrittenMark.h"
 #include "app/simulator/Arguments.h"
 #include "app/simulator/ControlServer.h"
 #include "app/simulator/ServedProjectors.h"
-#include "app/simulator/WrittenMark.h"
 #include "app/simulator/fleet/FleetService.h"
 #include "fleet/ProfileFile.h"
 #include "i18n/SystemLanguage.h"
@@ -36,16 +35,6 @@ struct Program {
 int Fail(const QString& message) {
   std::fprintf(stderr, "advanced-control-simulator: %s\n", qUtf8Printable(message));
   return 2;
-}
-
-// A file descriptor that reports the signals that end the program. To be called before any thread
-// starts.
-int EndingSignals() {
-  sigset_t ending;
-  sigemptyset(&ending);
-  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&ending, signal);
-  pthread_sigmask(SIG_BLOCK, &ending, nullptr);
-  return signalfd(-1, &ending, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
 QString ProfileFile(const Arguments& arguments) {
@@ -140,7 +129,7 @@ int Run(const Arguments& arguments, int endingSignals) {
 
 int main(int argc, char* argv[]) {
   EndConsoleProgramWhenOutOfMemory("advanced-control-simulator");
-  const int endingSignals = EndingSignals();
+  const int endingSignals = SignalFile({SIGTERM, SIGINT, SIGHUP});
   const QCoreApplication application(argc, argv);
   const auto language = NamedLanguage(QCoreApplication::arguments());
   InstallTranslations(language.value_or(SystemLanguageId()));

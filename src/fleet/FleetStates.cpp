@@ -103,7 +103,10 @@ bool FleetStates::MustNotify() {
 
 void FleetStates::Apply(const std::string& id, Known& known, LiveState state) {
   const WallTime wall = clock_.Wall();
-  if (state.reachability != known.state.reachability) state.since = wall;
+  if (state.reachability != known.state.reachability) {
+    state.since = wall;
+    state.steadySince = clock_.Now();
+  }
   for (StateChange& change : ChangesBetween(known.state, state, wall)) {
     if (IsNews(change)) {
       known.history.push_back(change);

@@ -144,6 +144,7 @@ void FleetWatcher::Finished(Peer peer, const Visit& visit) {
     // Visits do not report it.
     told.drift = state.drift;
     told.since = state.since;
+    told.steadySince = state.steadySince;
     state = std::move(told);
     state.reachability = ReachabilityAfter(visit);
     state.connection = visit.HasAnswered() ? ConnectionState::Connected : visit.Connection();

@@ -39,7 +39,8 @@ struct PlayingSource {
 /// projector that does not answer has no power state, and one in standby has no source.
 struct LiveState {
   Reachability reachability = Reachability::NeverAsked;
-  WallTime since{};                                      ///< When `reachability` became so.
+  WallTime since{};           ///< When `reachability` became so.
+  SessionTime steadySince{};  ///< The same, by the clock that stands still during a suspend.
   ConnectionState connection = ConnectionState::Unused;  ///< After the last visit.
   std::optional<WallTime> answered{};                    ///< Time of its last answer.
   std::chrono::microseconds answerTime{};  ///< Time until the first answer of that visit.

@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <csignal>
 #include <gmock/gmock.h>
+#include <tuple>
 #include <utility>
 
 #include <QImage>
@@ -7,6 +9,7 @@
 
 #include "tests/support/Programs.h"
 #include "tests/support/Record.h"
+#include "tests/support/Soon.h"
 
 namespace {
 
@@ -28,6 +31,30 @@ TEST(Program, AnswersWrongUseAsRecorded) {
     EXPECT_EQ(run.errors.find('\n') + 1, run.errors.size()) << words;
     return std::to_string(run.exitCode) + ' ' + run.errors.substr(0, run.errors.find('\n'));
   });
+}
+
+// One that was started with nohup is not ended by a hang-up, as the set of what it takes shows.
+TEST(Program, EndsAtASignalAsIfItsWindowWereClosed) {
+  const QTemporaryDir folder;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("XDG_CONFIG_HOME", folder.path());
+  const QString settings = folder.filePath("advanced-control/advanced-control.conf");
+  const std::tuple<int, void (*)(int), const char*> cases[] = {
+      {SIGTERM, SIG_IGN, "4002"}, {SIGINT, SIG_DFL, "4003"}, {SIGHUP, SIG_DFL, "4003"}};
+  for (const auto& [signal, hangUp, taken] : cases) {
+    for (const int inherited : {SIGINT, SIGHUP}) std::signal(inherited, SIG_DFL);
+    std::signal(SIGHUP, hangUp);
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(ADVANCED_CONTROL_PROGRAM, {});
+    const QString status = "/proc/" + QString::number(program.processId()) + "/status";
+    const QByteArray mask = QByteArray("SigBlk:\t000000000000") + taken;
+    EXPECT_TRUE(Soon([&] { return Contents(status).contains(mask); }));
+    ::kill(static_cast<pid_t>(program.processId()), signal);
+    EXPECT_EQ(Finish(program).exitCode, 0);
+    EXPECT_TRUE(Contents(settings).contains("geometry"));
+    QFile::remove(settings);
+  }
 }
 
 TEST(Program, SavesPicturesOfTheRequestedTabAndLanguage) {

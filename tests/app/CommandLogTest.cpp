@@ -77,11 +77,13 @@ TEST(CommandLog, NamesSettingsAndValuesAsTheDialogDoes) {
       {{Op::Get, 0x7FFF}, read(1), "", ""},
   };
   SettingNames names;
+  const auto users = model.use_count();
   for (const auto& [command, reply, setting, value] : cases) {
     const auto meaning = names.Of(model, command, reply);
     EXPECT_EQ(meaning.setting, setting) << FormatCommand(command);
     EXPECT_EQ(meaning.value, value) << FormatCommand(command);
   }
+  EXPECT_EQ(model.use_count(), users) << "a file that was read again has others";
 }
 
 TEST(CommandLog, RefusalsAreReadableOnEveryPalette) {

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QSessionManager>
 #include <QSettings>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -19,8 +20,10 @@
 #include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
+#include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/log/CommandLog.h"
+#include "app/desktop/projectors/ByModel.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/profiles/PresetFolder.h"
 #include "app/profiles/SettingsFile.h"
@@ -220,15 +223,52 @@ TEST(MainWindow, OpensTheDialogsOfTheSelectedUntilItIsClosed) {
     QTimer::singleShot(25, &window, whileTheFirstIsRead);
     Find<QAction>(window, "Open Settings").trigger();
   };
+  const std::weak_ptr second = Rows(window)[1].profile.model;
+  Table(window).selectRow(1);
+  Q_EMIT Find<QAction>(window, "Input").menu()->aboutToShow();
   openThree([&] {
     EXPECT_EQ(Shipped(window.folder).Remove({1}), "");
     Find<QAction>(window, "Reload").trigger();
   });
   EXPECT_TRUE(window.Dialog(0) && window.Dialog(1) && !window.Dialog(2)) << "the third is second";
   for (const std::size_t i : {0U, 1U}) window.Dialog(i)->close();
+  EXPECT_TRUE(Soon([&] { return second.expired(); })) << "though its inputs are known";
   QTimer::singleShot(0, &window, [&] { openThree([&] { window.close(); }); });
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_FALSE(window.Dialog(0) || window.Dialog(1) || window.Dialog(2));
+}
+
+TEST(MainWindow, RemembersWhatMattersWithoutBeingClosed) {
+  const QTemporaryDir folder;
+  const QString other = folder.filePath("other.json");
+  QSettings settings(folder.filePath("s.ini"), QSettings::IniFormat);
+  MainWindow window(Shipped(folder), &settings);
+  window.show();
+  window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].hasAlert; }));
+  Find<QPushButton>(window, "Acknowledge All").click();
+  AnswerQuestionOf(Find<QAction>(window, "Save Profiles As"), [&other](QDialog& question) {
+    Q_EMIT qobject_cast<QFileDialog*>(&question)->fileSelected(other);
+  });
+  EXPECT_EQ(WindowMemory::LastProfiles(settings), other);
+  window.resize(700, 500);
+  QObject session;  // which nobody asks anything
+  Q_EMIT qApp->commitDataRequest(static_cast<QSessionManager&>(session));
+  const MainWindow next(Shipped(folder), &settings);
+  EXPECT_EQ(next.size(), QSize(700, 500));
+  EXPECT_EQ(next.findChild<AlertList*>()->Acknowledged().size(), 1);
+}
+
+TEST(ByModel, KeepsWhatBelongsToAModelAsLongAsTheModel) {
+  ByModel<int, std::shared_ptr<int>> all;
+  const auto made = std::make_shared<int>();
+  auto model = std::make_shared<const int>();
+  const auto use = [&](const auto& of) { return all.Of(of, [&] { return made; }).use_count(); };
+  EXPECT_EQ(use(model), 2);
+  EXPECT_EQ(use(std::make_shared<const int>()), 3);
+  EXPECT_EQ(use(model), 3) << "it has it already";
+  model.reset();
+  EXPECT_EQ(use(std::make_shared<const int>()), 2);
 }
 
 TEST(MainWindow, RestoresItsStateAndClosesWithoutWaiting) {

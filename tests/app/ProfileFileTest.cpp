@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include "app/desktop/profiles/ProfileDocument.h"
+#include "app/profiles/WrittenMark.h"
 #include "fleet/ProfileFile.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"
@@ -168,6 +169,23 @@ TEST_F(ProfileDocumentFile, AnAddedOrRenamedProjectorHasAnIdentityThatStays) {
     ASSERT_EQ(document.Change(i, {{"name", QString::number(i)}, {"tags", QJsonArray{"a"}}}), "");
   }
   EXPECT_EQ((std::set{identity(0), identity(1), identity(2)}), all);
+}
+
+TEST_F(ProfileDocumentFile, NothingThatSomebodyHasChangedIsTheSimulators) {
+  const QByteArray mark = R"("x-written-by": "advanced-control-simulator", "modelCode")";
+  const QByteArray marked = Contents(name).replace(R"("modelCode")", mark);
+  const JsonEdit::Members other{{"name", "other"}};
+  const auto isTheirsAfter = [&](const auto& edit) {
+    Write(name, marked);
+    EXPECT_EQ(document.Load(name), "");
+    EXPECT_EQ(edit(), "");
+    return IsWritten(Contents(name));
+  };
+  EXPECT_TRUE(isTheirsAfter([&] { return document.Change(0, {}); }));
+  EXPECT_FALSE(isTheirsAfter([&] { return document.Change(0, other); }));
+  EXPECT_FALSE(isTheirsAfter([&] { return document.Duplicate(0, other); }));
+  EXPECT_FALSE(isTheirsAfter([&] { return document.Tag({0}, {"new"}, true); }));
+  EXPECT_FALSE(isTheirsAfter([&] { return document.SetMember({0}, other[0]); }));
 }
 
 TEST_F(ProfileDocumentFile, FailedChangesChangeNothing) {

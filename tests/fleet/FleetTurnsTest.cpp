@@ -76,6 +76,7 @@ TEST(FleetTurns, AsksASilentOneLessAndLess) {
   it.isThere = false;
   fleet.RunFor(2h);
   ASSERT_GE(it.connections.size(), 11);
+  EXPECT_EQ(fleet.State("a").steadySince, it.connections[0] + 2s);
   EXPECT_EQ(fleet.State("a").since, WallTime((it.connections[0] + 2s).time_since_epoch()));
   for (const bool answered : {false, true}) {
     fleet.states.Learn("a", {PjtOperation::SetPowerOn}, {.answered = answered}, {});

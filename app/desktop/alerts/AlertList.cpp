@@ -117,9 +117,10 @@ QString AlertList::TextOf(const Alert& alert, const ProjectorRow& row) const {
 }
 
 // Thousands of projectors may have alerts at the same time, so nothing here searches in a list.
-void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
+void AlertList::Look(const std::vector<ProjectorRow>& rows, SessionTime now) {
   const QString since = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
   bool hasChanged = false;
+  const std::size_t earlier = earlier_.size();
   QStringList raised;
   ++looks_;
   for (const ProjectorRow& row : rows) {
@@ -139,7 +140,7 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
     ForgetGone(row);
   }
   const auto isGone = [this](const auto& one) { return one.second.seen != looks_; };
-  hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged;
+  hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged || earlier_.size() != earlier;
   if (!hasChanged) return;
   Show();
   Q_EMIT Changed();

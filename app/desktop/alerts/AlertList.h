@@ -23,7 +23,7 @@ class AlertList : public QWidget {
 
   void SetRules(const AlertRules& rules) { rules_ = rules; }
   /// Takes over the alerts that the rules find in these projectors.
-  void Look(const std::vector<ProjectorRow>& rows, WallTime now);
+  void Look(const std::vector<ProjectorRow>& rows, SessionTime now);
   /// Those that nobody has acknowledged.
   std::vector<Alert> Open() const;
 

@@ -44,12 +44,12 @@ void AlertRules::Write(QSettings& settings) const {
   settings.setValue(kQuietTo, quietTo);
 }
 
-std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, WallTime now) {
+std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, SessionTime now) {
   using Kind = Alert::Kind;
   std::vector<Alert> alerts;
   const LiveState& state = row.state;
   const bool isSilent = HealthOf(row) == Health::Unreachable;
-  if (isSilent && rules.silent.count() > 0 && now - state.since >= rules.silent)
+  if (isSilent && rules.silent.count() > 0 && now - state.steadySince >= rules.silent)
     alerts.push_back({row.id, Kind::Silent});
   const int hours = LampHoursOf(state);
   const int rated = row.profile.ratedLampHours;

@@ -35,5 +35,6 @@ struct Alert {
   friend auto operator<=>(const Alert&, const Alert&) = default;
 };
 
-/// The alerts that the rules find in a projector at the given time.
-std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, WallTime now);
+/// The alerts that the rules find in a projector at the given time. A projector is not silent while
+/// the computer sleeps and nobody asks it.
+std::vector<Alert> FindAlerts(const AlertRules& rules, const ProjectorRow& row, SessionTime now);

@@ -1,5 +1,6 @@
 #include "app/desktop/log/SettingNames.h"
 
+#include <map>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -134,7 +135,6 @@ SettingNames::~SettingNames() = default;
 
 SettingNames::Meaning SettingNames::Of(const std::shared_ptr<const ProfileModel>& model,
                                        const PjtCommand& command, const PjtReply& reply) {
-  auto& names = models_[model];
-  if (!names) names = std::make_unique<OfModel>(*model);
+  const auto& names = models_.Of(model, [&] { return std::make_unique<OfModel>(*model); });
   return names->Of(command, reply, texts_);
 }

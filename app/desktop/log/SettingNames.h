@@ -1,11 +1,11 @@
 #pragma once
 
-#include <map>
 #include <memory>
 #include <optional>
 
 #include <QString>
 
+#include "app/desktop/projectors/ByModel.h"
 #include "device/ProjectorChannel.h"
 #include "fleet/FleetProfile.h"
 #include "snapshots/SettingTexts.h"
@@ -26,7 +26,6 @@ class SettingNames {
   SettingNames();
   ~SettingNames();
 
-  /// Models are remembered.
   Meaning Of(const std::shared_ptr<const ProfileModel>& model, const PjtCommand& command,
              const PjtReply& reply);
 
@@ -34,5 +33,5 @@ class SettingNames {
   class OfModel;
 
   const SettingTexts texts_;
-  std::map<std::shared_ptr<const ProfileModel>, std::unique_ptr<OfModel>> models_;
+  ByModel<ProfileModel, std::unique_ptr<OfModel>> models_;
 };

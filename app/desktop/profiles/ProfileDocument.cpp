@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "app/profiles/WrittenMark.h"
 #include "fleet/ProfileEdits.h"
 #include "fleet/ProfileFile.h"
 #include "fleet/ProfileLock.h"
@@ -18,6 +19,7 @@ namespace {
 const JsonEdit::Path kProjectors{"projectors"};
 const QString kTags = QStringLiteral("tags");
 const QString kSnapshot = QStringLiteral("snapshot");
+const JsonEdit::Member kUnmarked{kWrittenMark, QJsonValue(QJsonValue::Undefined)};
 
 void SetPreset(QJsonObject& tags, const QString& tag, const QString& preset) {
   QJsonObject settings = tags[tag].toObject();
@@ -112,6 +114,7 @@ QString ProfileDocument::Change(std::size_t projector, const JsonEdit::Members& 
   for (const JsonEdit::Member& member : all) {
     text = JsonEdit::SetMember(text, EntryPath(projector), member);
   }
+  if (text != text_) text = JsonEdit::SetMember(text, EntryPath(projector), kUnmarked);
   return Write(text);
 }
 
@@ -125,6 +128,7 @@ QString ProfileDocument::Duplicate(std::size_t projector, const JsonEdit::Member
   QByteArray copy =
       JsonEdit::SetMember(JsonEdit::TextAt(text_, EntryPath(projector)), {},
                           {QStringLiteral("identity"), QString::fromStdString(MakeIdentity())});
+  copy = JsonEdit::SetMember(copy, {}, kUnmarked);
   for (const JsonEdit::Member& member : members) copy = JsonEdit::SetMember(copy, {}, member);
   return Write(
       JsonEdit::InsertElement(text_, kProjectors, static_cast<qsizetype>(projector), copy));
@@ -153,7 +157,7 @@ QString ProfileDocument::Tag(const std::vector<int>& projectors, const QStringLi
     for (const QString& tag : tags) {
       if (adds && !all.contains(tag)) all.append(tag);
     }
-    edits.Change(place, {{QStringLiteral("tags"), all}});
+    edits.Change(place, {{QStringLiteral("tags"), all}, kUnmarked});
   }
   return Write(edits.Text());
 }
@@ -162,7 +166,7 @@ QString ProfileDocument::SetMember(const std::vector<int>& projectors,
                                    const JsonEdit::Member& member) {
   ProfileEdits edits(text_);
   for (const int projector : projectors)
-    edits.Change(static_cast<std::size_t>(projector), {member});
+    edits.Change(static_cast<std::size_t>(projector), {member, kUnmarked});
   return Write(edits.Text());
 }
 

@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QRegularExpression>
 
+#include "app/desktop/projectors/ByModel.h"
 #include "i18n/LocalizeControlTexts.h"
 #include "settings/CatalogNumbers.h"
 #include "settings/ModelSettings.h"
@@ -29,11 +30,11 @@ QString ShownName(const std::string& name) {
 
 /// The text of the status page for a source. Keeps it, since a list may ask for thousands.
 QString NameInModel(const std::shared_ptr<const ProfileModel>& model, int number) {
-  constexpr std::size_t kMostKept = 2000;
-  static std::map<std::pair<std::shared_ptr<const ProfileModel>, int>, QString> names;
-  if (names.size() > kMostKept) names.clear();
-  const auto [name, isNew] = names.try_emplace({model, number});
-  if (!isNew || !model) return name->second;
+  using Names = std::map<int, QString>;
+  static ByModel<ProfileModel, Names> models;
+  if (!model) return {};
+  const auto [name, isNew] = models.Of(model, [] { return Names(); }).try_emplace(number);
+  if (!isNew) return name->second;
   const ModelSettings settings(model->data);
   const ModelSetting* source = settings.Find("status.input-source");
   if (source == nullptr) return {};

@@ -1,9 +1,7 @@
 #include "app/desktop/work/UsualSettings.h"
 
 const ModelSettings& UsualSettings::Of(const std::shared_ptr<const ModelData>& model) {
-  const auto found = models_.find(model);
-  if (found != models_.end()) return found->second;
-  return models_.emplace(model, ModelSettings(model ? *model : ModelData())).first->second;
+  return models_.Of(model, [&] { return ModelSettings(model ? *model : ModelData()); });
 }
 
 std::string UsualSettings::InputKey(const std::shared_ptr<const ModelData>& model) {

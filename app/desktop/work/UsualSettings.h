@@ -1,10 +1,10 @@
 #pragma once
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "app/desktop/projectors/ByModel.h"
 #include "fleet/FleetTarget.h"
 #include "settings/ModelSettings.h"
 
@@ -18,7 +18,5 @@ class UsualSettings {
   const ModelSettings& Of(const std::shared_ptr<const ModelData>& model);
 
  private:
-  using Model = std::shared_ptr<const ModelData>;
-
-  std::map<Model, ModelSettings> models_;
+  ByModel<ModelData, ModelSettings> models_;
 };

@@ -9,7 +9,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
-#include "app/simulator/WrittenMark.h"
+#include "app/profiles/WrittenMark.h"
 #include "fleet/ProfileFile.h"
 #include "fleet/WholeFile.h"
 

@@ -7,9 +7,12 @@
 #include <QJsonObject>
 #include <QLatin1String>
 
-/// Marks an entry of a profile file as one that this program has written.
+/// The member that marks an entry of a profile file as one that the simulator has written, and may
+/// replace. An entry that somebody has changed does not have it.
+inline constexpr QLatin1String kWrittenMark("x-written-by");
+
 inline void MarkWritten(QJsonObject& entry) {
-  entry[QLatin1String("x-written-by")] = QLatin1String("advanced-control-simulator");
+  entry[kWrittenMark] = QLatin1String("advanced-control-simulator");
 }
 
 /// Whether a profile file has marked projectors and no others, which somebody may have added.

@@ -100,6 +100,28 @@ class Undoing(Building):
         header, line = whole.splitlines()
         for damaged, error in (("", "illegal value"), (whole[:-9] + "\n", ":2: not a line"),
                                (whole.replace(":1}", ":2}"), ":1: not a line"), (whole.replace(line, "[" * 9999), ":2: not"),
+    def test_a_run_stays_while_it_is_undone_however_old_it_is(self):
+        projector = self.start_projector(WireProjector)
+        served = json.loads((self.folder / "served.json").read_text())
+        served["projectors"][0]["connection"]["network"]["port"] = projector.port
+        (self.folder / "served.json").write_text(json.dumps(served))
+        for words in (["Office", "contrast=5"], ["Lecture hall,Seminar 1", "brightness=5"]):
+            self.acctl("set", *words)
+        earlier, run = sorted((self.folder / "state/advanced-control/undo").iterdir())
+        old = time.time() - 40 * 86400
+        for file in (earlier, run):
+            os.utime(file, (old, old))
+        self.check(["undo", "--dry-run"], 0, "5  ->  0")
+        self.assertLess(run.stat().st_mtime, old + 1)
+        projector.lost = range(projector.commands + 1, 9999)
+        self.check(["undo", "--timeout", "0.2"], 3, "^Seminar 1 .*1 changed", "Lecture hall: no answer")
+        self.assertEqual((earlier.exists(), run.exists()), (True, True))
+        self.acctl("set", "Office", "contrast=4")  # as another one may do meanwhile
+        self.assertEqual((earlier.exists(), run.exists()), (False, True))
+        projector.lost = ()
+        self.check(["undo", run.stem], 0, "^Lecture hall .*1 changed")
+        self.assertTrue(self.json("undo", "--list")["runs"][0]["isUndone"])
+
                                (whole.replace('"id"', '"no"'), ":2: not"), (whole.replace("snapshot", "shot"), ":2: not")):
             last.write_text(damaged)
             self.check(["undo"], 2, errors=f"{last.name}.*{error}.*; name an earlier run")

@@ -130,6 +130,22 @@ std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors
   if (QFileInfo(Wide(arguments.file)).isDir()) {
     return LoadFolder(arguments, projectors, profiles, files, left);
   }
+/// Empty for a simulated projector.
+std::string ShownPlaceOf(const FleetProfile& profile) {
+  if (profile.link == ProjectorLink::Simulated) return {};
+  const auto [host, port] = PlaceOf(TargetOf(profile));
+  const bool isIpv6 = host.find(':') != std::string::npos;
+  const std::string place = isIpv6 ? '[' + host + ']' : host;
+  return port != 0 ? place + ':' + std::to_string(port) : place;
+}
+
+/// What the run knows a projector by: its name, if it has got an identity since.
+std::string IdIn(const RecordedRun& run, const FleetProfile& profile) {
+  const std::string id = FleetIdOf(profile);
+  return run.undo.contains(id) ? id
+                               : FleetIdOf({.name = profile.name, .model = {}, .connection = {}});
+}
+
   const QString file = PresetFolder::FileMeantBy(Wide(arguments.file));
   if (arguments.projectors.empty()) {
     const bool isMissing = arguments.file != "-" && !QFileInfo::exists(file);
@@ -198,7 +214,7 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
              Projectors& projectors, SettingsFiles& files, std::vector<Problem>& left) {
   std::set<std::string> known;
   for (const FleetProfile& profile : profiles) {
-    const auto found = run.undo.find(FleetIdOf(profile));
+    const auto found = run.undo.find(IdIn(run, profile));
     if (found == run.undo.end()) continue;
     known.insert(found->first);
     projectors.push_back(&profile);
@@ -213,26 +229,20 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
 }
 
 UndoId UndoIdOf(const FleetProfile& profile) {
-  UndoId known{FleetIdOf(profile)};
-  if (!profile.identity.empty() || profile.link == ProjectorLink::Simulated) return known;
-  const auto [host, port] = PlaceOf(TargetOf(profile));
-  const bool isIpv6 = host.find(':') != std::string::npos;
-  known.place = isIpv6 ? '[' + host + ']' : host;
-  if (port != 0) known.place += ':' + std::to_string(port);
-  return known;
+  return {FleetIdOf(profile), profile.identity.empty() ? ShownPlaceOf(profile) : std::string()};
 }
 
 void LeaveOutOthers(const RecordedRun& run, Projectors& projectors, std::vector<Problem>& left) {
   std::erase_if(projectors, [&](const FleetProfile* profile) {
-    const UndoId present = UndoIdOf(*profile);
-    const auto changed = run.places.find(present.id);
-    if (changed == run.places.end() || changed->second == present.place) return false;
+    const auto changed = run.places.find(IdIn(run, *profile));
+    const std::string present = ShownPlaceOf(*profile);
+    if (changed == run.places.end() || changed->second == present) return false;
     const auto named = [profile](const std::string& place) {
       return place.empty() ? ShownName(profile->name, true) : profile->name + " (" + place + ')';
     };
     left.push_back({ProblemCode::NoSuchProjector,
                     Message(Acctl::tr("%1: undoes a change of %2; --force applies it to %3"),
-                            run.path, named(changed->second), named(present.place))});
+                            run.path, named(changed->second), named(present))});
     return true;
   });
 }

@@ -21,17 +21,26 @@ class Undoing(Building):
         room = json.loads((self.folder / "served.json").read_text())["projectors"][0]
         del room["identity"]
         profiles = json.loads((self.folder / "served.json").read_text())
-        for site, host, projector in (("a", "localhost", first), ("A", "LOCALHOST", first), ("b", "localhost", second)):
+        known = {"identity": "id:it"}
+        for site, host, projector, more in (
+                ("a", "localhost", first, {}), ("A", "LOCALHOST", first, {}), ("b", "localhost", second, {}),
+                ("known-a", "localhost", first, known), ("known-b", "localhost", second, known),
+                ("other", "localhost", first, {"name": "Hall"})):
             place = {"network": {"address": host, "port": projector.port}}
-            profiles["projectors"] = [{**room, "connection": place}]
+            profiles["projectors"] = [{**room, "connection": place, **more}]
             (self.folder / f"{site}.json").write_text(json.dumps(profiles))
         self.check(["--profiles", "a.json", "set", "Lecture hall", "brightness=3"], 0, "0  ->  3$")
         moved = f"Lecture hall \\(localhost:{first.port}\\); --force applies it to Lecture hall \\(localhost:{second.port}\\)$"
         for words in ([], ["last", "Lecture hall"], ["--dry-run"]):
             self.check(["--profiles", "b.json", "undo", *words], 1, errors=moved)
-        self.check(["--profiles", "rooms.json", "undo"], 1, errors="is no longer in the profile file")
+        self.check(["--profiles", "rooms.json", "undo"], 1, errors="; --force applies it to Lecture hall \\(simulated\\)$")
+        self.check(["--profiles", "other.json", "undo"], 1, errors="Lecture hall: is no longer in the profile file$")
         self.assertEqual((second.brightness[RGB1], self.json("undo", "--list")["runs"][0]["isUndone"]), (128, False))
         self.check(["--profiles", "A.json", "undo"], 0, "3  ->  0$")
+        # It has got an identity since.
+        self.check(["--profiles", "a.json", "set", "Lecture hall", "brightness=4"], 0, "0  ->  4$")
+        self.check(["--profiles", "known-b.json", "undo"], 1, errors=moved)
+        self.check(["--profiles", "known-a.json", "undo"], 0, "4  ->  0$")
         run = self.json("undo", "--list")["runs"][0]["run"]
         for brightness, words in ((5, ["--force"]), (6, ["--connect", second.address])):
             second.brightness[RGB1] = 128 + brightness
@@ -91,15 +100,6 @@ class Undoing(Building):
         self.assertEqual(len(list(undo.iterdir())), 2, "notes.txt and the last run")
         self.assertTrue((undo / "notes.txt").exists())
 
-    def test_a_run_that_cannot_be_read_is_never_passed_over(self):
-        for brightness in ("5", "6"):
-            self.acctl("set", "Office", "brightness=" + brightness)
-        undo = self.folder / "state/advanced-control/undo"
-        earlier, last = sorted(undo.iterdir())
-        whole = last.read_text()
-        header, line = whole.splitlines()
-        for damaged, error in (("", "illegal value"), (whole[:-9] + "\n", ":2: not a line"),
-                               (whole.replace(":1}", ":2}"), ":1: not a line"), (whole.replace(line, "[" * 9999), ":2: not"),
     def test_a_run_stays_while_it_is_undone_however_old_it_is(self):
         projector = self.start_projector(WireProjector)
         served = json.loads((self.folder / "served.json").read_text())
@@ -122,6 +122,15 @@ class Undoing(Building):
         self.check(["undo", run.stem], 0, "^Lecture hall .*1 changed")
         self.assertTrue(self.json("undo", "--list")["runs"][0]["isUndone"])
 
+    def test_a_run_that_cannot_be_read_is_never_passed_over(self):
+        for brightness in ("5", "6"):
+            self.acctl("set", "Office", "brightness=" + brightness)
+        undo = self.folder / "state/advanced-control/undo"
+        earlier, last = sorted(undo.iterdir())
+        whole = last.read_text()
+        header, line = whole.splitlines()
+        for damaged, error in (("", "illegal value"), (whole[:-9] + "\n", ":2: not a line"),
+                               (whole.replace(":1}", ":2}"), ":1: not a line"), (whole.replace(line, "[" * 9999), ":2: not"),
                                (whole.replace('"id"', '"no"'), ":2: not"), (whole.replace("snapshot", "shot"), ":2: not")):
             last.write_text(damaged)
             self.check(["undo"], 2, errors=f"{last.name}.*{error}.*; name an earlier run")

@@ -34,13 +34,18 @@ std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
                  file.projector, (*other)->name);
 }
 
-/// What is wrong with a file that could not be read as one of settings. An undo file of a whole run
-/// is for another command.
+/// Whether a file that could not be read as one of settings is the undo file of a whole run.
+bool IsOfWholeRun(const SettingsFileContents& file) {
+  if (file.name.isEmpty() || !QFileInfo(file.name).isFile()) return false;
+  const RecordedRun run = ReadRun(file.name);
+  return run.error.isEmpty() && !run.undo.empty();
+}
+
+/// What is wrong with a file that could not be read as one of settings. An undo file is for another
+/// command.
 std::string ErrorOf(const SettingsFileContents& file) {
   std::string error = file.error.toStdString();
-  if (file.name.isEmpty() || !QFileInfo(file.name).isFile()) return error;
-  const RecordedRun run = ReadRun(file.name);
-  if (!run.error.isEmpty() || run.undo.empty()) return error;
+  if (!IsOfWholeRun(file)) return error;
   return error + "; " + Message(Acctl::tr("use: %1"), "acctl undo " + file.name.toStdString());
 }
 
@@ -64,7 +69,10 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
   const QDir folder(Wide(arguments.file));
   for (const QString& name : folder.entryList({"*.json"}, QDir::Files, QDir::Name)) {
     SettingsFileContents contents = ReadSettingsFile(folder.filePath(name));
-    if (!contents.error.isEmpty()) return ErrorOf(contents);
+    if (!contents.error.isEmpty()) {
+      if (IsOfWholeRun(contents)) continue;  // beside the files that were applied
+      return contents.error.toStdString();
+    }
     const std::string projector = contents.snapshot.projector;
     const std::string path = contents.name.toStdString();
     if (FindProfile(profiles, projector) == nullptr) {
@@ -122,14 +130,6 @@ QString ObstacleOf(const RecordedRun& run) {
   return isEmpty ? Acctl::tr("%1: there is nothing to undo").arg(run.path) : run.error;
 }
 
-}  // namespace
-
-std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
-                              const std::vector<FleetProfile>& profiles, SettingsFiles& files,
-                              std::vector<Problem>& left) {
-  if (QFileInfo(Wide(arguments.file)).isDir()) {
-    return LoadFolder(arguments, projectors, profiles, files, left);
-  }
 /// Empty for a simulated projector.
 std::string ShownPlaceOf(const FleetProfile& profile) {
   if (profile.link == ProjectorLink::Simulated) return {};
@@ -146,6 +146,14 @@ std::string IdIn(const RecordedRun& run, const FleetProfile& profile) {
                                : FleetIdOf({.name = profile.name, .model = {}, .connection = {}});
 }
 
+}  // namespace
+
+std::string LoadSettingsFiles(const Arguments& arguments, Projectors& projectors,
+                              const std::vector<FleetProfile>& profiles, SettingsFiles& files,
+                              std::vector<Problem>& left) {
+  if (QFileInfo(Wide(arguments.file)).isDir()) {
+    return LoadFolder(arguments, projectors, profiles, files, left);
+  }
   const QString file = PresetFolder::FileMeantBy(Wide(arguments.file));
   if (arguments.projectors.empty()) {
     const bool isMissing = arguments.file != "-" && !QFileInfo::exists(file);

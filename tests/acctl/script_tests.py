@@ -154,6 +154,17 @@ class Runs(Building):
                    "Office: there is no file of it in saved")
         (self.folder / "saved/Seminar_2.json").rename(self.folder / "saved/other.json")
         self.check(["apply", "saved"], 0, "^Seminar 2 .*already so")
+        # The host application keeps its undo files beside them.
+        undo = {"undoOfJob": [{"id": "id:Seminar 2", "snapshot": json.loads((self.folder / "saved/other.json").read_text())}]}
+        for folder in ("saved", "undo"):
+            (self.folder / folder).mkdir(exist_ok=True)
+            (self.folder / folder / "other.undo.20261124T020000Z.json").write_text(json.dumps(undo, indent=4))
+        self.check(["apply", "saved"], 0, "^Seminar 1 .*already so\nSeminar 2 .*already so\n$")
+        self.check(["apply", "undo"], 2, errors="undo: the folder has no files of settings")
+        for wrong in ("{}", '{"undoOfJob": []}', '{"projector": "Office"}'):
+            (self.folder / "saved/wrong.json").write_text(wrong)
+            self.check(["apply", "saved"], 2, errors="^acctl: saved/wrong.json:1: format: this is not a file of saved settings$")
+        (self.folder / "saved/wrong.json").unlink()
         shutil.copy(self.folder / "saved/other.json", self.folder / "saved/twice.json")
         self.check(["apply", "saved"], 2, errors="is also of Seminar 2")
         self.check(["apply", "sav"], 2, errors="sav: there is no such file or folder")

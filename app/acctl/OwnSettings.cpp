@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -41,7 +42,14 @@ std::string TakeFile(Arguments& arguments, const QString& path, const QByteArray
     if (option == nullptr || !option->isDefault) {
       return place + Message(Acctl::tr("there is no setting %1"), name);
     }
-    const auto error = Take(arguments, *option, line.mid(equals + 1).trimmed().toStdString());
+    std::string value = line.mid(equals + 1).trimmed().toStdString();
+    const bool isFolder = option->value == "DIR";
+    const bool isPath = isFolder || option->value == "FILE";
+    if (isPath && value.starts_with("~/")) value.replace(0, 1, QDir::homePath().toStdString());
+    if (isFolder && !value.starts_with('/')) {  // else it would be another one in each folder
+      return place + name + ": " + Message(Acctl::tr("'%1' must begin with / or ~/"), value);
+    }
+    const auto error = Take(arguments, *option, value);
     if (!error.empty()) return place + name + ": " + error;
   }
   return {};

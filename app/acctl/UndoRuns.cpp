@@ -80,7 +80,9 @@ QString MarkUndone(const RecordedRun& run) {
 }
 
 QString UndoFolder() {
-  const QString state = qEnvironmentVariable("XDG_STATE_HOME", QDir::homePath() + "/.local/state");
+  QString state = qEnvironmentVariable("XDG_STATE_HOME");
+  if (!state.startsWith(QLatin1Char('/')))
+    state = QDir::homePath() + QStringLiteral("/.local/state");
   return state + QStringLiteral("/advanced-control/undo");
 }
 

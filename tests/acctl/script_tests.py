@@ -245,8 +245,24 @@ class Runs(Building):
         self.check(["get", "Office", "contrast", "-o", "json"], 0, '"version": 1')
         (config / "acctl.conf").write_text("jobs = many\n")
         self.check(["list"], 2, errors="acctl.conf:1: jobs: 'many' is not possible")
+        (config / "acctl.conf").write_text("profiles = ~/rooms.json\n")
+        self.assertIn("Office (simulated)", self.acctl("list", ACCTL_PROFILES="").stdout)
+        for wrong in ("mine", "~", "~me/undo", ""):
+            (config / "acctl.conf").write_text(f"# undo\nundo = {wrong}\n")
+            self.check(["list"], 2, errors=f"acctl.conf:2: undo: '{wrong}' must begin with / or ~/$")
         (config / "acctl.conf").unlink()
         (config / "acctl.conf").mkdir()
         self.check(["list"], 2, errors="cannot read .*acctl.conf: Is a directory")
         (config / "acctl.conf").rmdir()
+        usual = ".local/state/advanced-control/undo"
+        for number, (words, state, conf, undo) in enumerate((
+                ([], "", "", usual), ([], "state", "", usual), ([], str(self.folder / "s"), "", "s/advanced-control/undo"),
+                ([], "", "undo = ~/mine", "mine"), ([], "", f"undo = {self.folder}/its", "its"),
+                (["--undo", "here"], "", "undo = ~/mine", "here"))):
+            (config / "acctl.conf").write_text(conf)
+            before = {*self.folder.rglob("*.acctl-undo")}
+            run = self.acctl("set", "Office", f"contrast={number + 1}", *words, XDG_STATE_HOME=state)
+            made = {*self.folder.rglob("*.acctl-undo")} - before
+            self.assertEqual([file.parent for file in made], [self.folder / undo], run.stderr)
+        (config / "acctl.conf").unlink()
         self.assertIn("ACCTL_TIMEOUT: 'x'", self.acctl("list", ACCTL_TIMEOUT="x").stderr)

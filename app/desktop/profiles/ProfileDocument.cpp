@@ -1,6 +1,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 
 #include <algorithm>
+#include <chrono>
 #include <set>
 #include <utility>
 
@@ -18,6 +19,8 @@ namespace {
 const JsonEdit::Path kProjectors{"projectors"};
 const QString kTags = QStringLiteral("tags");
 const QString kSnapshot = QStringLiteral("snapshot");
+/// How long the window may stand still for another program that changes the file.
+constexpr std::chrono::milliseconds kMoment{500};
 
 void SetPreset(QJsonObject& tags, const QString& tag, const QString& preset) {
   QJsonObject settings = tags[tag].toObject();
@@ -45,7 +48,8 @@ QString ProfileDocument::Load(const QString& fileName) {
 }
 
 QString ProfileDocument::SaveAs(const QString& fileName) {
-  const ProfileLock lock(fileName);
+  ProfileLock lock(fileName);
+  if (QString error = lock.Take(kMoment); !error.isEmpty()) return error;
   if (QFileInfo::exists(fileName) && QFileInfo(fileName) == QFileInfo(fileName_)) {
     if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   }
@@ -209,7 +213,8 @@ QString ProfileDocument::Write(const QByteArray& text) {
   if (text == text_) return {};
   ProfileList list = ParseProfileList(text, fileName_);
   if (!list.error.isEmpty()) return list.error;
-  const ProfileLock lock(fileName_);
+  ProfileLock lock(fileName_);
+  if (QString error = lock.Take(kMoment); !error.isEmpty()) return error;
   if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   if (QString error = WriteProfileText(fileName_, text); !error.isEmpty()) return error;
   text_ = text;

@@ -22,9 +22,11 @@ std::string VariableOf(const OptionForm& option) {
   return name;
 }
 
-std::string Take(Arguments& arguments, const OptionForm& option, const std::string& value) {
+/// `origin` is where the value comes from.
+std::string Take(Arguments& arguments, const OptionForm& option, const std::string& value,
+                 const std::string& origin) {
   if (option.take(arguments, value)) return {};
-  return Message(Acctl::tr("'%1' is not possible"), value);
+  return origin + ": " + Message(Acctl::tr("'%1' is not possible"), value);
 }
 
 /// Lines like "jobs = 32"; '#' begins a comment.
@@ -49,8 +51,8 @@ std::string TakeFile(Arguments& arguments, const QString& path, const QByteArray
     if (isFolder && !value.starts_with('/')) {  // else it would be another one in each folder
       return place + name + ": " + Message(Acctl::tr("'%1' must begin with / or ~/"), value);
     }
-    const auto error = Take(arguments, *option, value);
-    if (!error.empty()) return place + name + ": " + error;
+    std::string error = Take(arguments, *option, value, place + name);
+    if (!error.empty()) return error;
   }
   return {};
 }
@@ -74,7 +76,6 @@ void TakeOwnSettings(Arguments& arguments) {
     const std::string variable = VariableOf(option);
     const char* const value = std::getenv(variable.c_str());
     if (value == nullptr || *value == '\0') continue;
-    const std::string error = Take(arguments, option, value);
-    if (!error.empty()) arguments.error = variable + ": " + error;
+    arguments.error = Take(arguments, option, value, variable);
   }
 }

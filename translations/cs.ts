@@ -1057,6 +1057,14 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <source>accepted, but not confirmed: %1</source>
         <translation>přijato, ale nepotvrzeno: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>„%1“ musí začínat / nebo ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>čeká se na jiný program, který mění %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3150,6 +3158,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Toto nebylo možné provést; nic se nezměnilo.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>jiný program mění %1; zkuste to znovu</translation>
     </message>
 </context>
 <context>

@@ -1038,6 +1038,14 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <source>accepted, but not confirmed: %1</source>
         <translation>angenommen, aber nicht bestätigt: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>„%1“ muss mit / oder ~/ beginnen</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>wartet auf ein anderes Programm, das %1 ändert</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Das war nicht möglich; nichts wurde geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>ein anderes Programm ändert gerade %1; bitte noch einmal versuchen</translation>
     </message>
 </context>
 <context>

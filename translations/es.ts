@@ -1038,6 +1038,14 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <source>accepted, but not confirmed: %1</source>
         <translation>aceptado, pero sin confirmar: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>«%1» debe empezar por / o ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>esperando a otro programa que está cambiando %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ un signo menos delante quita una etiqueta:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>No se pudo hacer; no se cambió nada.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>otro programa está cambiando %1; inténtelo de nuevo</translation>
     </message>
 </context>
 <context>

@@ -1038,6 +1038,14 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <source>accepted, but not confirmed: %1</source>
         <translation>hyväksytty, mutta ei vahvistettu: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>”%1” on aloitettava merkeillä / tai ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>odotetaan toista ohjelmaa, joka muuttaa tiedostoa %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ miinus edessä poistaa tunnisteen:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Tätä ei voitu tehdä; mitään ei muutettu.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>toinen ohjelma muuttaa tiedostoa %1; yritä uudelleen</translation>
     </message>
 </context>
 <context>

@@ -1038,6 +1038,14 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <source>accepted, but not confirmed: %1</source>
         <translation>accepté, mais non confirmé&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>«&#xa0;%1&#xa0;» doit commencer par / ou ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>attente d’un autre programme qui modifie %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Cela n’a pas été possible&#xa0;; rien n’a été modifié.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>un autre programme modifie %1&#xa0;; réessayez</translation>
     </message>
 </context>
 <context>

@@ -1038,6 +1038,14 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <source>accepted, but not confirmed: %1</source>
         <translation>התקבלה, אך לא אושרה: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>&quot;%1&quot; חייב להתחיל ב־/ או ב־~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>ממתין לתוכנית אחרת שמשנה את %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>לא ניתן היה לבצע זאת; דבר לא השתנה.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>תוכנית אחרת משנה את %1; יש לנסות שוב</translation>
     </message>
 </context>
 <context>

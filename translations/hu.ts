@@ -1019,6 +1019,14 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <source>accepted, but not confirmed: %1</source>
         <translation>elfogadva, de nincs megerősítve: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>„%1” elején / vagy ~/ kell, hogy álljon</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>várakozás egy másik programra, amely ezt módosítja: %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3070,6 +3078,13 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Ez nem sikerült; semmi sem módosult.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>egy másik program éppen módosítja: %1; próbálja újra</translation>
     </message>
 </context>
 <context>

@@ -1038,6 +1038,14 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <source>accepted, but not confirmed: %1</source>
         <translation>accettata, ma non confermata: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>«%1» deve iniziare con / o ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>in attesa di un altro programma che sta cambiando %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ un segno meno davanti toglie un’etichetta:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Non è stato possibile; nulla è stato cambiato.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>un altro programma sta cambiando %1; riprovare</translation>
     </message>
 </context>
 <context>

@@ -1019,6 +1019,14 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <source>accepted, but not confirmed: %1</source>
         <translation>受け付けられましたが、確認できません: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>「%1」は / または ~/ で始めてください</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>別のプログラムによる %1 の変更が終わるのを待っています</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3070,6 +3078,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>この操作は実行できませんでした。何も変更されていません。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>別のプログラムが %1 を変更中です。もう一度実行してください</translation>
     </message>
 </context>
 <context>

@@ -1019,6 +1019,14 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <source>accepted, but not confirmed: %1</source>
         <translation>승인되었지만 확인되지 않음: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>‘%1’은(는) / 또는 ~/로 시작해야 합니다</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>다른 프로그램이 %1을(를) 변경하고 있어 기다리는 중입니다</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3070,6 +3078,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>이 작업을 수행할 수 없습니다. 아무것도 변경되지 않았습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>다른 프로그램이 %1을(를) 변경하고 있습니다. 다시 시도하십시오</translation>
     </message>
 </context>
 <context>

@@ -1038,6 +1038,14 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <source>accepted, but not confirmed: %1</source>
         <translation>geaccepteerd, maar niet bevestigd: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>‘%1’ moet met / of ~/ beginnen</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>wacht op een ander programma dat %1 wijzigt</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ een minteken ervoor neemt een label weg:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Dit was niet mogelijk; er is niets gewijzigd.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>een ander programma wijzigt %1; probeer het opnieuw</translation>
     </message>
 </context>
 <context>

@@ -1057,6 +1057,14 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <source>accepted, but not confirmed: %1</source>
         <translation>przyjęto, ale nie potwierdzono: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>„%1” musi zaczynać się od / lub ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>oczekiwanie na inny program, który zmienia %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3150,6 +3158,13 @@ minus przed tagiem go usuwa:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Nie udało się tego wykonać; niczego nie zmieniono.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>inny program zmienia %1; spróbuj ponownie</translation>
     </message>
 </context>
 <context>

@@ -1038,6 +1038,14 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <source>accepted, but not confirmed: %1</source>
         <translation>aceito, mas não confirmado: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>“%1” deve começar com / ou ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>aguardando outro programa que está alterando %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3110,6 +3118,13 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Não foi possível; nada foi alterado.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>outro programa está alterando %1; tente novamente</translation>
     </message>
 </context>
 <context>

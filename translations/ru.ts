@@ -1057,6 +1057,14 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <source>accepted, but not confirmed: %1</source>
         <translation>принято, но не подтверждено: %1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>«%1» должно начинаться с / или ~/</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>ожидание другой программы, которая изменяет %1</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3150,6 +3158,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>Не удалось выполнить; ничего не изменено.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>другая программа изменяет %1; повторите попытку</translation>
     </message>
 </context>
 <context>

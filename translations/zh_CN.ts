@@ -1019,6 +1019,14 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <source>accepted, but not confirmed: %1</source>
         <translation>已接受，但未确认：%1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>“%1”必须以 / 或 ~/ 开头</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>正在等待另一个程序完成对 %1 的更改</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3070,6 +3078,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>操作未能完成，未作任何更改。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>另一个程序正在更改 %1；请再试一次</translation>
     </message>
 </context>
 <context>

@@ -1019,6 +1019,14 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <source>accepted, but not confirmed: %1</source>
         <translation>已接受，但未確認：%1</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; must begin with / or ~/</source>
+        <translation>「%1」必須以 / 或 ~/ 開頭</translation>
+    </message>
+    <message>
+        <source>waiting for another program that is changing %1</source>
+        <translation>正在等待另一個程式完成對 %1 的變更</translation>
+    </message>
 </context>
 <context>
     <name>AlertList</name>
@@ -3070,6 +3078,13 @@ a minus in front takes a tag away:</source>
     <message>
         <source>This could not be done; nothing was changed.</source>
         <translation>無法完成此動作；未做任何變更。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileLock</name>
+    <message>
+        <source>another program is changing %1; try again</source>
+        <translation>另一個程式正在變更 %1；請再試一次</translation>
     </message>
 </context>
 <context>

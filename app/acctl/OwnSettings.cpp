@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -21,9 +22,11 @@ std::string VariableOf(const OptionForm& option) {
   return name;
 }
 
-std::string Take(Arguments& arguments, const OptionForm& option, const std::string& value) {
+/// `origin` is where the value comes from.
+std::string Take(Arguments& arguments, const OptionForm& option, const std::string& value,
+                 const std::string& origin) {
   if (option.take(arguments, value)) return {};
-  return Message(Acctl::tr("'%1' is not possible"), value);
+  return origin + ": " + Message(Acctl::tr("'%1' is not possible"), value);
 }
 
 /// Lines like "jobs = 32"; '#' begins a comment.
@@ -41,8 +44,15 @@ std::string TakeFile(Arguments& arguments, const QString& path, const QByteArray
     if (option == nullptr || !option->isDefault) {
       return place + Message(Acctl::tr("there is no setting %1"), name);
     }
-    const auto error = Take(arguments, *option, line.mid(equals + 1).trimmed().toStdString());
-    if (!error.empty()) return place + name + ": " + error;
+    std::string value = line.mid(equals + 1).trimmed().toStdString();
+    const bool isFolder = option->value == "DIR";
+    const bool isPath = isFolder || option->value == "FILE";
+    if (isPath && value.starts_with("~/")) value.replace(0, 1, QDir::homePath().toStdString());
+    if (isFolder && !value.starts_with('/')) {  // else it would be another one in each folder
+      return place + name + ": " + Message(Acctl::tr("'%1' must begin with / or ~/"), value);
+    }
+    std::string error = Take(arguments, *option, value, place + name);
+    if (!error.empty()) return error;
   }
   return {};
 }
@@ -66,7 +76,6 @@ void TakeOwnSettings(Arguments& arguments) {
     const std::string variable = VariableOf(option);
     const char* const value = std::getenv(variable.c_str());
     if (value == nullptr || *value == '\0') continue;
-    const std::string error = Take(arguments, option, value);
-    if (!error.empty()) arguments.error = variable + ": " + error;
+    arguments.error = Take(arguments, option, value, variable);
   }
 }

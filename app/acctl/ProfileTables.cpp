@@ -1,5 +1,9 @@
 #include "app/acctl/ProfileTables.h"
 
+#include <algorithm>
+#include <chrono>
+#include <optional>
+
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -46,10 +50,9 @@ ProfileFileText ReadOrBegin(const std::string& path) {
   return file;
 }
 
-int FailWrong(const Arguments& arguments, const QString& error) {
-  return ReportError(
-      arguments,
-      {.code = ProblemCode::WrongUse, .text = error.toStdString(), .exitCode = ExitCode::WrongUse});
+Problem WrongUse(const QString& error) {
+  return {
+      .code = ProblemCode::WrongUse, .text = error.toStdString(), .exitCode = ExitCode::WrongUse};
 }
 
 QJsonObject Describe(const FoundProjector& found) {
@@ -66,11 +69,45 @@ QJsonObject Describe(const FoundProjector& found) {
   return json;
 }
 
-/// `file` is what the profile file has now.
-QString AddFound(const Arguments& arguments, const ProfileFileText& file,
-                 const std::vector<FoundProjector>& found, const std::string& password,
-                 QJsonObject& result, std::string& text) {
+Problem FileProblem(const QString& error) { return {ProblemCode::File, error.toStdString()}; }
+
+Problem Interruption() {
+  Problem problem = InterruptionOf();
+  problem.exitCode = ExitCode::Signalled + ReceivedSignal();
+  return problem;
+}
+
+/// Waits for other programs that change the file, and says so if that takes long. Returns one line
+/// if that does not end, or not before a signal.
+QString TakeLock(ProfileLock& lock, const std::string& file) {
+  constexpr int kQuietly = 3;
+  constexpr int kLongest = 60;
+  for (int seconds = 1;; ++seconds) {
+    QString error = lock.Take(std::chrono::seconds(1));
+    if (error.isEmpty() || seconds == kLongest || ReceivedSignal() != 0) return error;
+    if (seconds == kQuietly) {
+      Complain(Message(Acctl::tr("waiting for another program that is changing %1"), file));
+    }
+  }
+}
+
+/// Adds what was found to the profile file.
+std::optional<Problem> AddFound(const Arguments& arguments,
+                                const std::vector<FoundProjector>& found,
+                                const std::string& password, QJsonObject& result,
+                                std::string& text) {
+  const QString path = Wide(arguments.file);
+  ProfileLock lock(path);
+  if (const QString error = TakeLock(lock, arguments.file); !error.isEmpty()) {
+    return ReceivedSignal() != 0 ? Interruption() : FileProblem(error);
+  }
+  const ProfileFileText file = ReadOrBegin(arguments.file);  // others may have changed it
+  if (!file.error.isEmpty()) return WrongUse(file.error);
   const TakenProjectors taken = TakeFound(file.text, found, password);
+  if (taken.text != file.text) {
+    const QString error = WriteProfileText(path, taken.text);
+    if (!error.isEmpty()) return FileProblem(error);
+  }
   result["added"] = QJsonArray::fromStringList(taken.added);
   result["moved"] = QJsonArray::fromStringList(taken.moved);
   //: Numbers of projectors: new ones, those with a new address, and those that the file has
@@ -78,7 +115,7 @@ QString AddFound(const Arguments& arguments, const ProfileFileText& file,
   text += Message(Acctl::tr("%1 added, %2 moved, %3 known"), taken.added.size(), taken.moved.size(),
                   taken.known) +
           '\n';
-  return taken.text == file.text ? QString() : WriteProfileText(Wide(arguments.file), taken.text);
+  return std::nullopt;
 }
 
 }  // namespace
@@ -93,13 +130,15 @@ int Find(const Arguments& arguments, const std::string& password) {
     QStringList words;
     for (const std::string& word : arguments.words) words += Wide(word);
     SearchRange range = ParseSearchRange(words.join(' '));
-    if (!range.error.isEmpty()) return FailWrong(arguments, range.error);
+    if (!range.error.isEmpty()) return ReportError(arguments, WrongUse(range.error));
     options.addresses = std::move(range.addresses);
   }
   if (arguments.connecting.port != 0) options.port = arguments.connecting.port;
   if (!arguments.file.empty()) {
     const ProfileFileText file = ReadOrBegin(arguments.file);
-    if (!file.error.isEmpty()) return FailWrong(arguments, file.error);
+    if (!file.error.isEmpty()) return ReportError(arguments, WrongUse(file.error));
+    const QString error = CheckWholeFile(Wide(arguments.file));
+    if (!error.isEmpty()) return ReportError(arguments, FileProblem(error));
     options.hostNames =
         HostNamesOf(ParseProfileList(file.text, Wide(arguments.file)).profiles, options.port);
   }
@@ -129,51 +168,43 @@ int Find(const Arguments& arguments, const std::string& password) {
   const auto fail = [&](const Problem& problem) {
     Complain(problem.text);
     errors.append(Describe(problem));
-    code = problem.exitCode;
+    code = std::max(code, problem.exitCode);
   };
   if (!search.Problem().isEmpty()) fail({ProblemCode::Internal, search.Problem().toStdString()});
-  const int signal = ReceivedSignal();
-  if (signal != 0) {
-    Problem problem = InterruptionOf();
-    problem.exitCode = ExitCode::Signalled + signal;
-    fail(problem);
+  std::string text = table.Text();
+  if (ReceivedSignal() != 0) {
+    // What is missing may have the serial number of another, which is then no identity.
+    fail(Interruption());
+  } else if (!arguments.file.empty()) {
+    const auto problem = AddFound(arguments, found, password, result, text);
+    if (problem) fail(*problem);
   }
   if (!errors.isEmpty()) result["errors"] = errors;
-  std::string text = table.Text();
-  // What is missing may have the serial number of another, which is then no identity.
-  if (!arguments.file.empty() && signal == 0) {
-    const ProfileLock lock(Wide(arguments.file));
-    const ProfileFileText file = ReadOrBegin(arguments.file);  // others may have changed it
-    if (!file.error.isEmpty()) return FailWrong(arguments, file.error);
-    const QString error = AddFound(arguments, file, found, password, result, text);
-    if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
-  }
   return Finish(arguments, text, result, code);
 }
 
 int Import(const Arguments& arguments) {
   constexpr qsizetype kMost = qsizetype{64} << 20;
   if (arguments.profiles.empty()) {
-    return ReportError(arguments,
-                       {.code = ProblemCode::WrongUse,
-                        .text = Message(Acctl::tr("name the profile file with --profiles")),
-                        .exitCode = ExitCode::WrongUse});
+    return ReportError(arguments, WrongUse(Acctl::tr("name the profile file with --profiles")));
   }
   const FileBytes csv = ReadToEnd(Wide(arguments.file), kMost);  // perhaps from a slow pipe
-  const ProfileLock lock(Wide(arguments.profiles));
+  ProfileLock lock(Wide(arguments.profiles));
+  const QString busy = TakeLock(lock, arguments.profiles);
+  if (!busy.isEmpty()) return ReportError(arguments, FileProblem(busy));
   WatchSignals();
   const ProfileFileText file = ReadOrBegin(arguments.profiles);
-  if (!file.error.isEmpty()) return FailWrong(arguments, file.error);
+  if (!file.error.isEmpty()) return ReportError(arguments, WrongUse(file.error));
   if (!csv.error.isEmpty()) {
     const QString error = Acctl::tr("cannot read %1: %2").arg(Wide(arguments.file), csv.error);
-    return ReportError(arguments, {ProblemCode::File, error.toStdString()});
+    return ReportError(arguments, FileProblem(error));
   }
   const CsvImport import = ImportCsv(file.text, csv.bytes);
   QString error = import.error;
   if (error.isEmpty() && import.text != file.text && !arguments.dryRun) {
     error = WriteProfileText(Wide(arguments.profiles), import.text);
   }
-  if (!error.isEmpty()) return ReportError(arguments, {ProblemCode::File, error.toStdString()});
+  if (!error.isEmpty()) return ReportError(arguments, FileProblem(error));
   QJsonArray faults;
   QJsonArray errors;
   for (const CsvFault& fault : import.faults) {

@@ -119,6 +119,7 @@ class ProgramRun {
 std::string ProgramRun::PrepareUndo() {
   std::string error = ChooseRun(arguments_, undone_);
   if (!error.empty()) return error;
+  if (!arguments_.dryRun) KeepForNow(undone_);
   // The file contains the projector's address, and the options on which its values depend.
   if (arguments_.connecting.address.empty()) arguments_.connecting.address = undone_.address;
   recorded_.address = arguments_.connecting.address;

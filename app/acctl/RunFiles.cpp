@@ -34,13 +34,18 @@ std::string CheckUndo(const Arguments& arguments, const Snapshot& file,
                  file.projector, (*other)->name);
 }
 
-/// What is wrong with a file that could not be read as one of settings. An undo file of a whole run
-/// is for another command.
+/// Whether a file that could not be read as one of settings is the undo file of a whole run.
+bool IsOfWholeRun(const SettingsFileContents& file) {
+  if (file.name.isEmpty() || !QFileInfo(file.name).isFile()) return false;
+  const RecordedRun run = ReadRun(file.name);
+  return run.error.isEmpty() && !run.undo.empty();
+}
+
+/// What is wrong with a file that could not be read as one of settings. An undo file is for another
+/// command.
 std::string ErrorOf(const SettingsFileContents& file) {
   std::string error = file.error.toStdString();
-  if (file.name.isEmpty() || !QFileInfo(file.name).isFile()) return error;
-  const RecordedRun run = ReadRun(file.name);
-  if (!run.error.isEmpty() || run.undo.empty()) return error;
+  if (!IsOfWholeRun(file)) return error;
   return error + "; " + Message(Acctl::tr("use: %1"), "acctl undo " + file.name.toStdString());
 }
 
@@ -64,7 +69,10 @@ std::string LoadFolder(const Arguments& arguments, Projectors& projectors,
   const QDir folder(Wide(arguments.file));
   for (const QString& name : folder.entryList({"*.json"}, QDir::Files, QDir::Name)) {
     SettingsFileContents contents = ReadSettingsFile(folder.filePath(name));
-    if (!contents.error.isEmpty()) return ErrorOf(contents);
+    if (!contents.error.isEmpty()) {
+      if (IsOfWholeRun(contents)) continue;  // beside the files that were applied
+      return contents.error.toStdString();
+    }
     const std::string projector = contents.snapshot.projector;
     const std::string path = contents.name.toStdString();
     if (FindProfile(profiles, projector) == nullptr) {
@@ -120,6 +128,22 @@ std::string PathIn(const QDir& folder, const std::string& projector,
 QString ObstacleOf(const RecordedRun& run) {
   const bool isEmpty = run.error.isEmpty() && run.undo.empty();
   return isEmpty ? Acctl::tr("%1: there is nothing to undo").arg(run.path) : run.error;
+}
+
+/// Empty for a simulated projector.
+std::string ShownPlaceOf(const FleetProfile& profile) {
+  if (profile.link == ProjectorLink::Simulated) return {};
+  const auto [host, port] = PlaceOf(TargetOf(profile));
+  const bool isIpv6 = host.find(':') != std::string::npos;
+  const std::string place = isIpv6 ? '[' + host + ']' : host;
+  return port != 0 ? place + ':' + std::to_string(port) : place;
+}
+
+/// What the run knows a projector by: its name, if it has got an identity since.
+std::string IdIn(const RecordedRun& run, const FleetProfile& profile) {
+  const std::string id = FleetIdOf(profile);
+  return run.undo.contains(id) ? id
+                               : FleetIdOf({.name = profile.name, .model = {}, .connection = {}});
 }
 
 }  // namespace
@@ -198,7 +222,7 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
              Projectors& projectors, SettingsFiles& files, std::vector<Problem>& left) {
   std::set<std::string> known;
   for (const FleetProfile& profile : profiles) {
-    const auto found = run.undo.find(FleetIdOf(profile));
+    const auto found = run.undo.find(IdIn(run, profile));
     if (found == run.undo.end()) continue;
     known.insert(found->first);
     projectors.push_back(&profile);
@@ -213,26 +237,20 @@ void TakeRun(const RecordedRun& run, const std::vector<FleetProfile>& profiles,
 }
 
 UndoId UndoIdOf(const FleetProfile& profile) {
-  UndoId known{FleetIdOf(profile)};
-  if (!profile.identity.empty() || profile.link == ProjectorLink::Simulated) return known;
-  const auto [host, port] = PlaceOf(TargetOf(profile));
-  const bool isIpv6 = host.find(':') != std::string::npos;
-  known.place = isIpv6 ? '[' + host + ']' : host;
-  if (port != 0) known.place += ':' + std::to_string(port);
-  return known;
+  return {FleetIdOf(profile), profile.identity.empty() ? ShownPlaceOf(profile) : std::string()};
 }
 
 void LeaveOutOthers(const RecordedRun& run, Projectors& projectors, std::vector<Problem>& left) {
   std::erase_if(projectors, [&](const FleetProfile* profile) {
-    const UndoId present = UndoIdOf(*profile);
-    const auto changed = run.places.find(present.id);
-    if (changed == run.places.end() || changed->second == present.place) return false;
+    const auto changed = run.places.find(IdIn(run, *profile));
+    const std::string present = ShownPlaceOf(*profile);
+    if (changed == run.places.end() || changed->second == present) return false;
     const auto named = [profile](const std::string& place) {
       return place.empty() ? ShownName(profile->name, true) : profile->name + " (" + place + ')';
     };
     left.push_back({ProblemCode::NoSuchProjector,
                     Message(Acctl::tr("%1: undoes a change of %2; --force applies it to %3"),
-                            run.path, named(changed->second), named(present.place))});
+                            run.path, named(changed->second), named(present))});
     return true;
   });
 }

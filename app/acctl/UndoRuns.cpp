@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -65,6 +66,10 @@ std::vector<RecordedRun> ListRuns(const QString& folder) {
   return runs;
 }
 
+void KeepForNow(const RecordedRun& run) {
+  if (!run.isOfJob) utimensat(AT_FDCWD, QFile::encodeName(run.path).constData(), nullptr, 0);
+}
+
 QString MarkUndone(const RecordedRun& run) {
   if (run.isOfJob) return {};
   const int file = open(QFile::encodeName(run.path).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
@@ -75,7 +80,9 @@ QString MarkUndone(const RecordedRun& run) {
 }
 
 QString UndoFolder() {
-  const QString state = qEnvironmentVariable("XDG_STATE_HOME", QDir::homePath() + "/.local/state");
+  QString state = qEnvironmentVariable("XDG_STATE_HOME");
+  if (!state.startsWith(QLatin1Char('/')))
+    state = QDir::homePath() + QStringLiteral("/.local/state");
   return state + QStringLiteral("/advanced-control/undo");
 }
 
@@ -101,7 +108,7 @@ void UndoRecorder::KeepRun() {
 
 bool UndoRecorder::Create(const QByteArray& line) {
   QDir().mkpath(folder_);
-  RemoveOlder(folder_, days_);
+  if (!run_.isUndo) RemoveOlder(folder_, days_);
   const QString stamp = QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss.zzz'Z'");
   const NewFile made =
       WriteNewFile(QDir(folder_).filePath(stamp + kSuffix), HeaderLine(run_) + line);

@@ -12,6 +12,9 @@
 RecordedRun ReadRun(const QString& path);
 /// The runs of a folder, the oldest first. Those whose files cannot be read have an `error`.
 std::vector<RecordedRun> ListRuns(const QString& folder);
+/// Lets the days after which other runs remove the file of a run begin anew, as it is going to be
+/// undone, perhaps not completely. A file of the host application is left as it is.
+void KeepForNow(const RecordedRun& run);
 /// Records in its file that all of a run was undone. A file of the host application is left as it
 /// is. One line that says what is wrong, or empty.
 QString MarkUndone(const RecordedRun& run);
@@ -24,7 +27,8 @@ QString UndoFolder();
 class UndoRecorder {
  public:
   /// `run` gives time, command and address. The file is made when there is something to keep; then
-  /// files older than `days` are removed, unless that is 0.
+  /// files older than `days` are removed, unless that is 0 or the run is an undo, which may be of
+  /// one of them.
   UndoRecorder(QString folder, int days, RecordedRun run);
   ~UndoRecorder();
   UndoRecorder(const UndoRecorder&) = delete;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -24,6 +25,7 @@
 #include "app/simulator/ServedProjectors.h"
 #include "app/simulator/fleet/FleetService.h"
 #include "fleet/ProfileFile.h"
+#include "fleet/ProfileLock.h"
 #include "i18n/SystemLanguage.h"
 
 namespace {
@@ -78,15 +80,23 @@ QString RefuseToReplace(const Arguments& arguments) {
   return Program::tr("--write-profiles: %1 exists, and this program has not written it").arg(file);
 }
 
+// Writes the file of --write-profiles, unless another program has put its own work there meanwhile.
+// Returns one line with the fault; empty on success.
+template <typename Projectors>
+QString WriteProfiles(const Projectors& projectors, const Arguments& arguments) {
+  ProfileLock lock(arguments.writeProfiles);
+  if (QString error = lock.Take(std::chrono::seconds(5)); !error.isEmpty()) return error;
+  if (QString error = RefuseToReplace(arguments); !error.isEmpty()) return error;
+  QFile original(ProfileFile(arguments));
+  if (!original.open(QIODevice::ReadOnly)) return original.errorString();
+  return WriteProfileText(arguments.writeProfiles, projectors.Profiles(original.readAll()));
+}
+
 // Writes the profiles, prints the addresses, and serves until a signal ends the program.
 template <typename Projectors>
 int Serve(Projectors& projectors, const Arguments& arguments, int endingSignals) {
   if (!arguments.writeProfiles.isEmpty()) {
-    QFile original(ProfileFile(arguments));
-    const bool read = original.open(QIODevice::ReadOnly);
-    const QString error =
-        read ? WriteProfileText(arguments.writeProfiles, projectors.Profiles(original.readAll()))
-             : original.errorString();
+    const QString error = WriteProfiles(projectors, arguments);
     if (!error.isEmpty()) return Fail(error);
   }
   std::fputs(projectors.Addresses().c_str(), stdout);

@@ -1,12 +1,12 @@
 #include "fleet/ProfileLock.h"
 
 #include <cerrno>
-#include <chrono>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <thread>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -24,18 +24,24 @@ int OpenFolderOf(const QString& fileName) {
 
 }  // namespace
 
-ProfileLock::ProfileLock(const QString& fileName) : folder_(OpenFolderOf(fileName)) {
-  constexpr std::chrono::seconds kLongest{5};
-  constexpr std::chrono::milliseconds kPause{20};
-  const auto end = std::chrono::steady_clock::now() + kLongest;
-  while (flock(folder_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
-         std::chrono::steady_clock::now() < end) {
-    std::this_thread::sleep_for(kPause);
-  }
-}
+ProfileLock::ProfileLock(const QString& fileName)
+    : fileName_(fileName), folder_(OpenFolderOf(fileName)) {}
 
 ProfileLock::~ProfileLock() {
   if (folder_ >= 0) close(folder_);
+}
+
+QString ProfileLock::Take(std::chrono::milliseconds longest) {
+  constexpr std::chrono::milliseconds kPause{20};
+  const auto end = std::chrono::steady_clock::now() + longest;
+  while (flock(folder_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    if (std::chrono::steady_clock::now() >= end) {
+      return QCoreApplication::translate("ProfileLock", "another program is changing %1; try again")
+          .arg(fileName_);
+    }
+    std::this_thread::sleep_for(kPause);
+  }
+  return {};
 }
 
 }  // namespace AdvancedControl

@@ -24,8 +24,11 @@ namespace AdvancedControl {
 namespace {
 
 constexpr mode_t kPermissions = 07777;
+constexpr mode_t kWithoutIds = 0777;  // Programs do not run as the owner or the group.
 constexpr mode_t kNewFile = 0666;
 constexpr mode_t kOwnerOnly = 0600;
+constexpr auto kSameUser = static_cast<uid_t>(-1);
+constexpr auto kSameGroup = static_cast<gid_t>(-1);
 
 /// An open file, closed with this.
 class Descriptor {
@@ -72,17 +75,42 @@ bool SyncFolderOf(const QString& path) {
   return Sync(folder.Number());
 }
 
+/// Whose a file is, and who may use it.
+struct Ownership {
+  uid_t user;
+  gid_t group;
+  mode_t permissions;
+};
+
+/// Gives a new file an owner, a group and permissions, or else such as allow nobody more: in a
+/// group that is not the wanted one, and among all others, are members of the wanted group and such
+/// as are not, so all of them may only do what both might.
+bool Give(int file, const Ownership& wanted) {
+  // Only root may give files away, and others may only give them to groups of their own.
+  [[maybe_unused]] const bool isGiven =
+      fchown(file, wanted.user, wanted.group) == 0 || fchown(file, kSameUser, wanted.group) == 0;
+  struct stat given {};
+  if (fstat(file, &given) != 0) return false;
+  mode_t permissions = wanted.permissions;
+  if (given.st_uid != wanted.user || given.st_gid != wanted.group) permissions &= kWithoutIds;
+  if (given.st_gid != wanted.group) {
+    const mode_t common = permissions >> 3 & permissions & S_IRWXO;
+    permissions = (permissions & S_IRWXU) | common << 3 | common;
+  }
+  return fchmod(file, permissions) == 0;
+}
+
 /// A file without a name of its own yet, beside the place where it is to appear. Removed with this
 /// if it does not.
 class StagedFile {
  public:
-  /// With these permissions, or those of a new file.
-  StagedFile(const QString& place, std::optional<mode_t> permissions)
+  /// As this, or as a new file.
+  StagedFile(const QString& place, const std::optional<Ownership>& wanted)
       : path_(QFileInfo(place).dir().filePath(
             QString(kUnfinishedFiles)
                 .replace('*', QString::number(QRandomGenerator::system()->generate64(), 16)))),
-        file_(Open(path_, O_WRONLY | O_CREAT | O_EXCL, permissions ? kOwnerOnly : kNewFile)),
-        isThere_(file_.IsOpen() && (!permissions || fchmod(file_.Number(), *permissions) == 0)) {}
+        file_(Open(path_, O_WRONLY | O_CREAT | O_EXCL, wanted ? kOwnerOnly : kNewFile)),
+        isThere_(file_.IsOpen() && (!wanted || Give(file_.Number(), *wanted))) {}
   ~StagedFile() {
     if (file_.IsOpen() && !isNamed_) unlink(Encoded().constData());
   }
@@ -125,11 +153,11 @@ bool IsDevice(const QString& path) {
   return target.exists() && !target.isFile() && !target.isDir();
 }
 
-/// Where the file of a path lies, and with which permissions; behind links, also behind those that
-/// lead to no file yet.
+/// Where the file of a path lies, and whose it is; behind links, also behind those that lead to no
+/// file yet.
 struct Place {
   QString path;
-  std::optional<mode_t> permissions{};  ///< Of the file that is there.
+  std::optional<Ownership> present{};  ///< Of the file that is there.
 };
 
 /// Nothing where no file can be.
@@ -139,7 +167,8 @@ std::optional<Place> PlaceOf(const QString& path) {
   if (stat(name.constData(), &status) == 0) {
     if (S_ISDIR(status.st_mode)) errno = EISDIR;
     if (S_ISDIR(status.st_mode) || access(name.constData(), W_OK) != 0) return std::nullopt;
-    return Place{QFileInfo(path).canonicalFilePath(), status.st_mode & kPermissions};
+    return Place{QFileInfo(path).canonicalFilePath(),
+                 Ownership{status.st_uid, status.st_gid, status.st_mode & kPermissions}};
   }
   if (errno != ENOENT) return std::nullopt;  // links that lead in a circle, among others
   constexpr int kMostLinks = 40;             // as the system follows
@@ -175,18 +204,20 @@ QString WriteWholeFile(const QString& path, const QByteArray& bytes, FileAccess 
         device.IsOpen() && WriteAll(device.Number(), bytes) && Sync(device.Number());
     return isWritten ? QString() : CannotWrite(path);
   }
-  const auto place = PlaceOf(path);
+  auto place = PlaceOf(path);
   if (!place) return CannotWrite(path);
-  StagedFile file(place->path,
-                  access == FileAccess::OwnerOnly ? std::optional(kOwnerOnly) : place->permissions);
+  if (access == FileAccess::OwnerOnly) {
+    if (!place->present) place->present = Ownership{kSameUser, kSameGroup, 0};
+    place->present->permissions = kOwnerOnly;
+  }
+  StagedFile file(place->path, place->present);
   return file.Write(bytes) && file.Replace(place->path) ? QString() : CannotWrite(path);
 }
 
 QString CheckWholeFile(const QString& path) {
   if (IsDevice(path)) return {};
   const auto place = PlaceOf(path);
-  return place && StagedFile(place->path, place->permissions).IsThere() ? QString()
-                                                                        : CannotWrite(path);
+  return place && StagedFile(place->path, place->present).IsThere() ? QString() : CannotWrite(path);
 }
 
 NewFile WriteNewFile(const QString& path, const QByteArray& bytes) {

@@ -14,10 +14,11 @@ enum class FileAccess {
   OwnerOnly,  ///< Only the owner, for passwords, whatever the present file's permissions are.
 };
 
-/// Writes a file completely, or leaves the present one unchanged. Follows links. A device or a pipe
-/// is written to and not replaced. Returns when the data is on the disk; if that fails, it is an
-/// error even if the file has already been replaced. Returns one line with the fault; empty on
-/// success.
+/// Writes a file completely, or leaves the present one unchanged. It keeps its owner and its group
+/// as far as this process may give them, and is readable by nobody else than before. Follows links.
+/// A device or a pipe is written to and not replaced. Returns when the data is on the disk; if that
+/// fails, it is an error even if the file has already been replaced. Returns one line with the
+/// fault; empty on success.
 PROJECTOR_FLEET_EXPORT QString WriteWholeFile(const QString& path, const QByteArray& bytes,
                                               FileAccess access = FileAccess::Kept);
 

@@ -23,46 +23,6 @@ class LookingUp(Building):
             self.check(words, 0, output)
         self.check(["explain", "smell"], 2, errors="no model has such a setting")
 
-    def test_profiles_come_and_go_as_tables(self):
-        csv = self.acctl("export", "@hall").stdout
-        self.assertIn("Lecture hall", csv)
-        (self.folder / "new.csv").write_text("name,address,tags,IP,Bought\nA,192.0.2.7,x,h\nB,nonsense:nonsense:1,y\n")
-        self.check(["--profiles", "new.json", "import", "new.csv"], 1, "^1 added, 0 known, 1 wrong",
-                   "new.csv:3: .*\nacctl: new.csv: columns not used: IP, Bought\n")
-        faults = self.json("--profiles", "new.json", "import", "new.csv", code=1)["errors"]
-        self.assertEqual([(fault["code"], fault["text"][:9]) for fault in faults], [("wrong-file", "new.csv:3")])
-        self.check(["--profiles", "new.json", "list", "@x", "--brief"], 0, "^A\n$")
-        # Each of them is kept when several change the file at once.
-        table = "(sleep 0.5; printf 'name,address\\nR%s,192.0.2.%s\\n' $i $i)"
-        self.run_program("bash", "-c", f"for i in {{1..9}}; do {table} | acctl --profiles new.json import - & done; wait")
-        self.check(["--profiles", "new.json", "list", "--brief"], 0, "^A\n(R\\d\n){9}$")
-        run = self.acctl("import", "new.csv", ACCTL_PROFILES="")
-        self.assertEqual((run.returncode, run.stderr), (2, "acctl: name the profile file with --profiles\n"))
-        port = str(self.pjlink[0]["connection"]["network"]["port"])
-        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "1 added, 0 moved, 0 known")
-        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
-        # It is switched though nothing is known of its model.
-        bare = ["--profiles", "found.json"]
-        self.check([*bare, "save", "*", "bare.json"], 0, " 4 settings saved ")
-        self.check([*bare, "set", "*", "power=on", "input=rgb2", "blank=on", "mute=on", "freeze=on"], 0, "RGB1 +->  RGB2$")
-        self.check([*bare, "diff", "*", "bare.json"], 0, " 4 different$")
-        self.check([*bare, "undo"], 0, " 4 changed$")
-        self.check([*bare, "diff", "*", "bare.json"], 0, " 4 already so$")
-        self.check([*bare, "set", "*", "contrast=1"], 2, errors="contrast: this model has no such setting$")
-        for shown in (["settings", "*", "--for", "set"], ["explain", "input"], ["complete", "set", "*", "input="]):
-            self.check([*bare, *shown], 0, "RGB2|rgb2")
-        # It has the same address with a host's name.
-        found = (self.folder / "found.json").read_text()
-        (self.folder / "found.json").write_text(re.sub('"identity": "[^"]*", ', "", found).replace("127.0.0.1", "localhost"))
-        self.check(["find", "127.0.0.1", "--port", port, "--add", "found.json"], 0, "0 added, 0 moved, 1 known")
-        for text in ("{nonsense", "[]"):
-            (self.folder / "wrong.json").write_text(text)
-            for words in (["list"], ["import", "new.csv"], ["find", "127.0.0.1", "--add", "wrong.json"]):
-                self.check(["--profiles", "wrong.json", *words], 2, errors="^acctl: wrong.json:1")
-        waits = ["flock", ".", "timeout", "-s", "KILL", "1"]  # as somebody else is changing a file
-        self.run_program(*waits, "acctl", "find", "127.0.0.1", "--port", port, "--add", "late.json")
-        self.assertFalse((self.folder / "late.json").exists())
-
     def test_manual_pages_are_sound(self):
         commands = re.findall(r"^  (\w+) {2,}", self.acctl("--help").stdout.split("Options")[0], re.MULTILINE)
         self.assertGreater(len(commands), 15)

@@ -154,6 +154,17 @@ class Runs(Building):
                    "Office: there is no file of it in saved")
         (self.folder / "saved/Seminar_2.json").rename(self.folder / "saved/other.json")
         self.check(["apply", "saved"], 0, "^Seminar 2 .*already so")
+        # The host application keeps its undo files beside them.
+        undo = {"undoOfJob": [{"id": "id:Seminar 2", "snapshot": json.loads((self.folder / "saved/other.json").read_text())}]}
+        for folder in ("saved", "undo"):
+            (self.folder / folder).mkdir(exist_ok=True)
+            (self.folder / folder / "other.undo.20261124T020000Z.json").write_text(json.dumps(undo, indent=4))
+        self.check(["apply", "saved"], 0, "^Seminar 1 .*already so\nSeminar 2 .*already so\n$")
+        self.check(["apply", "undo"], 2, errors="undo: the folder has no files of settings")
+        for wrong in ("{}", '{"undoOfJob": []}', '{"projector": "Office"}'):
+            (self.folder / "saved/wrong.json").write_text(wrong)
+            self.check(["apply", "saved"], 2, errors="^acctl: saved/wrong.json:1: format: this is not a file of saved settings$")
+        (self.folder / "saved/wrong.json").unlink()
         shutil.copy(self.folder / "saved/other.json", self.folder / "saved/twice.json")
         self.check(["apply", "saved"], 2, errors="is also of Seminar 2")
         self.check(["apply", "sav"], 2, errors="sav: there is no such file or folder")
@@ -234,8 +245,24 @@ class Runs(Building):
         self.check(["get", "Office", "contrast", "-o", "json"], 0, '"version": 1')
         (config / "acctl.conf").write_text("jobs = many\n")
         self.check(["list"], 2, errors="acctl.conf:1: jobs: 'many' is not possible")
+        (config / "acctl.conf").write_text("profiles = ~/rooms.json\n")
+        self.assertIn("Office (simulated)", self.acctl("list", ACCTL_PROFILES="").stdout)
+        for wrong in ("mine", "~", "~me/undo", ""):
+            (config / "acctl.conf").write_text(f"# undo\nundo = {wrong}\n")
+            self.check(["list"], 2, errors=f"acctl.conf:2: undo: '{wrong}' must begin with / or ~/$")
         (config / "acctl.conf").unlink()
         (config / "acctl.conf").mkdir()
         self.check(["list"], 2, errors="cannot read .*acctl.conf: Is a directory")
         (config / "acctl.conf").rmdir()
+        usual = ".local/state/advanced-control/undo"
+        for number, (words, state, conf, undo) in enumerate((
+                ([], "", "", usual), ([], "state", "", usual), ([], str(self.folder / "s"), "", "s/advanced-control/undo"),
+                ([], "", "undo = ~/mine", "mine"), ([], "", f"undo = {self.folder}/its", "its"),
+                (["--undo", "here"], "", "undo = ~/mine", "here"))):
+            (config / "acctl.conf").write_text(conf)
+            before = {*self.folder.rglob("*.acctl-undo")}
+            run = self.acctl("set", "Office", f"contrast={number + 1}", *words, XDG_STATE_HOME=state)
+            made = {*self.folder.rglob("*.acctl-undo")} - before
+            self.assertEqual([file.parent for file in made], [self.folder / undo], run.stderr)
+        (config / "acctl.conf").unlink()
         self.assertIn("ACCTL_TIMEOUT: 'x'", self.acctl("list", ACCTL_TIMEOUT="x").stderr)

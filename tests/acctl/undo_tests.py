@@ -21,17 +21,26 @@ class Undoing(Building):
         room = json.loads((self.folder / "served.json").read_text())["projectors"][0]
         del room["identity"]
         profiles = json.loads((self.folder / "served.json").read_text())
-        for site, host, projector in (("a", "localhost", first), ("A", "LOCALHOST", first), ("b", "localhost", second)):
+        known = {"identity": "id:it"}
+        for site, host, projector, more in (
+                ("a", "localhost", first, {}), ("A", "LOCALHOST", first, {}), ("b", "localhost", second, {}),
+                ("known-a", "localhost", first, known), ("known-b", "localhost", second, known),
+                ("other", "localhost", first, {"name": "Hall"})):
             place = {"network": {"address": host, "port": projector.port}}
-            profiles["projectors"] = [{**room, "connection": place}]
+            profiles["projectors"] = [{**room, "connection": place, **more}]
             (self.folder / f"{site}.json").write_text(json.dumps(profiles))
         self.check(["--profiles", "a.json", "set", "Lecture hall", "brightness=3"], 0, "0  ->  3$")
         moved = f"Lecture hall \\(localhost:{first.port}\\); --force applies it to Lecture hall \\(localhost:{second.port}\\)$"
         for words in ([], ["last", "Lecture hall"], ["--dry-run"]):
             self.check(["--profiles", "b.json", "undo", *words], 1, errors=moved)
-        self.check(["--profiles", "rooms.json", "undo"], 1, errors="is no longer in the profile file")
+        self.check(["--profiles", "rooms.json", "undo"], 1, errors="; --force applies it to Lecture hall \\(simulated\\)$")
+        self.check(["--profiles", "other.json", "undo"], 1, errors="Lecture hall: is no longer in the profile file$")
         self.assertEqual((second.brightness[RGB1], self.json("undo", "--list")["runs"][0]["isUndone"]), (128, False))
         self.check(["--profiles", "A.json", "undo"], 0, "3  ->  0$")
+        # It has got an identity since.
+        self.check(["--profiles", "a.json", "set", "Lecture hall", "brightness=4"], 0, "0  ->  4$")
+        self.check(["--profiles", "known-b.json", "undo"], 1, errors=moved)
+        self.check(["--profiles", "known-a.json", "undo"], 0, "4  ->  0$")
         run = self.json("undo", "--list")["runs"][0]["run"]
         for brightness, words in ((5, ["--force"]), (6, ["--connect", second.address])):
             second.brightness[RGB1] = 128 + brightness
@@ -90,6 +99,28 @@ class Undoing(Building):
                 os.utime(file, (time.time() - 1.5 * 86400,) * 2)
         self.assertEqual(len(list(undo.iterdir())), 2, "notes.txt and the last run")
         self.assertTrue((undo / "notes.txt").exists())
+
+    def test_a_run_stays_while_it_is_undone_however_old_it_is(self):
+        projector = self.start_projector(WireProjector)
+        served = json.loads((self.folder / "served.json").read_text())
+        served["projectors"][0]["connection"]["network"]["port"] = projector.port
+        (self.folder / "served.json").write_text(json.dumps(served))
+        for words in (["Office", "contrast=5"], ["Lecture hall,Seminar 1", "brightness=5"]):
+            self.acctl("set", *words)
+        earlier, run = sorted((self.folder / "state/advanced-control/undo").iterdir())
+        old = time.time() - 40 * 86400
+        for file in (earlier, run):
+            os.utime(file, (old, old))
+        self.check(["undo", "--dry-run"], 0, "5  ->  0")
+        self.assertLess(run.stat().st_mtime, old + 1)
+        projector.lost = range(projector.commands + 1, 9999)
+        self.check(["undo", "--timeout", "0.2"], 3, "^Seminar 1 .*1 changed", "Lecture hall: no answer")
+        self.assertEqual((earlier.exists(), run.exists()), (True, True))
+        self.acctl("set", "Office", "contrast=4")  # as another one may do meanwhile
+        self.assertEqual((earlier.exists(), run.exists()), (False, True))
+        projector.lost = ()
+        self.check(["undo", run.stem], 0, "^Lecture hall .*1 changed")
+        self.assertTrue(self.json("undo", "--list")["runs"][0]["isUndone"])
 
     def test_a_run_that_cannot_be_read_is_never_passed_over(self):
         for brightness in ("5", "6"):

@@ -13,6 +13,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 #include "app/profiles/WrittenMark.h"
 #include "fleet/ProfileFile.h"
+#include "fleet/ProfileLock.h"
 #include "tests/support/Models.h"
 #include "tests/support/Programs.h"
 #include "tests/support/Record.h"
@@ -195,6 +196,12 @@ TEST_F(ProfileDocumentFile, FailedChangesChangeNothing) {
   EXPECT_THAT(document.Duplicate(1, {{"name", taken}}).toStdString(), HasSubstr("is the name of"));
   EXPECT_THAT(document.Change(1, {{"modelCode", "x"}}).toStdString(), HasSubstr("whole number"));
   EXPECT_THAT(document.Change(1, {{"name", kNone}}).toStdString(), HasSubstr("is missing"));
+  {
+    ProfileLock other(name);
+    ASSERT_EQ(other.Take({}) + ProfileLock("/nowhere/p.json").Take({}), "");
+    for (const QString& error : {document.Remove({1}), document.SaveAs(name)})
+      EXPECT_THAT(error.toStdString(), HasSubstr("another program is changing"));
+  }
   EXPECT_EQ(Contents(name), before);
 
   Write(name, before + "\n");

@@ -1,6 +1,8 @@
 // Files that are written whole or not at all.
 
 #include <sys/stat.h>
+#include <tuple>
+#include <unistd.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -72,6 +74,30 @@ TEST(WholeFile, IsWrittenWholeOrNotAtAll) {
   EXPECT_EQ(fault(ReadProfileText(folder.path()).error), "not a regular file");
   EXPECT_EQ(ReadProfileText(file + "-2.").text.size(), 70'000);
   EXPECT_EQ(open(), before) << "all are closed";
+}
+
+// The group 0 is one of the writer's own.
+TEST(WholeFile, KeepsItsOwnerAndGroupOrLetsNobodyElseReadIt) {
+  using enum FileAccess;
+  using Owned = std::tuple<uid_t, gid_t, mode_t>;
+  const QTemporaryDir folder;
+  const std::string file = folder.filePath("file").toStdString();
+  Write(file.c_str(), "old");
+  if (chown(file.c_str(), 7, 7) != 0) GTEST_SKIP() << "only root can give files away";
+  ASSERT_EQ(chmod(qPrintable(folder.path()), 0777), 0);
+  for (const auto& [writer, group, mode, access, after] :
+       {std::tuple(0U, 8U, 04640U, Kept, Owned(7, 8, 04640)),
+        {0U, 8U, 0644U, OwnerOnly, Owned(7, 8, 0600)},
+        {9U, 0U, 06664U, Kept, Owned(9, 0, 0664)},
+        {9U, 8U, 06664U, Kept, Owned(9, 0, 0644)},
+        {9U, 8U, 0640U, Kept, Owned(9, 0, 0600)},
+        {9U, 8U, 0604U, Kept, Owned(9, 0, 0600)}}) {
+    ASSERT_EQ(chown(file.c_str(), 7, group) + chmod(file.c_str(), mode) + seteuid(writer), 0);
+    EXPECT_EQ(WriteWholeFile(file.c_str(), "new", access), "");
+    struct stat status {};
+    ASSERT_EQ(seteuid(0) + stat(file.c_str(), &status), 0);
+    EXPECT_EQ(Owned(status.st_uid, status.st_gid, status.st_mode & 07777), after) << mode;
+  }
 }
 
 }  // namespace

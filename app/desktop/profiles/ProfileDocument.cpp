@@ -1,6 +1,7 @@
 #include "app/desktop/profiles/ProfileDocument.h"
 
 #include <algorithm>
+#include <chrono>
 #include <set>
 #include <utility>
 
@@ -20,6 +21,8 @@ const JsonEdit::Path kProjectors{"projectors"};
 const QString kTags = QStringLiteral("tags");
 const QString kSnapshot = QStringLiteral("snapshot");
 const JsonEdit::Member kUnmarked{kWrittenMark, QJsonValue(QJsonValue::Undefined)};
+/// How long the window may stand still for another program that changes the file.
+constexpr std::chrono::milliseconds kMoment{500};
 
 void SetPreset(QJsonObject& tags, const QString& tag, const QString& preset) {
   QJsonObject settings = tags[tag].toObject();
@@ -47,7 +50,8 @@ QString ProfileDocument::Load(const QString& fileName) {
 }
 
 QString ProfileDocument::SaveAs(const QString& fileName) {
-  const ProfileLock lock(fileName);
+  ProfileLock lock(fileName);
+  if (QString error = lock.Take(kMoment); !error.isEmpty()) return error;
   if (QFileInfo::exists(fileName) && QFileInfo(fileName) == QFileInfo(fileName_)) {
     if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   }
@@ -213,7 +217,8 @@ QString ProfileDocument::Write(const QByteArray& text) {
   if (text == text_) return {};
   ProfileList list = ParseProfileList(text, fileName_);
   if (!list.error.isEmpty()) return list.error;
-  const ProfileLock lock(fileName_);
+  ProfileLock lock(fileName_);
+  if (QString error = lock.Take(kMoment); !error.isEmpty()) return error;
   if (QString error = ChangedMeanwhile(); !error.isEmpty()) return error;
   if (QString error = WriteProfileText(fileName_, text); !error.isEmpty()) return error;
   text_ = text;

@@ -228,7 +228,9 @@ TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
   trigger("Redo Remove Preset");
   EXPECT_EQ(PresetFolder::Write("night", day), "");
   trigger("Undo Remove Preset");
-  EXPECT_EQ(Modal<QMessageBox>().informativeText(), "There is already a preset night.");
+  EXPECT_EQ(Modal<QMessageBox>().informativeText(),
+            "There is already a preset night.\nThe edits so far can no longer be undone.");
+  EXPECT_FALSE(Find<QAction>(*window, "Undo").isEnabled());
 }
 
 TEST(PresetFolder, KeepsPresetsByTheirNames) {

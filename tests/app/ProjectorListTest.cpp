@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QTest>
@@ -18,6 +19,7 @@
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
@@ -189,8 +191,17 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(list.Model().rowCount(), static_cast<int>(before.size()) + 1);
 
   auto* undo = window.findChild<QUndoStack*>();
+  const auto fails = [&](void (QUndoStack::*act)()) {
+    const QByteArray now = Shipped(folder).Text();
+    Write(folder.filePath("p.json"), now + "\n");  // as another program
+    (undo->*act)();
+    Modal<QMessageBox>().close();
+    Write(folder.filePath("p.json"), now);
+  };
+  fails(&QUndoStack::undo);
   while (undo->canUndo()) undo->undo();
   EXPECT_EQ(Shipped(folder).Text(), text);
+  fails(&QUndoStack::redo);
   while (undo->canRedo()) undo->redo();
   EXPECT_EQ(inFile().size(), before.size() + 1);
 }

@@ -126,6 +126,9 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
                   {.key = "main.contrast", .value = 130, .text = {}}};  // of other models
   ASSERT_EQ(PresetFolder::Write("day", day), "");
   Select({a});
+  for (const char* wanted : {"day", "Nothing"}) Choose(wanted, "Should Be Like");
+  EXPECT_TRUE(Soon([&] { return window->findChild<WorkRun*>() == nullptr; }));
+  EXPECT_EQ(Row(a).state.drift, std::nullopt) << "it has no preset when it is compared";
   Choose("day", "Should Be Like");
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; }));
   const CAdvanceDlg& dialog = *window->OpenDialog(a, 0);

@@ -171,10 +171,14 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(PjLinkAddress{"192.0.2.7", 4352, " open "}));
 
   Table(window).selectAll();
-  AnswerQuestionOf(Find<QAction>(window, "Tag"), [](QDialog& question) {
-    question.findChild<QLineEdit*>()->setText("new, -Library");
-    question.accept();
-  });
+  const QByteArray untagged = Shipped(folder).Text();
+  for (const char* tags : {"", ", -, -Nowhere", "new, -Library"}) {
+    EXPECT_EQ(Shipped(folder).Text(), untagged) << "inherited tags are left alone";
+    AnswerQuestionOf(Find<QAction>(window, "Tag"), [tags](QDialog& question) {
+      question.findChild<QLineEdit*>()->setText(tags);
+      question.accept();
+    });
+  }
   const ProfileDocument tagged = Shipped(folder);
   for (const FleetProfile& profile : tagged.Projectors()) {
     EXPECT_EQ(profile.tags.back(), "new");

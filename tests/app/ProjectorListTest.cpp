@@ -283,6 +283,11 @@ TEST(ProjectorList, OrdersAndFindsOnlyWhatChanged) {
   heat(0);
   EXPECT_EQ(model.index(0, 0).data(), "B") << "as before among equals";
   EXPECT_EQ(arranged, 2);
+  model.Search("gamma");
+  const std::weak_ptr searched = rows[0].profile.model;
+  rows.clear();
+  model.SetRows({});
+  EXPECT_TRUE(searched.expired()) << "nobody has it any more";
 }
 
 }  // namespace

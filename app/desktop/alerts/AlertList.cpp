@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include <QDateTime>
@@ -121,8 +123,10 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
   const QString since = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
   bool hasChanged = false;
   QStringList raised;
+  std::unordered_set<std::string_view> present;
   ++looks_;
   for (const ProjectorRow& row : rows) {
+    present.insert(row.id);
     for (const Alert& alert : FindAlerts(rules_, row, now)) {
       const auto [found, isNew] = alerts_.try_emplace(alert, Entry{.since = since});
       Entry& entry = found->second;
@@ -138,7 +142,12 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
     }
     ForgetGone(row);
   }
-  const auto isGone = [this](const auto& one) { return one.second.seen != looks_; };
+  const auto isGone = [&](const auto& one) {
+    const auto& [alert, entry] = one;
+    if (entry.seen == looks_) return false;
+    if (entry.isAcknowledged && !present.contains(alert.id)) earlier_.insert(alert);
+    return true;
+  };
   hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged;
   if (!hasChanged) return;
   Show();

@@ -56,7 +56,8 @@ class AlertList : public QWidget {
 
   AlertRules rules_;
   std::map<Alert, Entry> alerts_;
-  std::set<Alert> earlier_;  ///< Acknowledged in the last run, and not found yet.
+  /// Acknowledged in the last run, or before another file was opened, and not found yet.
+  std::set<Alert> earlier_;
   unsigned looks_ = 0;
   QTreeWidget* list_;
   QPushButton* acknowledge_;

@@ -302,6 +302,9 @@ TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
   };
   AlertList first;
   EXPECT_EQ(look(first, 1900, 2), 2U);
+  worn.profile.name = "Old";
+  look(first, 1900, 2);
+  EXPECT_EQ(first.findChild<QTreeWidget*>()->topLevelItem(0)->text(1).section(':', 0, 0), "Old");
   Find<QPushButton>(first, "Acknowledge All").click();
 
   AlertList second;

@@ -59,12 +59,6 @@ bool IsKnown(Alert::Kind kind, const LiveState& state) {
   return true;
 }
 
-/// The number in the text of an alert; 0 if it has none.
-int NumberOf(const Alert& alert, const ProjectorRow& row) {
-  if (alert.kind == Alert::Kind::Lamp) return LampHoursOf(row.state);
-  return alert.kind == Alert::Kind::Drift ? row.state.drift.value_or(0) : 0;
-}
-
 }  // namespace
 
 AlertList::AlertList(QWidget* parent)
@@ -132,11 +126,10 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, WallTime now) {
       Entry& entry = found->second;
       entry.seen = looks_;
       if (isNew) entry.isAcknowledged = earlier_.erase(alert) > 0;
-      // Hours and numbers of settings change while the alert stays.
-      const int number = NumberOf(alert, row);
-      if (!isNew && entry.number == number) continue;
-      entry.number = number;
-      entry.text = TextOf(alert, row);
+      // Names, hours and numbers of settings change while the alert stays.
+      QString text = TextOf(alert, row);
+      if (entry.text == text) continue;
+      entry.text = std::move(text);
       if (isNew && !entry.isAcknowledged) raised += entry.text;
       hasChanged = true;
     }

@@ -44,7 +44,6 @@ class AlertList : public QWidget {
   struct Entry {
     QString since;
     QString text{};
-    int number = 0;     ///< In the text.
     unsigned seen = 0;  ///< The value of `looks_` when the alert was last found.
     bool isAcknowledged = false;
   };

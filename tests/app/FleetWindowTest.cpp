@@ -132,11 +132,12 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_EQ(
       alerts.Open(),
       (std::vector{Alert{Rows(window)[1].id, Alert::Kind::Problem, ProjectorPart::Temperature}}));
-  const auto& list = *alerts.findChild<QTreeWidget*>();
+  auto& list = *alerts.findChild<QTreeWidget*>();
   EXPECT_EQ(list.topLevelItem(0)->text(1), "B: Temperature");
-  list.topLevelItem(0)->setSelected(true);
+  list.setCurrentItem(list.topLevelItem(0));
   window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   ASSERT_TRUE(Soon([&] { return list.topLevelItemCount() == 2; }));
+  EXPECT_EQ(list.currentIndex().row(), 1) << "the keyboard is still at the same one";
   Find<QPushButton>(alerts, "Acknowledge").click();
   EXPECT_FALSE(Rows(window)[1].hasAlert) << "it stayed selected while another came";
   EXPECT_TRUE(Rows(window)[0].hasAlert);
@@ -302,9 +303,13 @@ TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
   };
   AlertList first;
   EXPECT_EQ(look(first, 1900, 2), 2U);
+  auto& list = *first.findChild<QTreeWidget*>();
+  list.setCurrentItem(list.topLevelItem(1));
   worn.profile.name = "Old";
+  look(first, 1900, {});
+  EXPECT_EQ(list.currentIndex().row(), 0) << "where another was";
+  EXPECT_EQ(list.topLevelItem(0)->text(1).section(':', 0, 0), "Old");
   look(first, 1900, 2);
-  EXPECT_EQ(first.findChild<QTreeWidget*>()->topLevelItem(0)->text(1).section(':', 0, 0), "Old");
   Find<QPushButton>(first, "Acknowledge All").click();
 
   AlertList second;

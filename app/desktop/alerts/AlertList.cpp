@@ -194,6 +194,9 @@ void AlertList::Show() {
   QSet<QString> selected;  // the user may be about to acknowledge these
   for (const QTreeWidgetItem* item : list_->selectedItems())
     selected.insert(item->data(0, kIdentityRole).toString());
+  const QModelIndex current = list_->currentIndex().siblingAtColumn(0);
+  const QString currentOne = current.data(kIdentityRole).toString();
+  const qsizetype row = current.row();
   const int place = list_->verticalScrollBar()->value();
   QList<QTreeWidgetItem*> items;
   items.reserve(static_cast<qsizetype>(alerts_.size()));
@@ -207,9 +210,14 @@ void AlertList::Show() {
   }
   list_->clear();
   list_->addTopLevelItems(items);
+  // For one that is gone, the next one, so that the keyboard goes on from there.
+  QTreeWidgetItem* next = items.value(std::min(row, items.size() - 1));
   for (QTreeWidgetItem* item : items) {
-    if (selected.contains(item->data(0, kIdentityRole).toString())) item->setSelected(true);
+    const QString identity = item->data(0, kIdentityRole).toString();
+    if (selected.contains(identity)) item->setSelected(true);
+    if (identity == currentOne) next = item;
   }
+  if (next) list_->setCurrentItem(next, 0, QItemSelectionModel::NoUpdate);
   list_->verticalScrollBar()->setValue(place);
   acknowledge_->setEnabled(!alerts_.empty());
   acknowledgeAll_->setEnabled(!Open().empty());

@@ -195,18 +195,17 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(list.Model().rowCount(), static_cast<int>(before.size()) + 1);
 
   auto* undo = window.findChild<QUndoStack*>();
-  const auto fails = [&](void (QUndoStack::*act)()) {
+  const auto all = [&](bool (QUndoStack::*can)() const, void (QUndoStack::*act)()) {
     const QByteArray now = Shipped(folder).Text();
     Write(folder.filePath("p.json"), now + "\n");  // as another program
     (undo->*act)();
     Modal<QMessageBox>().close();
     Write(folder.filePath("p.json"), now);
+    while ((undo->*can)()) (undo->*act)();
   };
-  fails(&QUndoStack::undo);
-  while (undo->canUndo()) undo->undo();
+  all(&QUndoStack::canUndo, &QUndoStack::undo);
   EXPECT_EQ(Shipped(folder).Text(), text);
-  fails(&QUndoStack::redo);
-  while (undo->canRedo()) undo->redo();
+  all(&QUndoStack::canRedo, &QUndoStack::redo);
   EXPECT_EQ(inFile().size(), before.size() + 1);
 }
 

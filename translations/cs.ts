@@ -3148,6 +3148,10 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Dosavadní úpravy už nelze vrátit zpět.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Zpět</translation>
     </message>

@@ -3108,6 +3108,10 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Die bisherigen Änderungen können nicht mehr rückgängig gemacht werden.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Rückgängig</translation>
     </message>

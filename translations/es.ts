@@ -3108,6 +3108,10 @@ un signo menos delante quita una etiqueta:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Los cambios hechos hasta ahora ya no se pueden deshacer.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Deshacer</translation>
     </message>

@@ -3108,6 +3108,10 @@ miinus edessä poistaa tunnisteen:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Tähänastisia muutoksia ei voi enää kumota.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Kumoa</translation>
     </message>

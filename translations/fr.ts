@@ -3108,6 +3108,10 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Les modifications faites jusqu’ici ne peuvent plus être annulées.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Annuler</translation>
     </message>

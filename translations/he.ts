@@ -3108,6 +3108,10 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>אי אפשר עוד לבטל את השינויים שנעשו עד כה.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;ביטול</translation>
     </message>

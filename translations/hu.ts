@@ -3068,6 +3068,10 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Az eddigi módosítások már nem vonhatók vissza.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Visszavonás</translation>
     </message>

@@ -3108,6 +3108,10 @@ un segno meno davanti toglie un’etichetta:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Le modifiche fatte finora non possono più essere annullate.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>Ann&amp;ulla</translation>
     </message>

@@ -3068,6 +3068,10 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>これまでの変更は元に戻せなくなりました。</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>元に戻す(&amp;U)</translation>
     </message>

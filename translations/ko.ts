@@ -3068,6 +3068,10 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>지금까지의 변경은 더 이상 되돌릴 수 없습니다.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>실행 취소(&amp;U)</translation>
     </message>

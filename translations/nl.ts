@@ -3108,6 +3108,10 @@ een minteken ervoor neemt een label weg:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>De wijzigingen tot nu toe kunnen niet meer ongedaan gemaakt worden.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Ongedaan maken</translation>
     </message>

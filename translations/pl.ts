@@ -3148,6 +3148,10 @@ minus przed tagiem go usuwa:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Dotychczasowych zmian nie da się już cofnąć.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Cofnij</translation>
     </message>

@@ -3108,6 +3108,10 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>As alterações feitas até agora não podem mais ser desfeitas.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Desfazer</translation>
     </message>

@@ -3148,6 +3148,10 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>Сделанные до сих пор изменения больше нельзя отменить.</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Отменить</translation>
     </message>

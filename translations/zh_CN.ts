@@ -3068,6 +3068,10 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>此前的更改已无法撤销。</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>撤销(&amp;U)</translation>
     </message>

@@ -3068,6 +3068,10 @@ a minus in front takes a tag away:</source>
 <context>
     <name>ProfileHistory</name>
     <message>
+        <source>The edits so far can no longer be undone.</source>
+        <translation>先前的變更已無法復原。</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>復原(&amp;U)</translation>
     </message>

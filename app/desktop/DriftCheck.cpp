@@ -28,18 +28,20 @@ DriftCheck::DriftCheck(const ProfileDocument& document, FleetWatch& watch, const
   timer_.start(kFirst);
   connect(&work_, &WorkActions::Finished, this, &DriftCheck::CheckAfter);
   for (const FleetProfile& profile : document_.Projectors())
-    if (!profile.snapshot.empty()) presets_[FleetIdOf(profile)] = profile.snapshot;
+    if (!profile.snapshot.empty()) wanted_[FleetIdOf(profile)].preset = profile.snapshot;
 }
 
 void DriftCheck::TakeProfiles() {
-  auto before = std::exchange(presets_, {});
+  auto before = std::exchange(wanted_, {});
   std::set<std::string> changed;
   for (const FleetProfile& profile : document_.Projectors()) {
     const std::string id = FleetIdOf(profile);
-    if (!profile.snapshot.empty()) presets_[id] = profile.snapshot;
-    const auto known = before.find(id);
-    if ((known == before.end() ? std::string() : known->second) != profile.snapshot)
+    Wanted wanted = before[id];
+    if (wanted.preset != profile.snapshot) {
+      wanted = {.preset = profile.snapshot};
       changed.insert(id);
+    }
+    if (!wanted.preset.empty()) wanted_[id] = std::move(wanted);
   }
   for (const std::string& id : changed) {
     watch_.Projectors().LearnDrift(id, {});
@@ -56,8 +58,11 @@ void DriftCheck::CheckAll() {
 
 void DriftCheck::CheckPreset(const std::string& name) {
   std::set<std::string> ids;
-  for (const auto& [id, preset] : presets_)
-    if (preset == name) ids.insert(id);
+  for (auto& [id, wanted] : wanted_) {
+    if (wanted.preset != name) continue;
+    wanted.compared = nullptr;
+    ids.insert(id);
+  }
   Check(ids);
 }
 
@@ -75,7 +80,7 @@ void DriftCheck::CheckAfter(const WorkRun& run) {
 // A preset that cannot be read counts as none. The reason is shown when it is used.
 void DriftCheck::Check(const std::set<std::string>& ids) {
   std::map<std::string, std::shared_ptr<const Snapshot>> presets;
-  CompareSnapshots compare;
+  CompareSnapshots compare{.areWanted = false};  // the fleet is told in `Keep`
   WorkPart part;
   for (const FleetProfile& profile : document_.Projectors()) {
     const std::string id = FleetIdOf(profile);
@@ -86,39 +91,52 @@ void DriftCheck::Check(const std::set<std::string>& ids) {
     if (isNew)
       preset->second = PresetFolder::Read(QString::fromStdString(profile.snapshot)).snapshot;
     if (!preset->second) continue;
-    compare.snapshots[id] = preset->second;
+    compare.snapshots[id] = wanted_[id].compared = preset->second;
     part.targets.push_back(watch_.TargetOf(profile));
   }
   if (part.targets.empty()) return;
   part.work = std::move(compare);
   auto* run = new WorkRun(watch_, work_.Texts(),
                           {.title = {}, .question = {}, .parts = {std::move(part)}}, &window_);
-  connect(run, &WorkRun::Finished, this, [this, run] {
-    Keep(*run);
-    run->deleteLater();
+  // Each projector as soon as it is compared, because thousands take a while.
+  std::vector<bool> kept(run->Lines().size());
+  connect(run, &WorkRun::Progressed, this, [this, run, kept = std::move(kept)]() mutable {
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+      const WorkLine& line = run->Lines()[i];
+      if (kept[i] || !line.differences) continue;
+      kept[i] = true;
+      Keep(*run, line);
+    }
   });
+  connect(run, &WorkRun::Finished, run, &QObject::deleteLater);
   run->Start();
 }
 
-void DriftCheck::Keep(const WorkRun& run) {
+void DriftCheck::Keep(const WorkRun& run, const WorkLine& line) {
   const auto& compared = std::get<CompareSnapshots>(run.Plan().parts.front().work).snapshots;
-  for (const WorkLine& line : run.Lines()) {
-    if (!line.differences) continue;
-    Snapshot& seen = seen_[line.id];
-    seen = *compared.at(line.id);
-    for (const SettingDifference& difference : *line.differences) {
-      const auto same = std::ranges::find_if(seen.settings, [&](const SavedSetting& saved) {
-        return saved.key == difference.saved.key && saved.source == difference.saved.source;
-      });
-      if (same == seen.settings.end()) continue;
-      if (difference.here) {
-        same->value = *difference.here;
-      } else {
-        seen.settings.erase(same);  // nobody knows
-      }
+  const std::shared_ptr<const Snapshot>& preset = compared.at(line.id);
+  const auto wanted = wanted_.find(line.id);
+  if (wanted == wanted_.end() || wanted->second.compared != preset) return;
+  using Kind = SettingDifference::Kind;
+  const std::vector<SettingDifference>& all = *line.differences;
+  const auto differing = std::ranges::count(all, Kind::Differs, &SettingDifference::kind);
+  // One that reports nothing now is not known to be as it should be.
+  if (differing > 0 || all.size() < preset->settings.size())
+    watch_.Projectors().LearnDrift(line.id, static_cast<int>(differing));
+  Snapshot& seen = seen_[line.id];
+  seen = *preset;
+  for (const SettingDifference& difference : all) {
+    const auto same = std::ranges::find_if(seen.settings, [&](const SavedSetting& saved) {
+      return saved.key == difference.saved.key && saved.source == difference.saved.source;
+    });
+    if (same == seen.settings.end()) continue;
+    if (difference.here) {
+      same->value = *difference.here;
+    } else {
+      seen.settings.erase(same);  // nobody knows
     }
-    Q_EMIT Checked(line.id);
   }
+  Q_EMIT Checked(line.id);
 }
 
 Snapshot DriftCheck::LastSeen(const std::string& id) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 
@@ -14,6 +15,7 @@ class ProfileDocument;
 class QWidget;
 class WorkActions;
 class WorkRun;
+struct WorkLine;
 
 /// Checks how many settings of the projectors differ from the presets that they should have, and
 /// reports it to the fleet: for all projectors a minute after the start and then every hour, and
@@ -44,14 +46,20 @@ class DriftCheck : public QObject {
   void Checked(const std::string& id);
 
  private:
+  struct Wanted {
+    std::string preset;
+    std::shared_ptr<const Snapshot> compared{};  ///< By the last check; null if the preset changed.
+  };
+
   void CheckAfter(const WorkRun& run);
-  void Keep(const WorkRun& run);
+  /// Takes over the result for a projector, unless it has another preset by now or is checked anew.
+  void Keep(const WorkRun& run, const WorkLine& line);
 
   const ProfileDocument& document_;
   FleetWatch& watch_;
   const WorkActions& work_;
   QWidget& window_;
   QTimer timer_{this};
-  std::map<std::string, std::string> presets_;  // by identity, of those that have one
+  std::map<std::string, Wanted> wanted_;  // by identity, of those that have a preset
   std::map<std::string, Snapshot> seen_;
 };

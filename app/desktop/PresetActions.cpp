@@ -1,6 +1,8 @@
 #include "app/desktop/PresetActions.h"
 
 #include <map>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include <QAction>
@@ -127,12 +129,12 @@ void PresetActions::Preview(Comparison comparison) {
 }
 
 void PresetActions::SetWanted(const QString& name) {
+  std::unordered_set<std::string_view> ids;
+  for (const ProjectorRow* row : parts_.selected()) ids.insert(row->id);
   std::vector<int> positions;
   const auto& all = parts_.document.Projectors();
-  for (const ProjectorRow* row : parts_.selected()) {
-    for (std::size_t i = 0; i < all.size(); ++i) {
-      if (FleetIdOf(all[i]) == row->id) positions.push_back(static_cast<int>(i));
-    }
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    if (ids.contains(FleetIdOf(all[i]))) positions.push_back(static_cast<int>(i));
   }
   const QString error = parts_.edits.Do(tr("Should Be Like"), -1, [&] {
     return parts_.document.SetMember(

@@ -133,11 +133,12 @@ TEST(FleetWindow, RaisesAnAlertUntilItsCauseIsGone) {
   EXPECT_EQ(
       alerts.Open(),
       (std::vector{Alert{Rows(window)[1].id, Alert::Kind::Problem, ProjectorPart::Temperature}}));
-  const auto& list = *alerts.findChild<QTreeWidget*>();
+  auto& list = *alerts.findChild<QTreeWidget*>();
   EXPECT_EQ(list.topLevelItem(0)->text(1), "B: Temperature");
-  list.topLevelItem(0)->setSelected(true);
+  list.setCurrentItem(list.topLevelItem(0));
   window.Session(0)->Simulator().SetValue(SettingId::ErrorStatus, 4);
   ASSERT_TRUE(Soon([&] { return list.topLevelItemCount() == 2; }));
+  EXPECT_EQ(list.currentIndex().row(), 1) << "the keyboard is still at the same one";
   Find<QPushButton>(alerts, "Acknowledge").click();
   EXPECT_FALSE(Rows(window)[1].hasAlert) << "it stayed selected while another came";
   EXPECT_TRUE(Rows(window)[0].hasAlert);
@@ -312,7 +313,10 @@ TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
   EXPECT_EQ(said, QStringList());
   AlertList third;
   third.RememberAcknowledged(second.Acknowledged());
-  EXPECT_EQ(look(third, 1960, 3), 0U);
+  for (int opened = 0; opened < 2; ++opened) {
+    EXPECT_EQ(look(third, 1960, 3), 0U);
+    third.Look({}, now);  // those of another file
+  }
   EXPECT_EQ(look(second, 10, 0), 0U);
   EXPECT_EQ(look(second, 1950, 2), 2U) << "both have come back";
   EXPECT_EQ(said.size(), 2);
@@ -321,6 +325,12 @@ TEST(FleetWindow, AnAlertStaysAcknowledgedInTheNextRunUntilItsCauseIsGone) {
   last.RememberAcknowledged(first.Acknowledged());
   look(last, 10, 0);
   EXPECT_EQ(told.size(), 1) << "for who keeps the acknowledged ones";
+  auto& list = *second.findChild<QTreeWidget*>();
+  list.setCurrentItem(list.topLevelItem(1));
+  worn.profile.name = "Old";
+  look(second, 1950, 0);
+  EXPECT_EQ(list.currentIndex().row(), 0) << "where another was";
+  EXPECT_EQ(list.topLevelItem(0)->text(1).section(':', 0, 0), "Old");
 }
 
 TEST(FleetWindow, TakesATableAndNamesItsTenWrongLines) {

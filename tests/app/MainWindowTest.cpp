@@ -25,16 +25,13 @@
 #include "app/desktop/log/CommandLog.h"
 #include "app/desktop/projectors/ByModel.h"
 #include "app/desktop/simulation/FaultPanel.h"
-#include "app/profiles/PresetFolder.h"
 #include "app/profiles/SettingsFile.h"
 #include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
-#include "pages/common/CTabPage.h"
 #include "tests/app/Windows.h"
 #include "tests/support/DialogDriver.h"
 #include "toolkit/Accessibility.h"
 #include "toolkit/FittedScroll.h"
-#include "toolkit/StateLabel.h"
 
 namespace {
 
@@ -89,34 +86,6 @@ TEST(MainWindow, QuestionsAndWorkHoldUpNoDialog) {
   window.findChild<ProjectorView*>()->Select(0);
   Find<QAction>(window, "Compare with File").trigger();
   EXPECT_EQ(Modal<QFileDialog>().directory().path(), folder.path()) << "where the last file was";
-}
-
-TEST(MainWindow, TellsADialogTheRatedHoursAndTheWantedPreset) {
-  const QTemporaryDir folder;
-  qputenv("XDG_DATA_HOME", folder.path().toUtf8());
-  ProfileDocument document = Shipped(folder);
-  const auto& all = document.Projectors();
-  const auto found = std::ranges::find(all, "Projector 5-30", &FleetProfile::name);
-  const auto row = static_cast<std::size_t>(found - all.begin());
-  Snapshot day = EmptySnapshot("any", found->model->data);
-  day.settings = {{.key = "picture.brightness", .value = 140, .text = {}}};
-  ASSERT_EQ(PresetFolder::Write("day", day), "");
-  ASSERT_EQ(document.Change(row, {{"snapshot", "day"}, {"ratedLampHours", 2000}}), "");
-
-  MainWindow window(document);
-  window.show();
-  window.Session(row)->Simulator().SetValue(SettingId::LampTime, 500);
-  CAdvanceDlg* dialog = window.OpenDialog(row, 0);
-  EXPECT_EQ(static_cast<StateLabel*>(dialog->ShownPage()->GetDlgItem(20014))->Share(), 0.25);
-  auto& tabs = *dialog->findChild<QTabBar*>();
-  tabs.setCurrentIndex(1);
-  EXPECT_EQ(tabs.tabText(1), "Picture (1)");
-  QMenu& presets = *Find<QAction>(window, "Presets").menu();
-  Q_EMIT presets.aboutToShow();
-  Find<QAction>(presets, "Nothing").trigger();
-  EXPECT_EQ(window.Dialog(row), dialog);
-  EXPECT_EQ(tabs.tabText(1), "Picture") << "nothing is wanted any more";
-  qunsetenv("XDG_DATA_HOME");
 }
 
 TEST(MainWindow, SaysThatAFileWasSaved) {

@@ -14,12 +14,17 @@
 #include <QTimer>
 
 #include "app/desktop/DriftCheck.h"
+#include "app/desktop/LiveProjectors.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/presets/PresetDialog.h"
 #include "app/desktop/presets/PresetManager.h"
 #include "app/profiles/PresetFolder.h"
+#include "fleet/AddressHold.h"
+#include "fleet/MakeVisit.h"
 #include "host/CAdvanceDlg.h"
+#include "pages/common/CTabPage.h"
 #include "tests/app/Work.h"
+#include "toolkit/StateLabel.h"
 
 namespace {
 
@@ -126,9 +131,24 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
                   {.key = "main.contrast", .value = 130, .text = {}}};  // of other models
   ASSERT_EQ(PresetFolder::Write("day", day), "");
   Select({a});
+  std::optional<AddressHold> hold(
+      PlaceOf(window->findChild<LiveProjectors*>()->Watch().TargetOf(Row(a).profile)));
+  for (const char* wanted : {"day", "Nothing"}) Choose(wanted, "Should Be Like");
+  hold.reset();
+  EXPECT_TRUE(Soon([&] { return window->findChild<WorkRun*>() == nullptr; }));
+  EXPECT_EQ(Row(a).state.drift, std::nullopt) << "it has no preset when it is compared";
   Choose("day", "Should Be Like");
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; }));
+  Projector(a).SetValue(SettingId::LampTime, 750);
   const CAdvanceDlg& dialog = *window->OpenDialog(a, 0);
+  EXPECT_EQ(static_cast<StateLabel*>(dialog.ShownPage()->GetDlgItem(20014))->Share(), 0.25);
+  auto& tabs = *dialog.findChild<QTabBar*>();
+  tabs.setCurrentIndex(1);
+  EXPECT_EQ(tabs.tabText(1), "Picture (1)");
+  Choose("Nothing", "Should Be Like");
+  EXPECT_EQ(tabs.tabText(1), "Picture") << "nothing is wanted any more";
+  EXPECT_EQ(window->Dialog(a), &dialog);
+  Choose("day", "Should Be Like");
   const int value = Projector(a).Value(SettingId::Brightness);
   EXPECT_TRUE(Soon([&] { return dialog.LastSeen("picture.brightness") == value; }))
       << "the dialog counts what differed";
@@ -140,7 +160,6 @@ TEST_F(PresetTest, WhatIsNotAsItShouldBeIsToldAndPutBack) {
 
   Find<QAction>(*window, "Mute the Sound").trigger();
   EXPECT_TRUE(Soon([&] { return Row(a).state.drift == 1; })) << "after any work";
-  const auto& tabs = *dialog.findChild<QTabBar*>();
   EXPECT_TRUE(Soon([&] { return tabs.tabText(8) == "Other (1?)"; }));
   Choose("Save as Preset");
   ASSERT_TRUE(Soon([&] { return window->findChild<PresetDialog*>() != nullptr; }));
@@ -213,22 +232,22 @@ TEST_F(PresetTest, PresetsAreRenamedAndRemovedWithThoseThatShouldBeLikeThem) {
   Find<QPushButton>(Modal<QMessageBox>(), "Remove").click();
   EXPECT_EQ(PresetFolder::Names(), QStringList{"other"});
   EXPECT_EQ(Row(a).profile.snapshot, "");
-  const auto trigger = [&](const char* edit) { Find<QAction>(*window, edit).trigger(); };
-  trigger("Undo Remove Preset");
-  trigger("Undo Rename Preset");
+  const auto trigger = [&](auto... edits) { (Find<QAction>(*window, edits).trigger(), ...); };
+  trigger("Undo Remove Preset", "Undo Rename Preset");
   EXPECT_EQ(PresetFolder::Names(), (QStringList{"day", "other"}));
   EXPECT_EQ(Row(a).profile.snapshot, "day");
   trigger("Redo Rename Preset");
   EXPECT_EQ(PresetFolder::Names(), (QStringList{"night", "other"}));
   day.settings.clear();
   EXPECT_EQ(PresetFolder::Write("night", day), "");
-  trigger("Redo Remove Preset");
-  trigger("Undo Remove Preset");
+  trigger("Redo Remove Preset", "Undo Remove Preset");
   EXPECT_TRUE(PresetFolder::Read("night").snapshot->settings.empty()) << "another one by then";
   trigger("Redo Remove Preset");
   EXPECT_EQ(PresetFolder::Write("night", day), "");
   trigger("Undo Remove Preset");
-  EXPECT_EQ(Modal<QMessageBox>().informativeText(), "There is already a preset night.");
+  EXPECT_EQ(Modal<QMessageBox>().informativeText(),
+            "There is already a preset night.\nThe edits so far can no longer be undone.");
+  EXPECT_FALSE(Find<QAction>(*window, "Undo").isEnabled());
 }
 
 TEST(PresetFolder, KeepsPresetsByTheirNames) {

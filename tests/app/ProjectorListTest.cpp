@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QTest>
@@ -18,6 +19,7 @@
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
+#include "tests/support/Programs.h"
 
 namespace {
 
@@ -169,10 +171,14 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(AddressOf(inFile()[2]), ProjectorAddress(PjLinkAddress{"192.0.2.7", 4352, " open "}));
 
   Table(window).selectAll();
-  AnswerQuestionOf(Find<QAction>(window, "Tag"), [](QDialog& question) {
-    question.findChild<QLineEdit*>()->setText("new, -Library");
-    question.accept();
-  });
+  const QByteArray untagged = Shipped(folder).Text();
+  for (const char* tags : {"", ", -, -Nowhere", "new, -Library"}) {
+    EXPECT_EQ(Shipped(folder).Text(), untagged) << "inherited tags are left alone";
+    AnswerQuestionOf(Find<QAction>(window, "Tag"), [tags](QDialog& question) {
+      question.findChild<QLineEdit*>()->setText(tags);
+      question.accept();
+    });
+  }
   const ProfileDocument tagged = Shipped(folder);
   for (const FleetProfile& profile : tagged.Projectors()) {
     EXPECT_EQ(profile.tags.back(), "new");
@@ -189,9 +195,17 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(list.Model().rowCount(), static_cast<int>(before.size()) + 1);
 
   auto* undo = window.findChild<QUndoStack*>();
-  while (undo->canUndo()) undo->undo();
+  const auto all = [&](bool (QUndoStack::*can)() const, void (QUndoStack::*act)()) {
+    const QByteArray now = Shipped(folder).Text();
+    Write(folder.filePath("p.json"), now + "\n");  // as another program
+    (undo->*act)();
+    Modal<QMessageBox>().close();
+    Write(folder.filePath("p.json"), now);
+    while ((undo->*can)()) (undo->*act)();
+  };
+  all(&QUndoStack::canUndo, &QUndoStack::undo);
   EXPECT_EQ(Shipped(folder).Text(), text);
-  while (undo->canRedo()) undo->redo();
+  all(&QUndoStack::canRedo, &QUndoStack::redo);
   EXPECT_EQ(inFile().size(), before.size() + 1);
 }
 
@@ -268,6 +282,11 @@ TEST(ProjectorList, OrdersAndFindsOnlyWhatChanged) {
   heat(0);
   EXPECT_EQ(model.index(0, 0).data(), "B") << "as before among equals";
   EXPECT_EQ(arranged, 2);
+  model.Search("gamma");
+  const std::weak_ptr searched = rows[0].profile.model;
+  rows.clear();
+  model.SetRows({});
+  EXPECT_TRUE(searched.expired()) << "nobody has it any more";
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include <QDateTime>
@@ -55,12 +57,6 @@ bool IsKnown(Alert::Kind kind, const LiveState& state) {
       return state.problems.has_value();
   }
   return true;
-}
-
-/// The number in the text of an alert; 0 if it has none.
-int NumberOf(const Alert& alert, const ProjectorRow& row) {
-  if (alert.kind == Alert::Kind::Lamp) return LampHoursOf(row.state);
-  return alert.kind == Alert::Kind::Drift ? row.state.drift.value_or(0) : 0;
 }
 
 }  // namespace
@@ -122,24 +118,30 @@ void AlertList::Look(const std::vector<ProjectorRow>& rows, SessionTime now) {
   bool hasChanged = false;
   const std::size_t earlier = earlier_.size();
   QStringList raised;
+  std::unordered_set<std::string_view> present;
   ++looks_;
   for (const ProjectorRow& row : rows) {
+    present.insert(row.id);
     for (const Alert& alert : FindAlerts(rules_, row, now)) {
       const auto [found, isNew] = alerts_.try_emplace(alert, Entry{.since = since});
       Entry& entry = found->second;
       entry.seen = looks_;
       if (isNew) entry.isAcknowledged = earlier_.erase(alert) > 0;
-      // Hours and numbers of settings change while the alert stays.
-      const int number = NumberOf(alert, row);
-      if (!isNew && entry.number == number) continue;
-      entry.number = number;
-      entry.text = TextOf(alert, row);
+      // Names, hours and numbers of settings change while the alert stays.
+      QString text = TextOf(alert, row);
+      if (entry.text == text) continue;
+      entry.text = std::move(text);
       if (isNew && !entry.isAcknowledged) raised += entry.text;
       hasChanged = true;
     }
     ForgetGone(row);
   }
-  const auto isGone = [this](const auto& one) { return one.second.seen != looks_; };
+  const auto isGone = [&](const auto& one) {
+    const auto& [alert, entry] = one;
+    if (entry.seen == looks_) return false;
+    if (entry.isAcknowledged && !present.contains(alert.id)) earlier_.insert(alert);
+    return true;
+  };
   hasChanged = std::erase_if(alerts_, isGone) > 0 || hasChanged || earlier_.size() != earlier;
   if (!hasChanged) return;
   Show();
@@ -193,6 +195,9 @@ void AlertList::Show() {
   QSet<QString> selected;  // the user may be about to acknowledge these
   for (const QTreeWidgetItem* item : list_->selectedItems())
     selected.insert(item->data(0, kIdentityRole).toString());
+  const QModelIndex current = list_->currentIndex().siblingAtColumn(0);
+  const QString currentOne = current.data(kIdentityRole).toString();
+  const qsizetype row = current.row();
   const int place = list_->verticalScrollBar()->value();
   QList<QTreeWidgetItem*> items;
   items.reserve(static_cast<qsizetype>(alerts_.size()));
@@ -206,9 +211,14 @@ void AlertList::Show() {
   }
   list_->clear();
   list_->addTopLevelItems(items);
+  // For one that is gone, the next one, so that the keyboard goes on from there.
+  QTreeWidgetItem* next = items.value(std::min(row, items.size() - 1));
   for (QTreeWidgetItem* item : items) {
-    if (selected.contains(item->data(0, kIdentityRole).toString())) item->setSelected(true);
+    const QString identity = item->data(0, kIdentityRole).toString();
+    if (selected.contains(identity)) item->setSelected(true);
+    if (identity == currentOne) next = item;
   }
+  if (next) list_->setCurrentItem(next, 0, QItemSelectionModel::NoUpdate);
   list_->verticalScrollBar()->setValue(place);
   acknowledge_->setEnabled(!alerts_.empty());
   acknowledgeAll_->setEnabled(!Open().empty());

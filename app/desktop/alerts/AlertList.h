@@ -44,7 +44,6 @@ class AlertList : public QWidget {
   struct Entry {
     QString since;
     QString text{};
-    int number = 0;     ///< In the text.
     unsigned seen = 0;  ///< The value of `looks_` when the alert was last found.
     bool isAcknowledged = false;
   };
@@ -56,7 +55,8 @@ class AlertList : public QWidget {
 
   AlertRules rules_;
   std::map<Alert, Entry> alerts_;
-  std::set<Alert> earlier_;  ///< Acknowledged in the last run, and not found yet.
+  /// Acknowledged in the last run, or before another file was opened, and not found yet.
+  std::set<Alert> earlier_;
   unsigned looks_ = 0;
   QTreeWidget* list_;
   QPushButton* acknowledge_;

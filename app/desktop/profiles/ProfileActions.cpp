@@ -150,13 +150,25 @@ void ProfileActions::TagProjectors(const Positions& rows) {
     for (const QString& part : text.split(QLatin1Char(','))) {
       const QString tag = part.trimmed();
       const bool isRemoved = tag.startsWith(QLatin1Char('-'));
-      if (!tag.isEmpty()) (isRemoved ? removed : added) += isRemoved ? tag.mid(1).trimmed() : tag;
+      (isRemoved ? removed : added) += isRemoved ? tag.mid(1).trimmed() : tag;
     }
     history_.DoAndReport(tr("Tag"), -1, [&] {
-      const QString first = document_.Tag(rows, added, true);
-      return first.isEmpty() && !removed.isEmpty() ? document_.Tag(rows, removed, false) : first;
+      const QString first = ChangeTags(rows, added, true);
+      return first.isEmpty() ? ChangeTags(rows, removed, false) : first;
     });
   });
   question->open();
   RemoveForeignButtonIcons(*question);
+}
+
+// What a projector inherits is written into its entry only if its tags change.
+QString ProfileActions::ChangeTags(Positions rows, QStringList tags, bool adds) {
+  tags.removeAll(QString());
+  std::erase_if(rows, [&](int row) {
+    const std::vector<std::string>& has = document_.Projectors()[Position(row)].tags;
+    return std::ranges::none_of(tags, [&](const QString& tag) {
+      return (std::ranges::find(has, tag.toStdString()) == has.end()) == adds;
+    });
+  });
+  return rows.empty() ? QString() : document_.Tag(rows, tags, adds);
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <QObject>
+#include <QStringList>
 
 class ProfileDocument;
 class ProfileEditor;
@@ -40,6 +41,8 @@ class ProfileActions : public QObject {
   void DuplicateProjector(const Positions& rows);
   void RemoveProjectors(const Positions& rows);
   void TagProjectors(const Positions& rows);
+  /// Gives those projectors these tags that lack one of them, or takes them from those with one.
+  QString ChangeTags(Positions rows, QStringList tags, bool adds);
   /// Opens an editor, which the window then owns.
   void OpenEditor(ProfileEditor* editor);
 

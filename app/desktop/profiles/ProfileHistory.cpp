@@ -27,21 +27,22 @@ class ProfileHistory::TextEdit : public QUndoCommand {
         after_(std::move(after)),
         beside_(std::move(beside)) {}
 
-  void undo() override { Put(before_, beside_.undo, beside_.redo); }
-  void redo() override {
-    if (std::exchange(isDone_, true)) Put(after_, beside_.redo, beside_.undo);
-  }
+  void undo() override { Put(before_, beside_.undo, beside_.redo, &QUndoStack::redo); }
+  void redo() override { Put(after_, beside_.redo, beside_.undo, &QUndoStack::undo); }
 
  private:
-  // If it cannot be written, it is not tried again.
   void Put(const QByteArray& text, const std::function<QString()>& change,
-           const std::function<QString()>& changeBack) {
+           const std::function<QString()>& changeBack, void (QUndoStack::*back)()) {
+    if (std::exchange(isSo_, false)) return;
     QString error = change ? change() : QString();
-    if (error.isEmpty()) {
-      error = history_.document_.Write(text);
-      if (!error.isEmpty() && changeBack) changeBack();
+    if (!error.isEmpty()) {
+      history_.next_ = &QUndoStack::clear;
+      error += QLatin1Char('\n') + ProfileHistory::tr("The edits so far can no longer be undone.");
+    } else if (error = history_.document_.Write(text); !error.isEmpty()) {
+      if (changeBack) changeBack();
+      isSo_ = true;
+      history_.next_ = back;
     }
-    setObsolete(!error.isEmpty());
     history_.Report(this->text(), error);
     if (error.isEmpty()) Q_EMIT history_.Changed(-1);
   }
@@ -50,7 +51,7 @@ class ProfileHistory::TextEdit : public QUndoCommand {
   const QByteArray before_;
   const QByteArray after_;
   const Beside beside_;
-  bool isDone_ = false;
+  bool isSo_ = true;  // it has the text already that it is asked for next
 };
 
 ProfileHistory::ProfileHistory(ProfileDocument& document, QWidget& window)
@@ -61,6 +62,9 @@ ProfileHistory::ProfileHistory(ProfileDocument& document, QWidget& window)
       undo_(stack_->createUndoAction(this, tr("&Undo"))),
       redo_(stack_->createRedoAction(this, tr("&Redo"))) {
   stack_->setUndoLimit(kMostUndone);
+  connect(stack_, &QUndoStack::indexChanged, this, [this] {
+    if (const auto next = std::exchange(next_, nullptr)) (stack_->*next)();
+  });
   undo_->setShortcut(QKeySequence::Undo);
   redo_->setShortcut(QKeySequence::Redo);
 }

@@ -10,7 +10,9 @@ class QAction;
 class QUndoStack;
 class QWidget;
 
-/// The edits of the profile file, which can be undone and done again.
+/// The edits of the profile file, which can be undone and done again. If the file cannot be
+/// written, this can be tried again. If the other files of an edit cannot be changed back, all
+/// edits are forgotten, because their texts of the file name what these other files had.
 class ProfileHistory : public QObject {
   Q_OBJECT
 
@@ -52,6 +54,8 @@ class ProfileHistory : public QObject {
   ProfileDocument& document_;
   QWidget& window_;
   QUndoStack* stack_;
+  /// What remains to be done after a command that failed, which the stack counts as done.
+  void (QUndoStack::*next_)() = nullptr;
   QAction* undo_;
   QAction* redo_;
 };

@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 void RowSearch::SetRows(const std::vector<ProjectorRow>& rows) {
+  texts_.ForgetUnused();  // another reading of the profiles has models of its own
   searched_.clear();
   for (const ProjectorRow& row : rows) searched_.push_back(SearchTexts::OfProjector(row.profile));
 }

@@ -38,3 +38,7 @@ const QString& SearchTexts::OfModel(const std::shared_ptr<const ProfileModel>& m
   }
   return found->second = names.join(QLatin1Char('\n')).toLower();
 }
+
+void SearchTexts::ForgetUnused() {
+  std::erase_if(models_, [](const auto& model) { return model.first.use_count() == 1; });
+}

@@ -19,6 +19,8 @@ class SearchTexts {
 
   /// The names of the tabs and settings of a model; worked out once for each.
   const QString& OfModel(const std::shared_ptr<const ProfileModel>& model);
+  /// Forgets the models that nobody else has any more.
+  void ForgetUnused();
 
  private:
   std::unordered_map<std::shared_ptr<const ProfileModel>, QString> models_;

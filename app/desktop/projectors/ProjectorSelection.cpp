@@ -35,11 +35,20 @@ int ProjectorSelection::Current() const {
   return current.isValid() ? model_.PositionAt(current.row()) : -1;
 }
 
+// Rows side by side are one range: thousands of ranges would be slow.
 QItemSelection ProjectorSelection::RowsOf(const std::vector<int>& positions) const {
-  QItemSelection rows;
+  std::vector<int> shown;
   for (const int position : positions) {
-    const QModelIndex index = model_.IndexOf(position);
-    if (index.isValid()) rows.select(index, index);
+    if (const QModelIndex index = model_.IndexOf(position); index.isValid())
+      shown.push_back(index.row());
+  }
+  std::ranges::sort(shown);
+  QItemSelection rows;
+  for (auto first = shown.begin(); first != shown.end();) {
+    const auto end = std::adjacent_find(first, shown.end(), [](int a, int b) { return b > a + 1; });
+    const int last = end == shown.end() ? shown.back() : *end;
+    rows.select(model_.index(*first, 0), model_.index(last, 0));
+    first = end == shown.end() ? end : end + 1;
   }
   return rows;
 }

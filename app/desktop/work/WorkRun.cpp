@@ -42,6 +42,8 @@ QString Translated(const std::string& reason) {
   return QCoreApplication::translate("FleetWork", text.c_str());
 }
 
+bool IsOn(PowerState power) { return power == PowerState::On || power == PowerState::WarmingUp; }
+
 }  // namespace
 
 struct WorkRun::Job {
@@ -80,10 +82,12 @@ WorkRun::WorkRun(FleetWatch& watch, const SettingTexts& texts, WorkPlan plan, QO
   for (const WorkPart& part : plan_.parts) {
     for (const FleetTarget& target : part.targets) add(target.id, {.id = target.id});
   }
-  for (const std::string& id : plan_.missing) {
-    add(id,
-        {.id = id, .outcome = WorkOutcome::Refused, .reason = tr("the model does not have it")});
-  }
+  const auto refuse = [&add](const std::vector<std::string>& ids, const QString& reason) {
+    for (const std::string& id : ids)
+      add(id, {.id = id, .outcome = WorkOutcome::Refused, .reason = reason});
+  };
+  refuse(plan_.missing, tr("the model does not have it"));
+  refuse(plan_.unknown, tr("not known whether it was on"));
   connect(&looking_, &QTimer::timeout, this, &WorkRun::Look);
 }
 
@@ -97,8 +101,7 @@ void WorkRun::Begin(std::vector<WorkPart> parts) {
   for (WorkPart& part : parts) {
     for (const FleetTarget& target : part.targets) {
       lines_[places_.at(target.id)] = {.id = target.id};
-      const auto state = watch_.Projectors().State(target.id);
-      powerBefore_.try_emplace(target.id, state ? state->power : std::nullopt);
+      KeepPower(part.work, target.id);
     }
     if (!part.targets.empty())
       jobs_.push_back(std::make_unique<Job>(watch_, texts_, std::move(part)));
@@ -107,18 +110,43 @@ void WorkRun::Begin(std::vector<WorkPart> parts) {
   Q_EMIT Progressed();
 }
 
+// If an attempt may have switched it already, a state that the attempt leads to says nothing about
+// the time before.
+void WorkRun::KeepPower(const FleetWork& work, const std::string& id) {
+  const auto* power = std::get_if<SwitchPower>(&work);
+  if (power == nullptr) return;
+  const auto state = watch_.Projectors().State(id);
+  auto& before = powerBefore_[id];
+  if (before || !state || !state->power) return;
+  if (!reached_.contains(id) || IsOn(*state->power) != power->on) before = state->power;
+}
+
 void WorkRun::Cancel() {
   for (const auto& job : jobs_) job->job.Cancel();
 }
 
-void WorkRun::RetryFailed() {
+void WorkRun::Finish() {
+  if (!IsRunning()) return;
+  Cancel();
+  for (const auto& job : jobs_) job->job.Wait();
+  Look();
+}
+
+std::vector<WorkPart> WorkRun::Rest() const {
   std::vector<WorkPart> parts = plan_.parts;
   for (WorkPart& part : parts) {
     std::erase_if(part.targets, [this](const FleetTarget& target) {
-      return !lines_[places_.at(target.id)].HasFailed();
+      const WorkLine& line = lines_[places_.at(target.id)];
+      return !line.HasFailed() && !line.WasStopped();
     });
   }
-  Begin(std::move(parts));
+  return parts;
+}
+
+void WorkRun::DoRest() { Begin(Rest()); }
+
+bool WorkRun::HasRest() const {
+  return std::ranges::any_of(Rest(), [](const WorkPart& part) { return !part.targets.empty(); });
 }
 
 void WorkRun::Look() {
@@ -132,7 +160,12 @@ void WorkRun::Look() {
     looking_.stop();
     for (const auto& job : jobs_) {
       job->AddUndoTo(undo_);
-      for (const FleetTarget& target : job->targets) watch_.Projectors().AskSoon(target.id);
+      for (const FleetTarget& target : job->targets) {
+        const WorkOutcome outcome = lines_[places_.at(target.id)].outcome;
+        if (outcome != WorkOutcome::Refused && outcome != WorkOutcome::Stopped)
+          reached_.insert(target.id);
+        watch_.Projectors().AskSoon(target.id);
+      }
     }
     jobs_.clear();
   }
@@ -145,14 +178,14 @@ void WorkRun::Collect(const Job& job) {
   for (std::size_t i = 0; i < results.size(); ++i) {
     const std::string& id = job.targets[i].id;
     WorkLine& line = lines_[places_.at(id)];
+    if (line.outcome == results[i].outcome) continue;  // the rest changes with it
     line.outcome = results[i].outcome;
     line.reason = results[i].reason.empty() ? QString() : Translated(results[i].reason);
     if (!results[i].setting.empty())
       line.reason = tr("%1: %2").arg(QString::fromStdString(results[i].setting), line.reason);
     line.unread = results[i].unread;
     line.differences = results[i].differences;
-    if (results[i].snapshot)
-      taken_.try_emplace(id, std::make_shared<const Snapshot>(*results[i].snapshot));
+    if (results[i].snapshot) taken_.try_emplace(id, results[i].snapshot);
   }
 }
 
@@ -163,36 +196,40 @@ QString WorkRun::Summary() const {
   const int done = count([](const WorkLine& line) { return line.outcome == WorkOutcome::Done; });
   const int pending =
       count([](const WorkLine& line) { return line.outcome == WorkOutcome::Pending; });
-  const int failed = count([](const WorkLine& line) { return line.HasFailed(); });
+  const int failed = count(&WorkLine::HasFailed);
+  const int stopped = count(&WorkLine::WasStopped);
   QStringList parts{tr("%1 of %n done", "projectors", static_cast<int>(lines_.size())).arg(done)};
   if (pending > 0) parts += tr("%n still under way", "projectors", pending);
   if (failed > 0) parts += tr("%n failed", "projectors", failed);
+  if (stopped > 0) parts += tr("%n stopped", "projectors", stopped);
   return parts.join(QStringLiteral(" · "));
 }
 
-std::optional<WorkPart> WorkRun::PowerUndo(bool on) const {
-  WorkPart undo{.work = SwitchPower{.on = on}, .targets = {}};
+void WorkRun::AddPowerUndo(WorkPlan& undo) const {
+  WorkPart back[] = {{.work = SwitchPower{.on = false}, .targets = {}},
+                     {.work = SwitchPower{.on = true}, .targets = {}}};
   for (const WorkPart& part : plan_.parts) {
     const auto* power = std::get_if<SwitchPower>(&part.work);
-    if (power == nullptr || power->on == on) continue;
+    if (power == nullptr) continue;
     for (const FleetTarget& target : part.targets) {
-      const WorkOutcome outcome = lines_[places_.at(target.id)].outcome;
-      const bool isDone = outcome == WorkOutcome::Done || outcome == WorkOutcome::Pending;
-      const auto before = powerBefore_.find(target.id);
-      if (!isDone || before == powerBefore_.end() || !before->second) continue;
-      const bool wasOn =
-          *before->second == PowerState::On || *before->second == PowerState::WarmingUp;
-      if (wasOn == on) undo.targets.push_back(target);
+      if (!reached_.contains(target.id)) continue;
+      const auto before = powerBefore_.at(target.id);
+      if (!before) {
+        undo.unknown.push_back(target.id);
+        continue;
+      }
+      const bool wasOn = IsOn(*before);
+      if (wasOn != power->on) back[wasOn ? 1 : 0].targets.push_back(target);
     }
   }
-  return undo.targets.empty() ? std::nullopt : std::optional(std::move(undo));
+  for (WorkPart& part : back) {
+    if (!part.targets.empty()) undo.parts.push_back(std::move(part));
+  }
 }
 
 std::optional<WorkPlan> WorkRun::UndoPlan() const {
   WorkPlan undo{.title = tr("Undo: %1").arg(plan_.title), .question = {}, .parts = {}};
-  for (const bool on : {false, true}) {
-    if (auto part = PowerUndo(on)) undo.parts.push_back(std::move(*part));
-  }
+  AddPowerUndo(undo);
   WorkPart settings{.work = ApplySnapshots{undo_}, .targets = {}};
   for (const WorkPart& part : plan_.parts) {
     for (const FleetTarget& target : part.targets) {

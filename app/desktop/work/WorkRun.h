@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,12 +25,13 @@ struct WorkLine {
   std::shared_ptr<const std::vector<SettingDifference>> differences{};  ///< Of a comparison.
 
   bool HasFailed() const {
-    return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer ||
-           outcome == WorkOutcome::Stopped;
+    return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer;
   }
+  bool WasStopped() const { return outcome == WorkOutcome::Stopped; }
 };
 
-/// Carries out a plan with jobs of the fleet, repeats it on those that failed, and can undo it.
+/// Carries out a plan with jobs of the fleet, repeats it on those that failed or were stopped, and
+/// can undo it.
 class WorkRun : public QObject {
   Q_OBJECT
 
@@ -41,13 +43,17 @@ class WorkRun : public QObject {
   void Start();
   void Cancel();
   bool IsRunning() const { return !jobs_.empty(); }
-  /// Begins again with those that failed.
-  void RetryFailed();
+  /// Cancels what is running, waits for the commands that are under way, and takes the results.
+  void Finish();
+  /// Begins again with those that failed or were stopped.
+  void DoRest();
+  /// Whether there are any. Those that cannot do the work are none of them.
+  bool HasRest() const;
 
   const WorkPlan& Plan() const { return plan_; }
   /// In the order of the plan.
   const std::vector<WorkLine>& Lines() const { return lines_; }
-  /// "137 of 500 done, 3 failed"
+  /// "137 of 500 done · 3 failed"
   QString Summary() const;
   /// The snapshots that were taken.
   const SnapshotsById& Taken() const { return taken_; }
@@ -67,9 +73,11 @@ class WorkRun : public QObject {
   struct Job;
 
   void Begin(std::vector<WorkPart> parts);
+  void KeepPower(const FleetWork& work, const std::string& id);
+  std::vector<WorkPart> Rest() const;
   void Look();
   void Collect(const Job& job);
-  std::optional<WorkPart> PowerUndo(bool on) const;
+  void AddPowerUndo(WorkPlan& undo) const;
 
   FleetWatch& watch_;
   const SettingTexts& texts_;
@@ -77,6 +85,7 @@ class WorkRun : public QObject {
   std::vector<WorkLine> lines_;
   std::map<std::string, std::size_t> places_;  // of the lines
   std::map<std::string, std::optional<PowerState>> powerBefore_;
+  std::set<std::string> reached_;  // may have carried out what any attempt has sent
   std::vector<std::unique_ptr<Job>> jobs_;
   SnapshotsById undo_;
   SnapshotsById taken_;

@@ -83,38 +83,6 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
 }
 
-TEST(FleetWindow, UndoesWhatAnyAttemptMayHaveDone) {
-  MainWindow window({Profile("A"), Profile("B"), Profile("C")}, kOften);
-  const auto setPower = [&](std::size_t i, bool isOn) {
-    window.Session(i)->Simulator().SetValue(SettingId::Power, isOn);
-  };
-  setPower(0, true);
-  for (const std::size_t i : {1U, 2U}) SetFault(window, i, {Fault::Kind::DropOut});
-  window.show();
-  ASSERT_TRUE(AreWatched(window));
-  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.power == PowerState::On; }));
-  SetFault(window, 0, {Fault::Kind::DropOut});
-  Table(window).selectAll();
-  Find<QAction>(window, "Switch Off").trigger();
-  auto& dialog = *window.findChild<WorkDialog*>();
-  Find<QPushButton>(dialog, "Switch Off").click();
-  EXPECT_EQ(Failed(Done(window)), 3);
-  setPower(0, false);  // only the answer was lost
-  for (const std::size_t i : {1U, 2U}) {
-    setPower(i, i == 1);
-    SetFault(window, i, {});
-  }
-  EXPECT_TRUE(Soon([&] { return Rows(window)[1].state.power && Rows(window)[2].state.power; }));
-  Find<QPushButton>(dialog, "Retry the Failed").click();
-  EXPECT_EQ(Results(Done(window)), (QStringList{"A: no answer", "B: done", "C: done"}));
-  SetFault(window, 0, {});
-  Find<QPushButton>(dialog, "Undo All").click();
-  EXPECT_TRUE(Soon([&] { return window.findChild<WorkDialog*>() != &dialog; }));
-  EXPECT_EQ(Results(Done(window)),
-            (QStringList{"A: done", "B: done", "C: not known whether it was on"}));
-  EXPECT_TRUE(Find<QPushButton>(Done(window), "Retry the Failed").isHidden());
-}
-
 TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {
   std::vector<FleetProfile> profiles;
   profiles.reserve(250);

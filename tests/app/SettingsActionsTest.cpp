@@ -1,4 +1,5 @@
-// Settings saved in files, and compared and applied by choice; several projectors at once.
+// Settings saved in files, and compared and applied by choice; several projectors at once. What
+// work on them can be undone.
 
 #include <optional>
 #include <utility>
@@ -20,6 +21,8 @@
 #include "tests/support/Programs.h"
 
 namespace {
+
+using namespace std::chrono_literals;
 
 /// Two projectors of one model in the window, and a folder.
 struct SettingsOfTwo : testing::Test {
@@ -123,7 +126,7 @@ TEST_F(SettingsOfTwo, AreShownAfterASecondAndKeptForUndoIfTheProgramEnds) {
   Write(file, WriteSnapshot(snapshot));
   other->findChild<SettingsActions*>()->OpenFile(file, Rows(*other), true);
   ASSERT_TRUE(HasCompared(Modal<ComparisonDialog>()));
-  SetFault(*other, 0, {Fault::Kind::Late, std::chrono::milliseconds(400)});
+  SetFault(*other, 0, {Fault::Kind::Late, 400ms});
   Find<QPushButton>(Modal<ComparisonDialog>(), "Apply").click();
   const auto& projector = other->Session(0)->Simulator();
   EXPECT_TRUE(Soon([&] { return projector.Value(SettingId::Brightness) == 130; }));
@@ -138,6 +141,39 @@ TEST_F(SettingsOfTwo, AreShownAfterASecondAndKeptForUndoIfTheProgramEnds) {
   ASSERT_EQ(undo.size(), 2);
   EXPECT_GE(ReadFleetUndo(Contents(folder.filePath(undo[1]))).undo.begin()->second->settings.size(),
             3U);
+}
+
+TEST(Work, UndoesWhatAnyAttemptMayHaveDone) {
+  MainWindow window({Profile("A"), Profile("B"), Profile("C")},
+                    {.interval = 200ms, .longestPause = 200ms, .soonest = 200ms});
+  const auto setPower = [&](std::size_t i, bool isOn) {
+    window.Session(i)->Simulator().SetValue(SettingId::Power, isOn);
+  };
+  setPower(0, true);
+  for (const std::size_t i : {1U, 2U}) SetFault(window, i, {Fault::Kind::DropOut});
+  window.show();
+  ASSERT_TRUE(AreWatched(window));
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.power == PowerState::On; }));
+  SetFault(window, 0, {Fault::Kind::DropOut});
+  Table(window).selectAll();
+  Find<QAction>(window, "Switch Off").trigger();
+  auto& dialog = *window.findChild<WorkDialog*>();
+  Find<QPushButton>(dialog, "Switch Off").click();
+  EXPECT_TRUE(Results(Done(window)).filter("done").empty());
+  setPower(0, false);  // only the answer was lost
+  for (const std::size_t i : {1U, 2U}) {
+    setPower(i, i == 1);
+    SetFault(window, i, {});
+  }
+  EXPECT_TRUE(Soon([&] { return Rows(window)[1].state.power && Rows(window)[2].state.power; }));
+  Find<QPushButton>(dialog, "Retry the Failed").click();
+  EXPECT_EQ(Results(Done(window)), (QStringList{"A: no answer", "B: done", "C: done"}));
+  SetFault(window, 0, {});
+  Find<QPushButton>(dialog, "Undo All").click();
+  EXPECT_TRUE(Soon([&] { return window.findChild<WorkDialog*>() != &dialog; }));
+  EXPECT_EQ(Results(Done(window)),
+            (QStringList{"A: done", "B: done", "C: not known whether it was on"}));
+  EXPECT_TRUE(Find<QPushButton>(Done(window), "Retry the Failed").isHidden());
 }
 
 TEST(DifferenceTree, MakesLinesWhenABranchIsOpenedAndKeepsThemWhenOthersAreReadAgain) {

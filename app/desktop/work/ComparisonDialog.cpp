@@ -81,7 +81,7 @@ void ComparisonDialog::MakeLayout() {
   layout->addWidget(buttons);
   apply_->setDefault(comparison_.applies);  // only now that the dialog knows the button
   RemoveForeignButtonIcons(*this);
-  connect(again_, &QPushButton::clicked, run_, &WorkRun::DoRest);
+  connect(again_, &QPushButton::clicked, run_, &WorkRun::Start);
   connect(apply_, &QPushButton::clicked, this, &ComparisonDialog::Apply);
   connect(buttons, &QDialogButtonBox::rejected, this, &ComparisonDialog::reject);
 }

@@ -32,7 +32,7 @@ WorkDialog::WorkDialog(WorkRun* run, const NameOf& nameOf, QWidget* parent)
   MakeLayout(nameOf);
   connect(run_, &WorkRun::Progressed, this, &WorkDialog::Show);
   connect(begin_, &QPushButton::clicked, this, &WorkDialog::Begin);
-  connect(rest_, &QPushButton::clicked, run_, &WorkRun::DoRest);
+  connect(rest_, &QPushButton::clicked, run_, &WorkRun::Start);
   connect(undo_, &QPushButton::clicked, this, [this] {
     const auto plan = run_->UndoPlan();
     accept();

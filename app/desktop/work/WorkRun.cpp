@@ -42,8 +42,6 @@ QString Translated(const std::string& reason) {
   return QCoreApplication::translate("FleetWork", text.c_str());
 }
 
-bool IsOn(PowerState power) { return power == PowerState::On || power == PowerState::WarmingUp; }
-
 }  // namespace
 
 struct WorkRun::Job {
@@ -95,13 +93,15 @@ WorkRun::~WorkRun() {
   for (const auto& job : jobs_) job->job.Cancel();
 }
 
-void WorkRun::Start() { Begin(plan_.parts); }
-
-void WorkRun::Begin(std::vector<WorkPart> parts) {
-  for (WorkPart& part : parts) {
+void WorkRun::Start() {
+  for (WorkPart part : plan_.parts) {
+    std::erase_if(part.targets, [this](const FleetTarget& target) {
+      const WorkOutcome outcome = lines_[places_.at(target.id)].outcome;
+      return outcome == WorkOutcome::Done || outcome == WorkOutcome::Pending;
+    });
     for (const FleetTarget& target : part.targets) {
       lines_[places_.at(target.id)] = {.id = target.id};
-      KeepPower(part.work, target.id);
+      power_.Keep(part.work, target.id, watch_.Projectors().State(target.id));
     }
     if (!part.targets.empty())
       jobs_.push_back(std::make_unique<Job>(watch_, texts_, std::move(part)));
@@ -110,15 +110,13 @@ void WorkRun::Begin(std::vector<WorkPart> parts) {
   Q_EMIT Progressed();
 }
 
-// If an attempt may have switched it already, a state that the attempt leads to says nothing about
-// the time before.
-void WorkRun::KeepPower(const FleetWork& work, const std::string& id) {
-  const auto* power = std::get_if<SwitchPower>(&work);
-  if (power == nullptr) return;
-  const auto state = watch_.Projectors().State(id);
-  auto& before = powerBefore_[id];
-  if (before || !state || !state->power) return;
-  if (!reached_.contains(id) || IsOn(*state->power) != power->on) before = state->power;
+bool WorkRun::HasRest() const {
+  return std::ranges::any_of(plan_.parts, [this](const WorkPart& part) {
+    return std::ranges::any_of(part.targets, [this](const FleetTarget& target) {
+      const WorkLine& line = lines_[places_.at(target.id)];
+      return line.HasFailed() || line.WasStopped();
+    });
+  });
 }
 
 void WorkRun::Cancel() {
@@ -130,23 +128,6 @@ void WorkRun::Finish() {
   Cancel();
   for (const auto& job : jobs_) job->job.Wait();
   Look();
-}
-
-std::vector<WorkPart> WorkRun::Rest() const {
-  std::vector<WorkPart> parts = plan_.parts;
-  for (WorkPart& part : parts) {
-    std::erase_if(part.targets, [this](const FleetTarget& target) {
-      const WorkLine& line = lines_[places_.at(target.id)];
-      return !line.HasFailed() && !line.WasStopped();
-    });
-  }
-  return parts;
-}
-
-void WorkRun::DoRest() { Begin(Rest()); }
-
-bool WorkRun::HasRest() const {
-  return std::ranges::any_of(Rest(), [](const WorkPart& part) { return !part.targets.empty(); });
 }
 
 void WorkRun::Look() {
@@ -161,9 +142,7 @@ void WorkRun::Look() {
     for (const auto& job : jobs_) {
       job->AddUndoTo(undo_);
       for (const FleetTarget& target : job->targets) {
-        const WorkOutcome outcome = lines_[places_.at(target.id)].outcome;
-        if (outcome != WorkOutcome::Refused && outcome != WorkOutcome::Stopped)
-          reached_.insert(target.id);
+        power_.TakeOutcome(target.id, lines_[places_.at(target.id)].outcome);
         watch_.Projectors().AskSoon(target.id);
       }
     }
@@ -205,31 +184,9 @@ QString WorkRun::Summary() const {
   return parts.join(QStringLiteral(" · "));
 }
 
-void WorkRun::AddPowerUndo(WorkPlan& undo) const {
-  WorkPart back[] = {{.work = SwitchPower{.on = false}, .targets = {}},
-                     {.work = SwitchPower{.on = true}, .targets = {}}};
-  for (const WorkPart& part : plan_.parts) {
-    const auto* power = std::get_if<SwitchPower>(&part.work);
-    if (power == nullptr) continue;
-    for (const FleetTarget& target : part.targets) {
-      if (!reached_.contains(target.id)) continue;
-      const auto before = powerBefore_.at(target.id);
-      if (!before) {
-        undo.unknown.push_back(target.id);
-        continue;
-      }
-      const bool wasOn = IsOn(*before);
-      if (wasOn != power->on) back[wasOn ? 1 : 0].targets.push_back(target);
-    }
-  }
-  for (WorkPart& part : back) {
-    if (!part.targets.empty()) undo.parts.push_back(std::move(part));
-  }
-}
-
 std::optional<WorkPlan> WorkRun::UndoPlan() const {
   WorkPlan undo{.title = tr("Undo: %1").arg(plan_.title), .question = {}, .parts = {}};
-  AddPowerUndo(undo);
+  power_.AddTo(undo, plan_.parts);
   WorkPart settings{.work = ApplySnapshots{undo_}, .targets = {}};
   for (const WorkPart& part : plan_.parts) {
     for (const FleetTarget& target : part.targets) {

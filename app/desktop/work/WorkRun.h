@@ -3,7 +3,6 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -11,6 +10,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include "app/desktop/work/PowerUndo.h"
 #include "app/desktop/work/WorkPlan.h"
 #include "fleet/FleetJob.h"
 
@@ -40,15 +40,14 @@ class WorkRun : public QObject {
   WorkRun(FleetWatch& watch, const SettingTexts& texts, WorkPlan plan, QObject* parent = nullptr);
   ~WorkRun() override;
 
+  /// Begins with all, or again with those that failed or were stopped.
   void Start();
+  /// Whether there are any of these. Those that cannot do the work are none of them.
+  bool HasRest() const;
   void Cancel();
   bool IsRunning() const { return !jobs_.empty(); }
   /// Cancels what is running, waits for the commands that are under way, and takes the results.
   void Finish();
-  /// Begins again with those that failed or were stopped.
-  void DoRest();
-  /// Whether there are any. Those that cannot do the work are none of them.
-  bool HasRest() const;
 
   const WorkPlan& Plan() const { return plan_; }
   /// In the order of the plan.
@@ -72,20 +71,15 @@ class WorkRun : public QObject {
  private:
   struct Job;
 
-  void Begin(std::vector<WorkPart> parts);
-  void KeepPower(const FleetWork& work, const std::string& id);
-  std::vector<WorkPart> Rest() const;
   void Look();
   void Collect(const Job& job);
-  void AddPowerUndo(WorkPlan& undo) const;
 
   FleetWatch& watch_;
   const SettingTexts& texts_;
   const WorkPlan plan_;
   std::vector<WorkLine> lines_;
   std::map<std::string, std::size_t> places_;  // of the lines
-  std::map<std::string, std::optional<PowerState>> powerBefore_;
-  std::set<std::string> reached_;  // may have carried out what any attempt has sent
+  PowerUndo power_;
   std::vector<std::unique_ptr<Job>> jobs_;
   SnapshotsById undo_;
   SnapshotsById taken_;

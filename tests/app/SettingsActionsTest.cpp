@@ -192,6 +192,7 @@ TEST(DifferenceTree, MakesLinesWhenABranchIsOpenedAndKeepsThemWhenOthersAreReadA
   DifferenceTree tree("File", true, texts);
   tree.Show(projectors, lines);
   EXPECT_EQ(Lines(tree).mid(2000), (QStringList{"  Picture: Tint||2", "1||", "2||"}));
+  EXPECT_EQ(tree.Checked().at("2")->settings.size(), 2U) << "closed, and checked";
   QTreeWidgetItem& last = *tree.topLevelItem(2);
   last.setCheckState(0, Qt::Unchecked);
   lines[1] = later;

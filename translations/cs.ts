@@ -1615,6 +1615,22 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
             <numerusform>%n projektorů se nepodařilo načíst.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projektor teď nehlásí všechna tato nastavení.</numerusform>
+            <numerusform>%n projektory teď nehlásí všechna tato nastavení.</numerusform>
+            <numerusform>%n projektorů teď nehlásí všechna tato nastavení.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n projektor byl přeskočen.</numerusform>
+            <numerusform>%n projektory byly přeskočeny.</numerusform>
+            <numerusform>%n projektorů bylo přeskočeno.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4186,6 +4202,10 @@ a minus in front takes a tag away:</source>
         <source>Close</source>
         <translation>Zavřít</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Dokončit &amp;zbytek</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4258,6 +4278,19 @@ a minus in front takes a tag away:</source>
             <numerusform>%n selhal</numerusform>
             <numerusform>%n selhaly</numerusform>
             <numerusform>%n selhalo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>není známo, zda byl zapnutý</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n zastaven</numerusform>
+            <numerusform>%n zastaveny</numerusform>
+            <numerusform>%n zastaveno</numerusform>
         </translation>
     </message>
 </context>

@@ -1591,6 +1591,20 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
             <numerusform>%n Projektoren konnten nicht gelesen werden.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n Projektor meldet gerade nicht alle diese Einstellungen.</numerusform>
+            <numerusform>%n Projektoren melden gerade nicht alle diese Einstellungen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n Projektor wurde übersprungen.</numerusform>
+            <numerusform>%n Projektoren wurden übersprungen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Rest &amp;erledigen</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
         <translation>
             <numerusform>%n fehlgeschlagen</numerusform>
             <numerusform>%n fehlgeschlagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>nicht bekannt, ob er an war</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n angehalten</numerusform>
+            <numerusform>%n angehalten</numerusform>
         </translation>
     </message>
 </context>

@@ -180,6 +180,20 @@
             <numerusform>%n projectors could not be read.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projector does not report all of these settings now.</numerusform>
+            <numerusform>%n projectors do not report all of these settings now.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n projector was skipped.</numerusform>
+            <numerusform>%n projectors were skipped.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>DetailsPanel</name>
@@ -505,6 +519,14 @@ a minus in front takes a tag away:</numerusform>
         <translation>
             <numerusform>%n failed</numerusform>
             <numerusform>%n failed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n stopped</numerusform>
+            <numerusform>%n stopped</numerusform>
         </translation>
     </message>
 </context>

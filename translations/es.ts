@@ -1591,6 +1591,20 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
             <numerusform>%n proyectores no se pudieron leer.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n proyector no informa ahora de todos estos ajustes.</numerusform>
+            <numerusform>%n proyectores no informan ahora de todos estos ajustes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>Se omitió %n proyector.</numerusform>
+            <numerusform>Se omitieron %n proyectores.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ un signo menos delante quita una etiqueta:</numerusform>
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Hacer el &amp;resto</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ un signo menos delante quita una etiqueta:</numerusform>
         <translation>
             <numerusform>%n fallido</numerusform>
             <numerusform>%n fallidos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>no se sabe si estaba encendido</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n detenido</numerusform>
+            <numerusform>%n detenidos</numerusform>
         </translation>
     </message>
 </context>

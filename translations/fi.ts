@@ -1591,6 +1591,20 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
             <numerusform>%n projektoria ei voitu lukea.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projektori ei ilmoita nyt kaikkia näitä asetuksia.</numerusform>
+            <numerusform>%n projektoria ei ilmoita nyt kaikkia näitä asetuksia.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n projektori ohitettiin.</numerusform>
+            <numerusform>%n projektoria ohitettiin.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <source>Close</source>
         <translation>Sulje</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Tee &amp;loput</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ miinus edessä poistaa tunnisteen:</numerusform>
         <translation>
             <numerusform>%n epäonnistui</numerusform>
             <numerusform>%n epäonnistui</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>ei tiedetä, oliko se päällä</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n keskeytetty</numerusform>
+            <numerusform>%n keskeytetty</numerusform>
         </translation>
     </message>
 </context>

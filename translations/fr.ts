@@ -1591,6 +1591,20 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
             <numerusform>%n projecteurs n’ont pas pu être lus.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projecteur n’indique pas tous ces réglages actuellement.</numerusform>
+            <numerusform>%n projecteurs n’indiquent pas tous ces réglages actuellement.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n projecteur a été ignoré.</numerusform>
+            <numerusform>%n projecteurs ont été ignorés.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Faire le &amp;reste</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
         <translation>
             <numerusform>%n échec</numerusform>
             <numerusform>%n échecs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>on ignore s’il était allumé</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n arrêté</numerusform>
+            <numerusform>%n arrêtés</numerusform>
         </translation>
     </message>
 </context>

@@ -1591,6 +1591,20 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
             <numerusform>לא ניתן היה לקרוא %n מקרנים.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>מקרן אחד אינו מדווח עכשיו על כל ההגדרות האלה.</numerusform>
+            <numerusform>%n מקרנים אינם מדווחים עכשיו על כל ההגדרות האלה.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>בוצע דילוג על מקרן אחד.</numerusform>
+            <numerusform>בוצע דילוג על %n מקרנים.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ a minus in front takes a tag away:</source>
         <source>Close</source>
         <translation>סגור</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>&amp;השלמת השאר</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ a minus in front takes a tag away:</source>
         <translation>
             <numerusform>אחד נכשל</numerusform>
             <numerusform>%n נכשלו</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>לא ידוע אם היה דלוק</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>אחד נעצר</numerusform>
+            <numerusform>%n נעצרו</numerusform>
         </translation>
     </message>
 </context>

@@ -1567,6 +1567,18 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
             <numerusform>%n projektor nem volt beolvasható.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projektor most nem közli mindegyik beállítást.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n projektor kimaradt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4068,6 +4080,10 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <source>Close</source>
         <translation>Bezárás</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>A &amp;többi elvégzése</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4132,6 +4148,17 @@ elöl álló mínusz eltávolítja a címkét:</numerusform>
         <comment>projectors</comment>
         <translation>
             <numerusform>%n sikertelen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>nem tudni, be volt-e kapcsolva</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n leállítva</numerusform>
         </translation>
     </message>
 </context>

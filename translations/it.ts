@@ -1591,6 +1591,20 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
             <numerusform>Non è stato possibile leggere %n proiettori.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n proiettore ora non comunica tutte queste impostazioni.</numerusform>
+            <numerusform>%n proiettori ora non comunicano tutte queste impostazioni.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n proiettore è stato saltato.</numerusform>
+            <numerusform>%n proiettori sono stati saltati.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Esegui il &amp;resto</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ un segno meno davanti toglie un’etichetta:</numerusform>
         <translation>
             <numerusform>%n non riuscito</numerusform>
             <numerusform>%n non riusciti</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>non si sa se era acceso</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n fermato</numerusform>
+            <numerusform>%n fermati</numerusform>
         </translation>
     </message>
 </context>

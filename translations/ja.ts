@@ -1567,6 +1567,18 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
             <numerusform>%n 台のプロジェクターを読み取れませんでした。</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n 台のプロジェクターは、現在一部の設定を読み取れません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n 台のプロジェクターをスキップしました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4068,6 +4080,10 @@ a minus in front takes a tag away:</source>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>残りを実行(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4132,6 +4148,17 @@ a minus in front takes a tag away:</source>
         <comment>projectors</comment>
         <translation>
             <numerusform>%n 台が失敗</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>電源が入っていたか不明</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台を中止</numerusform>
         </translation>
     </message>
 </context>

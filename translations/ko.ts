@@ -1567,6 +1567,18 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
             <numerusform>프로젝터 %n대를 읽을 수 없었습니다.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>프로젝터 %n대는 지금 일부 설정을 읽을 수 없습니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>프로젝터 %n대를 건너뛰었습니다.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4068,6 +4080,10 @@ a minus in front takes a tag away:</source>
         <source>Close</source>
         <translation>닫기</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>나머지 실행(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4132,6 +4148,17 @@ a minus in front takes a tag away:</source>
         <comment>projectors</comment>
         <translation>
             <numerusform>%n대 실패</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>켜져 있었는지 알 수 없음</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n대 중지됨</numerusform>
         </translation>
     </message>
 </context>

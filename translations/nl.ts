@@ -1591,6 +1591,20 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
             <numerusform>%n projectors konden niet gelezen worden.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projector meldt nu niet al deze instellingen.</numerusform>
+            <numerusform>%n projectors melden nu niet al deze instellingen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n projector is overgeslagen.</numerusform>
+            <numerusform>%n projectors zijn overgeslagen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ een minteken ervoor neemt een label weg:</numerusform>
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>&amp;Rest uitvoeren</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ een minteken ervoor neemt een label weg:</numerusform>
         <translation>
             <numerusform>%n mislukt</numerusform>
             <numerusform>%n mislukt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>niet bekend of hij aan stond</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n gestopt</numerusform>
+            <numerusform>%n gestopt</numerusform>
         </translation>
     </message>
 </context>

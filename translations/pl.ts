@@ -1615,6 +1615,22 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
             <numerusform>Nie udało się odczytać %n projektorów.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projektor nie podaje teraz wszystkich tych ustawień.</numerusform>
+            <numerusform>%n projektory nie podają teraz wszystkich tych ustawień.</numerusform>
+            <numerusform>%n projektorów nie podaje teraz wszystkich tych ustawień.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>Pominięto %n projektor.</numerusform>
+            <numerusform>Pominięto %n projektory.</numerusform>
+            <numerusform>Pominięto %n projektorów.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4186,6 +4202,10 @@ minus przed tagiem go usuwa:</numerusform>
         <source>Close</source>
         <translation>Zamknij</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Wykonaj &amp;resztę</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4258,6 +4278,19 @@ minus przed tagiem go usuwa:</numerusform>
             <numerusform>nieudane: %n</numerusform>
             <numerusform>nieudane: %n</numerusform>
             <numerusform>nieudane: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>nie wiadomo, czy był włączony</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>zatrzymane: %n</numerusform>
+            <numerusform>zatrzymane: %n</numerusform>
+            <numerusform>zatrzymane: %n</numerusform>
         </translation>
     </message>
 </context>

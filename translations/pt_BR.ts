@@ -1591,6 +1591,20 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
             <numerusform>Não foi possível ler %n projetores.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n projetor não informa agora todos esses ajustes.</numerusform>
+            <numerusform>%n projetores não informam agora todos esses ajustes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>%n projetor foi ignorado.</numerusform>
+            <numerusform>%n projetores foram ignorados.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4127,6 +4141,10 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <source>Close</source>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>Fazer o &amp;restante</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4195,6 +4213,18 @@ um sinal de menos na frente retira uma etiqueta:</numerusform>
         <translation>
             <numerusform>%n falhou</numerusform>
             <numerusform>%n falharam</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>não se sabe se estava ligado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n parado</numerusform>
+            <numerusform>%n parados</numerusform>
         </translation>
     </message>
 </context>

@@ -1615,6 +1615,22 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
             <numerusform>Не удалось прочитать %n проекторов.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n проектор сейчас сообщает не все эти настройки.</numerusform>
+            <numerusform>%n проектора сейчас сообщают не все эти настройки.</numerusform>
+            <numerusform>%n проекторов сейчас сообщают не все эти настройки.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>Пропущен %n проектор.</numerusform>
+            <numerusform>Пропущено %n проектора.</numerusform>
+            <numerusform>Пропущено %n проекторов.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4186,6 +4202,10 @@ a minus in front takes a tag away:</source>
         <source>Close</source>
         <translation>Закрыть</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>&amp;Выполнить остальные</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4258,6 +4278,19 @@ a minus in front takes a tag away:</source>
             <numerusform>с ошибкой: %n</numerusform>
             <numerusform>с ошибкой: %n</numerusform>
             <numerusform>с ошибкой: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>неизвестно, был ли он включён</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>остановлено: %n</numerusform>
+            <numerusform>остановлено: %n</numerusform>
+            <numerusform>остановлено: %n</numerusform>
         </translation>
     </message>
 </context>

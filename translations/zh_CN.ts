@@ -1567,6 +1567,18 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
             <numerusform>%n 台投影机无法读取。</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n 台投影机现在无法报告全部这些设置。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>已跳过 %n 台投影机。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4068,6 +4080,10 @@ a minus in front takes a tag away:</source>
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>执行其余项(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4132,6 +4148,17 @@ a minus in front takes a tag away:</source>
         <comment>projectors</comment>
         <translation>
             <numerusform>%n 台失败</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>不清楚之前是否开机</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台已停止</numerusform>
         </translation>
     </message>
 </context>

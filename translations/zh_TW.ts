@@ -1567,6 +1567,18 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
             <numerusform>%n 台投影機無法讀取。</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n projectors do not report all of these settings now.</source>
+        <translation>
+            <numerusform>%n 台投影機現在無法回報全部這些設定。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n projectors were skipped.</source>
+        <translation>
+            <numerusform>已略過 %n 台投影機。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ConnectionFields</name>
@@ -4068,6 +4080,10 @@ a minus in front takes a tag away:</source>
         <source>Close</source>
         <translation>關閉</translation>
     </message>
+    <message>
+        <source>Do the &amp;Rest</source>
+        <translation>執行其餘項目(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>WorkRun</name>
@@ -4132,6 +4148,17 @@ a minus in front takes a tag away:</source>
         <comment>projectors</comment>
         <translation>
             <numerusform>%n 台失敗</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>not known whether it was on</source>
+        <translation>不清楚先前是否開機</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <comment>projectors</comment>
+        <translation>
+            <numerusform>%n 台已停止</numerusform>
         </translation>
     </message>
 </context>

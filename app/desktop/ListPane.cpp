@@ -143,12 +143,16 @@ std::vector<const ProjectorRow*> ListPane::Selected() const {
   return rows;
 }
 
+const ProjectorRow* ListPane::OnlySelected() const {
+  return view_->SelectedCount() == 1 ? Selected().front() : nullptr;
+}
+
 void ListPane::ShowDetails() {
   if (details_ == nullptr) return;
-  const ProjectorRow* current = view_->Current();
+  const ProjectorRow* only = OnlySelected();
   details_->Show(
-      current, view_->SelectedCount(),
-      current == nullptr ? std::vector<StateChange>() : watch_.Projectors().History(current->id));
+      only, view_->SelectedCount(),
+      only == nullptr ? std::vector<StateChange>() : watch_.Projectors().History(only->id));
 }
 
 // The fleet does not report answers that change nothing, so the times of the last answers are
@@ -158,7 +162,7 @@ void ListPane::Count() {
   std::vector<std::string> ids;
   for (const int position : view_->InSight())
     ids.push_back(view_->Model().All()[static_cast<std::size_t>(position)].id);
-  if (const ProjectorRow* current = view_->Current()) ids.push_back(current->id);
+  if (const ProjectorRow* only = OnlySelected()) ids.push_back(only->id);
   const std::vector<ProjectorRow>& rows = view_->Model().All();
   for (std::size_t i = 0; i < std::min(kFetchedUnseen, rows.size()); ++i) {
     nextFetched_ = (nextFetched_ + 1) % rows.size();

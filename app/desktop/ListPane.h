@@ -39,6 +39,9 @@ class ListPane : public QWidget {
   QString NameOf(const std::string& id) const;
   /// The selected projectors; valid until the list changes.
   std::vector<const ProjectorRow*> Selected() const;
+  /// The selected projector; null if there is none, or more than one. It need not be the current
+  /// one of the list.
+  const ProjectorRow* OnlySelected() const;
 
   QByteArray SaveState() const;
   /// False if `state` is none.

@@ -201,10 +201,10 @@ void MainWindow::ConnectAlerts() {
 
 // A session is only made for a simulation that is shown.
 void MainWindow::TakeSelection() {
-  const ProjectorRow* current = pane_->View().Current();
+  const ProjectorRow* only = pane_->OnlySelected();
   const auto* dock = findChild<QDockWidget*>(QStringLiteral("simulation"));
-  const bool isWanted = current != nullptr && dock->isVisible();
-  faults_->SetSession(isWanted ? live_->Session(current->profile).get() : nullptr);
+  const bool isWanted = only != nullptr && dock->isVisible();
+  faults_->SetSession(isWanted ? live_->Session(only->profile).get() : nullptr);
   const bool any = pane_->View().SelectedCount() > 0;
   editing_->Update();
   settingsActions_->Update(any);

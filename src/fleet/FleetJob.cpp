@@ -57,9 +57,7 @@ SnapshotsById FleetJob::Undo() const {
   const std::lock_guard lock(mutex_);
   SnapshotsById undo;
   for (std::size_t i = 0; i < targets_.size(); ++i) {
-    if (const auto& one = results_[i].undo) {
-      undo.emplace(targets_[i].id, std::make_shared<const Snapshot>(*one));
-    }
+    if (const auto& one = results_[i].undo) undo.emplace(targets_[i].id, one);
   }
   return undo;
 }
@@ -97,7 +95,7 @@ WorkResult FleetJob::ResultOf(std::size_t index) {
   const std::function<bool()> goesOn = [this] { return !isCancelled_; };
   ProjectorWork work(target, MakeJobChannel(loop_, target.address, options_.timeOut), texts_,
                      goesOn, told);
-  WorkResult result = work.Do(work_, [&](const Snapshot& undo) {
+  WorkResult result = work.Do(work_, [&](const std::shared_ptr<const Snapshot>& undo) {
     Change(index, [&](WorkResult& now) { now.undo = undo; });
   });
   const auto* const compare = std::get_if<CompareSnapshots>(&work_);

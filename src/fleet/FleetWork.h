@@ -72,13 +72,14 @@ struct SettingDifference {
 /// The result of a job for one projector.
 struct WorkResult {
   WorkOutcome outcome = WorkOutcome::Waiting;
-  std::string reason{};                ///< A few English words; empty without a problem.
-  std::string setting{};               ///< Name of the setting that the reason is about, if any.
-  std::optional<Snapshot> snapshot{};  ///< The snapshot that was taken.
-  std::optional<Snapshot> undo{};      ///< What was replaced so far; nothing if nothing was.
+  std::string reason{};   ///< A few English words; empty without a problem.
+  std::string setting{};  ///< Name of the setting that the reason is about, if any.
+  // A job hands out copies of its results, so what is large is shared.
+  std::shared_ptr<const Snapshot> snapshot{};  ///< The snapshot that was taken.
+  std::shared_ptr<const Snapshot> undo{};      ///< What was replaced so far; null if nothing was.
   int unread = 0;  ///< Settings missing from `snapshot` because they could not be read.
   std::optional<int> differing{};  ///< Settings that differ from the snapshot.
-  /// Of a comparison; shared, because a job hands out copies of its results. Null for other work.
+  /// Of a comparison; null for other work.
   std::shared_ptr<const std::vector<SettingDifference>> differences{};
 };
 

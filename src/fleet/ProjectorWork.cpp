@@ -75,8 +75,7 @@ ProjectorWork::ProjectorWork(const FleetTarget& target,
   settings_ = ModelSettings(std::move(model));
 }
 
-WorkResult ProjectorWork::Do(const FleetWork& work,
-                             const std::function<void(const Snapshot&)>& keepUndo) {
+WorkResult ProjectorWork::Do(const FleetWork& work, const KeepUndo& keepUndo) {
   keepUndo_ = keepUndo;
   return std::visit([this](const auto& one) { return Do(one); }, work);
 }
@@ -119,7 +118,7 @@ WorkResult ProjectorWork::Do(const TakeSnapshots&) {
     return Refused("the projector reports none of its settings now");
   }
   return {.outcome = WorkOutcome::Done,
-          .snapshot = std::move(taken),
+          .snapshot = std::make_shared<const Snapshot>(std::move(taken)),
           .unread = static_cast<int>(unread.size())};
 }
 
@@ -147,12 +146,12 @@ WorkResult ProjectorWork::Do(const CompareSnapshots& compare) {
 WorkResult ProjectorWork::Apply(const Snapshot& snapshot) {
   Restoration restoration(snapshot, settings_, connection_);
   restoration.Read(progress_);
-  std::optional<Snapshot> undo;
+  std::shared_ptr<const Snapshot> undo;
   const auto keep = [&] {
     Snapshot grown = restoration.Undo(id_, texts_);
     if (grown.settings.empty() && grown.beforehand.empty()) return true;
-    keepUndo_(grown);
-    undo = std::move(grown);
+    undo = std::make_shared<const Snapshot>(std::move(grown));
+    keepUndo_(undo);
     return true;
   };
   if (progress_.goesOn()) restoration.Send(texts_, progress_, keep);

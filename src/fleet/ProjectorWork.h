@@ -26,8 +26,9 @@ class ProjectorWork {
   ProjectorWork(const FleetTarget& target, const std::shared_ptr<ProjectorChannel>& channel,
                 const SettingTexts& texts, const std::function<bool()>& goesOn, Observer observer);
 
+  using KeepUndo = std::function<void(const std::shared_ptr<const Snapshot>& undo)>;
   /// `keepUndo` is called whenever the undo has grown, before the change is sent.
-  WorkResult Do(const FleetWork& work, const std::function<void(const Snapshot&)>& keepUndo);
+  WorkResult Do(const FleetWork& work, const KeepUndo& keepUndo);
 
  private:
   WorkResult Do(const SwitchPower& power);
@@ -51,7 +52,7 @@ class ProjectorWork {
   const std::string id_;
   const SettingTexts& texts_;
   const std::function<bool()>& goesOn_;
-  std::function<void(const Snapshot&)> keepUndo_{};
+  KeepUndo keepUndo_{};
   CPjtInterface connection_;
   ModelSettings settings_;
   const Progress progress_;

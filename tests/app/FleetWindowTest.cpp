@@ -82,15 +82,6 @@ TEST(FleetWindow, FindsOneOfFiveHundredAndItsAlertAndSwitchesAllOff) {
   EXPECT_EQ(Failed(Done(window)), silent);
   Find<QLabel>(*dialog, "475 of 500 done · 25 failed");
   EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == 475; }));
-
-  EXPECT_EQ(simulator.Control("* none"), "ok");
-  Find<QPushButton>(*dialog, "Retry the Failed").click();
-  EXPECT_EQ(Failed(Done(window)), 0);
-  EXPECT_FALSE(Find<QPushButton>(*dialog, "Retry the Failed").isVisible());
-
-  Find<QPushButton>(*dialog, "Undo All").click();
-  EXPECT_TRUE(Soon([&] { return CountIn(window, ProjectorGroup::Kind::Off) == off + silent; }))
-      << "those that were on are on again";
 }
 
 TEST(FleetWindow, WatchesEverySimulatedProjectorAtAnAddressOfItsOwn) {

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include <QDialogButtonBox>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -15,6 +16,7 @@
 #include <QUndoStack>
 #include <gtest/gtest.h>
 
+#include "app/desktop/details/DetailsPanel.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "host/CAdvanceDlg.h"
@@ -51,6 +53,20 @@ TEST(ProjectorList, OnlyADoubleClickOpensADialog) {
   EXPECT_EQ(window.Dialog(2), nullptr);
   QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, third);
   EXPECT_NE(window.Dialog(2), nullptr);
+
+  auto& simulation = *window.findChild<QDockWidget*>("simulation");
+  simulation.show();
+  const auto& details = *window.findChild<DetailsPanel*>();
+  const QPoint second = table.visualRect(table.model()->index(1, 0)).center();
+  for (const char* shown : {"2 projectors selected", "B"}) {
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ControlModifier, second);
+    EXPECT_EQ(Selected(window), "A") << "the current one, selected or not";
+    EXPECT_TRUE(Find<QLabel>(details, shown).isVisible());
+    Find<QPushButton>(simulation, "Set Fault").click();
+  }
+  simulation.hide();
+  EXPECT_EQ(window.Session(1)->Faults().size(), 0U);
+  EXPECT_EQ(window.Session(2)->Faults().size(), 1U);
 }
 
 TEST(ProjectorList, IsSearchedAndSorted) {

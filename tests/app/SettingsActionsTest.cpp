@@ -1,4 +1,8 @@
-// Settings saved in files, and compared and applied by choice; several projectors at once.
+// Settings saved in files, and compared and applied by choice; several projectors at once. What
+// work on them can be undone.
+
+#include <optional>
+#include <utility>
 
 #include <QDir>
 #include <QLabel>
@@ -11,10 +15,14 @@
 #include "app/desktop/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"
 #include "fleet/FleetUndo.h"
+#include "i18n/Catalog.h"
+#include "i18n/SystemLanguage.h"
 #include "tests/app/Work.h"
 #include "tests/support/Programs.h"
 
 namespace {
+
+using namespace std::chrono_literals;
 
 /// Two projectors of one model in the window, and a folder.
 struct SettingsOfTwo : testing::Test {
@@ -28,13 +36,13 @@ struct SettingsOfTwo : testing::Test {
 };
 
 TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
-  MakeSilent(window, 1, true);
+  SetFault(window, 1, {Fault::Kind::DropOut});
   actions.SaveTo(folder.path(), Rows(window));
   WorkDialog* dialog = &Done(window);
   EXPECT_EQ(Results(*dialog), QStringList({"A: done", "B: no answer"}));
   const auto files = [&] { return QDir(folder.path()).entryList({"*.json"}); };
   EXPECT_EQ(files(), QStringList("A.json"));
-  MakeSilent(window, 1, false);
+  SetFault(window, 1, {});
   Find<QPushButton>(*dialog, "Retry the Failed").click();
   EXPECT_TRUE(Soon([&] { return files() == QStringList({"A.json", "B.json"}); }));
   EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("Settings of 2 projectors saved in"));
@@ -42,6 +50,18 @@ TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   EXPECT_EQ(saved.snapshot.projector, "B");
   EXPECT_GT(saved.snapshot.settings.size(), 50U);
   dialog->close();
+
+  for (const auto& [fault, text] :
+       {std::pair(Fault::Kind::DropOut, "2 projectors could not be read."),
+        {Fault::Kind::FailRead, "2 projectors do not report all of these settings now."},
+        {Fault::Kind::None, "Nothing differs. 2 projectors have all these settings already."}}) {
+    for (const std::size_t i : {0U, 1U}) SetFault(window, i, {fault});
+    actions.OpenFile(folder.filePath("A.json"), Rows(window), false);
+    auto& comparison = Modal<ComparisonDialog>();
+    ASSERT_TRUE(HasCompared(comparison));
+    Find<QLabel>(comparison, text);
+    comparison.close();
+  }
 
   actions.SaveTo("/proc/x.json", {Rows(window)[0]});
   ASSERT_TRUE(Soon([] { return QApplication::activeModalWidget() != nullptr; }));
@@ -95,6 +115,92 @@ TEST_F(SettingsOfTwo, AreAppliedWhereCheckedAndPutBack) {
   EXPECT_TRUE(Soon([&] { return Projector(1).Value(SettingId::Contrast) == 120; }));
   EXPECT_TRUE(Soon([&] { return Projector(0).Value(SettingId::Brightness) == 135; }));
   EXPECT_EQ(Projector(0).Value(SettingId::Contrast), 120) << "both attempts";
+}
+
+TEST_F(SettingsOfTwo, AreShownAfterASecondAndKeptForUndoIfTheProgramEnds) {
+  std::optional<ShownWindow> other(std::in_place, std::vector{Profile("C")});
+  ASSERT_TRUE(AreWatched(*other));
+  Snapshot snapshot = EmptySnapshot("any", Rows(*other)[0].profile.model->data);
+  for (const char* key : {"brightness", "contrast", "sharpness", "tint"})
+    snapshot.settings.push_back({std::string("picture.") + key, 130, ""});
+  Write(file, WriteSnapshot(snapshot));
+  other->findChild<SettingsActions*>()->OpenFile(file, Rows(*other), true);
+  ASSERT_TRUE(HasCompared(Modal<ComparisonDialog>()));
+  SetFault(*other, 0, {Fault::Kind::Late, 400ms});
+  Find<QPushButton>(Modal<ComparisonDialog>(), "Apply").click();
+  const auto& projector = other->Session(0)->Simulator();
+  EXPECT_TRUE(Soon([&] { return projector.Value(SettingId::Brightness) == 130; }));
+  EXPECT_TRUE(Soon([&] { return QApplication::activeModalWidget() != nullptr; }));
+  Find<QPushButton>(Modal<WorkDialog>(), "Stop").click();
+  EXPECT_EQ(Results(Done(*other)), QStringList("C: stopped"));
+  Find<QLabel>(Done(*other), "0 of 1 done · 1 stopped");
+  Find<QPushButton>(Done(*other), "Do the Rest").click();
+  EXPECT_TRUE(Soon([&] { return projector.Value(SettingId::Sharpness) == 130; }));
+  other.reset();
+  const QStringList undo = QDir(folder.path()).entryList({"good.undo.*.json"});
+  ASSERT_EQ(undo.size(), 2);
+  EXPECT_GE(ReadFleetUndo(Contents(folder.filePath(undo[1]))).undo.begin()->second->settings.size(),
+            3U);
+}
+
+TEST(Work, UndoesWhatAnyAttemptMayHaveDone) {
+  MainWindow window({Profile("A"), Profile("B"), Profile("C")},
+                    {.interval = 200ms, .longestPause = 200ms, .soonest = 200ms});
+  const auto setPower = [&](std::size_t i, bool isOn) {
+    window.Session(i)->Simulator().SetValue(SettingId::Power, isOn);
+  };
+  setPower(0, true);
+  for (const std::size_t i : {1U, 2U}) SetFault(window, i, {Fault::Kind::DropOut});
+  window.show();
+  ASSERT_TRUE(AreWatched(window));
+  ASSERT_TRUE(Soon([&] { return Rows(window)[0].state.power == PowerState::On; }));
+  SetFault(window, 0, {Fault::Kind::DropOut});
+  Table(window).selectAll();
+  Find<QAction>(window, "Switch Off").trigger();
+  auto& dialog = *window.findChild<WorkDialog*>();
+  Find<QPushButton>(dialog, "Switch Off").click();
+  EXPECT_TRUE(Results(Done(window)).filter("done").empty());
+  setPower(0, false);  // only the answer was lost
+  for (const std::size_t i : {1U, 2U}) {
+    setPower(i, i == 1);
+    SetFault(window, i, {});
+  }
+  EXPECT_TRUE(Soon([&] { return Rows(window)[1].state.power && Rows(window)[2].state.power; }));
+  Find<QPushButton>(dialog, "Retry the Failed").click();
+  EXPECT_EQ(Results(Done(window)), (QStringList{"A: no answer", "B: done", "C: done"}));
+  SetFault(window, 0, {});
+  Find<QPushButton>(dialog, "Undo All").click();
+  EXPECT_TRUE(Soon([&] { return window.findChild<WorkDialog*>() != &dialog; }));
+  EXPECT_EQ(Results(Done(window)),
+            (QStringList{"A: done", "B: done", "C: not known whether it was on"}));
+  EXPECT_TRUE(Find<QPushButton>(Done(window), "Retry the Failed").isHidden());
+}
+
+TEST(DifferenceTree, MakesLinesWhenABranchIsOpenedAndKeepsThemWhenOthersAreReadAgain) {
+  const auto model = std::make_shared<const ModelData>(Profile("any").model->data);
+  const SettingDifference tint{{"picture.tint", 130, ""}, SettingDifference::Kind::Differs};
+  std::vector<ComparedProjector> projectors;
+  std::vector<WorkLine> lines;
+  for (const std::size_t count : {2000U, 1U, 2U}) {
+    const std::string id = std::to_string(count);
+    projectors.push_back({{id, AddressError{}, model}, id.c_str(), std::make_shared<Snapshot>()});
+    lines.push_back({.id = id, .outcome = WorkOutcome::Done});
+    lines.back().differences = std::make_shared<const std::vector<SettingDifference>>(count, tint);
+  }
+  const WorkLine later = std::exchange(lines[1], {.id = "1", .outcome = WorkOutcome::NoAnswer});
+  const SettingTexts texts(CatalogFolders(), kEnglishUnitedStates);
+  DifferenceTree tree("File", true, texts);
+  tree.Show(projectors, lines);
+  EXPECT_EQ(Lines(tree).mid(2000), (QStringList{"  Picture: Tint||2", "1||", "2||"}));
+  EXPECT_EQ(tree.Checked().at("2")->settings.size(), 2U) << "closed, and checked";
+  QTreeWidgetItem& last = *tree.topLevelItem(2);
+  last.setCheckState(0, Qt::Unchecked);
+  lines[1] = later;
+  tree.Show(projectors, lines);
+  EXPECT_TRUE(tree.Checked().size() == 2 && tree.Checked().at("1")->settings.size() == 1);
+  last.setExpanded(true);
+  last.child(1)->setCheckState(0, Qt::Checked);
+  EXPECT_EQ(tree.Checked().at("2")->settings.size(), 1U);
 }
 
 }  // namespace

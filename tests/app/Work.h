@@ -10,9 +10,9 @@
 
 // Work on many projectors, as the windows show it.
 
-inline void MakeSilent(const MainWindow& window, std::size_t projector, bool isSilent) {
+inline void SetFault(const MainWindow& window, std::size_t projector, const Fault& fault) {
   ProjectorSession& session = *window.Session(projector);
-  session.SetFault({}, {.kind = isSilent ? Fault::Kind::DropOut : Fault::Kind::None});
+  session.SetFault({}, fault);
   Q_EMIT window.findChild<FaultPanel*>()->Changed(&session);
 }
 

@@ -180,7 +180,7 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
 
 void DetailsPanel::Show(const ProjectorRow* row, std::size_t count,
                         const std::vector<StateChange>& history) {
-  const bool isOne = row != nullptr && count <= 1;
+  const bool isOne = row != nullptr;
   body_->setVisible(isOne);
   sign_->setVisible(isOne);
   place_->setVisible(isOne);

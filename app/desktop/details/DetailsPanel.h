@@ -25,7 +25,7 @@ class DetailsPanel : public QWidget {
   /// `actions` become buttons; those with a menu open it.
   explicit DetailsPanel(const QList<QAction*>& actions, QWidget* parent = nullptr);
 
-  /// `row` may be null. `count` is how many projectors are selected.
+  /// `row` is the only one that is selected, or null. `count` is how many projectors are selected.
   void Show(const ProjectorRow* row, std::size_t count, const std::vector<StateChange>& history);
 
  private:

@@ -81,7 +81,7 @@ void ComparisonDialog::MakeLayout() {
   layout->addWidget(buttons);
   apply_->setDefault(comparison_.applies);  // only now that the dialog knows the button
   RemoveForeignButtonIcons(*this);
-  connect(again_, &QPushButton::clicked, run_, &WorkRun::RetryFailed);
+  connect(again_, &QPushButton::clicked, run_, &WorkRun::Start);
   connect(apply_, &QPushButton::clicked, this, &ComparisonDialog::Apply);
   connect(buttons, &QDialogButtonBox::rejected, this, &ComparisonDialog::reject);
 }
@@ -95,7 +95,7 @@ void ComparisonDialog::Show() {
   if (isRunning) text_->setText(tr("Reading settings…"));
   tree_->setEnabled(!isRunning);
   apply_->setEnabled(!isRunning && tree_->HasChecked());
-  again_->setVisible(!isRunning && std::ranges::any_of(lines, &WorkLine::HasFailed));
+  again_->setVisible(!isRunning && run_->HasRest());
   close_->setText(isRunning ? tr("Stop") : comparison_.applies ? tr("Cancel") : tr("Close"));
 }
 
@@ -105,24 +105,31 @@ void ComparisonDialog::ShowResult() {
   const auto count = [&lines](const auto& is) {
     return static_cast<int>(std::ranges::count_if(lines, is));
   };
-  const int differing = count([](const WorkLine& line) {
-    return line.differences &&
-           std::ranges::find(*line.differences, SettingDifference::Kind::Differs,
-                             &SettingDifference::kind) != line.differences->end();
-  });
+  const auto has = [](SettingDifference::Kind kind) {
+    return [kind](const WorkLine& line) {
+      return line.differences &&
+             std::ranges::count(*line.differences, kind, &SettingDifference::kind) > 0;
+    };
+  };
+  const int differing = count(has(SettingDifference::Kind::Differs));
   const int same =
       count([](const WorkLine& line) { return line.differences && line.differences->empty(); });
+  const int partly = count(has(SettingDifference::Kind::NotRead));
   const int failed = count(&WorkLine::HasFailed);
+  const int skipped = count(&WorkLine::WasStopped);
   QStringList sentences;
-  if (differing == 0) sentences += tr("Nothing differs.");
+  if (differing + partly + failed + skipped == 0) sentences += tr("Nothing differs.");
   if (differing > 0) sentences += tr("%n projectors differ.", nullptr, differing);
   if (same > 0) sentences += tr("%n projectors have all these settings already.", nullptr, same);
+  if (partly > 0)
+    sentences += tr("%n projectors do not report all of these settings now.", nullptr, partly);
   if (failed > 0) sentences += tr("%n projectors could not be read.", nullptr, failed);
+  if (skipped > 0) sentences += tr("%n projectors were skipped.", nullptr, skipped);
   text_->setText(sentences.join(QLatin1Char(' ')));
 }
 
 void ComparisonDialog::Apply() {
-  ApplySnapshots apply{tree_->Checked(comparison_.projectors, run_->Lines())};
+  ApplySnapshots apply{tree_->Checked()};
   WorkPart part;
   for (const ComparedProjector& projector : comparison_.projectors) {
     if (apply.snapshots.contains(projector.target.id)) part.targets.push_back(projector.target);

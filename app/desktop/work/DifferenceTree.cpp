@@ -1,7 +1,6 @@
 #include "app/desktop/work/DifferenceTree.h"
 
 #include <algorithm>
-#include <set>
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -14,6 +13,7 @@ enum Column { kSetting, kNow, kWanted, kColumnCount };
 
 constexpr int kPlaceRole = Qt::UserRole;  // of the projector, or among its differences
 constexpr int kBeforehand = -1;           // the position of the line for all of `beforehand`
+constexpr int kOpenedLines = 2000;        // branches are opened until there are so many
 
 QString Wide(const std::string& text) { return QString::fromStdString(text); }
 
@@ -21,6 +21,11 @@ void Check(QTreeWidgetItem& item, Qt::CheckState state) { item.setCheckState(kSe
 
 bool IsCheckable(const QTreeWidgetItem& item) {
   return item.data(kSetting, Qt::CheckStateRole).isValid();
+}
+
+/// Whether its box is checked, or partly so.
+bool IsChosen(const QTreeWidgetItem& item) {
+  return IsCheckable(item) && item.checkState(kSetting) != Qt::Unchecked;
 }
 
 }  // namespace
@@ -33,80 +38,107 @@ DifferenceTree::DifferenceTree(const QString& column, bool isCheckable, const Se
   setItemDelegate(new IsolatedTexts(this));
   setAccessibleName(tr("Differences"));
   connect(this, &QTreeWidget::itemChanged, this, &DifferenceTree::TakeCheck);
+  connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { Fill(*item); });
 }
 
 void DifferenceTree::Show(const std::vector<ComparedProjector>& projectors,
                           const std::vector<WorkLine>& lines) {
-  std::set<std::pair<QString, QString>> unchecked;
-  for (int i = 0; i < topLevelItemCount(); ++i) {
-    const QTreeWidgetItem& branch = *topLevelItem(i);
-    for (int j = 0; j < branch.childCount(); ++j) {
-      const QTreeWidgetItem& leaf = *branch.child(j);
-      if (IsCheckable(leaf) && leaf.checkState(kSetting) == Qt::Unchecked)
-        unchecked.emplace(branch.text(kSetting), leaf.text(kSetting));
+  projectors_ = &projectors;
+  lines_ = &lines;
+  branches_.resize(projectors.size());
+  int at = 0;
+  int opened = 0;
+  for (std::size_t i = 0; i < projectors.size(); ++i) {
+    QTreeWidgetItem*& branch = branches_[i];
+    const bool isKept = branch != nullptr && IsCheckable(*branch);
+    if (!isKept) {
+      delete branch;
+      branch = MakeBranch(i);
     }
-  }
-  clear();
-  for (std::size_t i = 0; i < projectors.size(); ++i) AddProjector(i, projectors[i], lines[i]);
-  for (int i = 0; i < topLevelItemCount(); ++i) {
-    QTreeWidgetItem& branch = *topLevelItem(i);
-    for (int j = 0; j < branch.childCount(); ++j) {
-      QTreeWidgetItem& leaf = *branch.child(j);
-      if (IsCheckable(leaf) && unchecked.contains({branch.text(kSetting), leaf.text(kSetting)}))
-        Check(leaf, Qt::Unchecked);
-    }
+    if (branch == nullptr) continue;
+    if (!isKept) insertTopLevelItem(at, branch);
+    ++at;
+    if (isKept || opened >= kOpenedLines) continue;
+    Fill(*branch);
+    branch->setExpanded(true);
+    opened += branch->childCount();
   }
   // This measures the lines in sight alone.
-  expandAll();
   for (int column = 0; column < kColumnCount; ++column) resizeColumnToContents(column);
   Q_EMIT CheckedChanged();
 }
 
-void DifferenceTree::AddProjector(std::size_t index, const ComparedProjector& projector,
-                                  const WorkLine& line) {
-  if (line.outcome <= WorkOutcome::Working) return;
-  const auto found = line.differences ? *line.differences : std::vector<SettingDifference>();
-  const bool hasBeforehand =
-      isCheckable_ && line.differences && !projector.wanted->beforehand.empty();
-  if (!line.HasFailed() && found.empty() && !hasBeforehand) return;
-  auto* branch = new QTreeWidgetItem(this, {projector.name});
+QTreeWidgetItem* DifferenceTree::MakeBranch(std::size_t index) const {
+  const WorkLine& line = (*lines_)[index];
+  const bool hasChoice = isCheckable_ && !PlacesOf(index).empty();
+  const bool isAsItShould = line.differences && line.differences->empty();
+  if (line.outcome <= WorkOutcome::Working || (isAsItShould && !hasChoice)) return nullptr;
+  auto* branch = new QTreeWidgetItem({(*projectors_)[index].name});
   branch->setData(kSetting, kPlaceRole, static_cast<int>(index));
+  branch->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
   QFont bold = font();
   bold.setBold(true);
   branch->setFont(kSetting, bold);
-  if (line.HasFailed()) return AddRemark(*branch, WorkRun::TextOf(line));
-  if (hasBeforehand) {
-    auto* leaf = new QTreeWidgetItem(
-        branch,
-        {tr("First the other sources and modes"), QString(),
-         tr("%n settings", nullptr, static_cast<int>(projector.wanted->beforehand.size()))});
-    leaf->setData(kSetting, kPlaceRole, kBeforehand);
-    Check(*leaf, Qt::Checked);
-  }
-  int foreign = 0;
-  int unread = 0;
-  for (std::size_t i = 0; i < found.size(); ++i) {
-    foreign += found[i].kind == SettingDifference::Kind::DoesNotApply;
-    unread += found[i].kind == SettingDifference::Kind::NotRead;
-    if (found[i].kind == SettingDifference::Kind::Differs)
-      AddDifference(*branch, projector, found[i], static_cast<int>(i));
-  }
-  if (isCheckable_ && branch->childCount() > 0) Check(*branch, Qt::Checked);
-  if (foreign > 0)
-    AddRemark(*branch, tr("%n settings do not apply to this model", nullptr, foreign));
-  if (unread > 0) AddRemark(*branch, tr("%n settings cannot be read now", nullptr, unread));
+  if (hasChoice) Check(*branch, Qt::Checked);
+  return branch;
 }
 
-void DifferenceTree::AddDifference(QTreeWidgetItem& branch, const ComparedProjector& projector,
-                                   const SettingDifference& difference, int place) {
-  const auto& model = projector.target.model;
-  const ModelSetting& setting = *models_.Of(model).Find(difference.saved.key);
-  auto* leaf = new QTreeWidgetItem(
-      &branch, {NameOf(model, difference.saved),
-                difference.here ? Wide(texts_.Value(setting, *difference.here)) : QString(),
-                Wide(texts_.Value(setting, difference.saved.value))});
+std::vector<int> DifferenceTree::PlacesOf(std::size_t index) const {
+  std::vector<int> places;
+  const auto& found = (*lines_)[index].differences;
+  if (!found) return places;
+  if (isCheckable_ && !(*projectors_)[index].wanted->beforehand.empty())
+    places.push_back(kBeforehand);
+  for (std::size_t i = 0; i < found->size(); ++i) {
+    if ((*found)[i].kind == SettingDifference::Kind::Differs) places.push_back(static_cast<int>(i));
+  }
+  return places;
+}
+
+void DifferenceTree::Fill(QTreeWidgetItem& branch) {
+  if (branch.parent() != nullptr || branch.childCount() > 0) return;
+  const auto index = static_cast<std::size_t>(branch.data(kSetting, kPlaceRole).toInt());
+  const WorkLine& line = (*lines_)[index];
+  QList<QTreeWidgetItem*> leaves;
+  for (const int place : PlacesOf(index)) {
+    leaves += MakeLeaf(index, place);
+    if (isCheckable_) Check(*leaves.back(), branch.checkState(kSetting));
+  }
+  QStringList remarks;
+  if (line.differences) {
+    const auto count = [&line](SettingDifference::Kind kind) {
+      return static_cast<int>(
+          std::ranges::count(*line.differences, kind, &SettingDifference::kind));
+    };
+    if (const int foreign = count(SettingDifference::Kind::DoesNotApply); foreign > 0)
+      remarks += tr("%n settings do not apply to this model", nullptr, foreign);
+    if (const int unread = count(SettingDifference::Kind::NotRead); unread > 0)
+      remarks += tr("%n settings cannot be read now", nullptr, unread);
+  } else {
+    remarks += WorkRun::TextOf(line);
+  }
+  branch.addChildren(leaves);
+  for (const QString& remark : remarks) AddRemark(branch, remark);
+}
+
+QTreeWidgetItem* DifferenceTree::MakeLeaf(std::size_t index, int place) {
+  const ComparedProjector& projector = (*projectors_)[index];
+  QStringList texts;
+  if (place == kBeforehand) {
+    const auto count = static_cast<int>(projector.wanted->beforehand.size());
+    texts = {tr("First the other sources and modes"), QString(), tr("%n settings", nullptr, count)};
+  } else {
+    const auto& model = projector.target.model;
+    const SettingDifference& difference =
+        (*(*lines_)[index].differences)[static_cast<std::size_t>(place)];
+    const ModelSetting& setting = *models_.Of(model).Find(difference.saved.key);
+    texts = {NameOf(model, difference.saved),
+             difference.here ? Wide(texts_.Value(setting, *difference.here)) : QString(),
+             Wide(texts_.Value(setting, difference.saved.value))};
+  }
+  auto* leaf = new QTreeWidgetItem(texts);
   leaf->setData(kSetting, kPlaceRole, place);
-  if (isCheckable_) Check(*leaf, Qt::Checked);
+  return leaf;
 }
 
 void DifferenceTree::AddRemark(QTreeWidgetItem& branch, const QString& text) {
@@ -155,35 +187,39 @@ void DifferenceTree::TakeCheck(QTreeWidgetItem* item) {
   Q_EMIT CheckedChanged();
 }
 
-SnapshotsById DifferenceTree::Checked(const std::vector<ComparedProjector>& projectors,
-                                      const std::vector<WorkLine>& lines) const {
+SnapshotsById DifferenceTree::Checked() const {
   SnapshotsById all;
-  for (int i = 0; i < topLevelItemCount(); ++i) {
-    const QTreeWidgetItem& branch = *topLevelItem(i);
-    const auto index = static_cast<std::size_t>(branch.data(kSetting, kPlaceRole).toInt());
-    Snapshot part = *projectors[index].wanted;
-    const auto beforehand = std::exchange(part.beforehand, {});
-    part.settings.clear();
-    for (int j = 0; j < branch.childCount(); ++j) {
-      const QTreeWidgetItem& leaf = *branch.child(j);
-      if (!IsCheckable(leaf) || leaf.checkState(kSetting) != Qt::Checked) continue;
-      const int place = leaf.data(kSetting, kPlaceRole).toInt();
+  for (std::size_t i = 0; i < branches_.size(); ++i) {
+    const QTreeWidgetItem* branch = branches_[i];
+    if (branch == nullptr || !IsChosen(*branch)) continue;
+    std::vector<int> places;
+    for (int j = 0; j < branch->childCount(); ++j) {
+      const QTreeWidgetItem& leaf = *branch->child(j);
+      if (IsChosen(leaf)) places.push_back(leaf.data(kSetting, kPlaceRole).toInt());
+    }
+    if (branch->childCount() == 0) places = PlacesOf(i);
+    const Snapshot& wanted = *(*projectors_)[i].wanted;
+    Snapshot part{.projector = wanted.projector,
+                  .model = wanted.model,
+                  .dialogType = wanted.dialogType,
+                  .modelCode = wanted.modelCode,
+                  .time = wanted.time,
+                  .settings = {},
+                  .isUndo = wanted.isUndo};
+    for (const int place : places) {
       if (place == kBeforehand) {
-        part.beforehand = beforehand;
+        part.beforehand = wanted.beforehand;
       } else {
-        part.settings.push_back((*lines[index].differences)[static_cast<std::size_t>(place)].saved);
+        part.settings.push_back((*(*lines_)[i].differences)[static_cast<std::size_t>(place)].saved);
       }
     }
-    if (!part.settings.empty() || !part.beforehand.empty())
-      all[projectors[index].target.id] = std::make_shared<const Snapshot>(std::move(part));
+    all[(*projectors_)[i].target.id] = std::make_shared<const Snapshot>(std::move(part));
   }
   return all;
 }
 
 bool DifferenceTree::HasChecked() const {
-  for (int i = 0; i < topLevelItemCount(); ++i) {
-    const QTreeWidgetItem& branch = *topLevelItem(i);
-    if (IsCheckable(branch) && branch.checkState(kSetting) != Qt::Unchecked) return true;
-  }
-  return false;
+  return std::ranges::any_of(branches_, [](const QTreeWidgetItem* branch) {
+    return branch != nullptr && IsChosen(*branch);
+  });
 }

@@ -20,7 +20,8 @@ struct ComparedProjector {
 };
 
 /// What differs between projectors and their snapshots: a branch for each projector, with a line
-/// for each setting that differs, and one for all that do not apply. Lines can be checked.
+/// for each setting that differs, and one for all that do not apply. Lines can be checked. A branch
+/// gets its lines when it is opened; the first ones are open.
 class DifferenceTree : public QTreeWidget {
   Q_OBJECT
 
@@ -29,28 +30,34 @@ class DifferenceTree : public QTreeWidget {
   DifferenceTree(const QString& column, bool isCheckable, const SettingTexts& texts,
                  QWidget* parent = nullptr);
 
-  /// Replaces all lines; those that were unchecked stay so. Projectors that have all settings of
-  /// their snapshots are left out. `lines` are the results, in the projectors' order.
+  /// Shows the results, which are in the projectors' order; both must outlive it. Projectors that
+  /// have all settings of their snapshots are left out. What is shown of those that had been read
+  /// before stays.
   void Show(const std::vector<ComparedProjector>& projectors, const std::vector<WorkLine>& lines);
 
   /// The checked part of each projector's snapshot; none for a projector without checked lines.
-  SnapshotsById Checked(const std::vector<ComparedProjector>& projectors,
-                        const std::vector<WorkLine>& lines) const;
+  SnapshotsById Checked() const;
   bool HasChecked() const;
 
  Q_SIGNALS:
   void CheckedChanged();
 
  private:
-  void AddProjector(std::size_t index, const ComparedProjector& projector, const WorkLine& line);
-  void AddDifference(QTreeWidgetItem& branch, const ComparedProjector& projector,
-                     const SettingDifference& difference, int place);
+  /// Null if there is nothing to show of the projector at this place.
+  QTreeWidgetItem* MakeBranch(std::size_t index) const;
+  /// The lines of a projector that can be checked: the places of the differences, or `kBeforehand`.
+  std::vector<int> PlacesOf(std::size_t index) const;
+  void Fill(QTreeWidgetItem& branch);
+  QTreeWidgetItem* MakeLeaf(std::size_t index, int place);
   void AddRemark(QTreeWidgetItem& branch, const QString& text);
   QString NameOf(const std::shared_ptr<const ModelData>& model, const SavedSetting& saved);
   void TakeCheck(QTreeWidgetItem* item);
 
   const bool isCheckable_;
   const SettingTexts& texts_;
+  const std::vector<ComparedProjector>* projectors_ = nullptr;
+  const std::vector<WorkLine>* lines_ = nullptr;
+  std::vector<QTreeWidgetItem*> branches_;  ///< Of each projector, or null.
   UsualSettings models_;
   std::map<std::pair<const ModelData*, std::string>, QString> names_;  ///< By key and source.
 };

@@ -20,8 +20,9 @@ class WorkActions : public QObject {
   using Then = std::function<void(const WorkRun&)>;
 
   /// Carries out a plan, after asking the user. A plan without a question begins at once. So does
-  /// one for a single projector, whose window opens only if the work fails. `then` is called at the
-  /// end.
+  /// one for a single projector, whose window opens only if the work fails, or after a second if it
+  /// consists of many commands. `then` is called at the end, also if this object is destroyed
+  /// before.
   void Do(WorkPlan plan, const Then& then = {});
 
   /// Reads the catalog the first time.

@@ -32,7 +32,7 @@ WorkDialog::WorkDialog(WorkRun* run, const NameOf& nameOf, QWidget* parent)
   MakeLayout(nameOf);
   connect(run_, &WorkRun::Progressed, this, &WorkDialog::Show);
   connect(begin_, &QPushButton::clicked, this, &WorkDialog::Begin);
-  connect(retry_, &QPushButton::clicked, run_, &WorkRun::RetryFailed);
+  connect(rest_, &QPushButton::clicked, run_, &WorkRun::Start);
   connect(undo_, &QPushButton::clicked, this, [this] {
     const auto plan = run_->UndoPlan();
     accept();
@@ -61,7 +61,7 @@ void WorkDialog::MakeLayout(const NameOf& nameOf) {
 
   auto* buttons = new QDialogButtonBox;
   begin_ = buttons->addButton(run_->Plan().title, QDialogButtonBox::ActionRole);
-  retry_ = buttons->addButton(tr("&Retry the Failed"), QDialogButtonBox::ActionRole);
+  rest_ = buttons->addButton(tr("&Retry the Failed"), QDialogButtonBox::ActionRole);
   undo_ = buttons->addButton(tr("&Undo All"), QDialogButtonBox::ActionRole);
   close_ = buttons->addButton(QDialogButtonBox::Cancel);
   begin_->setDefault(true);
@@ -83,7 +83,7 @@ void WorkDialog::Begin() {
 void WorkDialog::Show() {
   const bool isRunning = run_->IsRunning();
   const auto& lines = run_->Lines();
-  const bool hasFailed = std::ranges::any_of(lines, &WorkLine::HasFailed);
+  const bool hasStopped = std::ranges::any_of(lines, &WorkLine::WasStopped);
   int finished = 0;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     QTreeWidgetItem* item = list_->topLevelItem(static_cast<int>(i));
@@ -96,7 +96,8 @@ void WorkDialog::Show() {
   progress_->setRange(0, std::max(1, static_cast<int>(lines.size())));
   progress_->setValue(finished);
   begin_->setVisible(!hasBegun_);
-  retry_->setVisible(hasBegun_ && !isRunning && hasFailed);
+  rest_->setText(hasStopped ? tr("Do the &Rest") : tr("&Retry the Failed"));
+  rest_->setVisible(hasBegun_ && !isRunning && run_->HasRest());
   undo_->setVisible(hasBegun_ && !isRunning && run_->UndoPlan().has_value());
   close_->setText(!hasBegun_ ? tr("Cancel") : isRunning ? tr("Stop") : tr("Close"));
 }

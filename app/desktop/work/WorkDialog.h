@@ -42,7 +42,7 @@ class WorkDialog : public QDialog {
   QTreeWidget* list_;
   QProgressBar* progress_;
   QPushButton* begin_;
-  QPushButton* retry_;
+  QPushButton* rest_;
   QPushButton* undo_;
   QPushButton* close_;
 };

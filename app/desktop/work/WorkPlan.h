@@ -20,4 +20,7 @@ struct WorkPlan {
   QString question;  ///< "Switch off 12 projectors?"; empty if it begins without one.
   std::vector<WorkPart> parts;
   std::vector<std::string> missing{};  ///< Identities of the projectors that cannot do the work.
+  /// Of an undo: identities of those that may have been switched, and whose power before is not
+  /// known. They are left alone.
+  std::vector<std::string> unknown{};
 };

@@ -80,10 +80,12 @@ WorkRun::WorkRun(FleetWatch& watch, const SettingTexts& texts, WorkPlan plan, QO
   for (const WorkPart& part : plan_.parts) {
     for (const FleetTarget& target : part.targets) add(target.id, {.id = target.id});
   }
-  for (const std::string& id : plan_.missing) {
-    add(id,
-        {.id = id, .outcome = WorkOutcome::Refused, .reason = tr("the model does not have it")});
-  }
+  const auto refuse = [&add](const std::vector<std::string>& ids, const QString& reason) {
+    for (const std::string& id : ids)
+      add(id, {.id = id, .outcome = WorkOutcome::Refused, .reason = reason});
+  };
+  refuse(plan_.missing, tr("the model does not have it"));
+  refuse(plan_.unknown, tr("not known whether it was on"));
   connect(&looking_, &QTimer::timeout, this, &WorkRun::Look);
 }
 
@@ -91,14 +93,15 @@ WorkRun::~WorkRun() {
   for (const auto& job : jobs_) job->job.Cancel();
 }
 
-void WorkRun::Start() { Begin(plan_.parts); }
-
-void WorkRun::Begin(std::vector<WorkPart> parts) {
-  for (WorkPart& part : parts) {
+void WorkRun::Start() {
+  for (WorkPart part : plan_.parts) {
+    std::erase_if(part.targets, [this](const FleetTarget& target) {
+      const WorkOutcome outcome = lines_[places_.at(target.id)].outcome;
+      return outcome == WorkOutcome::Done || outcome == WorkOutcome::Pending;
+    });
     for (const FleetTarget& target : part.targets) {
       lines_[places_.at(target.id)] = {.id = target.id};
-      const auto state = watch_.Projectors().State(target.id);
-      powerBefore_.try_emplace(target.id, state ? state->power : std::nullopt);
+      power_.Keep(part.work, target.id, watch_.Projectors().State(target.id));
     }
     if (!part.targets.empty())
       jobs_.push_back(std::make_unique<Job>(watch_, texts_, std::move(part)));
@@ -107,18 +110,24 @@ void WorkRun::Begin(std::vector<WorkPart> parts) {
   Q_EMIT Progressed();
 }
 
+bool WorkRun::HasRest() const {
+  return std::ranges::any_of(plan_.parts, [this](const WorkPart& part) {
+    return std::ranges::any_of(part.targets, [this](const FleetTarget& target) {
+      const WorkLine& line = lines_[places_.at(target.id)];
+      return line.HasFailed() || line.WasStopped();
+    });
+  });
+}
+
 void WorkRun::Cancel() {
   for (const auto& job : jobs_) job->job.Cancel();
 }
 
-void WorkRun::RetryFailed() {
-  std::vector<WorkPart> parts = plan_.parts;
-  for (WorkPart& part : parts) {
-    std::erase_if(part.targets, [this](const FleetTarget& target) {
-      return !lines_[places_.at(target.id)].HasFailed();
-    });
-  }
-  Begin(std::move(parts));
+void WorkRun::Finish() {
+  if (!IsRunning()) return;
+  Cancel();
+  for (const auto& job : jobs_) job->job.Wait();
+  Look();
 }
 
 void WorkRun::Look() {
@@ -132,7 +141,10 @@ void WorkRun::Look() {
     looking_.stop();
     for (const auto& job : jobs_) {
       job->AddUndoTo(undo_);
-      for (const FleetTarget& target : job->targets) watch_.Projectors().AskSoon(target.id);
+      for (const FleetTarget& target : job->targets) {
+        power_.TakeOutcome(target.id, lines_[places_.at(target.id)].outcome);
+        watch_.Projectors().AskSoon(target.id);
+      }
     }
     jobs_.clear();
   }
@@ -145,14 +157,14 @@ void WorkRun::Collect(const Job& job) {
   for (std::size_t i = 0; i < results.size(); ++i) {
     const std::string& id = job.targets[i].id;
     WorkLine& line = lines_[places_.at(id)];
+    if (line.outcome == results[i].outcome) continue;  // the rest changes with it
     line.outcome = results[i].outcome;
     line.reason = results[i].reason.empty() ? QString() : Translated(results[i].reason);
     if (!results[i].setting.empty())
       line.reason = tr("%1: %2").arg(QString::fromStdString(results[i].setting), line.reason);
     line.unread = results[i].unread;
     line.differences = results[i].differences;
-    if (results[i].snapshot)
-      taken_.try_emplace(id, std::make_shared<const Snapshot>(*results[i].snapshot));
+    if (results[i].snapshot) taken_.try_emplace(id, results[i].snapshot);
   }
 }
 
@@ -163,36 +175,18 @@ QString WorkRun::Summary() const {
   const int done = count([](const WorkLine& line) { return line.outcome == WorkOutcome::Done; });
   const int pending =
       count([](const WorkLine& line) { return line.outcome == WorkOutcome::Pending; });
-  const int failed = count([](const WorkLine& line) { return line.HasFailed(); });
+  const int failed = count(&WorkLine::HasFailed);
+  const int stopped = count(&WorkLine::WasStopped);
   QStringList parts{tr("%1 of %n done", "projectors", static_cast<int>(lines_.size())).arg(done)};
   if (pending > 0) parts += tr("%n still under way", "projectors", pending);
   if (failed > 0) parts += tr("%n failed", "projectors", failed);
+  if (stopped > 0) parts += tr("%n stopped", "projectors", stopped);
   return parts.join(QStringLiteral(" · "));
-}
-
-std::optional<WorkPart> WorkRun::PowerUndo(bool on) const {
-  WorkPart undo{.work = SwitchPower{.on = on}, .targets = {}};
-  for (const WorkPart& part : plan_.parts) {
-    const auto* power = std::get_if<SwitchPower>(&part.work);
-    if (power == nullptr || power->on == on) continue;
-    for (const FleetTarget& target : part.targets) {
-      const WorkOutcome outcome = lines_[places_.at(target.id)].outcome;
-      const bool isDone = outcome == WorkOutcome::Done || outcome == WorkOutcome::Pending;
-      const auto before = powerBefore_.find(target.id);
-      if (!isDone || before == powerBefore_.end() || !before->second) continue;
-      const bool wasOn =
-          *before->second == PowerState::On || *before->second == PowerState::WarmingUp;
-      if (wasOn == on) undo.targets.push_back(target);
-    }
-  }
-  return undo.targets.empty() ? std::nullopt : std::optional(std::move(undo));
 }
 
 std::optional<WorkPlan> WorkRun::UndoPlan() const {
   WorkPlan undo{.title = tr("Undo: %1").arg(plan_.title), .question = {}, .parts = {}};
-  for (const bool on : {false, true}) {
-    if (auto part = PowerUndo(on)) undo.parts.push_back(std::move(*part));
-  }
+  power_.AddTo(undo, plan_.parts);
   WorkPart settings{.work = ApplySnapshots{undo_}, .targets = {}};
   for (const WorkPart& part : plan_.parts) {
     for (const FleetTarget& target : part.targets) {

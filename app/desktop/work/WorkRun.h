@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include "app/desktop/work/PowerUndo.h"
 #include "app/desktop/work/WorkPlan.h"
 #include "fleet/FleetJob.h"
 
@@ -24,12 +25,13 @@ struct WorkLine {
   std::shared_ptr<const std::vector<SettingDifference>> differences{};  ///< Of a comparison.
 
   bool HasFailed() const {
-    return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer ||
-           outcome == WorkOutcome::Stopped;
+    return outcome == WorkOutcome::Refused || outcome == WorkOutcome::NoAnswer;
   }
+  bool WasStopped() const { return outcome == WorkOutcome::Stopped; }
 };
 
-/// Carries out a plan with jobs of the fleet, repeats it on those that failed, and can undo it.
+/// Carries out a plan with jobs of the fleet, repeats it on those that failed or were stopped, and
+/// can undo it.
 class WorkRun : public QObject {
   Q_OBJECT
 
@@ -38,16 +40,19 @@ class WorkRun : public QObject {
   WorkRun(FleetWatch& watch, const SettingTexts& texts, WorkPlan plan, QObject* parent = nullptr);
   ~WorkRun() override;
 
+  /// Begins with all, or again with those that failed or were stopped.
   void Start();
+  /// Whether there are any of these. Those that cannot do the work are none of them.
+  bool HasRest() const;
   void Cancel();
   bool IsRunning() const { return !jobs_.empty(); }
-  /// Begins again with those that failed.
-  void RetryFailed();
+  /// Cancels what is running, waits for the commands that are under way, and takes the results.
+  void Finish();
 
   const WorkPlan& Plan() const { return plan_; }
   /// In the order of the plan.
   const std::vector<WorkLine>& Lines() const { return lines_; }
-  /// "137 of 500 done, 3 failed"
+  /// "137 of 500 done · 3 failed"
   QString Summary() const;
   /// The snapshots that were taken.
   const SnapshotsById& Taken() const { return taken_; }
@@ -66,17 +71,15 @@ class WorkRun : public QObject {
  private:
   struct Job;
 
-  void Begin(std::vector<WorkPart> parts);
   void Look();
   void Collect(const Job& job);
-  std::optional<WorkPart> PowerUndo(bool on) const;
 
   FleetWatch& watch_;
   const SettingTexts& texts_;
   const WorkPlan plan_;
   std::vector<WorkLine> lines_;
   std::map<std::string, std::size_t> places_;  // of the lines
-  std::map<std::string, std::optional<PowerState>> powerBefore_;
+  PowerUndo power_;
   std::vector<std::unique_ptr<Job>> jobs_;
   SnapshotsById undo_;
   SnapshotsById taken_;

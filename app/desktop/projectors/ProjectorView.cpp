@@ -207,7 +207,7 @@ int ProjectorView::UsualWidth() const {
   return columns + table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
 }
 
-// First without what is rare, such as a second tag, then to the titles.
+// First without what is rare, such as a second tag, then to the titles; only names stay whole.
 void ProjectorView::FitColumns(int width) {
   using Columns = ProjectorColumns;
   int missing = UsualWidth() - width;
@@ -219,8 +219,7 @@ void ProjectorView::FitColumns(int width) {
   };
   for (const int column : {Columns::Place, Columns::State})
     narrow(column, WidthOf(column, Columns::ShortSamples(column)));
-  for (const int column :
-       {Columns::Source, Columns::Problem, Columns::Model, Columns::Place, Columns::Name})
+  for (const int column : {Columns::Source, Columns::Problem, Columns::Model, Columns::Place})
     narrow(column, TitleWidth(column));
 }
 

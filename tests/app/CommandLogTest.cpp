@@ -100,11 +100,19 @@ TEST(CommandLog, RefusalsAreReadableOnEveryPalette) {
 
 TEST(CommandLog, CopiesAndSavesShownRowsAndFollowsNewOnes) {
   CommandLog log;
+  auto& table = *log.findChild<QTableView*>();
+  const auto shows = [&table](int row) {
+    const QPoint place = table.visualRect(table.model()->index(row, 0)).topLeft();
+    return table.viewport()->rect().contains(place);
+  };
+  for (int i = 0; i < 100; ++i) log.Add(Entry("A", kRead, {.result = 1}));
+  ASSERT_TRUE(Soon([&table] { return table.model()->rowCount() == 100; }));
   log.resize(800, 400);
   log.show();
   log.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&log));
-  auto& table = *log.findChild<QTableView*>();
+  EXPECT_TRUE(shows(99)) << "from before it was shown";
+  log.Clear();
   log.Add(Entry("A", kChange, {.result = 1}));
   ASSERT_TRUE(Soon([&table] { return table.model()->rowCount() == 1; }));
   EXPECT_EQ(table.visualRect(table.model()->index(0, 0)).bottom(), table.viewport()->height() - 1);
@@ -119,8 +127,7 @@ TEST(CommandLog, CopiesAndSavesShownRowsAndFollowsNewOnes) {
   }
   ASSERT_TRUE(Soon([&table] { return table.model()->rowCount() == 10'000; }));
   EXPECT_LT(insertions, 100) << "many at a time";
-  EXPECT_TRUE(
-      table.viewport()->rect().contains(table.visualRect(table.model()->index(9999, 0)).topLeft()));
+  EXPECT_TRUE(shows(9999));
   log.ChangesOnly()->trigger();
   ASSERT_EQ(table.model()->rowCount(), 5000);
 

@@ -10,12 +10,15 @@
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QUndoStack>
 #include <gtest/gtest.h>
 
 #include "app/desktop/groups/GroupList.h"
+#include "app/desktop/profiles/EntryForm.h"
 #include "app/desktop/profiles/ProfileEditor.h"
+#include "app/desktop/projectors/StateTexts.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
 
@@ -125,6 +128,13 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     EXPECT_GE(Find<QComboBox>(editor, "Model").findText("QD-M7450"), 0);
     Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}, {"Address", "192.0.2."}});
     Find<QLabel>(editor, "192.0.2. is not an address.");
+    Choose(editor, "Reached through", "Serial port");
+    Find<QPushButton>(editor, "Test Connection").click();
+    const auto& result = Find<QLabel>(editor, "A serial line is tried when its dialog opens.");
+    QCoreApplication::processEvents();
+    EXPECT_GE(result.height(), result.heightForWidth(result.width()));
+    EXPECT_EQ(editor.findChild<EntryForm*>()->verticalScrollBar()->maximum(), 0);
+    Choose(editor, "Reached through", "PJLink");
     Fill(editor, {{"Address", "hall.example"}});
     EXPECT_EQ(Field(editor, "Port").text(), "4352") << "the protocol's own";
     EXPECT_TRUE(Accept(editor));
@@ -204,6 +214,29 @@ TEST(ProjectorList, KeepsRoomForATagWhereThereIsLess) {
   EXPECT_EQ(list.UsualWidth(), less);
   EXPECT_GT(list.Columns().sectionSize(ProjectorColumns::Place),
             list.fontMetrics().horizontalAdvance("Building A"));
+  const int name = list.Columns().sectionSize(ProjectorColumns::Name);
+  list.FitColumns(0);
+  EXPECT_EQ(list.Columns().sectionSize(ProjectorColumns::Name), name);
+  const QString tip = list.Model().index(0, 0).data(Qt::ToolTipRole).toString();
+  EXPECT_TRUE(tip.startsWith("Projector 1-1\n")) << tip.toStdString();
+}
+
+TEST(ProjectorList, ShowsWhichListHasTheKeyboard) {
+  ShippedWindow window;
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto& groups = *window.findChild<GroupList*>();
+  const auto isStrong = [](QAbstractItemView& list) {
+    const QRect row = list.visualRect(list.currentIndex());
+    const QImage image = list.viewport()->grab(row).toImage();
+    return image.pixelColor(row.width() - 3, 2).hsvSaturation() > 128;
+  };
+  for (const bool isLeft : {true, false}) {
+    (isLeft ? static_cast<QWidget&>(groups) : Table(window)).setFocus();
+    EXPECT_EQ(isStrong(groups), isLeft);
+    EXPECT_EQ(isStrong(Table(window)), !isLeft);
+  }
+  const QImage sign = StateTexts::Icon(Health::Good).pixmap(16, QIcon::Selected).toImage();
+  EXPECT_GT(sign.pixelColor(2, 8).lightness(), 200) << "an outline";
 }
 
 TEST(ProjectorList, OffersToAddRealOnesWhileAllAreSimulated) {

@@ -14,6 +14,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "app/desktop/projectors/FocusedRows.h"
 #include "app/desktop/projectors/LampDelegate.h"
 #include "app/desktop/projectors/ProjectorSelection.h"
 #include "app/desktop/projectors/StateTexts.h"
@@ -39,7 +40,7 @@ ProjectorView::ProjectorView(QWidget* parent)
   found_->setTextFormat(Qt::PlainText);
   found_->hide();
   table_->setModel(model_);
-  table_->setItemDelegate(new IsolatedTexts(table_));
+  table_->setItemDelegate(new FocusedRows(table_));
   table_->setItemDelegateForColumn(ProjectorColumns::Lamp, new LampDelegate(table_));
   table_->setAccessibleName(tr("Projectors"));
   table_->setSelectionBehavior(QTableView::SelectRows);

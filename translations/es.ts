@@ -1047,7 +1047,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>Confirmar &amp;todas</translation>
+        <translation>Confir&amp;mar todas</translation>
     </message>
     <message>
         <source>Since</source>
@@ -1399,7 +1399,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
-        <translation>Solo &amp;cambios</translation>
+        <translation>Solo ca&amp;mbios</translation>
     </message>
     <message>
         <source>&amp;Errors Only</source>
@@ -1596,11 +1596,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Dirección</translation>
+        <translation>Di&amp;rección</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>&amp;Puerto</translation>
+        <translation>P&amp;uerto</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1748,8 +1748,8 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Parte de la vida nominal de la lámpara</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>E&amp;ventos recientes</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>Eve&amp;ntos recientes</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1962,7 +1962,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>&amp;Quitar</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Quitar &amp;todos</translation>
     </message>
     <message>
@@ -1978,8 +1978,8 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>A&amp;limentación</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>Estado de &amp;error</translation>
+        <source>Err&amp;or status</source>
+        <translation>Estado &amp;de error</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -1995,7 +1995,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation>En &amp;vigor</translation>
+        <translation>En vi&amp;gor</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -2409,7 +2409,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>T&amp;odos los campos del modelo</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Tipo de cuadro de diálogo</translation>
     </message>
     <message>
@@ -3062,7 +3062,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Recargar</translation>
+        <translation>Re&amp;cargar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
@@ -3378,7 +3378,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation>Com&amp;parar con archivo…</translation>
+        <translation>&amp;Comparar con archivo…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
@@ -3934,7 +3934,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>A&amp;limentación</translation>
+        <translation>Ali&amp;mentación</translation>
     </message>
     <message>
         <source>&amp;Input</source>

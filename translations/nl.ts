@@ -1043,7 +1043,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Bevestigen</translation>
+        <translation>Bevestige&amp;n</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
@@ -1612,7 +1612,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>Apparaa&amp;t</translation>
+        <translation>&amp;Apparaat</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
@@ -1748,7 +1748,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Deel van de nominale levensduur van de lamp</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>Recente &amp;gebeurtenissen</translation>
     </message>
     <message>
@@ -1962,8 +1962,8 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Ve&amp;rwijderen</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
-        <translation>&amp;Alle verwijderen</translation>
+        <source>Re&amp;move All</source>
+        <translation>Alle verwij&amp;deren</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1978,7 +1978,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>&amp;Voeding</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>&amp;Foutstatus</translation>
     </message>
     <message>
@@ -2409,7 +2409,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Alle &amp;velden van het model</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Soort dialoogvenster</translation>
     </message>
     <message>

@@ -1043,11 +1043,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Confirmar</translation>
+        <translation>Conf&amp;irmar</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>Confirmar &amp;todos</translation>
+        <translation>Co&amp;nfirmar todos</translation>
     </message>
     <message>
         <source>Since</source>
@@ -1616,7 +1616,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>&amp;Taxa em bauds</translation>
+        <translation>Taxa &amp;em bauds</translation>
     </message>
     <message>
         <source>As its family</source>
@@ -1643,7 +1643,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>&amp;Testar conexão</translation>
+        <translation>Testa&amp;r conexão</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1748,7 +1748,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Parte da vida nominal da lâmpada</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>E&amp;ventos recentes</translation>
     </message>
     <message>
@@ -1962,7 +1962,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>&amp;Remover</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Remover &amp;todas</translation>
     </message>
     <message>
@@ -1978,8 +1978,8 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>A&amp;limentação</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>Estado de &amp;erro</translation>
+        <source>Err&amp;or status</source>
+        <translation>Estad&amp;o de erro</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -1991,11 +1991,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation>&amp;Atraso</translation>
+        <translation>Atra&amp;so</translation>
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation>Em &amp;vigor</translation>
+        <translation>E&amp;m vigor</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -2409,7 +2409,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Todos os campos do mode&amp;lo</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Tipo de caixa de diálogo</translation>
     </message>
     <message>

@@ -1,20 +1,28 @@
 // The host application's windows in a language made from English, with accents, brackets and 40 %
 // more letters: each text is translated and has room.
 
+#include <map>
+
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimeEdit>
 #include <QTranslator>
 #include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
 #include "app/desktop/details/DetailsPanel.h"
+#include "app/desktop/presets/PresetDialog.h"
 #include "app/desktop/presets/PresetManager.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/profiles/SearchDialog.h"
@@ -77,6 +85,36 @@ void ExpectRoom(const QWidget& window) {
   }
 }
 
+/// Each letter that is pressed with Alt has one caption.
+void ExpectOwnLetters(const QStringList& captions) {
+  std::map<QKeySequence, std::string> owners;
+  for (const QString& caption : captions) {
+    const QKeySequence letter = QKeySequence::mnemonic(caption);
+    if (letter.isEmpty()) continue;
+    const auto [owner, isFirst] = owners.emplace(letter, caption.toStdString());
+    EXPECT_TRUE(isFirst) << owner->second << " / " << caption.toStdString();
+  }
+}
+
+void ExpectOwnLettersIn(const QWidget& window) {
+  QStringList captions;
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto* menu = qobject_cast<const QMenu*>(widget);
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    if (menu != nullptr) {
+      if (menu->parentWidget()->inherits("QMenuBar")) captions += menu->title();
+      QStringList entries;
+      for (const QAction* entry : menu->actions()) entries += entry->text();
+      ExpectOwnLetters(entries);
+    } else if (widget->isVisible()) {
+      captions += widget->property("title").toString();
+      if (label == nullptr || label->buddy() != nullptr)
+        captions += widget->property("text").toString();
+    }
+  }
+  ExpectOwnLetters(captions);
+}
+
 bool IsWhite(const QImage& image) {
   QImage white(image.size(), image.format());
   white.fill(Qt::white);
@@ -91,6 +129,7 @@ void ForEachWindow(const std::function<void(QWidget&)>& look) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     SCOPED_TRACE(window.metaObject()->className());
     look(window);
+    window.hide();
   };
   const ProfileDocument document = Shipped(folder);
   MainWindow window(Shipped(folder));
@@ -112,6 +151,9 @@ void ForEachWindow(const std::function<void(QWidget&)>& look) {
        .texts = texts},
       nullptr);
   show(presets);
+  const ModelSettings settingsOfModel(document.Projectors()[0].model->data);
+  PresetDialog preset(std::make_shared<Snapshot>(), settingsOfModel, texts, nullptr);
+  show(preset);
 }
 
 struct ProgramTexts : testing::Test {
@@ -157,6 +199,30 @@ TEST_F(ProgramTexts, TurnTheMainWindowAndLeaveItRoomInEveryLanguage) {
   }
 }
 
+TEST_F(ProgramTexts, HaveALetterOfTheirOwnInEveryLanguage) {
+  for (const CatalogLanguage& language : CatalogLanguages(CatalogFolders())) {
+    SCOPED_TRACE(language.tag);
+    InstallTranslations(language.id);
+    ForEachWindow([](QWidget& window) {
+      window.resize(1900, 900);
+      for (auto* dock : window.findChildren<QDockWidget*>()) {
+        dock->toggleViewAction()->trigger();
+        QCoreApplication::processEvents();
+        const auto* area = qobject_cast<QScrollArea*>(dock->widget());
+        const int least = area == nullptr ? 700 : area->widget()->minimumSizeHint().width();
+        EXPECT_GE(dock->width(), least) << dock->windowTitle().toStdString();
+      }
+      auto* connection = window.findChild<QComboBox*>("connection");
+      if (connection == nullptr) return ExpectOwnLettersIn(window);
+      window.findChild<QCheckBox*>()->click();
+      for (const char* const kind : {"network", "serial"}) {
+        connection->setCurrentIndex(connection->findData(kind));
+        ExpectOwnLettersIn(window);
+      }
+    });
+  }
+}
+
 TEST_F(ProgramTexts, HaveHoursFirstAndFactsInLatinLettersAtTheRightFromRightToLeftToo) {
   InstallTranslations(LanguageIdOf("he").value());
   const QTemporaryDir folder;
@@ -166,6 +232,13 @@ TEST_F(ProgramTexts, HaveHoursFirstAndFactsInLatinLettersAtTheRightFromRightToLe
   ASSERT_EQ(times.size(), 2);
   times.front()->setTime(QTime(22, 30));
   EXPECT_EQ(times.front()->text(), "22:30");
+  const ShippedWindow window;
+  QAction& shortcuts = *window.menuBar()->actions().back()->menu()->actions().front();
+  AnswerQuestionOf(shortcuts, [](QDialog& table) {
+    auto* text = table.findChild<QTextBrowser*>();
+    EXPECT_TRUE(text->find("F5"));
+    EXPECT_GT(text->cursorRect().x(), text->width() / 2) << "in the first column";
+  });
   DetailsPanel panel({});
   const ProjectorRow row{.id = "a", .profile = Profile("A")};
   panel.Show(&row, 1, {});

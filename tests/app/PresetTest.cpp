@@ -12,7 +12,6 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
-#include <QTreeWidget>
 
 #include "app/desktop/DriftCheck.h"
 #include "app/desktop/groups/GroupList.h"

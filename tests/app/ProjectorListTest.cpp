@@ -1,6 +1,5 @@
 // The list of projectors, its search, and the profile editor.
 
-#include <algorithm>
 #include <memory>
 #include <tuple>
 
@@ -10,13 +9,10 @@
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTest>
 #include <QUndoStack>
-#include <gtest/gtest.h>
 
 #include "app/desktop/groups/GroupList.h"
-#include "app/desktop/profiles/EntryForm.h"
 #include "app/desktop/profiles/ProfileEditor.h"
 #include "app/desktop/projectors/StateTexts.h"
 #include "host/CAdvanceDlg.h"
@@ -132,8 +128,8 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     Find<QPushButton>(editor, "Test Connection").click();
     const auto& result = Find<QLabel>(editor, "A serial line is tried when its dialog opens.");
     QCoreApplication::processEvents();
-    EXPECT_GE(result.height(), result.heightForWidth(result.width()));
-    EXPECT_EQ(editor.findChild<EntryForm*>()->verticalScrollBar()->maximum(), 0);
+    EXPECT_GE(result.visibleRegion().boundingRect().height(),
+              result.heightForWidth(result.width()));
     Choose(editor, "Reached through", "PJLink");
     Fill(editor, {{"Address", "hall.example"}});
     EXPECT_EQ(Field(editor, "Port").text(), "4352") << "the protocol's own";
@@ -227,14 +223,12 @@ TEST(ProjectorList, ShowsWhichListHasTheKeyboard) {
   auto& groups = *window.findChild<GroupList*>();
   const auto isStrong = [](QAbstractItemView& list) {
     const QRect row = list.visualRect(list.currentIndex());
-    const QImage image = list.viewport()->grab(row).toImage();
-    return image.pixelColor(row.width() - 3, 2).hsvSaturation() > 128;
+    return list.viewport()->grab(row).toImage().pixelColor(row.width() - 3, 2).hsvSaturation() >
+           128;
   };
-  for (const bool isLeft : {true, false}) {
-    (isLeft ? static_cast<QWidget&>(groups) : Table(window)).setFocus();
-    EXPECT_EQ(isStrong(groups), isLeft);
-    EXPECT_EQ(isStrong(Table(window)), !isLeft);
-  }
+  EXPECT_TRUE(isStrong(Table(window)) && !isStrong(groups));
+  groups.setFocus();
+  EXPECT_TRUE(!isStrong(Table(window)) && isStrong(groups));
   const QImage sign = StateTexts::Icon(Health::Good).pixmap(16, QIcon::Selected).toImage();
   EXPECT_GT(sign.pixelColor(2, 8).lightness(), 200) << "an outline";
 }

@@ -1,12 +1,10 @@
 // Settings saved in files, and compared and applied by choice; several projectors at once.
 
 #include <QDir>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTreeWidget>
-#include <gtest/gtest.h>
 
 #include "app/desktop/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"

@@ -82,8 +82,7 @@ void ExpectOwnLetters(const QWidget& window) {
   std::set<std::pair<const QWidget*, QKeySequence>> letters;
   const auto expectOwn = [&letters](const QWidget& place, const QString& caption) {
     const QKeySequence letter = QKeySequence::mnemonic(caption);
-    EXPECT_TRUE(letter.isEmpty() || letters.emplace(&place, letter).second)
-        << caption.toStdString();
+    EXPECT_TRUE(letter.isEmpty() || letters.emplace(&place, letter).second) << qPrintable(caption);
   };
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
     const bool isMenu = widget->inherits("QMenu");
@@ -169,9 +168,10 @@ TEST_F(ProgramTexts, TurnTheMainWindowLeaveItRoomAndHaveOwnLettersInEveryLanguag
     }
     ForEachWindow([](QWidget& shown) {
       shown.resize(1900, 900);
-      for (auto* dock : shown.findChildren<QDockWidget*>()) {
-        dock->toggleViewAction()->trigger();
-        QCoreApplication::processEvents();
+      const auto docks = shown.findChildren<QDockWidget*>();
+      for (const auto* dock : docks) dock->toggleViewAction()->trigger();
+      QCoreApplication::processEvents();
+      for (const auto* dock : docks) {
         const auto* area = qobject_cast<QScrollArea*>(dock->widget());
         EXPECT_GE(dock->width(), area == nullptr ? 700 : area->widget()->minimumSizeHint().width());
       }

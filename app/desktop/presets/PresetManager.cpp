@@ -24,7 +24,7 @@
 namespace {
 
 constexpr QSize kUsualSize{113, 37};  // in average characters and lines
-constexpr QSize kFrame{10, 40};      // a guess until it is shown
+constexpr QSize kFrame{10, 40};       // a guess until it is shown
 constexpr qsizetype kNamesShown = 5;
 
 /// The first names, and dots if there are more.

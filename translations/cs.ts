@@ -1070,7 +1070,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Potvrdit</translation>
+        <translation>P&amp;otvrdit</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
@@ -1796,7 +1796,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>Podíl na jmenovité životnosti lampy</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>Nedávné &amp;události</translation>
     </message>
     <message>
@@ -2007,14 +2007,14 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>&amp;Set Fault</source>
-        <translation>&amp;Vyvolat poruchu</translation>
+        <translation>Vyvolat poruc&amp;hu</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Zrušit</translation>
+        <translation>Zruš&amp;it</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Zrušit vš&amp;echny</translation>
     </message>
     <message>
@@ -2027,15 +2027,15 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>&amp;Napájení</translation>
+        <translation>Napá&amp;jení</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>&amp;Stav chyb</translation>
+        <source>Err&amp;or status</source>
+        <translation>Stav &amp;chyb</translation>
     </message>
     <message>
         <source>&amp;Command</source>
-        <translation>&amp;Příkaz</translation>
+        <translation>Pří&amp;kaz</translation>
     </message>
     <message>
         <source>Fa&amp;ult</source>
@@ -2468,7 +2468,7 @@ KEY=VALUE nastaví hodnotu; KEY+=N a KEY-=N ji posunou o daný počet kroků. V 
         <translation>&amp;Všechna pole modelu</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Typ dialogu</translation>
     </message>
     <message>

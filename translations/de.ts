@@ -1051,7 +1051,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Bestätigen</translation>
+        <translation>Bestäti&amp;gen</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
@@ -1630,7 +1630,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Port n&amp;umber</source>
-        <translation>Portn&amp;ummer</translation>
+        <translation>&amp;Portnummer</translation>
     </message>
     <message>
         <source>&amp;Device</source>
@@ -1770,8 +1770,8 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Anteil an der Nennlebensdauer der Lampe</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>Letzte E&amp;reignisse</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>Let&amp;zte Ereignisse</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1981,11 +1981,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Entfernen</translation>
+        <translation>E&amp;ntfernen</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
-        <translation>&amp;Alle entfernen</translation>
+        <source>Re&amp;move All</source>
+        <translation>Alle entfe&amp;rnen</translation>
     </message>
     <message>
         <source> ms</source>
@@ -2000,12 +2000,12 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>E&amp;in/Aus</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>Fehlers&amp;tatus</translation>
     </message>
     <message>
         <source>&amp;Command</source>
-        <translation>&amp;Befehl</translation>
+        <translation>B&amp;efehl</translation>
     </message>
     <message>
         <source>Fa&amp;ult</source>
@@ -2431,7 +2431,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
         <translation>Alle Fel&amp;der des Modells</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>Dialogt&amp;yp</translation>
     </message>
     <message>
@@ -2519,7 +2519,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Settings that are not as they should &amp;be</source>
-        <translation>Einstellungen, die nicht &amp;so sind, wie sie sein sollen</translation>
+        <translation>&amp;Einstellungen, die nicht so sind, wie sie sein sollen</translation>
     </message>
     <message>
         <source>Notify on the &amp;desktop</source>
@@ -2539,7 +2539,7 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Ask each projector &amp;every</source>
-        <translation>Jeden Projektor ab&amp;fragen alle</translation>
+        <translation>&amp;Jeden Projektor abfragen alle</translation>
     </message>
     <message>
         <source>Alerts</source>
@@ -2828,11 +2828,11 @@ KEY=VALUE setzt einen Wert; KEY+=N und KEY-=N verändern den aktuellen Wert um N
     </message>
     <message>
         <source>Re&amp;move…</source>
-        <translation>&amp;Entfernen …</translation>
+        <translation>En&amp;tfernen …</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
-        <translation>Schlag&amp;wörter …</translation>
+        <translation>&amp;Schlagwörter …</translation>
     </message>
     <message>
         <source>Add</source>
@@ -4027,7 +4027,7 @@ ein Minus davor entfernt ein Schlagwort:</numerusform>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>Ein&amp;frieren</translation>
+        <translation>Ei&amp;nfrieren</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>

@@ -1055,7 +1055,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>Confirmar &amp;todas</translation>
+        <translation>Confir&amp;mar todas</translation>
     </message>
     <message>
         <source>Since</source>
@@ -1407,7 +1407,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     <name>CommandLog</name>
     <message>
         <source>Changes &amp;Only</source>
-        <translation>Solo &amp;cambios</translation>
+        <translation>Solo ca&amp;mbios</translation>
     </message>
     <message>
         <source>&amp;Errors Only</source>
@@ -1618,11 +1618,11 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation>&amp;Dirección</translation>
+        <translation>Di&amp;rección</translation>
     </message>
     <message>
         <source>&amp;Port</source>
-        <translation>&amp;Puerto</translation>
+        <translation>P&amp;uerto</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
@@ -1770,8 +1770,8 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>Parte de la vida nominal de la lámpara</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>E&amp;ventos recientes</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>Eve&amp;ntos recientes</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1984,7 +1984,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>&amp;Quitar</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Quitar &amp;todos</translation>
     </message>
     <message>
@@ -2000,8 +2000,8 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>A&amp;limentación</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>Estado de &amp;error</translation>
+        <source>Err&amp;or status</source>
+        <translation>Estado &amp;de error</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2017,7 +2017,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation>En &amp;vigor</translation>
+        <translation>En vi&amp;gor</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -2431,7 +2431,7 @@ KEY=VALUE fija un valor; KEY+=N y KEY-=N lo cambian en N. En la forma KEY VALUE,
         <translation>T&amp;odos los campos del modelo</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Tipo de cuadro de diálogo</translation>
     </message>
     <message>
@@ -3084,7 +3084,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Recargar</translation>
+        <translation>Re&amp;cargar</translation>
     </message>
     <message>
         <source>&amp;Save Profiles As…</source>
@@ -3411,7 +3411,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
-        <translation>Com&amp;parar con archivo…</translation>
+        <translation>&amp;Comparar con archivo…</translation>
     </message>
     <message>
         <source>A&amp;pply Settings…</source>
@@ -3967,7 +3967,7 @@ un signo menos delante quita una etiqueta:</numerusform>
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>A&amp;limentación</translation>
+        <translation>Ali&amp;mentación</translation>
     </message>
     <message>
         <source>&amp;Input</source>

@@ -1051,7 +1051,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Kuittaa</translation>
+        <translation>K&amp;uittaa</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
@@ -1770,8 +1770,8 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>Osuus lampun nimelliskäyttöajasta</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>Viimeaikaiset t&amp;apahtumat</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>Viimeaikaiset tapa&amp;htumat</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1977,15 +1977,15 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>&amp;Set Fault</source>
-        <translation>&amp;Aseta vika</translation>
+        <translation>Lis&amp;ää vika</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Poista</translation>
+        <translation>Poi&amp;sta</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
-        <translation>Poista &amp;kaikki</translation>
+        <source>Re&amp;move All</source>
+        <translation>T&amp;yhjennä</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1997,19 +1997,19 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>&amp;Virta</translation>
+        <translation>Vi&amp;rta</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>Vi&amp;rhetila</translation>
+        <source>Err&amp;or status</source>
+        <translation>Virheti&amp;la</translation>
     </message>
     <message>
         <source>&amp;Command</source>
-        <translation>K&amp;omento</translation>
+        <translation>&amp;Komento</translation>
     </message>
     <message>
         <source>Fa&amp;ult</source>
-        <translation>V&amp;ika</translation>
+        <translation>&amp;Vika</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
@@ -2017,7 +2017,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation>Voi&amp;massa</translation>
+        <translation>Vo&amp;imassa</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -2431,7 +2431,7 @@ KEY=VALUE asettaa arvon; KEY+=N ja KEY-=N askeltavat nykyisestä arvosta. Muodos
         <translation>M&amp;allin kaikki kentät</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Ikkunan tyyppi</translation>
     </message>
     <message>

@@ -1051,7 +1051,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Acquitter</translation>
+        <translation>Ac&amp;quitter</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
@@ -1419,7 +1419,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Clea&amp;r Log…</source>
-        <translation>Effacer le jou&amp;rnal…</translation>
+        <translation>Effacer &amp;le journal…</translation>
     </message>
     <message>
         <source>Command log</source>
@@ -1626,7 +1626,7 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation>Mot de &amp;passe</translation>
+        <translation>Mot &amp;de passe</translation>
     </message>
     <message>
         <source>Port n&amp;umber</source>
@@ -1770,8 +1770,8 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>Part de la durée de vie nominale de la lampe</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>É&amp;vénements récents</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>Événe&amp;ments récents</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1984,8 +1984,8 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>&amp;Supprimer</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
-        <translation>&amp;Tout supprimer</translation>
+        <source>Re&amp;move All</source>
+        <translation>To&amp;ut supprimer</translation>
     </message>
     <message>
         <source> ms</source>
@@ -2000,16 +2000,16 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
         <translation>A&amp;limentation</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>État d’&amp;erreur</translation>
     </message>
     <message>
         <source>&amp;Command</source>
-        <translation>&amp;Commande</translation>
+        <translation>C&amp;ommande</translation>
     </message>
     <message>
         <source>Fa&amp;ult</source>
-        <translation>&amp;Panne</translation>
+        <translation>Pa&amp;nne</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
@@ -2428,10 +2428,10 @@ KEY=VALUE fixe une valeur&#xa0;; KEY+=N et KEY-=N la font varier de N. Sous la f
     </message>
     <message>
         <source>All fie&amp;lds of the model</source>
-        <translation>Tous les &amp;champs du modèle</translation>
+        <translation>Tous &amp;les champs du modèle</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>T&amp;ype de boîte de dialogue</translation>
     </message>
     <message>
@@ -3407,7 +3407,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     <name>SettingsActions</name>
     <message>
         <source>Save Se&amp;ttings…</source>
-        <translation>Enre&amp;gistrer les réglages…</translation>
+        <translation>Enregistrer les &amp;réglages…</translation>
     </message>
     <message>
         <source>&amp;Compare with File…</source>
@@ -3967,11 +3967,11 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>A&amp;limentation</translation>
+        <translation>&amp;Alimentation</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation>&amp;Entrée</translation>
+        <translation>E&amp;ntrée</translation>
     </message>
     <message>
         <source>&amp;Blank</source>
@@ -4027,7 +4027,7 @@ un signe moins devant retire une étiquette&#xa0;:</numerusform>
     </message>
     <message>
         <source>Free&amp;ze</source>
-        <translation>Arrêt sur ima&amp;ge</translation>
+        <translation>Arrêt &amp;sur image</translation>
     </message>
     <message>
         <source>Freeze the Picture</source>

@@ -1055,7 +1055,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>אישור ה&amp;כול</translation>
+        <translation>א&amp;ישור הכול</translation>
     </message>
     <message>
         <source>Since</source>
@@ -1770,7 +1770,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>החלק שנוצל משעות הנורה הנקובות</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>אי&amp;רועים אחרונים</translation>
     </message>
     <message>
@@ -1977,14 +1977,14 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>&amp;Set Fault</source>
-        <translation>&amp;קביעת תקלה</translation>
+        <translation>ק&amp;ביעת תקלה</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
         <translation>ה&amp;סרה</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>הסרת ה&amp;כול</translation>
     </message>
     <message>
@@ -2000,7 +2000,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>ה&amp;פעלה</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>מ&amp;צב שגיאה</translation>
     </message>
     <message>
@@ -2009,7 +2009,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
     </message>
     <message>
         <source>Fa&amp;ult</source>
-        <translation>&amp;תקלה</translation>
+        <translation>תק&amp;לה</translation>
     </message>
     <message>
         <source>&amp;Delay</source>
@@ -2431,7 +2431,7 @@ KEY=VALUE קובע ערך; KEY+=N ו־KEY-=N משנים בצעדים מהערך 
         <translation>כ&amp;ל שדות הדגם</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;סוג החלון</translation>
     </message>
     <message>

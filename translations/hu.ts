@@ -1032,11 +1032,11 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Nyugtázás</translation>
+        <translation>Ny&amp;ugtázás</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>Ö&amp;sszes nyugtázása</translation>
+        <translation>Összes nyu&amp;gtázása</translation>
     </message>
     <message>
         <source>Since</source>
@@ -1639,7 +1639,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>Kapcsolat teszte&amp;lése</translation>
+        <translation>K&amp;apcsolat tesztelése</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1744,8 +1744,8 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>A lámpa névleges üzemidejéből eltelt rész</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>Legutóbbi &amp;események</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>&amp;Legutóbbi események</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1954,7 +1954,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>&amp;Megszüntetés</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Összes m&amp;egszüntetése</translation>
     </message>
     <message>
@@ -1970,12 +1970,12 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>&amp;Tápellátás</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>Hiba&amp;állapot</translation>
     </message>
     <message>
         <source>&amp;Command</source>
-        <translation>&amp;Parancs</translation>
+        <translation>Paran&amp;cs</translation>
     </message>
     <message>
         <source>Fa&amp;ult</source>
@@ -2394,7 +2394,7 @@ A KEY=VALUE értéket állít be; a KEY+=N és a KEY-=N az aktuális értékhez 
         <translation>A modell összes me&amp;zője</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>Ablak &amp;típusa</translation>
     </message>
     <message>

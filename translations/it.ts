@@ -1051,11 +1051,11 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Conferma</translation>
+        <translation>Confe&amp;rma</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>Conferma &amp;tutti</translation>
+        <translation>C&amp;onferma tutti</translation>
     </message>
     <message>
         <source>Since</source>
@@ -1665,7 +1665,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>&amp;Prova connessione</translation>
+        <translation>Pro&amp;va connessione</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1770,8 +1770,8 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Parte della durata nominale della lampada</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>E&amp;venti recenti</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>Eve&amp;nti recenti</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1977,14 +1977,14 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
     </message>
     <message>
         <source>&amp;Set Fault</source>
-        <translation>&amp;Imposta guasto</translation>
+        <translation>Impo&amp;sta guasto</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>&amp;Rimuovi</translation>
+        <translation>Rim&amp;uovi</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Rimuovi &amp;tutti</translation>
     </message>
     <message>
@@ -2000,7 +2000,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>A&amp;limentazione</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>Stato di &amp;errore</translation>
     </message>
     <message>
@@ -2431,7 +2431,7 @@ KEY=VALUE imposta un valore; KEY+=N e KEY-=N cambiano di N il valore attuale. Ne
         <translation>Tutti i c&amp;ampi del modello</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Tipo di finestra di dialogo</translation>
     </message>
     <message>

@@ -1744,7 +1744,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>ランプの定格時間に対する割合</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>最近のイベント(&amp;N)</translation>
     </message>
     <message>
@@ -1954,7 +1954,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>解除(&amp;R)</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>すべて解除(&amp;M)</translation>
     </message>
     <message>
@@ -1970,7 +1970,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>電源(&amp;W)</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>エラーの状態(&amp;T)</translation>
     </message>
     <message>
@@ -2394,7 +2394,7 @@ KEY=VALUE は値を設定し、KEY+=N と KEY-=N は現在の値から増減し�
         <translation>機種の全項目(&amp;L)</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>ダイアログの種類(&amp;T)</translation>
     </message>
     <message>

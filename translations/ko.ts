@@ -1744,7 +1744,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>램프 정격 시간 대비 비율</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>최근 이벤트(&amp;N)</translation>
     </message>
     <message>
@@ -1954,7 +1954,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>제거(&amp;R)</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>모두 제거(&amp;M)</translation>
     </message>
     <message>
@@ -1970,7 +1970,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>전원(&amp;W)</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>오류 상태(&amp;T)</translation>
     </message>
     <message>
@@ -2394,7 +2394,7 @@ KEY=VALUE는 값을 설정하고, KEY+=N과 KEY-=N은 현재 값에서 증감합
         <translation>모델의 모든 항목(&amp;L)</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>대화 상자 유형(&amp;T)</translation>
     </message>
     <message>

@@ -1051,7 +1051,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Bevestigen</translation>
+        <translation>Bevestige&amp;n</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
@@ -1634,7 +1634,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation>Apparaa&amp;t</translation>
+        <translation>&amp;Apparaat</translation>
     </message>
     <message>
         <source>&amp;Baud</source>
@@ -1770,7 +1770,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Deel van de nominale levensduur van de lamp</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>Recente &amp;gebeurtenissen</translation>
     </message>
     <message>
@@ -1984,8 +1984,8 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Ve&amp;rwijderen</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
-        <translation>&amp;Alle verwijderen</translation>
+        <source>Re&amp;move All</source>
+        <translation>Alle verwij&amp;deren</translation>
     </message>
     <message>
         <source> ms</source>
@@ -2000,7 +2000,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>&amp;Voeding</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>&amp;Foutstatus</translation>
     </message>
     <message>
@@ -2431,7 +2431,7 @@ KEY=VALUE stelt een waarde in; KEY+=N en KEY-=N wijzigen de huidige waarde met N
         <translation>Alle &amp;velden van het model</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Soort dialoogvenster</translation>
     </message>
     <message>

@@ -1636,7 +1636,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
     <name>ConnectionFields</name>
     <message>
         <source>&amp;Reached through</source>
-        <translation>&amp;Sposób połączenia</translation>
+        <translation>Sposób połąc&amp;zenia</translation>
     </message>
     <message>
         <source>Connect&amp;ion</source>
@@ -1796,7 +1796,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Wykorzystana część nominalnego czasu pracy lampy</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>Ostatnie zdarzen&amp;ia</translation>
     </message>
     <message>
@@ -2014,7 +2014,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>U&amp;suń</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Usuń wszyst&amp;kie</translation>
     </message>
     <message>
@@ -2030,7 +2030,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>Z&amp;asilanie</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>Stan błę&amp;du</translation>
     </message>
     <message>
@@ -2468,7 +2468,7 @@ KEY=VALUE ustawia wartość; KEY+=N i KEY-=N przesuwają bieżącą wartość. W
         <translation>&amp;Wszystkie pola modelu</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Typ okna</translation>
     </message>
     <message>

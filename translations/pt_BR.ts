@@ -1051,11 +1051,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>AlertList</name>
     <message>
         <source>&amp;Acknowledge</source>
-        <translation>&amp;Confirmar</translation>
+        <translation>Conf&amp;irmar</translation>
     </message>
     <message>
         <source>Acknowledge A&amp;ll</source>
-        <translation>Confirmar &amp;todos</translation>
+        <translation>Co&amp;nfirmar todos</translation>
     </message>
     <message>
         <source>Since</source>
@@ -1638,7 +1638,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&amp;Baud</source>
-        <translation>&amp;Taxa em bauds</translation>
+        <translation>Taxa &amp;em bauds</translation>
     </message>
     <message>
         <source>As its family</source>
@@ -1665,7 +1665,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>&amp;Testar conexão</translation>
+        <translation>Testa&amp;r conexão</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1770,7 +1770,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Parte da vida nominal da lâmpada</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>E&amp;ventos recentes</translation>
     </message>
     <message>
@@ -1984,7 +1984,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>&amp;Remover</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Remover &amp;todas</translation>
     </message>
     <message>
@@ -2000,8 +2000,8 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>A&amp;limentação</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>Estado de &amp;erro</translation>
+        <source>Err&amp;or status</source>
+        <translation>Estad&amp;o de erro</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2013,11 +2013,11 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
     </message>
     <message>
         <source>&amp;Delay</source>
-        <translation>&amp;Atraso</translation>
+        <translation>Atra&amp;so</translation>
     </message>
     <message>
         <source>&amp;In force</source>
-        <translation>Em &amp;vigor</translation>
+        <translation>E&amp;m vigor</translation>
     </message>
     <message>
         <source>No projector selected</source>
@@ -2431,7 +2431,7 @@ KEY=VALUE define um valor; KEY+=N e KEY-=N alteram o valor atual em N. Na forma 
         <translation>Todos os campos do mode&amp;lo</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Tipo de caixa de diálogo</translation>
     </message>
     <message>

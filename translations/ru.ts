@@ -1691,7 +1691,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>&amp;Проверить соединение</translation>
+        <translation>П&amp;роверить соединение</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1796,7 +1796,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Доля номинального ресурса лампы</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
+        <source>Rece&amp;nt events</source>
         <translation>&amp;Недавние события</translation>
     </message>
     <message>
@@ -2014,7 +2014,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>&amp;Убрать</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
+        <source>Re&amp;move All</source>
         <translation>Убр&amp;ать все</translation>
     </message>
     <message>
@@ -2030,7 +2030,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>Пи&amp;тание</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
+        <source>Err&amp;or status</source>
         <translation>Состояние &amp;ошибки</translation>
     </message>
     <message>
@@ -2468,7 +2468,7 @@ KEY=VALUE задаёт значение; KEY+=N и KEY-=N сдвигают те�
         <translation>&amp;Все поля модели</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>&amp;Тип диалога</translation>
     </message>
     <message>

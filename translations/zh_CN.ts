@@ -1523,7 +1523,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Read A&amp;gain</source>
-        <translation>重新询问(&amp;A)</translation>
+        <translation>重新询问(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
@@ -1639,7 +1639,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>测试连接(&amp;T)</translation>
+        <translation>测试连接(&amp;S)</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1740,8 +1740,8 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>已用灯泡时间占额定时间的比例</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>最近事件(&amp;V)</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>最近事件(&amp;N)</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1954,8 +1954,8 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>移除(&amp;R)</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
-        <translation>全部移除(&amp;A)</translation>
+        <source>Re&amp;move All</source>
+        <translation>全部移除(&amp;M)</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1966,8 +1966,8 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
         <translation>生效的故障</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>错误状态(&amp;E)</translation>
+        <source>Err&amp;or status</source>
+        <translation>错误状态(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2391,10 +2391,10 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>All fie&amp;lds of the model</source>
-        <translation>显示机型的全部字段(&amp;F)</translation>
+        <translation>显示机型的全部字段(&amp;L)</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>对话框类型(&amp;T)</translation>
     </message>
     <message>
@@ -2805,7 +2805,7 @@ KEY=VALUE 设置一个值；KEY+=N 和 KEY-=N 从当前值步进。写作 KEY VA
     </message>
     <message>
         <source>Re&amp;move…</source>
-        <translation>移除(&amp;R)…</translation>
+        <translation>移除(&amp;M)…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
@@ -3915,7 +3915,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>电源(&amp;O)</translation>
+        <translation>电源(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>

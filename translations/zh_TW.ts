@@ -1639,7 +1639,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     <name>ConnectionTest</name>
     <message>
         <source>&amp;Test Connection</source>
-        <translation>測試連線(&amp;T)</translation>
+        <translation>測試連線(&amp;S)</translation>
     </message>
     <message>
         <source>Result of the test</source>
@@ -1744,8 +1744,8 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>已用時數占燈泡額定時數的比例</translation>
     </message>
     <message>
-        <source>Recent e&amp;vents</source>
-        <translation>最近的事件(&amp;V)</translation>
+        <source>Rece&amp;nt events</source>
+        <translation>最近的事件(&amp;N)</translation>
     </message>
     <message>
         <source>Recent events</source>
@@ -1954,8 +1954,8 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>移除(&amp;R)</translation>
     </message>
     <message>
-        <source>Remove &amp;All</source>
-        <translation>全部移除(&amp;A)</translation>
+        <source>Re&amp;move All</source>
+        <translation>全部移除(&amp;M)</translation>
     </message>
     <message>
         <source> ms</source>
@@ -1970,8 +1970,8 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>電源(&amp;W)</translation>
     </message>
     <message>
-        <source>&amp;Error status</source>
-        <translation>錯誤狀態(&amp;E)</translation>
+        <source>Err&amp;or status</source>
+        <translation>錯誤狀態(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Command</source>
@@ -2394,7 +2394,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
         <translation>顯示機型的所有欄位(&amp;L)</translation>
     </message>
     <message>
-        <source>Dialog &amp;type</source>
+        <source>Dialog t&amp;ype</source>
         <translation>對話方塊類型(&amp;T)</translation>
     </message>
     <message>
@@ -2789,7 +2789,7 @@ KEY=VALUE 設定一個值；KEY+=N 與 KEY-=N 從目前的值逐級增減。寫�
     </message>
     <message>
         <source>Re&amp;move…</source>
-        <translation>移除(&amp;R)…</translation>
+        <translation>移除(&amp;M)…</translation>
     </message>
     <message>
         <source>Ta&amp;g…</source>
@@ -3915,7 +3915,7 @@ a minus in front takes a tag away:</source>
     </message>
     <message>
         <source>Po&amp;wer</source>
-        <translation>電源(&amp;O)</translation>
+        <translation>電源(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Input</source>

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -63,12 +64,16 @@ void ShowTable(const QString& title, const QString& table, QWidget& owner) {
 
 void ShowShortcuts(QMainWindow& window) {
   QString rows;
-  const auto add = [&rows](const QString& keys, const QString& what) {
-    rows += QStringLiteral("<tr><td>%1&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>")
-                .arg(keys.toHtmlEscaped(), what.toHtmlEscaped());
+  // The direction of a table turns its texts, but not its columns.
+  const bool isTurned = QApplication::isRightToLeft();
+  const auto add = [&](const QString& keys, const QString& what) {
+    const QString first = QStringLiteral("<td>%1</td>").arg(keys.toHtmlEscaped());
+    const QString second =
+        QStringLiteral("<td>&nbsp;&nbsp;&nbsp;%1</td>").arg(what.toHtmlEscaped());
+    rows += QStringLiteral("<tr>%1</tr>").arg(isTurned ? second + first : first + second);
   };
   const auto section = [&rows](const QString& title) {
-    rows += QStringLiteral("<tr><th colspan=2 align=left>%1</th></tr>").arg(title.toHtmlEscaped());
+    rows += QStringLiteral("<tr><td colspan=2><b>%1</b></td></tr>").arg(title.toHtmlEscaped());
   };
   for (const QAction* menu : window.menuBar()->actions()) {
     section(ShownText(*menu));
@@ -82,8 +87,9 @@ void ShowShortcuts(QMainWindow& window) {
   add(HelpText::tr("Ctrl+Shift+Tab, Ctrl+Page Up"), HelpText::tr("Previous tab"));
   add(HelpText::tr("Ctrl+F"), HelpText::tr("Find a setting"));
   add(HelpText::tr("Esc"), HelpText::tr("Close"));
-  ShowTable(HelpText::tr("Keyboard Shortcuts"), QStringLiteral("<table>%1</table>").arg(rows),
-            window);
+  const QString direction = isTurned ? "rtl" : "ltr";
+  ShowTable(HelpText::tr("Keyboard Shortcuts"),
+            QStringLiteral("<table dir=%1>%2</table>").arg(direction, rows), window);
 }
 
 void ShowAbout(QWidget& window) {

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -30,6 +31,21 @@ struct MenuText {
   Q_DECLARE_TR_FUNCTIONS(MainWindow)
 };
 
+/// Asks for the room of its contents, where a usual scroll area asks for a few letters at most.
+class WholePane : public QScrollArea {
+ public:
+  explicit WholePane(QWidget& contents) {
+    setWidget(&contents);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+  }
+
+  [[nodiscard]] QSize sizeHint() const override {
+    const int bar = verticalScrollBar()->sizeHint().width();
+    return {widget()->minimumSizeHint().width() + bar, QScrollArea::sizeHint().height()};
+  }
+};
+
 }  // namespace
 
 void MakeDocks(QMainWindow& window, AlertList& alerts, FaultPanel& faults, CommandLog& log) {
@@ -40,14 +56,18 @@ void MakeDocks(QMainWindow& window, AlertList& alerts, FaultPanel& faults, Comma
     dock->setWidget(widget);
     window.addDockWidget(area, dock);
     dock->hide();
+    return dock;
   };
-  auto* scrolled = new QScrollArea;
-  scrolled->setWidget(&faults);
-  scrolled->setWidgetResizable(true);
-  scrolled->setFrameShape(QFrame::NoFrame);
-  add(MenuText::tr("Alerts"), "alerts", &alerts, Qt::BottomDockWidgetArea);
-  add(MenuText::tr("Simulation"), "simulation", scrolled, Qt::RightDockWidgetArea);
-  add(MenuText::tr("Command Log"), "log", &log, Qt::BottomDockWidgetArea);
+  auto* alertDock = add(MenuText::tr("Alerts"), "alerts", &alerts, Qt::BottomDockWidgetArea);
+  add(MenuText::tr("Simulation"), "simulation", new WholePane(faults), Qt::RightDockWidgetArea);
+  auto* logDock = add(MenuText::tr("Command Log"), "log", &log, Qt::BottomDockWidgetArea);
+  // One that opens beside the other gets its share, not what the other leaves.
+  const auto share = [&window, alertDock, logDock] {
+    if (alertDock->isHidden() || logDock->isHidden()) return;
+    window.resizeDocks({alertDock, logDock}, {2, 3}, Qt::Horizontal);
+  };
+  for (const QDockWidget* dock : {alertDock, logDock})
+    QObject::connect(dock->toggleViewAction(), &QAction::triggered, &window, share);
 }
 
 void MakeMenus(QMainWindow& window, const MenuParts& parts) {

@@ -1,9 +1,7 @@
 // The main window with many projectors: work on all of them, alerts, and tables.
 
-#include <algorithm>
 #include <optional>
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -11,7 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
-#include <gtest/gtest.h>
 
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/details/DetailsPanel.h"

@@ -1,11 +1,6 @@
 // The main window: its questions, its stored state and the controls of the simulation.
 
-#include <algorithm>
-
-#include <QApplication>
-#include <QComboBox>
 #include <QFileDialog>
-#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
@@ -14,10 +9,8 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include "app/desktop/Preferences.h"
 #include "app/desktop/alerts/AlertList.h"

@@ -87,6 +87,7 @@ TEST_F(PresetTest, APageOfAProjectorIsSavedAndPutOnOthers) {
   auto& tree = *dialog.findChild<QTreeWidget*>();
   auto& save = Find<QPushButton>(dialog, "Save");
   EXPECT_THAT(Lines(tree), testing::Contains("  Brightness|-8"));
+  EXPECT_GE(tree.columnWidth(0), static_cast<QAbstractItemView&>(tree).sizeHintForColumn(0));
   const auto type = [&](const char* name) {
     dialog.findChild<QLineEdit*>()->clear();
     QTest::keyClicks(dialog.findChild<QLineEdit*>(), name);

@@ -1,6 +1,5 @@
 // The list of projectors, its search, and the profile editor.
 
-#include <algorithm>
 #include <memory>
 #include <tuple>
 
@@ -14,11 +13,11 @@
 #include <QPushButton>
 #include <QTest>
 #include <QUndoStack>
-#include <gtest/gtest.h>
 
 #include "app/desktop/details/DetailsPanel.h"
 #include "app/desktop/groups/GroupList.h"
 #include "app/desktop/profiles/ProfileEditor.h"
+#include "app/desktop/projectors/StateTexts.h"
 #include "host/CAdvanceDlg.h"
 #include "tests/app/Windows.h"
 #include "tests/support/Programs.h"
@@ -143,6 +142,13 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
     EXPECT_GE(Find<QComboBox>(editor, "Model").findText("QD-M7450"), 0);
     Fill(editor, {{"Name", "Hall"}, {"Model", "QD-M7450"}, {"Address", "192.0.2."}});
     Find<QLabel>(editor, "192.0.2. is not an address.");
+    Choose(editor, "Reached through", "Serial port");
+    Find<QPushButton>(editor, "Test Connection").click();
+    const auto& result = Find<QLabel>(editor, "A serial line is tried when its dialog opens.");
+    QCoreApplication::processEvents();
+    EXPECT_GE(result.visibleRegion().boundingRect().height(),
+              result.heightForWidth(result.width()));
+    Choose(editor, "Reached through", "PJLink");
     Fill(editor, {{"Address", "hall.example"}});
     EXPECT_EQ(Field(editor, "Port").text(), "4352") << "the protocol's own";
     EXPECT_TRUE(Accept(editor));
@@ -225,7 +231,7 @@ TEST(ProjectorList, ProjectorsAreAddedEditedDuplicatedAndRemoved) {
   EXPECT_EQ(inFile().size(), before.size() + 1);
 }
 
-TEST(ProjectorList, KeepsRoomForATagWhereThereIsLess) {
+TEST(ProjectorList, KeepsRoomForNamesAndATagAndShowsWhichListHasTheKeyboard) {
   const QTemporaryDir folder;
   MainWindow window(Shipped(folder));
   auto& list = *window.findChild<ProjectorView*>();
@@ -234,6 +240,25 @@ TEST(ProjectorList, KeepsRoomForATagWhereThereIsLess) {
   EXPECT_EQ(list.UsualWidth(), less);
   EXPECT_GT(list.Columns().sectionSize(ProjectorColumns::Place),
             list.fontMetrics().horizontalAdvance("Building A"));
+  list.FitColumns(0);
+  EXPECT_GT(list.Columns().sectionSize(0),
+            list.fontMetrics().horizontalAdvance("Projector 4-11 b"));
+  const QModelIndex first = list.Model().index(0, 0);
+  EXPECT_TRUE(first.data(Qt::ToolTipRole).toString().startsWith("Projector 1-1\n"));
+
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto& groups = *window.findChild<GroupList*>();
+  const auto isStrong = [](QAbstractItemView& shown) {
+    const QRect row = shown.visualRect(shown.currentIndex());
+    return shown.viewport()->grab(row).toImage().pixelColor(row.width() - 3, 2).hsvSaturation() >
+           128;
+  };
+  EXPECT_TRUE(isStrong(Table(window)) && !isStrong(groups));
+  groups.setFocus();
+  EXPECT_TRUE(!isStrong(Table(window)) && isStrong(groups));
+  const QImage sign = StateTexts::Icon(Health::Good).pixmap(16, QIcon::Selected).toImage();
+  EXPECT_GT(sign.pixelColor(2, 8).lightness(), 200) << "an outline";
 }
 
 TEST(ProjectorList, OffersToAddRealOnesWhileAllAreSimulated) {

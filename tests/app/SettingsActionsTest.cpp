@@ -5,12 +5,10 @@
 #include <utility>
 
 #include <QDir>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTreeWidget>
-#include <gtest/gtest.h>
 
 #include "app/desktop/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <chrono>
@@ -6,12 +5,9 @@
 #include <optional>
 #include <unistd.h>
 
-#include <QLabel>
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include "app/profiles/LoopbackSocket.h"
 #include "device/Connect.h"
@@ -24,10 +20,8 @@
 #include "tests/app/Windows.h"
 #include "tests/device/Peer.h"
 #include "tests/support/Limited.h"
-#include "tests/support/Models.h"
 #include "tests/support/Ports.h"
 #include "tests/support/Programs.h"
-#include "tests/support/Soon.h"
 
 namespace {
 

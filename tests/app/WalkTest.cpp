@@ -4,24 +4,19 @@
 // sanitizers report uses of deleted objects. WALK_SEED selects another walk, WALK_ACTIONS a longer
 // one.
 
-#include <algorithm>
 #include <iterator>
 #include <random>
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QPointer>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include "host/CAdvanceDlg.h"
 #include "host/FindLine.h"
 #include "tests/app/Windows.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/ShownValues.h"
-#include "tests/support/Soon.h"
 
 namespace {
 

@@ -152,7 +152,7 @@ DetailsPanel::DetailsPanel(const QList<QAction*>& actions, QWidget* parent)
     buttons->addWidget(button, place / kButtonsInRow, place % kButtonsInRow);
   }
 
-  auto* eventsCaption = WithRoom(new QLabel(tr("Recent e&vents")));
+  auto* eventsCaption = WithRoom(new QLabel(tr("Rece&nt events")));
   eventsCaption->setBuddy(events_);
   events_->setAccessibleName(tr("Recent events"));
   events_->setItemDelegate(new IsolatedTexts(events_));

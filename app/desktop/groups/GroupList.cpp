@@ -8,8 +8,8 @@
 #include <QIcon>
 #include <QPixmap>
 
+#include "app/desktop/projectors/FocusedRows.h"
 #include "app/desktop/projectors/StateTexts.h"
-#include "toolkit/IsolatedText.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ constexpr std::array kKinds{Kind::All, Kind::Problems, Kind::Off, Kind::Unreacha
 
 GroupList::GroupList(QWidget* parent) : QListWidget(parent) {
   setAccessibleName(tr("Groups"));
-  setItemDelegate(new IsolatedTexts(this));
+  setItemDelegate(new FocusedRows(this));
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) Q_EMIT Chosen(groups_[static_cast<std::size_t>(row)]);
   });

@@ -59,12 +59,14 @@ LogTable::LogTable(QAbstractItemModel& log, QWidget* parent) : QTableView(parent
 // Loading and measuring the font takes a good part of the program's start, and the log is usually
 // closed.
 void LogTable::showEvent(QShowEvent* event) {
-  if (!std::exchange(isSet_, true)) {
+  const bool isFirst = !std::exchange(isSet_, true);
+  if (isFirst) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     SetColumns();
     horizontalHeader()->restoreState(columns_);
   }
   QTableView::showEvent(event);
+  if (isFirst) scrollToBottom();
 }
 
 QByteArray LogTable::SaveColumns() const {

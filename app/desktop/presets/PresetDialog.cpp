@@ -20,8 +20,8 @@
 
 namespace {
 
-constexpr QSize kUsualSize{520, 560};
-constexpr QSize kFrame{10, 40};  // a guess until it is shown
+constexpr QSize kUsualSize{87, 40};  // in average characters and lines
+constexpr QSize kFrame{10, 40};      // a guess until it is shown
 
 }  // namespace
 
@@ -79,7 +79,10 @@ void PresetDialog::MakeLayout() {
   layout->addWidget(buttons);
   save_->setDefault(true);  // only now that the dialog knows the button
   RemoveForeignButtonIcons(*this);
-  resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));
+  const QFontMetrics letters = fontMetrics();
+  const QSize usual(kUsualSize.width() * letters.averageCharWidth(),
+                    kUsualSize.height() * letters.height());
+  resize(usual.boundedTo(screen()->availableGeometry().size() - kFrame));
   name_->setFocus();
 }
 
@@ -90,6 +93,7 @@ void PresetDialog::Fill(const ModelSettings& model, const SettingTexts& texts) {
     page->setFlags(page->flags() | Qt::ItemIsAutoTristate);
     for (int j = 0; j < page->childCount(); ++j) page->child(j)->setCheckState(0, Qt::Checked);
   }
+  tree_->resizeColumnToContents(0);  // the check boxes need room, too
 }
 
 void PresetDialog::CheckPages(const std::function<bool(const QTreeWidgetItem*)>& isChecked) {

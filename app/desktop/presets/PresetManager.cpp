@@ -23,8 +23,8 @@
 
 namespace {
 
-constexpr QSize kUsualSize{680, 520};
-constexpr QSize kFrame{10, 40};  // a guess until it is shown
+constexpr QSize kUsualSize{113, 37};  // in average characters and lines
+constexpr QSize kFrame{10, 40};       // a guess until it is shown
 constexpr qsizetype kNamesShown = 5;
 
 /// The first names, and dots if there are more.
@@ -81,7 +81,10 @@ void PresetManager::MakeLayout() {
   layout->addWidget(users_);
   layout->addWidget(buttons);
   RemoveForeignButtonIcons(*this);
-  resize(kUsualSize.boundedTo(screen()->availableGeometry().size() - kFrame));
+  const QFontMetrics letters = fontMetrics();
+  const QSize usual(kUsualSize.width() * letters.averageCharWidth(),
+                    kUsualSize.height() * letters.height());
+  resize(usual.boundedTo(screen()->availableGeometry().size() - kFrame));
 }
 
 void PresetManager::Fill() {

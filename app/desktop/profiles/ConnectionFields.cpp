@@ -44,7 +44,8 @@ ConnectionFields::ConnectionFields(const ModelFields& model, EntryForm& form)
       device_(form.AddField(tr("&Device"), "connection.serial.device")),
       baud_(form.AddField(tr("&Baud"), "connection.serial.baud")),
       test_(new ConnectionTest([this] { return Address(); })) {
-  form.AddWidget(test_);
+  form.AddWideWidget(test_);
+  connect(test_, &ConnectionTest::Told, &form, &EntryForm::RowsChanged);
   TakeNumbersOnly(*networkPort_, 1, 65535);
   TakeNumbersOnly(*serialPort_, 1, 256);
   TakeNumbersOnly(*baud_, 1, 4'000'000);

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "app/desktop/projectors/StateTexts.h"
 #include "fleet/AddressHold.h"
@@ -26,11 +26,15 @@ ConnectionTest::ConnectionTest(std::function<ProjectorAddress()> address, QWidge
       result_(new QLabel) {
   result_->setTextFormat(Qt::PlainText);
   result_->setWordWrap(true);
+  QSizePolicy asWideAsOthers = result_->sizePolicy();
+  asWideAsOthers.setHorizontalPolicy(QSizePolicy::Ignored);
+  result_->setSizePolicy(asWideAsOthers);
+  result_->hide();
   result_->setAccessibleName(tr("Result of the test"));
-  auto* layout = new QHBoxLayout(this);
+  auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
-  layout->addWidget(button_);
-  layout->addWidget(result_, 1);
+  layout->addWidget(button_, 0, Qt::AlignLeft);
+  layout->addWidget(result_);
   connect(button_, &QPushButton::clicked, this, &ConnectionTest::Begin);
   connect(&looking_, &QTimer::timeout, this, &ConnectionTest::Look);
 }
@@ -42,17 +46,25 @@ void ConnectionTest::Clear() {
   fleet_.reset();
   hold_.reset();
   inquiry_.reset();
-  result_->clear();
+  Tell({});
   button_->setEnabled(true);
+}
+
+void ConnectionTest::Tell(const QString& result) {
+  if (result_->text() == result) return;
+  result_->setText(result);
+  result_->setVisible(!result.isEmpty());
+  layout()->activate();  // so that the new size is known
+  Q_EMIT Told();
 }
 
 void ConnectionTest::Begin() {
   asked_ = address_();
   if (std::holds_alternative<AddressError>(asked_))
-    return result_->setText(tr("There is nothing to connect to."));
+    return Tell(tr("There is nothing to connect to."));
   if (std::holds_alternative<SerialAddress>(asked_))
-    return result_->setText(tr("A serial line is tried when its dialog opens."));
-  result_->setText(tr("Asking…"));
+    return Tell(tr("A serial line is tried when its dialog opens."));
+  Tell(tr("Asking…"));
   button_->setEnabled(false);
   hold_ = std::make_unique<AddressHold>(PlaceOf({.id = kId, .address = asked_}),
                                         AddressHold::Turn::Next);
@@ -109,6 +121,6 @@ void ConnectionTest::Show(const QStringList& who) {
   }
   Clear();
   const bool answers = state_.reachability == Reachability::Answers;
-  result_->setText(answers ? tr("A projector answers: %1").arg(parts.join(QStringLiteral(" · ")))
-                           : parts.first());
+  Tell(answers ? tr("A projector answers: %1").arg(parts.join(QStringLiteral(" · ")))
+               : parts.first());
 }

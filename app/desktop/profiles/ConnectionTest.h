@@ -30,11 +30,16 @@ class ConnectionTest : public QWidget {
   /// Forgets the result: the address has changed.
   void Clear();
 
+ Q_SIGNALS:
+  /// There is another result, which may need more room, or none.
+  void Told();
+
  private:
   void Begin();
   void Look();
   void AskWho();
   void Show(const QStringList& who);
+  void Tell(const QString& result);
 
   const std::function<ProjectorAddress()> address_;
   QPushButton* button_;

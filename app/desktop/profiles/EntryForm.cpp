@@ -79,6 +79,8 @@ CComboBox* EntryForm::AddList(const QString& caption, const char* path) {
 
 void EntryForm::AddWidget(QWidget* widget) { form_->addRow(QString(), widget); }
 
+void EntryForm::AddWideWidget(QWidget* widget) { form_->addRow(widget); }
+
 void EntryForm::SetRowVisible(QWidget* field, bool isVisible) {
   form_->setRowVisible(field, isVisible);
   Q_EMIT RowsChanged();
@@ -103,5 +105,7 @@ QString EntryForm::CaptionOf(QWidget* field) const {
 
 QSize EntryForm::WholeSize() const {
   const QSize wanted = form_->sizeHint();
-  return {wanted.width() + verticalScrollBar()->sizeHint().width(), wanted.height()};
+  const int height = form_->hasHeightForWidth() ? form_->heightForWidth(wanted.width())  // wraps
+                                                : wanted.height();
+  return {wanted.width() + verticalScrollBar()->sizeHint().width(), height};
 }

@@ -25,6 +25,8 @@ class EntryForm : public QScrollArea {
   CComboBox* AddList(const QString& caption, const char* path);
   /// A row without a caption.
   void AddWidget(QWidget* widget);
+  /// The same, over the whole width.
+  void AddWideWidget(QWidget* widget);
   void SetRowVisible(QWidget* field, bool isVisible);
 
   /// The value for the file: exactly the present one if the field has not changed, undefined if it
@@ -41,7 +43,7 @@ class EntryForm : public QScrollArea {
   static bool IsBlank(const QLineEdit* field);
 
  Q_SIGNALS:
-  /// Rows have been shown or hidden.
+  /// Rows have been shown or hidden, or need another height.
   void RowsChanged();
 
  private:

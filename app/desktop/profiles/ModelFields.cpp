@@ -22,7 +22,7 @@ ModelFields::ModelFields(const ProfileDocument& document, EntryForm& form)
       model_(form.AddChoice(tr("&Model"), "model", models_.keys())),
       more_(new QCheckBox(tr("All fie&lds of the model"))) {
   form.AddWidget(more_);
-  dialogType_ = form.AddField(tr("Dialog &type"), "dialogType");
+  dialogType_ = form.AddField(tr("Dialog t&ype"), "dialogType");
   modelCode_ = form.AddField(tr("Model cod&e"), "modelCode");
   dialogType_->setValidator(new QIntValidator(1, 5, dialogType_));
   modelCode_->setValidator(new QIntValidator(0, std::numeric_limits<int>::max(), modelCode_));

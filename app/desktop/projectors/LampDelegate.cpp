@@ -22,15 +22,19 @@ QColor LampDelegate::Color(double share) {
 
 void LampDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
-  IsolatedTexts::paint(painter, option, index);
+  FocusedRows::paint(painter, option, index);
   bool isKnown = false;
   const double share = index.data(ProjectorTableModel::kShareRole).toDouble(&isKnown);
   if (!isKnown) return;
   QRect bar = option.rect.adjusted(kMargin, 0, -kMargin, -1);
   bar.setTop(bar.bottom() - kBarHeight + 1);
-  QColor ground = option.palette.color(QPalette::Text);
-  ground.setAlphaF(0.15F);
-  painter->fillRect(bar, ground);
+  if (IsStrong(option)) {
+    painter->fillRect(bar.adjusted(-1, -1, 1, 1), option.palette.color(QPalette::HighlightedText));
+  } else {
+    QColor ground = option.palette.color(QPalette::Text);
+    ground.setAlphaF(0.15F);
+    painter->fillRect(bar, ground);
+  }
   QRect full = bar;
   full.setWidth(static_cast<int>(bar.width() * std::clamp(share, 0.0, 1.0)));
   if (option.direction == Qt::RightToLeft) full.moveRight(bar.right());

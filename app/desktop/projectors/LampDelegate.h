@@ -2,12 +2,12 @@
 
 #include <QColor>
 
-#include "toolkit/IsolatedText.h"
+#include "app/desktop/projectors/FocusedRows.h"
 
 /// Draws the hours of a lamp in front of a bar, which is full when the rated hours are over.
-class LampDelegate : public IsolatedTexts {
+class LampDelegate : public FocusedRows {
  public:
-  using IsolatedTexts::IsolatedTexts;
+  using FocusedRows::FocusedRows;
 
   /// The color of the bar when the lamp has burned `share` of its rated hours, 1 being all of them.
   static QColor Color(double share);

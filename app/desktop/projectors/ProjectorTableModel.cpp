@@ -122,7 +122,8 @@ QVariant ProjectorTableModel::data(const QModelIndex& index, int role) const {
       return ProjectorColumns::Text(row, index.column());
     case Qt::ToolTipRole:
       if (index.column() == ProjectorColumns::Name)
-        return TabNames(row.profile.model->info).join(QStringLiteral(" · "));
+        return QString(ProjectorColumns::Text(row, index.column()) + QLatin1Char('\n') +
+                       TabNames(row.profile.model->info).join(QStringLiteral(" · ")));
       return ProjectorColumns::Text(row, index.column());
     case Qt::DecorationRole:
       return index.column() == ProjectorColumns::State ? QVariant(StateTexts::Icon(HealthOf(row)))

@@ -14,6 +14,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "app/desktop/projectors/FocusedRows.h"
 #include "app/desktop/projectors/LampDelegate.h"
 #include "app/desktop/projectors/ProjectorSelection.h"
 #include "app/desktop/projectors/StateTexts.h"
@@ -39,7 +40,7 @@ ProjectorView::ProjectorView(QWidget* parent)
   found_->setTextFormat(Qt::PlainText);
   found_->hide();
   table_->setModel(model_);
-  table_->setItemDelegate(new IsolatedTexts(table_));
+  table_->setItemDelegate(new FocusedRows(table_));
   table_->setItemDelegateForColumn(ProjectorColumns::Lamp, new LampDelegate(table_));
   table_->setAccessibleName(tr("Projectors"));
   table_->setSelectionBehavior(QTableView::SelectRows);
@@ -207,7 +208,7 @@ int ProjectorView::UsualWidth() const {
   return columns + table_->verticalScrollBar()->sizeHint().width() + 2 * table_->frameWidth();
 }
 
-// First without what is rare, such as a second tag, then to the titles.
+// First without what is rare, such as a second tag, then to the titles; only names stay whole.
 void ProjectorView::FitColumns(int width) {
   using Columns = ProjectorColumns;
   int missing = UsualWidth() - width;
@@ -219,8 +220,7 @@ void ProjectorView::FitColumns(int width) {
   };
   for (const int column : {Columns::Place, Columns::State})
     narrow(column, WidthOf(column, Columns::ShortSamples(column)));
-  for (const int column :
-       {Columns::Source, Columns::Problem, Columns::Model, Columns::Place, Columns::Name})
+  for (const int column : {Columns::Source, Columns::Problem, Columns::Model, Columns::Place})
     narrow(column, TitleWidth(column));
 }
 

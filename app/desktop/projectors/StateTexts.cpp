@@ -93,6 +93,23 @@ QPixmap Draw(Health health, double scale) {
   return pixmap;
 }
 
+/// The sign on a white outline, which can be seen on the color of a selected row.
+QPixmap DrawOutlined(Health health, double scale) {
+  const QPixmap sign = Draw(health, scale);
+  QPixmap white = sign;
+  QPainter whitening(&white);
+  whitening.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  whitening.fillRect(QRect(0, 0, kIconSize, kIconSize), Qt::white);
+  whitening.end();
+  QPixmap outlined = sign;
+  QPainter painter(&outlined);
+  for (const double x : {-1.0, 0.0, 1.0}) {
+    for (const double y : {-1.0, 0.0, 1.0}) painter.drawPixmap(QPointF(x, y), white);
+  }
+  painter.drawPixmap(0, 0, sign);
+  return outlined;
+}
+
 }  // namespace
 
 QString StateTexts::State(const ProjectorRow& row) {
@@ -255,11 +272,10 @@ QIcon StateTexts::Icon(Health health) {
   static std::map<Health, QIcon> icons;
   QIcon& icon = icons[health];
   if (icon.isNull()) {
-    // One for each usual scale of a screen, unstained in selected rows.
+    // One for each usual scale of a screen, and not stained in selected rows.
     for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
-      const QPixmap pixmap = Draw(health, scale);
-      icon.addPixmap(pixmap);
-      icon.addPixmap(pixmap, QIcon::Selected);
+      icon.addPixmap(Draw(health, scale));
+      icon.addPixmap(DrawOutlined(health, scale), QIcon::Selected);
     }
   }
   return icon;

@@ -102,7 +102,7 @@ FaultPanel::FaultPanel(QWidget* parent)
       set_(new QPushButton(tr("&Set Fault"))),
       faults_(new QListWidget),
       remove_(new QPushButton(tr("&Remove"))),
-      clear_(new QPushButton(tr("Remove &All"))) {
+      clear_(new QPushButton(tr("Re&move All"))) {
   Fill(*power_, kPowerStates);
   Fill(*error_, kErrorStates);
   FillTargets();
@@ -120,7 +120,7 @@ FaultPanel::FaultPanel(QWidget* parent)
   auto* grid = new QGridLayout(this);
   grid->addWidget(CaptionOf(tr("Po&wer"), power_), 0, 0);
   grid->addWidget(power_, 0, 1);
-  grid->addWidget(CaptionOf(tr("&Error status"), error_), 0, 2);
+  grid->addWidget(CaptionOf(tr("Err&or status"), error_), 0, 2);
   grid->addWidget(error_, 0, 3);
   grid->addWidget(CaptionOf(tr("&Command"), target_), 1, 0);
   target_->lineEdit()->setAccessibleName(target_->accessibleName());

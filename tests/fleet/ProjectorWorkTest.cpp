@@ -70,7 +70,7 @@ struct ProjectorWorkTest : testing::Test {
     const std::function<bool()> goesOn = [&] { return projector->goesOn; };
     ProjectorWork one({"a", {}, model}, projector, Texts(), goesOn, [](auto&&...) {});
     kept.clear();
-    return one.Do(work, [this](const Snapshot& undo) { kept = undo.settings; });
+    return one.Do(work, [this](const auto& undo) { kept = undo->settings; });
   }
 
   std::vector<SavedSetting> kept;  ///< The last undo.

@@ -3,9 +3,6 @@
 
 #include <csignal>
 
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "tests/acctl/AcctlProgram.h"
 #include "tests/support/Record.h"
 

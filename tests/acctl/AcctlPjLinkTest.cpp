@@ -1,19 +1,11 @@
 // What the program says of projectors behind PJLink that rest, take their time or refuse, and of
 // what the protocol lacks.
 
-#include <algorithm>
-#include <csignal>
-#include <string>
-#include <thread>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 #include <QJsonArray>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
-#include "tests/acctl/AcctlProgram.h"
 #include "tests/acctl/ScriptedPjLink.h"
 
 namespace {

@@ -3,12 +3,6 @@
 
 #include <csignal>
 
-#include <QDir>
-#include <QJsonDocument>
-#include <QTemporaryDir>
-#include <QThread>
-#include <gtest/gtest.h>
-
 #include "tests/acctl/AcctlProgram.h"
 #include "tests/support/Record.h"
 #include "tests/support/Soon.h"

@@ -6,10 +6,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "tests/acctl/AcctlProgram.h"
 
 namespace {

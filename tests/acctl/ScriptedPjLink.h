@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <mutex>
 
-#include <QDir>
-
 #include "tests/acctl/AcctlProgram.h"
 #include "tests/device/Peer.h"
 

@@ -2,8 +2,6 @@
 
 #include <optional>
 
-#include <gtest/gtest.h>
-
 #include "app/desktop/projectors/FleetWatch.h"
 #include "fleet/AddressHold.h"
 #include "fleet/MakeVisit.h"

@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTreeWidget>
 
 #include "app/desktop/alerts/AlertList.h"
 #include "app/desktop/details/DetailsPanel.h"

@@ -10,7 +10,6 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
-#include <QTimer>
 
 #include "app/desktop/Preferences.h"
 #include "app/desktop/alerts/AlertList.h"
@@ -19,7 +18,6 @@
 #include "app/desktop/projectors/ByModel.h"
 #include "app/desktop/simulation/FaultPanel.h"
 #include "app/profiles/SettingsFile.h"
-#include "host/CAdvanceDlg.h"
 #include "i18n/Catalog.h"
 #include "tests/app/Windows.h"
 #include "tests/support/DialogDriver.h"

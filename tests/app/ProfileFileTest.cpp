@@ -3,7 +3,6 @@
 #include <ctime>
 #include <gmock/gmock.h>
 #include <set>
-#include <string>
 #include <sys/stat.h>
 
 #include <QJsonArray>

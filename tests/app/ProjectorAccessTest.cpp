@@ -1,8 +1,6 @@
 // What a command asks a PJLink projector, and what the next command does not ask again.
 
 #include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "app/profiles/ProjectorAccess.h"
 #include "device/channels/TcpChannel.h"

@@ -2,13 +2,11 @@
 // work on them can be undone.
 
 #include <optional>
-#include <utility>
 
 #include <QDir>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTreeWidget>
 
 #include "app/desktop/SettingsActions.h"
 #include "app/profiles/SettingsFile.h"

@@ -1,9 +1,4 @@
-#include <atomic>
 #include <cerrno>
-#include <chrono>
-#include <cstdint>
-#include <optional>
-#include <unistd.h>
 
 #include <QTabBar>
 #include <QTest>

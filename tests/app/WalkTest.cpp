@@ -10,9 +10,7 @@
 #include <QAbstractButton>
 #include <QTabBar>
 #include <QTest>
-#include <QTimer>
 
-#include "host/CAdvanceDlg.h"
 #include "host/FindLine.h"
 #include "tests/app/Windows.h"
 #include "tests/support/DialogDriver.h"

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <functional>
 #include <utility>
-#include <vector>
 
 #include <QAccessible>
 #include <QAction>

@@ -6,7 +6,6 @@
 #include "app/desktop/work/ComparisonDialog.h"
 #include "app/desktop/work/WorkDialog.h"
 #include "tests/app/Windows.h"
-#include "tests/support/Soon.h"
 
 // Work on many projectors, as the windows show it.
 

@@ -1,9 +1,6 @@
 // Commands through Debian's message broker, and the bridge's answers.
 
 #include <csignal>
-#include <string>
-
-#include <gtest/gtest.h>
 
 #include "tests/bridge/BridgeProgram.h"
 #include "tests/bridge/Subscriber.h"

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include <QRegularExpression>
-#include <gtest/gtest.h>
 
 #include "tests/bridge/Daemons.h"
 

@@ -1,15 +1,9 @@
 // The program between simulated projectors, Debian's message broker and clients that others wrote.
 
-#include <algorithm>
-#include <chrono>
 #include <csignal>
 #include <gmock/gmock.h>
-#include <memory>
-#include <set>
 #include <utility>
 #include <vector>
-
-#include <QRegularExpression>
 
 #include "tests/bridge/BridgeProgram.h"
 #include "tests/bridge/Subscriber.h"

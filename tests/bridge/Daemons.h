@@ -2,12 +2,8 @@
 
 #include <memory>
 
-#include <QHostAddress>
-#include <QProcess>
 #include <QStandardPaths>
-#include <QTcpSocket>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "tests/support/Ports.h"
 #include "tests/support/Programs.h"

@@ -3,7 +3,6 @@
 #include <atomic>
 
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "app/bridge/DriftCheck.h"
 #include "fleet/MakeVisit.h"

@@ -3,8 +3,6 @@
 #include <chrono>
 #include <gmock/gmock.h>
 #include <set>
-#include <string>
-#include <vector>
 
 #include <QJsonArray>
 #include <QJsonDocument>

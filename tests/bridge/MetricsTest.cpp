@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <set>
-#include <string>
-#include <vector>
 
 #include <QJsonArray>
 #include <QJsonDocument>

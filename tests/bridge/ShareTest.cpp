@@ -3,8 +3,6 @@
 #include <chrono>
 #include <gmock/gmock.h>
 #include <map>
-#include <string>
-#include <vector>
 
 #include "app/bridge/OtherShares.h"
 #include "app/bridge/ShareKeeper.h"

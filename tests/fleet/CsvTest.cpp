@@ -1,7 +1,6 @@
 // Tables in and out.
 
 #include <gmock/gmock.h>
-#include <string>
 #include <utility>
 
 #include <QJsonDocument>

@@ -1,13 +1,8 @@
 // A large fleet in which something happens all the time, in a time of its own.
 
 #include <array>
-#include <map>
 #include <random>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "device/CommandCode.h"
 #include "tests/fleet/SteppedFleet.h"
 
 namespace {

@@ -1,6 +1,5 @@
 // Jobs on simulated projectors, which the thread of the test serves.
 
-#include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <deque>

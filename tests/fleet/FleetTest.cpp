@@ -2,19 +2,15 @@
 
 #include <algorithm>
 #include <atomic>
-#include <chrono>
 #include <deque>
 #include <map>
 #include <optional>
-#include <string>
 
 #include <QNetworkProxy>
 #include <QTcpServer>
 #include <QUdpSocket>
-#include <gtest/gtest.h>
 
 #include "app/simulator/PseudoTerminal.h"
-#include "device/CommandCode.h"
 #include "fleet/FileEvents.h"
 #include "fleet/Fleet.h"
 #include "fleet/NameResolver.h"

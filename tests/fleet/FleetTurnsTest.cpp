@@ -1,12 +1,5 @@
 // Who may connect to a projector, when, and how often: visits, and those who work on it.
 
-#include <algorithm>
-#include <map>
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "device/CommandCode.h"
 #include "fleet/MakeVisit.h"
 #include "fleet/StatusItems.h"
 #include "tests/fleet/SteppedFleet.h"

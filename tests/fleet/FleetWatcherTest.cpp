@@ -2,18 +2,8 @@
 // and the record of what the fleet tells then: after an intended change, rewrite it with
 // UPDATE_LISTING=1 and review the differences.
 
-#include <algorithm>
 #include <array>
 #include <cmath>
-#include <fstream>
-#include <functional>
-#include <map>
-#include <optional>
-#include <sstream>
-#include <string>
-#include <string_view>
-
-#include <gtest/gtest.h>
 
 #include "fleet/StatusItems.h"
 #include "settings/PageTables.h"

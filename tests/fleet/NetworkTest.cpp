@@ -2,19 +2,15 @@
 
 #include <asm/termbits.h>
 #include <atomic>
-#include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
-#include <string>
 #include <string_view>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <QDir>
-#include <QTcpSocket>
 #include <QUdpSocket>
-#include <gtest/gtest.h>
 
 #include "fleet/Fleet.h"
 #include "fleet/SerialLine.h"

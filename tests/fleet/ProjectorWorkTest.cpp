@@ -3,10 +3,6 @@
 #include <cstdlib>
 #include <map>
 #include <memory>
-#include <sstream>
-#include <string>
-
-#include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
 #include "device/channels/ForwardingChannel.h"

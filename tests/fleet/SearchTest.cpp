@@ -1,15 +1,11 @@
 // Finding projectors on the network, and entering them in a profile file.
 
-#include <algorithm>
-#include <chrono>
 #include <gmock/gmock.h>
 #include <map>
 #include <optional>
-#include <string>
 #include <tuple>
 #include <utility>
 
-#include <QCoreApplication>
 #include <QNetworkDatagram>
 #include <QRegularExpression>
 #include <QUdpSocket>

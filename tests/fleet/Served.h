@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 
-#include <QCoreApplication>
 #include <QHostAddress>
 #include <gtest/gtest.h>
 

@@ -1,12 +1,7 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <memory>
-#include <optional>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "device/CommandCode.h"
 #include "fleet/FleetWatcher.h"

@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "fleet/ProfileFile.h"
 #include "fleet/WholeFile.h"

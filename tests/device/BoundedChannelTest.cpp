@@ -1,8 +1,3 @@
-#include <atomic>
-#include <optional>
-#include <thread>
-
-#include <QCoreApplication>
 #include <QTimer>
 #include <gtest/gtest.h>
 

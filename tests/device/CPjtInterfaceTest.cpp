@@ -1,10 +1,8 @@
 #include <array>
 #include <atomic>
-#include <chrono>
 #include <functional>
 #include <new>
 #include <optional>
-#include <string>
 #include <tuple>
 
 #include <gtest/gtest.h>

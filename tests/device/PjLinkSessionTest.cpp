@@ -3,16 +3,8 @@
 // what was asked. After an intended change, rewrite it with UPDATE_LISTING=1.
 
 #include <cmath>
-#include <fstream>
 #include <functional>
-#include <map>
-#include <optional>
 #include <span>
-#include <sstream>
-#include <string>
-#include <string_view>
-
-#include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
 #include "device/channels/PjLinkInputInquiry.h"

@@ -1,17 +1,10 @@
-#include <atomic>
 #include <future>
-#include <optional>
-#include <string>
-#include <thread>
 #include <tuple>
 #include <utility>
-#include <vector>
 
-#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QNetworkProxy>
 #include <QTcpSocket>
-#include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
 #include "device/Connect.h"

@@ -1,10 +1,6 @@
 // The parts of the protocols alone: parameters, the projector's answers, and events at the wrong
 // time.
 
-#include <algorithm>
-
-#include <gtest/gtest.h>
-
 #include "device/CommandCode.h"
 #include "device/channels/PjLinkInputInquiry.h"
 #include "device/protocol/PjLinkAttempts.h"

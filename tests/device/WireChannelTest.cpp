@@ -1,12 +1,7 @@
-#include <atomic>
-#include <functional>
-#include <optional>
-#include <thread>
 #include <tuple>
 
 #include <QDir>
 #include <QIODevice>
-#include <QTcpServer>
 #include <gtest/gtest.h>
 
 #include "device/channels/BoundedChannel.h"

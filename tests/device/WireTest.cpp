@@ -1,11 +1,9 @@
 #include <chrono>
-#include <fstream>
 #include <functional>
 #include <map>
 #include <poll.h>
 #include <pty.h>
 #include <regex>
-#include <string>
 #include <termios.h>
 #include <thread>
 #include <unistd.h>
@@ -13,7 +11,6 @@
 
 #include <QByteArray>
 #include <QStringList>
-#include <gtest/gtest.h>
 
 #include "device/Connect.h"
 #include "device/HostAddress.h"

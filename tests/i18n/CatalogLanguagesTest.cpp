@@ -1,11 +1,8 @@
-#include <algorithm>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include <QLocale>
 #include <QString>
-#include <gtest/gtest.h>
 
 #include "i18n/CatalogLanguages.h"
 #include "i18n/CatalogTexts.h"

@@ -1,17 +1,11 @@
-#include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <span>
-#include <string>
 #include <unistd.h>
 #include <utility>
-#include <vector>
 
 #include <QString>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
 #include "i18n/CatalogTexts.h"

@@ -1,10 +1,8 @@
 #include <limits>
-#include <string>
 #include <vector>
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <gtest/gtest.h>
 
 #include "i18n/MessageFormat.h"
 #include "tests/support/Record.h"

@@ -1,18 +1,13 @@
-#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <filesystem>
-#include <string>
 #include <sys/stat.h>
 #include <thread>
 #include <tuple>
-#include <vector>
 
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "i18n/MessageTable.h"
-#include "i18n/ModuleImage.h"
 #include "tests/i18n/ModuleBuilder.h"
 #include "tests/support/Record.h"
 

@@ -2,15 +2,9 @@
 // The simulation defines independently what a projector does, so settings and simulation check each
 // other.
 
-#include <algorithm>
 #include <array>
-#include <map>
 #include <optional>
-#include <set>
-#include <sstream>
 #include <tuple>
-
-#include <gtest/gtest.h>
 
 #include "device/CommandCode.h"
 #include "device/ModelDataIntake.h"

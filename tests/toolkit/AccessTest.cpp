@@ -4,7 +4,6 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include "tests/toolkit/SampleDialog.h"
 

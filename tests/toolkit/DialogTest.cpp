@@ -6,12 +6,9 @@
 #include <QStyleOption>
 #include <QTest>
 #include <QWindow>
-#include <gtest/gtest.h>
 
 #include "tests/support/Soon.h"
 #include "tests/toolkit/SampleDialog.h"
-#include "toolkit/CComboBox.h"
-#include "toolkit/CSliderCtrl.h"
 #include "toolkit/Contrast.h"
 #include "toolkit/FocusPen.h"
 #include "toolkit/IsolatedText.h"

@@ -3,9 +3,6 @@
 // review the differences. They were made with Qt 6.4. So that all machines draw the same, the
 // colours are given, and each sign is a block of the font in Blocks.ttf.
 
-#include <algorithm>
-#include <sstream>
-
 #include <QAccessible>
 #include <QDebug>
 #include <QHelpEvent>
@@ -17,14 +14,12 @@
 #include <QTest>
 #include <QTextDocument>
 #include <QToolTip>
-#include <gtest/gtest.h>
 
 #include "tests/support/Blocks.h"
 #include "tests/support/Record.h"
 #include "tests/support/Soon.h"
 #include "tests/toolkit/SampleDialog.h"
 #include "toolkit/AnnouncedLabel.h"
-#include "toolkit/CSliderCtrl.h"
 #include "toolkit/CurveView.h"
 #include "toolkit/DragBubble.h"
 #include "toolkit/Flash.h"

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <vector>
-
 #include <gtest/gtest.h>
 
 #include "tests/support/DialogDriver.h"

@@ -151,7 +151,7 @@ void MainWindow::Connect() {
   connect(&presets_->Drift(), &DriftCheck::Checked, this, &MainWindow::ShowLastSeen);
   // By its own profile, because the list may have another one for the projector already.
   const auto setOpen = [this](const ProjectorSession* session, bool isOpen) {
-    const std::string id = FleetIdOf(session->Profile());
+    std::string id = FleetIdOf(session->Profile());
     const int position = pane_->View().Model().Find(id);
     if (position >= 0)
       pane_->View().Model().Change(position, [isOpen](ProjectorRow& row) { row.isOpen = isOpen; });

@@ -32,6 +32,7 @@ struct Alert {
   Kind kind = Kind::Problem;
   ProjectorPart part = ProjectorPart::Other;  ///< Of a problem.
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler makes compares with 0
   friend auto operator<=>(const Alert&, const Alert&) = default;
 };
 

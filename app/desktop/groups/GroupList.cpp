@@ -47,6 +47,7 @@ void GroupList::Show(const std::vector<ProjectorRow>& rows) {
     for (const std::string& tag : row.profile.tags) ++tags[tag];
   }
   std::vector<ProjectorGroup> groups;
+  groups.reserve(kKinds.size() + tags.size());
   for (const Kind kind : kKinds) groups.push_back({kind});
   for (const auto& [tag, count] : tags) groups.push_back({Kind::Tag, QString::fromStdString(tag)});
   QCollator collator;

@@ -68,8 +68,11 @@ void SettingsActions::Write(Saving& saving, const WorkRun& run) {
   const auto write = [&](const Snapshot& snapshot) {
     const QByteArray bytes = WriteSnapshot(snapshot);
     if (isOne) return WriteWholeFile(saving.path, bytes);
+    const QDir folder(saving.path);
+    const QString own = OwnFileIn(folder, snapshot.projector);
+    if (!own.isEmpty()) return WriteWholeFile(own, bytes);
     const QString name = FileNameOf(snapshot.projector) + QStringLiteral(".json");
-    return WriteNewFile(QDir(saving.path).filePath(name), bytes).error;
+    return WriteNewFile(folder.filePath(name), bytes).error;
   };
   QStringList errors;
   const std::size_t before = saving.saved.size();

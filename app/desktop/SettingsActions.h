@@ -43,7 +43,8 @@ class SettingsActions : public QObject {
   void Update(bool any);
 
   /// Saves the settings of each projector: those of a single one in the file `path`, those of
-  /// several in new files in the folder `path`, named after the projectors.
+  /// several in files in the folder `path`, named after the projectors, in place of what was saved
+  /// there of them before.
   void SaveTo(const QString& path, const Rows& rows);
   /// Compares projectors with a file; `applies` lets the user send what differs. What is replaced
   /// is kept in a file beside it.

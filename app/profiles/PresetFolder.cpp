@@ -22,6 +22,7 @@ QStringList Names() {
   QStringList names;
   for (const QString& file : QDir(Path()).entryList({QStringLiteral("*.json")}, QDir::Files))
     names += file.chopped(5);
+  names.removeIf(IsUndoName);  // a preset was applied as a file
   names.sort(Qt::CaseInsensitive);
   return names;
 }
@@ -29,8 +30,9 @@ QStringList Names() {
 // Files whose names begin with a dot are hidden, and most file systems take 255 bytes.
 bool IsName(const QString& name) {
   constexpr qsizetype kMostBytes = 200;
-  return !name.isEmpty() && name == name.trimmed() && !name.startsWith(QLatin1Char('.')) &&
-         !name.contains(QLatin1Char('/')) && name.toUtf8().size() <= kMostBytes &&
+  return !name.isEmpty() && name == name.trimmed() && !IsUndoName(name) &&
+         !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/')) &&
+         name.toUtf8().size() <= kMostBytes &&
          std::ranges::all_of(name, [](QChar one) { return one.isPrint(); });
 }
 

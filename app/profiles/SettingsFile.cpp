@@ -3,7 +3,10 @@
 #include <utility>
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include "fleet/JsonLines.h"
 #include "fleet/WholeFile.h"
@@ -64,4 +67,28 @@ QString FileNameOf(const std::string& projector) {
     if (!character.isLetterOrNumber() && character != '-') character = '_';
   }
   return name;
+}
+
+QString OwnFileIn(const QDir& folder, const std::string& projector) {
+  const QString base = folder.filePath(FileNameOf(projector));
+  for (int number = 1;; ++number) {
+    const QString path = base + (number == 1 ? QString() : '-' + QString::number(number)) + ".json";
+    const QFileInfo info(path);
+    if (!info.exists()) return {};
+    const SettingsFileContents file =
+        info.isFile() ? ReadSettingsFile(path) : SettingsFileContents();
+    if (file.error.isEmpty() && file.snapshot.projector == projector && !file.snapshot.isUndo)
+      return path;
+  }
+}
+
+QString UndoFileOf(const QString& path) {
+  const QFileInfo info(path);
+  const QString time = QDateTime::currentDateTimeUtc().toString("yyyyMMdd'T'HHmmss'Z'");
+  return info.dir().filePath(QStringLiteral("%1.undo.%2.json").arg(info.completeBaseName(), time));
+}
+
+bool IsUndoName(const QString& name) {
+  static const QRegularExpression undo(QStringLiteral(R"(\.undo\.\d{8}T\d{6}Z(-\d+)?$)"));
+  return undo.match(name).hasMatch();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QString>
 
 #include "snapshots/Snapshot.h"
@@ -20,3 +21,12 @@ SettingsFileContents ParseSettingsFile(const QByteArray& text, const QString& na
 /// A projector's name in a form that is valid in a file name. Different names may give the same
 /// result.
 QString FileNameOf(const std::string& projector);
+
+/// The file in a folder that has the settings of this projector, if they were saved there under its
+/// name; else an empty text. Another projector or anything else may have taken the name before.
+QString OwnFileIn(const QDir& folder, const std::string& projector);
+
+/// Where to keep the values that a file of settings replaces now: `NAME.undo.TIME.json` beside it.
+QString UndoFileOf(const QString& path);
+/// Whether a file has such a name, which is given without its suffix.
+bool IsUndoName(const QString& name);

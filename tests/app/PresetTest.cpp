@@ -259,11 +259,14 @@ TEST(PresetFolder, KeepsPresetsByTheirNames) {
   EXPECT_NE(PresetFolder::Read("day").error, "");
   EXPECT_NE(PresetFolder::Rename("day", "night"), "");
   EXPECT_NE(PresetFolder::Remove("day"), "");
+  EXPECT_EQ(PresetFolder::Write("Day 2.undo.20260301T093000Z-2", {}), "");
+  EXPECT_EQ(PresetFolder::Names(), QStringList("Day 2")) << "no values that it has replaced";
   qputenv("XDG_DATA_HOME", "/dev/null");
   EXPECT_TRUE(PresetFolder::Write("day", {}).startsWith("cannot create the folder /dev/null/"));
   qunsetenv("XDG_DATA_HOME");
-  for (const QString& name : {QString(), QString(" a"), QString(".a"), QString("a/b"),
-                              QString("a\tb"), QString(101, QChar(0xE9))})
+  for (const QString& name :
+       {QString(), QString(" a"), QString(".a"), QString("a/b"), QString("a\tb"),
+        QString("a.undo.20260301T093000Z"), QString(101, QChar(0xE9))})
     EXPECT_FALSE(PresetFolder::IsName(name)) << qPrintable(name);
 }
 

@@ -38,21 +38,31 @@ TEST_F(SettingsOfTwo, AreSavedAtOnceAndTriedAgain) {
   EXPECT_EQ(Results(*dialog), QStringList({"A: done", "B: no answer"}));
   const auto files = [&] { return QDir(folder.path()).entryList({"*.json"}); };
   EXPECT_EQ(files(), QStringList("A.json"));
+  Snapshot undo = EmptySnapshot("B", Rows(window)[1].profile.model->data);
+  undo.isUndo = true;
+  Write(folder.filePath("B.json"), WriteSnapshot(undo));
   SetFault(window, 1, {});
   Find<QPushButton>(*dialog, "Retry the Failed").click();
-  EXPECT_TRUE(Soon([&] { return files() == QStringList({"A.json", "B.json"}); }));
+  const QStringList all{"A.json", "B-2.json", "B.json"};
+  EXPECT_TRUE(Soon([&] { return files() == all; }));
   EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("Settings of 2 projectors saved in"));
-  const SettingsFileContents saved = ReadSettingsFile(folder.filePath("B.json"));
-  EXPECT_EQ(saved.snapshot.projector, "B");
-  EXPECT_GT(saved.snapshot.settings.size(), 50U);
-  dialog->close();
+  delete dialog;
+  QFile::resize(folder.filePath("A.json"), 0);
+  for (const char* name : {"A-2.json", "B-2.json"}) {
+    actions.SaveTo(folder.path(), Rows(window));
+    delete &Done(window);
+    const Snapshot saved = ReadSettingsFile(folder.filePath(name)).snapshot;
+    EXPECT_EQ(saved.projector, std::string(1, *name));
+    EXPECT_GT(saved.settings.size(), 50U);
+  }
+  EXPECT_EQ(files(), QStringList("A-2.json") + all) << "of each projector one, in its place";
 
   for (const auto& [fault, text] :
        {std::pair(Fault::Kind::DropOut, "2 projectors could not be read."),
         {Fault::Kind::FailRead, "2 projectors do not report all of these settings now."},
         {Fault::Kind::None, "Nothing differs. 2 projectors have all these settings already."}}) {
     for (const std::size_t i : {0U, 1U}) SetFault(window, i, {fault});
-    actions.OpenFile(folder.filePath("A.json"), Rows(window), false);
+    actions.OpenFile(folder.filePath("A-2.json"), Rows(window), false);
     auto& comparison = Modal<ComparisonDialog>();
     ASSERT_TRUE(HasCompared(comparison));
     Find<QLabel>(comparison, text);

@@ -47,8 +47,7 @@ struct AnyProfile {
 
 TEST(AcctlPjLink, TellsStandbyAsAStateAndNotAsFailures) {
   const AnyProfile any;
-  const QTemporaryDir folder;
-  const QString kept = folder.filePath("kept.json");
+  const QString kept = any.folder.filePath("kept.json");
   Write(kept, "precious");
   const std::tuple<const char*, const char*, const char*, const char*> kStates[] = {
       {"0", "Standby", "in standby", "standby"},
@@ -98,8 +97,7 @@ TEST(AcctlPjLink, OffersOnlyWhatTheProtocolHasAndTellsInputsOfOneNameApart) {
   EXPECT_EQ(any.Run(projector, {"set", "Any", "other.input-source", "digital 2"}, "3").exitCode, 0);
   EXPECT_EQ(projector.Count("INPT 32"), 1);
 
-  const QTemporaryDir folder;
-  const QString named = folder.filePath("named.json");
+  const QString named = any.folder.filePath("named.json");
   Write(named, R"({"projectors": [{"name": "Any", "model": "M", "dialogType": 5, "modelCode": 30,
       "mySources": [{"name": "HDMI", "value": 31}, {"name": "hdmi", "value": 32}],
       "connection": {"network": {"address": "192.0.2.1", "port": 4352}}}]})");
@@ -199,8 +197,7 @@ TEST(AcctlPjLink, TellsPendingBusyAndUnconfirmedApart) {
     const bool isFirst = request == "AVMT 21" && !std::exchange(wasLost, true);
     return isFirst ? "hang up" : others(request);
   };
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("mute.json");
+  const QString file = any.folder.filePath("mute.json");
   Write(file, R"({"format": "advanced-control-settings", "version": 1,
       "model": {"name": "M", "dialogType": 5, "modelCode": 30},
       "settings": [{"key": "other.mute", "value": 1}]})");
@@ -249,13 +246,12 @@ TEST(AcctlPjLink, TellsPendingBusyAndUnconfirmedApart) {
 
 TEST(AcctlPjLink, TellsInputsThatWereNotToldAsNotReadWithExitCode3) {
   const AnyProfile any;
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("good.json");
+  const QString file = any.folder.filePath("good.json");
   ScriptedPjLink whole(Projector("1"));
   ASSERT_THAT(any.Run(whole, {"save", "Any", file}), Ends(0, ""));
   ScriptedPjLink projector(ProjectorBut("INST ?", "ERR4"));
   const auto isNotRead = Ends(3, HasSubstr("other.input-source: not read, "));
-  EXPECT_THAT(any.Run(projector, {"save", "Any", folder.filePath("new.json")}), isNotRead);
+  EXPECT_THAT(any.Run(projector, {"save", "Any", any.folder.filePath("new.json")}), isNotRead);
   const Outcome diff = any.Run(projector, {"--json", "diff", "Any", file});
   EXPECT_THAT(diff, isNotRead);
   EXPECT_EQ(Entry(diff)["notDone"][0]["key"], "other.input-source");

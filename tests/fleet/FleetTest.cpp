@@ -6,8 +6,6 @@
 #include <map>
 #include <optional>
 
-#include <QNetworkProxy>
-#include <QTcpServer>
 #include <QUdpSocket>
 
 #include "app/simulator/PseudoTerminal.h"
@@ -16,6 +14,7 @@
 #include "fleet/NameResolver.h"
 #include "fleet/SerialLine.h"
 #include "tests/fleet/Served.h"
+#include "tests/fleet/SilentServer.h"
 #include "tests/support/Limited.h"
 
 namespace {
@@ -86,8 +85,7 @@ TEST_F(FleetTest, WatchesASerialPortAndLeavesItToOthers) {
   auto problem = SerialLine::Problem::None;
   int file = -1;
   ASSERT_TRUE(Soon([&] {
-    file = SerialLine::Open(address.device, address.baud, problem);
-    return file >= 0;
+    return (file = SerialLine::Open(address.device, address.baud, problem)) >= 0;
   })) << "it is free between two visits";
   const FleetTally before = fleet.Tally();
   EXPECT_TRUE(Soon([&] { return fleet.Tally().abandoned > before.abandoned + 1; }));
@@ -138,9 +136,7 @@ TEST_F(FleetTest, TakesNoticesInsteadOfAsking) {
   const auto send = [&](const QByteArray& text) {
     projector.writeDatagram(text, QHostAddress::LocalHost, port);
   };
-  send("");
-  send("no notice");
-  send("%2erst=002000\r\n");
+  for (const char* const text : {"", "no notice", "%2erst=002000\r\n"}) send(text);
   EXPECT_TRUE(Soon([&] {
     const auto problems = slow.State("a")->problems;
     return problems && problems->at(2) == ProblemGrade::Error;
@@ -183,12 +179,10 @@ TEST_F(FleetTest, LeavesFilesToTheRestOfTheProgram) {
   Fleet careful({.connect = 1h, .answer = 1h});
   limited.reset();
   careful.SetAsking(false);
-  QTcpServer silent;
-  silent.setProxy(QNetworkProxy::NoProxy);
-  ASSERT_TRUE(silent.listen(QHostAddress::AnyIPv4));
+  const SilentServer silent(QHostAddress::AnyIPv4);
   for (int i = 0; i < 30; ++i) {
     const std::string host = "127.0.1." + std::to_string(i);
-    careful.Set({host, TcpAddress{.host = host, .port = silent.serverPort()}});
+    careful.Set({host, TcpAddress{.host = host, .port = silent.Address().port}});
   }
   careful.SetAsking(true);
   EXPECT_TRUE(Soon([&] { return careful.Tally().begun > 0; }));

@@ -119,9 +119,7 @@ TEST(ProfileEdits, LeaveWhatAPersonWrote) {
       {{"name", "D"}, {"like", "hall"}, {"connection", ConnectionValue({.isNetwork = false})}});
   EXPECT_EQ(edits.Text().toStdString(), expected.toStdString());
   EXPECT_EQ(ParseProfileList(edits.Text(), "p.json").error, "");
-  edits.Remove(3);
-  edits.Remove(0);
-  edits.Remove(1);
+  for (const std::size_t i : {3U, 0U, 1U}) edits.Remove(i);
   const ProfileList last = ParseProfileList(edits.Text(), "p.json");
   ASSERT_EQ(last.profiles.size(), 1U);
   EXPECT_EQ(last.profiles[0].name, "C");

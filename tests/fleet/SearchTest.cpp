@@ -16,11 +16,10 @@
 #include "fleet/SearchProfiles.h"
 #include "fleet/SearchRange.h"
 #include "simulator/PjLinkProjectorSession.h"
-#include "simulator/SimulatedProjector.h"
+#include "tests/fleet/Served.h"
 #include "tests/fleet/SilentServer.h"
 #include "tests/support/Programs.h"
 #include "tests/support/Record.h"
-#include "tests/support/Soon.h"
 
 namespace {
 
@@ -196,10 +195,7 @@ struct Searching {
   SearchDriver driver;
 };
 
-struct SearchDriverTest : testing::Test {
-  int count = 0;
-  QCoreApplication application{count, nullptr};
-};
+using SearchDriverTest = ServingTest;
 
 TEST_F(SearchDriverTest, WaitsForNobodyForEver) {
   std::optional<SilentServer> silent(std::in_place);

@@ -1,7 +1,5 @@
 #include <numeric>
 
-#include <gtest/gtest.h>
-
 #include "host/FindLine.h"
 #include "tests/host/PacedDialog.h"
 #include "tests/support/Soon.h"

@@ -1,8 +1,6 @@
 // A host deletes the dialog's owner from the event loop that runs while a command waits or a
 // message box is open. The address sanitizer reports uses of deleted objects and leaks.
 
-#include <functional>
-#include <memory>
 #include <optional>
 
 #include <QApplication>

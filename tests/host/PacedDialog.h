@@ -1,15 +1,10 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
-#include <memory>
-
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTest>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "device/channels/BoundedChannel.h"

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include <QApplication>
 #include <QBitmap>
 #include <QDebug>
@@ -8,10 +6,8 @@
 #include <QTabBar>
 #include <QTest>
 #include <QToolTip>
-#include <gtest/gtest.h>
 
 #include "host/ProjectorStrip.h"
-#include "pages/common/CTabPage.h"
 #include "resources/AdvancedControlResources.h"
 #include "tests/support/Blocks.h"
 #include "tests/support/DialogDriver.h"

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QTabBar>
 #include <QTest>
-#include <QTimer>
 #include <QToolButton>
 
 #include "host/ProjectorStrip.h"

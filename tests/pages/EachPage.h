@@ -1,12 +1,7 @@
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
-
 #include <QApplication>
 #include <QTabBar>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 #include "tests/support/DialogDriver.h"

@@ -1,7 +1,5 @@
 // The exported handlers of the newest page set, which a host may call.
 
-#include <set>
-
 #include <QWidget>
 #include <gtest/gtest.h>
 

@@ -3,12 +3,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QHoverEvent>
-#include <QMessageBox>
 #include <QToolButton>
 
 #include "device/channels/LoggingChannel.h"
 #include "tests/support/DialogDriver.h"
-#include "toolkit/CComboBox.h"
 #include "toolkit/CSliderCtrl.h"
 
 namespace {

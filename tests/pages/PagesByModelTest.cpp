@@ -5,14 +5,11 @@
 
 #include <cctype>
 #include <filesystem>
-#include <fstream>
-#include <map>
 #include <sstream>
 
 #include <QAbstractButton>
 #include <QTabBar>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
 #include "settings/CatalogNumbers.h"

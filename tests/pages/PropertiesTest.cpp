@@ -3,9 +3,6 @@
 // UPDATE_LISTING=1 and review the differences.
 // It was made with Qt 6.4.
 
-#include <map>
-#include <memory>
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>

@@ -4,8 +4,6 @@
 #include <QComboBox>
 #include <QFile>
 #include <QRegularExpression>
-#include <QTabBar>
-#include <gtest/gtest.h>
 
 #include "i18n/Catalog.h"
 #include "pages/common/NumberQuestion.h"

@@ -1,11 +1,7 @@
 // Every text has room on every page, in every language, at every font size and on small screens.
 
-#include <QApplication>
-#include <QLabel>
 #include <QScrollArea>
-#include <QStyle>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include "host/ProjectorStrip.h"
 #include "i18n/Catalog.h"

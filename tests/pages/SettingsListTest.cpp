@@ -1,8 +1,6 @@
 // Compares what the dialog shows for each projector of the profile file with the list of its
 // settings that programs without a window use.
 
-#include <set>
-
 #include <QCheckBox>
 #include <gtest/gtest.h>
 

@@ -1,14 +1,8 @@
 // Rules that hold for every page of every model.
 
-#include <map>
-#include <set>
-
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
-#include <QTabBar>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include "fleet/ProfileFile.h"
 #include "tests/pages/EachPage.h"

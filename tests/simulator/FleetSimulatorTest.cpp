@@ -4,10 +4,8 @@
 #include <map>
 #include <optional>
 #include <set>
-#include <string>
 #include <tuple>
 
-#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QUdpSocket>
 

@@ -1,15 +1,9 @@
 // Compares what the simulated projectors of each page set do at each command of each setting with a
 // file. After an intended change, rewrite it with UPDATE_LISTING=1 and review the differences.
 
-#include <algorithm>
 #include <map>
 #include <set>
-#include <sstream>
-#include <string>
 #include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "simulator/SimulatedProjector.h"
 #include "tests/device/Replies.h"

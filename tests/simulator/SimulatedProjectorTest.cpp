@@ -1,7 +1,5 @@
-#include <chrono>
 #include <memory>
 #include <set>
-#include <thread>
 #include <utility>
 
 #include <gtest/gtest.h>

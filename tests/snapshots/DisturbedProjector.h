@@ -4,7 +4,6 @@
 #include <memory>
 #include <random>
 #include <utility>
-#include <vector>
 
 #include "app/profiles/ProjectorAccess.h"
 #include "fleet/ProfileFile.h"

@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <memory>
-#include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,8 @@
 // Takes snapshots of every projector of the profile file, changes the settings, and restores them.
 
 #include <array>
-#include <atomic>
 #include <gmock/gmock.h>
 #include <set>
-#include <thread>
 
 #include "device/channels/TcpChannel.h"
 #include "simulator/WireResponder.h"

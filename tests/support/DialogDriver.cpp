@@ -7,14 +7,12 @@
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPointer>
 #include <QTabBar>
 #include <QTest>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
-#include "pages/common/CTabPage.h"
 #include "pages/common/StatusLine.h"
 #include "pages/option/CServiceDlg.h"
 #include "pages/picture/CColorDlg.h"

@@ -2,8 +2,6 @@
 
 #include <functional>
 #include <memory>
-#include <string>
-#include <vector>
 
 #include <QMessageBox>
 #include <QString>
